@@ -1,0 +1,19 @@
+// The header keys that all data files share.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace tarvis {
+
+// Always describes the data file read last; a file that lacks a key leaves the value of the file before.
+struct FileHeader {
+  std::int16_t FileSpec = 0;
+  std::string FileType;
+  std::string MadeBy;
+  std::string DateTime;
+  std::string MechaInfo;  // servo and motor models, printed by the common header
+  std::string File;       // file name shown by the common header
+};
+
+}  // namespace tarvis

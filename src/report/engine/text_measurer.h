@@ -1,0 +1,19 @@
+// The seam through which the composer learns how wide text is, without a screen, a printer or a toolkit.
+#pragma once
+
+namespace tarvis {
+
+// Arial or its metric twin, in one of two weights; other scripts come from fallback fonts.
+// Source of the vertical figures: the font's own ascent 0.905 em and descent 0.212 em, for all scripts.
+inline constexpr double AscentEm = 0.905;
+inline constexpr double LinePitchEm = 1.117;
+
+class TextMeasurer {
+ public:
+  virtual ~TextMeasurer() = default;
+
+  // Design advance width of one character in em, without hinting or kerning. A combining mark has 0.
+  virtual float AdvanceEm(char32_t character, bool bold) const = 0;
+};
+
+}  // namespace tarvis
