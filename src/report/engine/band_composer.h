@@ -1,0 +1,52 @@
+// Lays out one printing of one section: events, growth, height, items.
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "report/engine/active_report.h"
+#include "report/engine/band.h"
+#include "report/engine/text_cache.h"
+
+namespace tarvis {
+
+enum class Printing {
+  Done,     // the band is finished
+  Skipped,  // layout action 5: no row, the next fetch follows
+  Dropped,  // the report was unloaded before the band was finished
+};
+
+class BandComposer {
+ public:
+  explicit BandComposer(Document& document, const TextMeasurer& measurer);
+
+  // Runs the section's events and composes `band`, its controls shifted by `left` twips. `beforeAfterPrint`
+  // runs between layout and AfterPrint: sections that hold a sub-report run it there.
+  Printing Compose(ActiveReport& report, Section& section, float left, Band& band,
+                   const std::function<void()>& beforeAfterPrint = {});
+
+  // Writes the number into a summary item that was composed before.
+  void PatchText(Item& item, const std::string& text);
+  // Items of summary fields of the band composed last, by index into its items.
+  const std::vector<std::size_t>& PageCountItems() const { return pageCountItems_; }
+  // The page number that summary fields show from now on.
+  void SetPageNumber(int number) { pageNumber_ = std::to_string(number); }
+
+ private:
+  void Grow(Section& section);
+  float FinalHeight(const Section& section) const;
+  void EmitControls(const Section& section, float left, Band& band);
+  void EmitText(const TextControl& text, bool wraps, float left, Band& band);
+  void EmitLine(const TextControl& text, std::uint32_t piece, float top, const Item& model, Band& band) const;
+  void EmitImage(const Image& image, const Item& model, Band& band);
+  const std::string& TextOf(const TextControl& text) const;
+  std::uint16_t StyleOf(const TextControl& text) { return cache_.Style(text.Style.Size, text.Style.Bold); }
+
+  Document& document_;
+  TextCache cache_;
+  std::uint32_t bandNumber_ = 0;
+  std::string pageNumber_;
+  std::vector<std::size_t> pageCountItems_;
+};
+
+}  // namespace tarvis

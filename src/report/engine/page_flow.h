@@ -1,0 +1,109 @@
+// Decides on which page each finished band stands: page breaks, kept groups, repeated headers, page footers.
+//
+//   composer ──bands, groups, rows──> queue ──when nothing can change it any more──> pages of the document
+//
+// The queue holds back headers until something follows them, and a group that is to stay on one page until its
+// end is known or it has become longer than a page. Bands are moved, never composed again.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <vector>
+
+#include "report/engine/band.h"
+#include "report/engine/contents_tree.h"
+#include "report/engine/document.h"
+
+namespace tarvis {
+
+// A group from its header's first printing to its last footer.
+struct OpenGroup {
+  OpenGroup* Parent = nullptr;  // the group around it, also that of a report around this report
+  Section* Header = nullptr;
+  ActiveReport* Report = nullptr;
+  float Left = 0;  // of the report, twips from the paper's left edge
+  Keep KeepTogether = Keep::None;
+  bool Repeats = false;
+  bool CannotBeKept = false;  // longer than a page, or nothing above it to leave: keep the first detail only
+  bool Begun = false;         // its header stands on a page
+  float HeaderHeight = 0;     // as composed last
+};
+
+// A row of a section that holds a sub-report; its inner bands flow.
+struct FlowRow {
+  float OwnHeight = 0;
+  int Page = -1;  // where it begins
+  float Top = 0;
+};
+
+// What the flow asks for when pages open and close.
+class PageBands {
+ public:
+  virtual ~PageBands() = default;
+
+  // Composes a group header once more for a new page; false if its report has been unloaded.
+  virtual bool ComposeRepeat(OpenGroup& group, Band& band) = 0;
+  // Composes page header and page footer for the page with this index; absent ones give a band of height 0.
+  virtual Band ComposePageHeader(int page) = 0;
+  virtual Band ComposePageFooter(int page) = 0;
+};
+
+class PageFlow {
+ public:
+  // The heights are those of the page header and footer sections, in twips. All references must outlive the flow.
+  PageFlow(Document& document, ContentsTree& contents, PageBands& bands, float headerHeight, float footerHeight);
+
+  void BeginGroup(OpenGroup& group);
+  void EndGroup(OpenGroup& group);
+  void Add(Band band);
+  void BeginRow(FlowRow& row);
+  void EndRow(FlowRow& row);
+  // What prints next starts on a fresh page.
+  void StartNewPage();
+  // Places what is left and closes the last page; a document has at least one page.
+  void Finish();
+
+ private:
+  enum class StepKind { BeginGroup, EndGroup, Band, BeginRow, EndRow, NewPage };
+  struct Step {
+    StepKind Kind;
+    tarvis::Band Band;
+    OpenGroup* Group = nullptr;
+    FlowRow* Row = nullptr;
+  };
+
+  void Push(Step step);
+  void Drain();
+  // How many steps at the front can be placed together, 0 to wait; `fresh` tells whether on a fresh page.
+  std::size_t ReadyUnit(bool& fresh);
+  bool GroupIsReady(std::size_t begin, float above, std::size_t& end, bool& fresh);
+  void PlaceUnit(std::size_t steps, bool fresh);
+  void PlaceStep(Step& step);
+  void PlaceBand(tarvis::Band& band);
+  void PlaceTallBand(tarvis::Band& band);
+  void PutOnPage(tarvis::Band& band);
+
+  void OpenPage();
+  void ClosePage();
+  void TurnPage(OpenGroup* group);
+  void RepeatHeaders(OpenGroup* group);
+  float RepeatedHeight(const OpenGroup* group) const;
+  bool Fits(float height) const;
+  float BodyHeight() const;
+
+  Document& document_;
+  ContentsTree& contents_;
+  PageBands& bands_;
+  float headerHeight_;
+  float footerHeight_;
+  std::deque<Step> queue_;
+  bool finishing_ = false;
+
+  bool pageOpen_ = false;
+  bool newPageWanted_ = false;
+  bool printedOnPage_ = false;  // anything at all
+  bool rowsOnPage_ = false;     // more than headers of the reports around what comes next
+  float y_ = 0;                 // twips below the top of the body
+};
+
+}  // namespace tarvis

@@ -1,0 +1,87 @@
+// Measures each distinct text once and breaks it into lines; the pieces stand in the document.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "report/engine/document.h"
+#include "report/engine/text_measurer.h"
+
+namespace tarvis {
+
+class LineBreaker;
+
+// Text wraps, and a field grows, only when it is more than this wider or higher than its box (twips).
+inline constexpr float FitTolerance = 10;
+
+// Line pitch of a font size (points), in whole twips.
+float LinePitch(float size);
+
+class TextCache {
+ public:
+  // Both must outlive the cache; the pieces are added to `document`.
+  TextCache(Document& document, const TextMeasurer& measurer);
+  ~TextCache();
+  TextCache(const TextCache&) = delete;
+  TextCache& operator=(const TextCache&) = delete;
+
+  std::uint16_t Style(float size, bool bold, Color ink = Black);
+  std::uint16_t Name(const char* controlName);
+
+  // The lines of `text` in a box `width` twips wide, as indices of Document::Texts. Lines break at CR LF, at
+  // break opportunities, and inside a piece wider than the box; a trailing CR LF adds no line. The span is
+  // valid until the next call.
+  std::span<const std::uint32_t> Lines(std::string_view text, std::uint16_t style, float width);
+  // The whole text as one piece, line ends turned into blanks.
+  std::uint32_t OneLine(std::string_view text, std::uint16_t style);
+
+ private:
+  struct Key {
+    std::string_view Text;
+    std::uint16_t Style;
+    bool operator==(const Key&) const = default;
+  };
+  struct KeyHash {
+    std::size_t operator()(const Key& key) const;
+  };
+  // A text in one style as a handler gave it.
+  struct Whole {
+    std::string_view Text;
+    float Advance = 0;  // of the whole text, line ends counted as nothing
+    std::uint16_t Style = 0;
+    bool HasLineEnds = false;
+    std::int64_t Piece = -1;  // index of Document::Texts, once it stands on one line
+  };
+  struct Broken {
+    std::uint32_t First = 0;
+    std::uint32_t Count = 0;
+  };
+
+  std::uint32_t Find(std::string_view text, std::uint16_t style);
+  std::uint32_t PieceOf(std::uint32_t whole);
+  const Broken& Break(std::uint32_t whole, float width);
+  void BreakParagraph(std::string_view paragraph, std::uint16_t style, float width);
+  void BreakPiece(std::string_view piece, std::uint16_t style, float width, std::string_view& line);
+  void EndLine(std::string_view line, std::uint16_t style);
+  float Advance(std::string_view text, std::uint16_t style) const;
+  float CharacterAdvance(char32_t character, std::uint16_t style) const;
+  std::string_view Keep(std::string_view text);
+
+  Document& document_;
+  const TextMeasurer& measurer_;
+  std::array<std::array<float, 128>, 2> ascii_{};  // em, by weight
+  std::unordered_map<Key, std::uint32_t, KeyHash> index_;
+  std::vector<Whole> wholes_;
+  std::unordered_map<std::uint64_t, Broken> broken_;  // by whole and width
+  std::vector<std::uint32_t> linePieces_;
+  std::uint32_t onePiece_ = 0;
+  std::unordered_map<const char*, std::uint16_t> names_;
+  std::unique_ptr<LineBreaker> breaker_;
+};
+
+}  // namespace tarvis
