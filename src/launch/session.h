@@ -5,6 +5,7 @@
 #include <string>
 
 #include "printfiles/checked_array.h"
+#include "printfiles/text_lines.h"
 
 namespace tarvis {
 
@@ -30,10 +31,10 @@ struct PrintSession {
   std::string HelpFile;
   std::int32_t HelpContextId = 0;
 
-  CheckedArray<std::string> Lines{"Lines"};  // of the file loaded last; one empty spare at index LineCount
-  std::int32_t LineCount = 0;                // -1 after a load that failed
-  std::string LinesFile;                     // name without folder of the file loaded last
-  std::string Diagnosis;                     // why the file read last was refused, in one line; empty if it was not
+  TextLines Lines;             // of the file loaded last; one empty spare at index LineCount
+  std::int32_t LineCount = 0;  // -1 after a load that failed
+  std::string LinesFile;       // name without folder of the file loaded last
+  std::string Diagnosis;       // why the file read last was refused, in one line; empty if it was not
 
   ActiveReport* MasterReport = nullptr;  // the running master report; not owned
   CheckedArray<std::string> ModuleNames{"ModuleNames"};

@@ -1,7 +1,9 @@
-// An array whose every access is checked, for indices that can come from a file.
+// Arrays whose every access is checked, for indices that can come from a file.
 #pragma once
 
+#include <array>
 #include <cstddef>
+#include <string>
 #include <vector>
 
 #include "printfiles/run_time_failure.h"
@@ -40,11 +42,39 @@ class CheckedArray {
 
  private:
   [[noreturn]] void Fail(int index) const {
-    throw RunTimeFailure("subscript out of range", {.File = {}, .Line = 0, .Key = name_, .Text = std::to_string(index)});
+    throw RunTimeFailure("subscript out of range",
+                         {.File = {}, .Line = 0, .Key = name_, .Text = std::to_string(index)});
   }
 
   const char* name_;
   std::vector<Element> elements_;
+};
+
+// A fixed array with the indices Lowest to Highest. An index outside throws RunTimeFailure.
+template <typename Element, int Lowest, int Highest>
+class BoundedArray {
+ public:
+  Element& operator[](int index) { return elements_[Position(index)]; }
+  const Element& operator[](int index) const { return elements_[Position(index)]; }
+
+  static constexpr int LowestIndex() { return Lowest; }
+  static constexpr int HighestIndex() { return Highest; }
+
+  auto begin() { return elements_.begin(); }
+  auto end() { return elements_.end(); }
+  auto begin() const { return elements_.begin(); }
+  auto end() const { return elements_.end(); }
+
+ private:
+  static std::size_t Position(int index) {
+    if (index < Lowest || index > Highest) {
+      throw RunTimeFailure("subscript out of range",
+                           {.File = {}, .Line = 0, .Key = {}, .Text = std::to_string(index)});
+    }
+    return static_cast<std::size_t>(index - Lowest);
+  }
+
+  std::array<Element, static_cast<std::size_t>(Highest - Lowest + 1)> elements_;
 };
 
 }  // namespace tarvis

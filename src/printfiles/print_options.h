@@ -21,10 +21,10 @@ struct AddresseeBlock {
 };
 
 struct IdxTblOptions {
-  std::int16_t Range = 0;   // element 1: 0 to 2
-  std::string First;        // element 2
-  std::string Last;         // element 3
-  std::int16_t Comment = 0; // element 4
+  std::int16_t Range = 0;    // element 1: 0 to 2
+  std::string First;         // element 2
+  std::string Last;          // element 3
+  std::int16_t Comment = 0;  // element 4
 };
 
 // Elements of an option key are counted from 1: element n is index n - 1 of its array.
