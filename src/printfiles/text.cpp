@@ -1,5 +1,8 @@
 #include "printfiles/text.h"
 
+#include <unicode/uchar.h>
+#include <unicode/unistr.h>
+
 #include <algorithm>
 #include <limits>
 
@@ -91,6 +94,21 @@ std::string LeftCharacters(std::string_view text, std::size_t count) {
     end += size;
   }
   return std::string(text.substr(0, end));
+}
+
+bool EqualIgnoringCase(std::string_view left, std::string_view right) {
+  if (left == right) return true;
+  const auto unicode = [](std::string_view text) {
+    return icu::UnicodeString::fromUTF8(
+        icu::StringPiece(text.data(), static_cast<std::int32_t>(text.size())));
+  };
+  const auto isAscii = [](std::string_view text) {
+    return std::all_of(text.begin(), text.end(),
+                       [](char byte) { return static_cast<signed char>(byte) >= 0; });
+  };
+  // Simple folding keeps lengths in ASCII, and this is asked once a row.
+  if (left.size() != right.size() && isAscii(left) && isAscii(right)) return false;
+  return unicode(left).caseCompare(unicode(right), U_FOLD_CASE_DEFAULT) == 0;
 }
 
 }  // namespace tarvis

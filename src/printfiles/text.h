@@ -39,4 +39,7 @@ int CountWrappedLines(const CodePage& page, std::string_view text, std::size_t w
 // The first `count` characters, counted in UTF-16 code units as the host counts them.
 std::string LeftCharacters(std::string_view text, std::size_t count);
 
+// Whether two texts are equal without regard to case, by Unicode's simple case folding. Blanks count.
+bool EqualIgnoringCase(std::string_view left, std::string_view right);
+
 }  // namespace tarvis

@@ -1,0 +1,48 @@
+#include "report/function_report.h"
+
+#include "launch/failures.h"
+#include "printfiles/host_files.h"
+#include "report/band_bitmap.h"
+
+namespace tarvis {
+namespace {
+
+constexpr CellStyle CaptionStyle{.Size = 11.5F, .Bold = true};
+
+}  // namespace
+
+FunctionReport::FunctionReport(const char* name, float printWidth, ReportContext context, const char* caption,
+                               float titleHeight, Entry entry, Keep keep)
+    : ActiveReport(name, printWidth),
+      Run(context.Run),
+      Pictures(context.Pictures),
+      ghTitle(AddGrowing(SectionKind::GroupHeader, "ghTitle", titleHeight)),
+      Image1(ghTitle.AddImage("Image1", {0, 210, 8925, 420}, Fit::Fill)),
+      Label1(ghTitle.AddLabel("Label1", {0, 283, 3402, 284}, caption, CaptionStyle)),
+      entry_(entry) {
+  Image1.Picture = Pictures.LoadBytes("band", BandBitmap());
+  ghTitle.GroupKeepTogether = keep;
+  ghTitle.AfterPrint = [this] { EnterContents(); };
+}
+
+Section& FunctionReport::AddGrowing(SectionKind kind, const char* name, float height) {
+  Section& section = AddSection(kind, name, height);
+  section.CanGrow = true;
+  section.CanShrink = true;
+  return section;
+}
+
+void FunctionReport::EnterContents() {
+  ActiveReport* const master = Run.Session.MasterReport;
+  if (master == nullptr) return;
+  const std::string& group = Run.Session.TocGroup;
+  const bool grouped = entry_ == Entry::Grouped && !group.empty();
+  master->TOC.Add(grouped ? group + "\\" + Label1.Caption() : Label1.Caption());
+}
+
+PicturePtr FunctionReport::LoadPictureOrFail(const std::string& path, int failure) {
+  if (!FileExists(path)) ReportFailure(Run, failure);
+  return Pictures.Load(path);
+}
+
+}  // namespace tarvis

@@ -1,0 +1,59 @@
+// The master report: one row for the cover letter and one for each data set; page footer; the way out.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "launch/print_run.h"
+#include "report/report_context.h"
+
+namespace tarvis {
+
+// IDs of the preview's tools that the master report handles.
+inline constexpr int EditItemsTool = 999;
+inline constexpr int CloseTool = 5113;
+
+class rptTarvis : public ActiveReport {
+ public:
+  // `windows` must outlive the report.
+  rptTarvis(ReportContext context, ReportFactory factory, ProgramWindows& windows);
+
+  void ActiveReport_ReportStart() override;
+  void ActiveReport_FetchData(bool& endOfData) override;
+  void ActiveReport_ReportEnd() override;
+
+  // Window events. `closeMode` 0: the user closed the preview; any other does nothing.
+  void ActiveReport_QueryClose(int closeMode);
+  void ActiveReport_ToolbarClick(int toolId);
+
+ private:
+  void PageFooter_BeforePrint();
+  void ShowPageNumbers(bool visible);
+  bool PassGate();
+  void LoadDataSet();
+  bool DetailIsOn() const;
+
+  ReportContext context_;
+  ReportFactory factory_;
+  ProgramWindows& windows_;
+  PrintRun& Run = context_.Run;
+  std::int16_t ModuleIndex = 0;   // rows done so far
+  std::int16_t ModuleCount = 0;   // rows wanted
+  std::int16_t OverlapIndex = 0;  // next data set of a trace or simulation print
+  bool gateWasClosed_ = false;
+
+  Section& PageHeader = AddSection(SectionKind::PageHeader, "PageHeader", 0);
+  Section& Detail = AddSection(SectionKind::Detail, "Detail", 795);
+  SubReport& sbrModule = Detail.AddSubReport("sbrModule", {0, 0, 10000, 2693});
+  Section& PageFooter = AddSection(SectionKind::PageFooter, "PageFooter", 480);
+  Label& Label2 = PageFooter.AddLabel("Label2", {7370, 142, 567, 280}, "Page");
+  Field& txtPageNumber =
+      PageFooter.AddField("txtPageNumber", {7935, 135, 420, 285}, {.Alignment = Align::Right});
+  Label& Label1 = PageFooter.AddLabel("Label1", {8355, 135, 135, 285}, "/");
+  Field& txtPageCount = PageFooter.AddField("txtPageCount", {8505, 135, 420, 285});
+};
+
+// Picks the header options of the function in `Mode` and shows the master report.
+void ShowPrintPreview(PrintRun& run, ProgramWindows& windows);
+
+}  // namespace tarvis
