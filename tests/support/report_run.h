@@ -1,0 +1,88 @@
+// A run with everything around it faked, ready to compose reports in a test.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "functions/catalog.h"
+#include "launch/print_run.h"
+#include "report/engine/composer.h"
+#include "report/rptTarvis.h"
+#include "support/arial_measurer.h"
+#include "support/fake_desktop.h"
+#include "support/fake_pictures.h"
+
+namespace tarvis {
+
+class FakeWindows : public ProgramWindows {
+ public:
+  void ShowPrintSetting() override { Calls.push_back("dialog"); }
+  void ShowMasterReport() override { Calls.push_back("preview"); }
+  void UnloadMasterReport() override { Calls.push_back("unload"); }
+  void SetHelpFile(const std::string& path) override { Calls.push_back("help:" + path); }
+
+  std::vector<std::string> Calls;
+};
+
+// A4 paper with the margins of the master report.
+struct ReportRun {
+  ReportRun() {
+    Run.Now = [] {
+      std::tm time{};
+      time.tm_year = 126;
+      time.tm_mon = 2;
+      time.tm_mday = 5;
+      return time;
+    };
+    Run.Header.FileSpec = 3;
+    Run.Session.ShowPrmName = Run.Session.ShowPrmUnit = Run.Session.ShowPrmDefault = Run.Session.ShowPrmSwitches = 1;
+  }
+
+  ReportContext Context() { return {Run, Pictures}; }
+
+  // One function report alone, on paper whose body is `bodyHeight` twips high and that has no margins.
+  Document ComposeAlone(const std::string& name, float bodyHeight = 14918) {
+    const auto report = CreateFunctionReport(name, Context());
+    Run.Session.MasterReport = report.get();
+    return Compose(*report, {10000, bodyHeight, 0, 0, 0, 0}, ArialMeasurer());
+  }
+
+  // The whole document of the function in `Mode`, from the data files in the temporary folder.
+  Document ComposeMaster(const PageSetup& setup = {}) {
+    ShowPrintPreview(Run, Windows);
+    Master = std::make_unique<rptTarvis>(Context(), CreateFunctionReport, Windows);
+    Run.Session.MasterReport = Master.get();
+    return Compose(*Master, setup, ArialMeasurer());
+  }
+
+  FakeDesktop Screen;
+  FakePictureLoader Pictures;
+  FakeWindows Windows;
+  PrintRun Run{Screen};
+  std::unique_ptr<rptTarvis> Master;
+};
+
+// The items of one control: "left,top widthxheight" of its box if it has one, and its texts.
+struct Printed {
+  Rect Box;
+  std::vector<std::string> Texts;
+};
+
+inline std::vector<Printed> PrintedOf(const Document& document, const std::string& control) {
+  std::vector<Printed> printed;
+  std::uint32_t band = 0;
+  for (const Item& item : document.Items) {
+    if (document.Names[item.Control] != control) continue;
+    if (printed.empty() || item.Band != band) printed.emplace_back();
+    band = item.Band;
+    if (item.Kind == ItemKind::Text) {
+      printed.back().Texts.emplace_back(document.Texts[item.Source].Text);
+    } else {
+      printed.back().Box = item.Box;
+    }
+  }
+  return printed;
+}
+
+}  // namespace tarvis
