@@ -1,0 +1,58 @@
+#include "platform/application.h"
+
+#include <cstdlib>
+#include <exception>
+#include <string>
+
+namespace tarvis {
+namespace {
+
+// Of the exception in hand.
+std::string Words() {
+  try {
+    throw;
+  } catch (const std::exception& failure) {
+    return failure.what();
+  } catch (...) {
+    return "unknown exception";
+  }
+}
+
+}  // namespace
+
+Application::Application(ToolkitArguments& arguments, Desktop& desktop)
+    : QApplication(arguments.Count, arguments.Values), desktop_(desktop) {
+  setApplicationName("tarvis");
+  setQuitOnLastWindowClosed(false);  // only the end of the run ends the process
+}
+
+void Application::Run(const std::function<void()>& start) {
+  try {
+    start();
+  } catch (...) {
+    Fail();
+  }
+  desktop_.EndProcess(exec());
+  std::abort();  // not reached; the compiler doesn't see that of a virtual call
+}
+
+bool Application::notify(QObject* receiver, QEvent* event) {
+  try {
+    return QApplication::notify(receiver, event);
+  } catch (...) {
+    Fail();
+  }
+}
+
+void Application::Fail() {
+  const std::string words = Words();
+  desktop_.Diagnose("run-time error: " + words);
+  if (!failing_) {
+    failing_ = true;
+    desktop_.ShowMessage("Run-time error", words);
+  }
+  desktop_.EndProcess(1);
+  std::abort();  // not reached
+}
+
+}  // namespace tarvis

@@ -1,0 +1,25 @@
+#include "platform/help_opener.h"
+
+#include <QDesktopServices>
+#include <QKeyEvent>
+#include <QUrl>
+
+#include "printfiles/host_files.h"
+
+namespace tarvis {
+
+void HelpOpener::Open() const {
+  const QString path = QString::fromStdU16String(NativePath(helpFile_).u16string());
+  QUrl place = QUrl::fromLocalFile(path);
+  if (path.endsWith(".html", Qt::CaseInsensitive)) place.setFragment(QString::number(context_));
+  QDesktopServices::openUrl(place);
+}
+
+bool HelpOpener::eventFilter(QObject* watched, QEvent* event) {
+  const bool isHelpKey = event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_F1;
+  if (!isHelpKey || helpFile_.empty()) return QObject::eventFilter(watched, event);
+  Open();
+  return true;
+}
+
+}  // namespace tarvis

@@ -1,0 +1,21 @@
+// What the installation tells the program: the host's registry values and the system's own two settings.
+#pragma once
+
+#include <memory>
+
+#include "launch/desktop.h"
+
+namespace tarvis {
+
+class HostSettings : public HostRegistry {
+ public:
+  // The system's code page, 1252 if nothing names another. A text that is no number is a RunTimeFailure.
+  virtual int CodePageNumber() const = 0;
+  // Whether saving as PDF counts as a printer, so that a run goes on where no printer is set up.
+  virtual bool CountsPdfPrinter() const = 0;
+};
+
+// The registry where there is one, the configuration file elsewhere.
+std::unique_ptr<HostSettings> OpenHostSettings();
+
+}  // namespace tarvis

@@ -1,0 +1,10 @@
+#include "platform/configuration_registry.h"
+#include "platform/host_settings.h"
+
+namespace tarvis {
+
+std::unique_ptr<HostSettings> OpenHostSettings() {
+  return std::make_unique<ConfigurationRegistry>(ConfigurationPath());
+}
+
+}  // namespace tarvis

@@ -1,0 +1,17 @@
+// The real desktop: message boxes, the system beep, standard error, and the end of the process.
+#pragma once
+
+#include "launch/desktop.h"
+
+namespace tarvis {
+
+// Needs a QApplication for Beep and ShowMessage; Diagnose and EndProcess work without one.
+class QtDesktop : public Desktop {
+ public:
+  void Beep() override;
+  void ShowMessage(const std::string& title, const std::string& text) override;
+  void Diagnose(const std::string& line) override;
+  [[noreturn]] void EndProcess(int exitStatus) override;
+};
+
+}  // namespace tarvis

@@ -1,0 +1,27 @@
+#include <windows.h>
+
+#include <QSettings>
+
+#include "platform/host_settings.h"
+
+namespace tarvis {
+namespace {
+
+constexpr qsizetype LongestValue = 1024;
+
+// The host is a 32-bit program, so its keys lie in the registry's 32-bit half.
+class WindowsRegistry : public HostSettings {
+ public:
+  std::string Value(const std::string& key, const std::string& valueName) override {
+    const QSettings registry("HKEY_LOCAL_MACHINE\\" + QString::fromStdString(key), QSettings::Registry32Format);
+    return registry.value(QString::fromStdString(valueName)).toString().left(LongestValue).toStdString();
+  }
+  int CodePageNumber() const override { return static_cast<int>(GetACP()); }
+  bool CountsPdfPrinter() const override { return false; }
+};
+
+}  // namespace
+
+std::unique_ptr<HostSettings> OpenHostSettings() { return std::make_unique<WindowsRegistry>(); }
+
+}  // namespace tarvis

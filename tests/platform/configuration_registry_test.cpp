@@ -1,0 +1,144 @@
+#include "platform/configuration_registry.h"
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+#include <QDir>
+#include <cstdlib>
+#include <fstream>
+#include <map>
+
+#include "printfiles/run_time_failure.h"
+
+namespace tarvis {
+namespace {
+
+class Configuration : public testing::Test {
+ protected:
+  std::string Path(const std::string& name = "tarvis.ini") const { return folder_.filePath(QString::fromStdString(name)).toStdString(); }
+  ConfigurationRegistry Holding(const std::string& text) const {
+    std::ofstream(Path(), std::ios::binary) << text;
+    return ConfigurationRegistry(Path());
+  }
+
+ private:
+  QTemporaryDir folder_;
+};
+
+constexpr const char* HostKey = "SOFTWARE\\Korvane\\Tessaline\\Brenmark\\Quillon\\Setup";
+
+TEST_F(Configuration, ValueIsTakenRawToTheEndOfTheLine) {
+  auto registry = Holding(std::string("[") + HostKey + "]\nSystemPath= C:\\host = \"a\";#b \nQuillon=200\n");
+  EXPECT_EQ(registry.Value(HostKey, "SystemPath"), " C:\\host = \"a\";#b ");
+  EXPECT_EQ(registry.Value(HostKey, "Quillon"), "200");
+}
+
+TEST_F(Configuration, LineEndOfEitherKindEndsAValue) {
+  auto registry = Holding(std::string("[") + HostKey + "]\r\nSystemPath=/opt/host\r\nQuillon=200");
+  EXPECT_EQ(registry.Value(HostKey, "SystemPath"), "/opt/host");
+  EXPECT_EQ(registry.Value(HostKey, "Quillon"), "200");
+}
+
+TEST_F(Configuration, EntryBelongsToItsOwnSectionOnly) {
+  auto registry = Holding("[One]\nSystemPath=/one\n[Two]\nQuillon=100\n");
+  EXPECT_EQ(registry.Value("Two", "SystemPath"), "");
+  EXPECT_EQ(registry.Value("One", "SystemPath"), "/one");
+}
+
+TEST_F(Configuration, MissingFileGivesEmptyValues) {
+  ConfigurationRegistry registry(Path("absent.ini"));
+  EXPECT_EQ(registry.Value(HostKey, "SystemPath"), "");
+  EXPECT_EQ(registry.CodePageNumber(), 1252);
+  EXPECT_FALSE(registry.CountsPdfPrinter());
+}
+
+TEST_F(Configuration, FolderInPlaceOfTheFileGivesEmptyValues) {
+  ConfigurationRegistry registry(Path(""));
+  EXPECT_EQ(registry.Value(HostKey, "SystemPath"), "");
+}
+
+TEST_F(Configuration, ValueOf1024CharactersIsTakenWholeAndALongerOneIsCut) {
+  std::string umlauts;
+  for (int i = 0; i < 1024; ++i) umlauts += "\xC3\xBC";
+  auto registry = Holding("[S]\nexact=" + umlauts + "\nlong=" + umlauts + "tail\n");
+  EXPECT_EQ(registry.Value("S", "exact"), umlauts);
+  EXPECT_EQ(registry.Value("S", "long"), umlauts);
+}
+
+TEST_F(Configuration, NamesCodePageAndPdfPrinter) {
+  const auto registry = Holding("[Tarvis]\nCodePage=932\nPdfPrinter=yes\n");
+  EXPECT_EQ(registry.CodePageNumber(), 932);
+  EXPECT_TRUE(registry.CountsPdfPrinter());
+}
+
+TEST_F(Configuration, AnyOtherWordThanYesDoesNotCountThePdfPrinter) {
+  EXPECT_FALSE(Holding("[Tarvis]\nPdfPrinter=no\n").CountsPdfPrinter());
+}
+
+TEST_F(Configuration, CodePageThatIsNoNumberNamesFileKeyAndText) {
+  const auto registry = Holding("[Tarvis]\nCodePage=12x\n");
+  try {
+    registry.CodePageNumber();
+    FAIL() << "no failure";
+  } catch (const RunTimeFailure& failure) {
+    EXPECT_EQ(failure.Place().File, Path());
+    EXPECT_EQ(failure.Place().Key, "CodePage");
+    EXPECT_EQ(failure.Place().Text, "12x");
+  }
+}
+
+class ConfigurationPlace : public testing::Test {
+ protected:
+  void SetUp() override {
+    for (const char* name : {"TARVIS_CONFIG", "XDG_CONFIG_HOME", "HOME"}) {
+      const char* value = std::getenv(name);
+      before_[name] = value ? value : "";
+      unsetenv(name);
+    }
+  }
+  void TearDown() override {
+    for (const auto& [name, value] : before_) {
+      if (value.empty()) unsetenv(name.c_str());
+      else setenv(name.c_str(), value.c_str(), 1);
+    }
+  }
+  // Makes a configuration file below `home` and returns its path.
+  std::string MakeFile(const QString& home) {
+    QDir(folder_.path()).mkpath(home + "/tarvis");
+    const std::string path = folder_.filePath(home + "/tarvis/tarvis.ini").toStdString();
+    std::ofstream{path} << "\n";
+    return path;
+  }
+  std::string Folder(const QString& name) const { return folder_.filePath(name).toStdString(); }
+
+ private:
+  std::map<std::string, std::string> before_;
+  QTemporaryDir folder_;
+};
+
+TEST_F(ConfigurationPlace, IsTheOneTheEnvironmentNamesEvenIfItIsMissing) {
+  setenv("XDG_CONFIG_HOME", Folder("xdg").c_str(), 1);
+  MakeFile("xdg");
+  setenv("TARVIS_CONFIG", "/nowhere/my.ini", 1);
+  EXPECT_EQ(ConfigurationPath(), "/nowhere/my.ini");
+}
+
+TEST_F(ConfigurationPlace, IsTheUsersOwnBeforeTheMachines) {
+  const std::string own = MakeFile("xdg");
+  setenv("XDG_CONFIG_HOME", Folder("xdg").c_str(), 1);
+  EXPECT_EQ(ConfigurationPath(), own);
+}
+
+TEST_F(ConfigurationPlace, IsBelowTheHomeFolderWhereNoOtherIsNamed) {
+  const std::string own = MakeFile("me/.config");
+  setenv("HOME", Folder("me").c_str(), 1);
+  EXPECT_EQ(ConfigurationPath(), own);
+}
+
+TEST_F(ConfigurationPlace, IsTheMachinesWhereTheUserHasNone) {
+  setenv("XDG_CONFIG_HOME", Folder("empty").c_str(), 1);
+  EXPECT_EQ(ConfigurationPath(), "/etc/tarvis/tarvis.ini");
+}
+
+}  // namespace
+}  // namespace tarvis

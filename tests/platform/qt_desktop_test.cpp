@@ -1,0 +1,44 @@
+#include "platform/qt_desktop.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/message_watch.h"
+
+namespace tarvis {
+namespace {
+
+TEST(QtDesktop, MessageBoxShowsTheExactWordsAnOkButtonAndNoIcon) {
+  MessageWatch watch;
+  QtDesktop().ShowMessage("Printing Error", "Argument is wrong.\nPrinting Process is canceled.");
+  ASSERT_EQ(watch.Seen().size(), 1U);
+  const SeenMessage& seen = watch.Seen().front();
+  EXPECT_EQ(seen.Title, "Printing Error");
+  EXPECT_EQ(seen.Text, "Argument is wrong.\nPrinting Process is canceled.");
+  EXPECT_EQ(seen.Icon, QMessageBox::NoIcon);
+  EXPECT_EQ(seen.Buttons, QMessageBox::Ok);
+  EXPECT_TRUE(seen.Modal);
+}
+
+TEST(QtDesktop, MessageBoxTakesMarkupAsPlainWords) {
+  MessageWatch watch;
+  QtDesktop().ShowMessage("Run-time error", "User.tmp:3: <b>bold</b>");
+  EXPECT_EQ(watch.Seen().at(0).Format, Qt::PlainText);
+}
+
+TEST(QtDesktop, DiagnosisIsOneLineOnStandardError) {
+  testing::internal::CaptureStderr();
+  QtDesktop().Diagnose("User.tmp:3: unknown key 'x'");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "tarvis: User.tmp:3: unknown key 'x'\n");
+}
+
+TEST(QtDesktopDeathTest, EndOfTheProcessHasTheStatusAndRunsNoExitHandler) {
+  EXPECT_EXIT(
+      {
+        std::atexit([] { std::_Exit(99); });
+        QtDesktop().EndProcess(1);
+      },
+      testing::ExitedWithCode(1), "");
+}
+
+}  // namespace
+}  // namespace tarvis
