@@ -8,6 +8,9 @@
 
 namespace tarvis {
 
+// Whether `text` is alike in UTF-8 and in every code page of the system.
+bool IsAscii(std::string_view text);
+
 // Text in memory is UTF-8. A byte length is always that of the text in this code page.
 class CodePage {
  public:

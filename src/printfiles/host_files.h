@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <string>
 #include <string_view>
 
 namespace tarvis {
@@ -20,5 +21,8 @@ bool FileExists(std::string_view path);
 // Returns the number of lines, or -1, also in `LineCount`, if the file can't be read. A line ends at CR LF or
 // at a CR alone; an LF alone is a part of its line.
 std::int32_t LoadLines(PrintRun& run, std::string_view path);
+
+// The same with the bytes of the file at hand; `path` only names them. Never fails.
+std::int32_t LoadBytes(PrintRun& run, std::string_view path, std::string bytes);
 
 }  // namespace tarvis

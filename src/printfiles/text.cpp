@@ -72,9 +72,7 @@ std::int16_t CountLineBreaks(std::string_view text) {
 }
 
 std::string LeftBytes(const CodePage& page, std::string_view text, std::size_t bytes) {
-  const std::string encoded = page.FromUtf8(text);
-  if (encoded.size() <= bytes) return std::string(text);
-  return page.ToUtf8(std::string_view(encoded).substr(0, bytes));
+  return page.ToUtf8(std::string_view(page.FromUtf8(text)).substr(0, bytes));
 }
 
 int CountWrappedLines(const CodePage& page, std::string_view text, std::size_t width) {

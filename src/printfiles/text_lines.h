@@ -21,6 +21,9 @@ class TextLines {
   // Drops everything, the spare too.
   void Clear();
 
+  // The text given to Reset, and the lines appended since.
+  std::string_view Text() const { return text_; }
+
   int HighestIndex() const { return static_cast<int>(pieces_.size()) - (loaded_ ? 0 : 1); }
   // An index outside throws RunTimeFailure.
   std::string_view operator[](int index) const;

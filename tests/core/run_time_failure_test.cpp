@@ -6,7 +6,8 @@ namespace tarvis {
 namespace {
 
 TEST(RunTimeFailure, NamesFileLineKeyAndText) {
-  const RunTimeFailure failure("not a whole number", {.File = "Trace.tmp", .Line = 17, .Key = "CursolSelect", .Text = "x"});
+  const RunTimeFailure failure("not a whole number",
+                               {.File = "Trace.tmp", .Line = 17, .Key = "CursolSelect", .Text = "x"});
   EXPECT_STREQ(failure.what(), "Trace.tmp:17: CursolSelect: not a whole number: 'x'");
 }
 

@@ -1,0 +1,33 @@
+#include "launch/load_print_options.h"
+
+#include <string>
+
+#include "launch/failures.h"
+#include "launch/print_run.h"
+#include "printfiles/host_files.h"
+#include "printfiles/print_options_file.h"
+
+namespace tarvis {
+namespace {
+
+constexpr int kOptionsFileIsWrong = 10;
+
+}  // namespace
+
+void LoadPrintOptions(PrintRun& run) {
+  PrintSession& session = run.Session;
+  const std::string path = session.SystemFolder + "PrintOption.ToT";
+  run.Options = {};
+  if (!FileExists(path)) {
+    DefaultPrintOptions(run);
+  } else if (LoadLines(run, path) < 0 || !ReadPrintOptionsFile(run)) {
+    ReportFailure(run, kOptionsFileIsWrong);
+  }
+  session.OverlapMode = 0;
+  session.OverlapNum = 0;
+  session.FinishedReports = 0;
+  session.TocGroup.clear();
+  session.SimExMode = 0;
+}
+
+}  // namespace tarvis

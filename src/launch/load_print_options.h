@@ -1,0 +1,13 @@
+// The print options at launch.
+#pragma once
+
+namespace tarvis {
+
+struct PrintRun;
+
+// Leaves `Options` as PrintOption.ToT in the system folder has them, or as the defaults if there is no such
+// file; one that is refused is failure 10. Then clears what the session keeps of overlap, progress and mode
+// `SimEx`.
+void LoadPrintOptions(PrintRun& run);
+
+}  // namespace tarvis

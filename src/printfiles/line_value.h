@@ -1,0 +1,66 @@
+// What stands behind the key of a line, taken off piece by piece.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "printfiles/numbers.h"
+#include "printfiles/text.h"
+
+namespace tarvis {
+
+// A text whose line breaks stand in the file as the four characters \r\n.
+struct Escaped {
+  std::string& Text;
+};
+
+// The type of a part tells its form: a text is taken as it stands, an Escaped text unescaped, a number
+// converted strictly. An array takes one field for each element.
+class LineValue {
+ public:
+  explicit LineValue(std::string_view text) : rest_(text) {}
+
+  // Up to the next comma; empty if nothing is left.
+  std::string_view Field() { return NextField(rest_); }
+  // All that is left, commas included.
+  std::string_view Rest() { return std::exchange(rest_, {}); }
+
+  // Each part takes a field. What is left of the line is dropped.
+  template <typename... Parts>
+  void Fields(Parts&&... parts) {
+    (TakeField(parts), ...);
+  }
+
+  // Each part takes a field, but the last one takes all the rest.
+  template <typename Part, typename... Parts>
+  void FieldsAndRest(Part&& part, Parts&&... parts) {
+    if constexpr (sizeof...(parts) == 0) {
+      Store(part, Rest());
+    } else {
+      TakeField(part);
+      FieldsAndRest(std::forward<Parts>(parts)...);
+    }
+  }
+
+ private:
+  static void Store(std::string& text, std::string_view piece) { text = piece; }
+  static void Store(Escaped text, std::string_view piece) { text.Text = UnescapeNewlines(piece); }
+  static void Store(std::int16_t& number, std::string_view piece) { number = StrictInteger(piece); }
+
+  template <typename Part>
+  void TakeField(Part& part) {
+    Store(part, Field());
+  }
+  template <typename Element, std::size_t Count>
+  void TakeField(std::array<Element, Count>& elements) {
+    for (Element& element : elements) TakeField(element);
+  }
+
+  std::string_view rest_;
+};
+
+}  // namespace tarvis

@@ -1,0 +1,168 @@
+#include "printfiles/option_lines.h"
+
+#include <memory>
+#include <utility>
+
+namespace tarvis {
+namespace {
+
+// File versions: 3 added the last element of TraceOption, 4 the last three of SimOption.
+constexpr std::int16_t kNoTraceDetail = 2;
+constexpr std::int16_t kNoSimComparison = 3;
+
+std::string Written(const std::string& text) {
+  return text;
+}
+std::string Written(Escaped text) {
+  return EscapeNewlines(text.Text);
+}
+std::string Written(std::int16_t number) {
+  return std::to_string(number);
+}
+
+template <typename Element, std::size_t Count>
+std::string Written(const std::array<Element, Count>& elements) {
+  std::string list;
+  for (const Element& element : elements) list += (list.empty() ? "" : ",") + Written(element);
+  return list;
+}
+
+// A line of one part that is the whole value.
+template <typename Part>
+OptionLine Whole(std::string_view key, Part&& part) {
+  const std::tuple<Part> kept(std::forward<Part>(part));
+  return {key, Rest(static_cast<Part>(std::get<0>(kept))), [kept] { return Written(std::get<0>(kept)); }};
+}
+
+template <typename First, typename... Parts>
+std::string Joined(const First& first, const Parts&... parts) {
+  return (Written(first) + ... + ("," + Written(parts)));
+}
+
+// A line of fields.
+template <typename... Parts>
+OptionLine List(std::string_view key, Parts&... parts) {
+  return {key, Fields(parts...), [kept = std::tie(parts...)] {
+            return std::apply([](const auto&... each) { return Joined(each...); }, kept);
+          }};
+}
+
+OptionLine Header(std::string_view key, HeaderOptions& header) {
+  return List(key, header.Title, header.ModelsInfo, header.PrintDate, header.FileName, header.Pages,
+              header.TitleText);
+}
+
+OptionLine AcceptedOnly(std::string_view key) {
+  return {key, [](LineValue&) { return kAccepted; }, [] { return std::string(); }};
+}
+
+// Reads the elements of `numbers` from `first` to `last`, counted from 1.
+template <std::size_t Count>
+void ReadElements(std::array<std::int16_t, Count>& numbers, std::size_t first, std::size_t last,
+                  LineValue& value) {
+  for (std::size_t element = first; element <= last; ++element) value.Fields(numbers.at(element - 1));
+}
+
+// TraceOption and SimOption share the text of the former's element 9: SimOption asks whether it was empty
+// before it sets its own last elements. That stays so, whatever the line order makes of it.
+std::pair<OptionLine, OptionLine> TraceAndSimOption(PrintOptions& options) {
+  const auto element9 = std::make_shared<std::string>();
+  OptionLine trace = List("TraceOption", options.TraceOption);
+  trace.Read = [&options, element9](LineValue& value) -> Refusal {
+    ReadElements(options.TraceOption, 1, 8, value);
+    if (options.FileSpec <= kNoTraceDetail) return kAccepted;
+    *element9 = value.Field();
+    if (!element9->empty()) options.TraceOption[8] = StrictInteger(*element9);
+    return kAccepted;
+  };
+  OptionLine sim = List("SimOption", options.SimOption);
+  sim.Read = [&options, element9](LineValue& value) -> Refusal {
+    ReadElements(options.SimOption, 1, 10, value);
+    if (options.FileSpec <= kNoSimComparison) {
+      options.SimOption[10] = options.SimOption[11] = options.SimOption[12] = 1;
+    } else if (!element9->empty()) {
+      ReadElements(options.SimOption, 11, 13, value);
+    }
+    return kAccepted;
+  };
+  return {trace, sim};
+}
+
+void AddSender(std::vector<OptionLine>& lines, PrintOptions& options) {
+  lines.push_back(Whole("DrowCorp", options.DrowCorp));
+  lines.push_back(Whole("DrowSect", Escaped{options.DrowSect}));
+  lines.push_back(Whole("DrowName", options.DrowName));
+  lines.push_back(Whole("DrowEmail", options.DrowEmail));
+  lines.push_back(Whole("DrowZip", options.DrowZip));
+  lines.push_back(Whole("DrowAdr", Escaped{options.DrowAdr}));
+  lines.push_back(Whole("DrowTEL", options.DrowTEL));
+  lines.push_back(Whole("DrowFAX", options.DrowFAX));
+  lines.push_back(Whole("DrowLogo", options.DrowLogo));
+}
+
+struct AddresseeKeys {
+  std::string_view Title;
+  std::string_view Corp;
+  std::string_view Sect;
+  std::string_view Name;
+  std::string_view Adr;
+};
+
+constexpr std::array<AddresseeKeys, 3> kAddresseeKeys = {{
+    {"User1Title", "User1Corp", "User1Sect", "User1Name", "User1Adr"},
+    {"User2Title", "User2Corp", "User2Sect", "User2Name", "User2Adr"},
+    {"User3Title", "User3Corp", "User3Sect", "User3Name", "User3Adr"},
+}};
+
+void AddAddressee(std::vector<OptionLine>& lines, const AddresseeKeys& keys, AddresseeBlock& block) {
+  lines.push_back(Whole(keys.Title, block.Title));
+  lines.push_back(Whole(keys.Corp, block.Corp));
+  lines.push_back(Whole(keys.Sect, Escaped{block.Sect}));
+  lines.push_back(Whole(keys.Name, block.Name));
+  lines.push_back(Whole(keys.Adr, Escaped{block.Adr}));
+}
+
+// `ColorType` stands in the middle of the functions, out of the order of the record.
+void AddFunctions(std::vector<OptionLine>& lines, PrintOptions& options) {
+  auto [traceOption, simOption] = TraceAndSimOption(options);
+  IdxTblOptions& idxTbl = options.IdxTblOption;
+  lines.push_back(Header("UserHeader", options.UserHeader));
+  lines.push_back(List("UserOption", options.UserOption));
+  lines.push_back(Header("PrmWizHeader", options.PrmWizHeader));
+  lines.push_back(AcceptedOnly("PrmWizOption"));
+  lines.push_back(Header("TraceHeader", options.TraceHeader));
+  lines.push_back(std::move(traceOption));
+  lines.push_back(Header("RealTraceHeader", options.RealTraceHeader));
+  lines.push_back(List("RealTraceOption", options.RealTraceOption));
+  lines.push_back(Header("MechaHeader", options.MechaHeader));
+  lines.push_back(List("MechaOption", options.MechaOption));
+  lines.push_back(Header("SimHeader", options.SimHeader));
+  lines.push_back(std::move(simOption));
+  lines.push_back(Whole("ColorType", options.ColorType));
+  lines.push_back(Header("IdxTblHeader", options.IdxTblHeader));
+  lines.push_back(List("IdxTblOption", idxTbl.Range, idxTbl.First, idxTbl.Last, idxTbl.Comment));
+  lines.push_back(Header("ZoneTblHeader", options.ZoneTblHeader));
+  lines.push_back(List("ZoneTblOption", options.ZoneTblOption));
+  lines.push_back(Header("JogTblHeader", options.JogTblHeader));
+  lines.push_back(List("JogTblOption", options.JogTblOption));
+}
+
+}  // namespace
+
+std::vector<OptionLine> OptionLines(PrintOptions& options) {
+  std::vector<OptionLine> lines = {
+      Whole("File-Spec", options.FileSpec), Whole("FileType", options.FileType),
+      Whole("Made-by", options.MadeBy),     Whole("DateTime", options.DateTime),
+      Whole("Cover", options.Cover),        Whole("SelectCover", options.SelectCover),
+  };
+  AddSender(lines, options);
+  for (std::size_t block = 0; block < options.User.size(); ++block) {
+    AddAddressee(lines, kAddresseeKeys[block], options.User[block]);
+  }
+  lines.push_back(Whole("GreetingCnt", options.GreetingCnt));
+  lines.push_back(Whole("Greeting", Escaped{options.Greeting}));
+  AddFunctions(lines, options);
+  return lines;
+}
+
+}  // namespace tarvis

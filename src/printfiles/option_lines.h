@@ -1,0 +1,23 @@
+// The lines of the options file in the order in which they are written: one table for reading and writing.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "printfiles/key_table.h"
+#include "printfiles/print_options.h"
+
+namespace tarvis {
+
+struct OptionLine {
+  std::string_view Key;
+  LineHandler Read;
+  std::function<std::string()> Write;  // the value behind the comma
+};
+
+// The lines read into and are written from `options`, for the length of one file.
+std::vector<OptionLine> OptionLines(PrintOptions& options);
+
+}  // namespace tarvis

@@ -1,0 +1,72 @@
+#include "printfiles/print_options_file.h"
+
+#include <filesystem>
+#include <fstream>
+
+#include "launch/print_run.h"
+#include "printfiles/date_text.h"
+#include "printfiles/host_files.h"
+#include "printfiles/option_lines.h"
+
+namespace tarvis {
+namespace {
+
+constexpr std::int16_t kFileSpec = 4;
+
+HeaderOptions DefaultHeader(const char* title) {
+  return {.Title = 1, .ModelsInfo = 1, .PrintDate = 1, .FileName = 1, .Pages = 1, .TitleText = title};
+}
+
+void DefaultHeaders(PrintOptions& options) {
+  options.UserHeader = DefaultHeader("Parameters");
+  options.PrmWizHeader = DefaultHeader("Parameter Wizard");
+  options.PrmWizHeader.FileName = 0;  // the wizard's data come from no file of the user
+  options.TraceHeader = DefaultHeader("Tracing");
+  options.RealTraceHeader = DefaultHeader("Real-Time Tracing");
+  options.MechaHeader = DefaultHeader("Mechanical Analysis");
+  options.SimHeader = DefaultHeader("Dynamics Simulation");
+  options.IdxTblHeader = DefaultHeader("Program Table");
+  options.ZoneTblHeader = DefaultHeader("Zone Table");
+  options.JogTblHeader = DefaultHeader("Jog Speed Table");
+}
+
+}  // namespace
+
+bool ReadPrintOptionsFile(PrintRun& run) {
+  KeyTable keys;
+  for (OptionLine& line : OptionLines(run.Options)) keys.Add(line.Key, std::move(line.Read));
+  return ReadLines(run, keys);
+}
+
+void DefaultPrintOptions(PrintRun& run) {
+  PrintOptions options;
+  options.FileSpec = kFileSpec;
+  options.FileType = "PrintOption TmpFile For Print";
+  options.MadeBy = "Quillex Ver2.00";
+  options.DateTime = DateTimeText(run.Now());
+  DefaultHeaders(options);
+  options.UserOption.fill(1);
+  options.TraceOption.fill(1);
+  options.RealTraceOption.fill(1);
+  options.MechaOption.fill(1);
+  options.SimOption.fill(1);
+  options.IdxTblOption.Comment = 1;
+  options.ZoneTblOption = 1;
+  options.JogTblOption = 1;
+  run.Options = options;
+}
+
+bool WritePrintOptionsFile(PrintRun& run, std::string_view path) {
+  std::error_code ignored;  // a file that can't be removed can't be opened below
+  if (FileExists(run.Session.SystemFolder + "PrintOption.ToT"))
+    std::filesystem::remove(NativePath(path), ignored);
+  run.Options.FileSpec = kFileSpec;
+  std::ofstream file(NativePath(path), std::ios::binary | std::ios::trunc);
+  for (const OptionLine& line : OptionLines(run.Options)) {
+    file << line.Key << ',' << run.Page.FromUtf8(line.Write()) << "\r\n";
+  }
+  file.close();
+  return !file.fail();
+}
+
+}  // namespace tarvis

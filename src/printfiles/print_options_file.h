@@ -1,0 +1,22 @@
+// PrintOption.ToT: the print options between runs, and the only file that the program writes.
+#pragma once
+
+#include <string_view>
+
+namespace tarvis {
+
+struct PrintRun;
+
+// Fills `Options` from the lines loaded last. A key that the file lacks leaves its field. False, with the
+// reason in the session's diagnosis, for a file that is refused; a strict number that fails throws
+// RunTimeFailure.
+bool ReadPrintOptionsFile(PrintRun& run);
+
+// The options of a first run, dated now.
+void DefaultPrintOptions(PrintRun& run);
+
+// Sets `FileSpec` to the version that is written and writes the file. False on any error, with the file left
+// as far as it came. `DateTime` is the caller's.
+bool WritePrintOptionsFile(PrintRun& run, std::string_view path);
+
+}  // namespace tarvis

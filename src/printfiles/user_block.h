@@ -1,0 +1,12 @@
+// The parameter block, which stands alike in User.tmp, Trace.tmp, RealTrace.tmp and Sim.tmp.
+#pragma once
+
+#include "printfiles/key_table.h"
+#include "printfiles/user_data.h"
+
+namespace tarvis {
+
+// The keys `UserNum` to `Comment`, for the length of one file.
+KeyTable UserBlockKeys(UserData& user);
+
+}  // namespace tarvis
