@@ -1,0 +1,34 @@
+#include "printfiles/real_trace_file.h"
+
+#include "launch/print_run.h"
+#include "printfiles/header_keys.h"
+#include "printfiles/record_lines.h"
+#include "printfiles/user_block.h"
+
+namespace tarvis {
+namespace {
+
+// Other than in the trace file, the sampling cycle keeps its commas.
+KeyTable RealTraceKeys(RealTraceData& trace) {
+  return {
+      {"RealTraceGraphC", Rest(trace.RealTraceGraphC)},
+      {"RealTraceGraph", Rest(trace.RealTraceGraph)},
+      {"RealTraceNoteC", Rest(trace.RealTraceNoteC)},
+      {"RealTraceNote", Rest(trace.RealTraceNote)},
+      {"CursolSelect", Rest(trace.CursolSelect)},
+      {"CursolInfo1", OnlyAbove(0, trace.CursolSelect, CursorLine(trace.CursolInfo1))},
+      {"CursolInfo2", OnlyAbove(1, trace.CursolSelect, CursorLine(trace.CursolInfo2))},
+      {"StartTime", FieldsAndRest(trace.StartTime.Name, trace.StartTime.Value)},
+      {"SamplingCycle", FieldsAndRest(trace.SamplingCycle.Name, trace.SamplingCycle.Value)},
+      {"DispData", Fields(trace.DispData.Name, trace.DispData.Value)},
+  };
+}
+
+}  // namespace
+
+bool ReadRealTraceFile(PrintRun& run) {
+  return ReadLines(run,
+                   HeaderKeysOfNewFiles(run.Header) + RealTraceKeys(run.RealTrace) + UserBlockKeys(run.User));
+}
+
+}  // namespace tarvis

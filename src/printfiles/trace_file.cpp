@@ -1,0 +1,52 @@
+#include "printfiles/trace_file.h"
+
+#include "launch/print_run.h"
+#include "printfiles/header_keys.h"
+#include "printfiles/record_lines.h"
+#include "printfiles/user_block.h"
+
+namespace tarvis {
+namespace {
+
+// Only the first two settings keep commas in their value.
+KeyTable TriggerKeys(TraceData& trace) {
+  return {
+      {"TriggerType", FieldsAndRest(trace.TriggerType.Name, trace.TriggerType.Value)},
+      {"TriggerLevel", FieldsAndRest(trace.TriggerLevel.Name, trace.TriggerLevel.Value)},
+      {"EdgeType", Fields(trace.EdgeType.Name, trace.EdgeType.Value)},
+      {"PreTrigger", Fields(trace.PreTrigger.Name, trace.PreTrigger.Value)},
+      {"SamplingCycle", Fields(trace.SamplingCycle.Name, trace.SamplingCycle.Value)},
+  };
+}
+
+KeyTable TraceKeys(TraceData& trace) {
+  return {
+      {"TraceGraphC", Rest(trace.TraceGraphC)},
+      {"TraceGraph", Rest(trace.TraceGraph)},
+      {"TraceNoteC", Rest(trace.TraceNoteC)},
+      {"TraceNote", Rest(trace.TraceNote)},
+      {"TraceIONoteC", Rest(trace.TraceIONoteC)},
+      {"TraceIONote", Rest(trace.TraceIONote)},
+      {"CursolSelect", Rest(trace.CursolSelect)},
+      {"CursolInfo1", OnlyAbove(0, trace.CursolSelect, CursorLine(trace.CursolInfo1))},
+      {"CursolInfo2", OnlyAbove(1, trace.CursolSelect, CursorLine(trace.CursolInfo2))},
+      {"OverlapMode", Rest(trace.OverlapMode)},
+      {"OverlapNum", Rest(trace.OverlapNum)},
+      {"DataTrace1", ItemLine(trace.DataTrace1)},
+      {"DataTrace2", ItemLine(trace.DataTrace2)},
+      {"DataTrace3", ItemLine(trace.DataTrace3)},
+      {"I/Otrace1", ItemLine(trace.IOTrace1)},
+      {"I/Otrace2", ItemLine(trace.IOTrace2)},
+      {"I/Otrace3", ItemLine(trace.IOTrace3)},
+  };
+}
+
+}  // namespace
+
+bool ReadTraceFile(PrintRun& run) {
+  run.Trace = {};
+  return ReadLines(run, HeaderKeysOfNewFiles(run.Header) + TraceKeys(run.Trace) + TriggerKeys(run.Trace) +
+                            KeyTable{{"GetDataDate", Rest(run.Session.DataDate)}} + UserBlockKeys(run.User));
+}
+
+}  // namespace tarvis
