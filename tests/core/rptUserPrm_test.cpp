@@ -114,7 +114,7 @@ TEST_F(ParameterList, APlainRowIs295TwipsApart) {
   AddParameter(User, "Pn101");
   const auto boxes = PrintedOf(Compose(), "txtValueNo");
   ASSERT_EQ(boxes.size(), 2U);
-  EXPECT_EQ(boxes[0].Box, (Rect{142, 630 + 427 + 10 - 2, 708, 285}));
+  EXPECT_EQ(boxes[0].Box, (Rect{142, 630 + 427 + 10, 708, 285}));
   EXPECT_EQ(boxes[1].Box.Top - boxes[0].Box.Top, 295);
 }
 
@@ -132,7 +132,7 @@ TEST_F(ParameterList, StacksTheDigitBlockAndFramesIt) {
   AddParameter(User, "Pn001");
   AddSwitch(User, "Pn000", {Direction, Method, NoDigit, NoDigit});
   const Document document = Compose();
-  const float row = 630 + 425;
+  const float row = 630 + 427;
   const auto frames = PrintedOf(document, "shapeNibble");
   ASSERT_EQ(frames.size(), 1U) << "a plain row has no frame";
   EXPECT_EQ(frames[0].Box.Top, row + 10);
@@ -256,7 +256,7 @@ TEST_F(ParameterList, ANameOfThreeLinesMakesAllCellsOfTheRowAsHigh) {
   for (const char* cell : {"txtValueName", "txtValueVal", "txtValueUnit", "txtValueDefault"}) {
     EXPECT_EQ(PrintedOf(document, cell)[0].Box.Height, 570) << cell;
   }
-  EXPECT_EQ(PrintedOf(document, "txtPos0")[0].Box.Top, 630 + 425 + 10 + 570 + 142);
+  EXPECT_EQ(PrintedOf(document, "txtPos0")[0].Box.Top, 630 + 427 + 10 + 570 + 142);
 }
 
 TEST_F(ParameterList, AMeaningOfSeveralLinesMakesItsValueCellAsHigh) {
