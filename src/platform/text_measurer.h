@@ -1,0 +1,14 @@
+// Widths of characters as the reports are painted: the composer's seam to the fonts.
+#pragma once
+
+#include "report/engine/text_measurer.h"
+
+namespace tarvis {
+
+// Needs a QGuiApplication; to be used on one thread at a time.
+class QtTextMeasurer : public TextMeasurer {
+ public:
+  float AdvanceEm(char32_t character, bool bold) const override;
+};
+
+}  // namespace tarvis

@@ -1,0 +1,50 @@
+#include "preview/background_job.h"
+
+#include <QProgressDialog>
+#include <QTimer>
+#include <QWidget>
+
+namespace tarvis {
+
+BackgroundJob::BackgroundJob(const QString& caption, Work work, QWidget* parent) : QObject(parent), caption_(caption) {
+  QTimer::singleShot(ProgressDelay, this, &BackgroundJob::ShowProgress);
+  thread_ = std::thread([this, work = std::move(work)] {
+    QString error;
+    try {
+      error = work([this](int done, int total) {
+        emit Progressed(done, total);
+        return !cancelled_;
+      });
+    } catch (const std::exception& failure) {
+      error = QString::fromUtf8(failure.what());
+    }
+    QMetaObject::invokeMethod(this, [this, error] {
+      finished_ = true;
+      delete dialog_;
+      emit Finished(error);
+    }, Qt::QueuedConnection);
+  });
+}
+
+BackgroundJob::~BackgroundJob() {
+  cancelled_ = true;
+  thread_.join();
+  delete dialog_;
+}
+
+void BackgroundJob::ShowProgress() {
+  if (finished_) return;
+  dialog_ = new QProgressDialog(caption_, tr("Cancel"), 0, 0, qobject_cast<QWidget*>(parent()));
+  dialog_->setObjectName(QStringLiteral("progress"));
+  dialog_->setWindowModality(Qt::WindowModal);
+  dialog_->setAutoClose(false);
+  dialog_->setAutoReset(false);
+  connect(this, &BackgroundJob::Progressed, dialog_, [this](int done, int total) {
+    dialog_->setMaximum(total);
+    dialog_->setValue(done);
+  });
+  connect(dialog_, &QProgressDialog::canceled, this, &BackgroundJob::Cancel);
+  dialog_->show();
+}
+
+}  // namespace tarvis

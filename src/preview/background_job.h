@@ -1,0 +1,50 @@
+// Work that takes a while, in a thread of its own: from half a second on a window shows its progress and can cancel it.
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <atomic>
+#include <functional>
+#include <thread>
+
+class QProgressDialog;
+class QWidget;
+
+namespace tarvis {
+
+// Told how far the work is; false means that it was cancelled and should stop soon.
+using Progress = std::function<bool(int done, int total)>;
+
+class BackgroundJob : public QObject {
+  Q_OBJECT
+ public:
+  // `work` runs in another thread and returns an error text for the user, empty if all is well or cancelled.
+  using Work = std::function<QString(const Progress& progress)>;
+
+  // `caption` tells the user what is being done.
+  BackgroundJob(const QString& caption, Work work, QWidget* parent);
+  // Cancels the work and waits for its end.
+  ~BackgroundJob() override;
+
+  void Cancel() { cancelled_ = true; }
+  bool Cancelled() const { return cancelled_; }
+
+  static constexpr int ProgressDelay = 500;  // milliseconds
+
+ signals:
+  void Progressed(int done, int total);
+  // Comes once, on the thread of this object.
+  void Finished(const QString& error);
+
+ private:
+  void ShowProgress();
+
+  QString caption_;
+  QPointer<QProgressDialog> dialog_;
+  std::atomic<bool> cancelled_ = false;
+  bool finished_ = false;
+  std::thread thread_;
+};
+
+}  // namespace tarvis

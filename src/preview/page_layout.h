@@ -1,0 +1,87 @@
+// Where pages stand in the view, in logical pixels: plain arithmetic, no widget.
+//
+//   continuous                    single
+//   ┌──────────────┐              ┌──────────────┐
+//   │    margin    │              │   the page   │  centred if smaller than the view
+//   │  ┌────────┐  │              └──────────────┘
+//   │  │ page 0 │  │
+//   │  └────────┘  │
+//   │     gap      │
+//   │  ┌────────┐  │
+//   │  │ page 1 │  │
+//   └──────────────┘
+#pragma once
+
+#include <QRectF>
+#include <QSize>
+
+#include "report/engine/document.h"
+
+namespace tarvis {
+
+enum class ZoomMode { Factor, FitWidth, FitPage };
+
+// Twips to a logical pixel at 100 %.
+inline constexpr double TwipsPerPixel = 15;
+
+// A place to go to: a page and a height on it, in twips.
+struct PagePlace {
+  int Page = 0;
+  double Top = 0;
+  bool operator==(const PagePlace&) const = default;
+};
+
+class PageLayout {
+ public:
+  static constexpr double Margin = 12;  // around pages and between them
+  static constexpr double LeastZoom = 0.1;
+  static constexpr double GreatestZoom = 8;
+
+  // Paper size in twips.
+  void SetPages(int count, double width, double height);
+  void SetViewport(QSizeF size);
+  void SetContinuous(bool continuous) { continuous_ = continuous; }
+  // The page that a single-page view shows.
+  void SetSinglePage(int page) { single_ = page; }
+  // The factor counts for ZoomMode::Factor only.
+  void SetZoom(ZoomMode mode, double factor);
+
+  int PageCount() const { return count_; }
+  bool Continuous() const { return continuous_; }
+  int SinglePage() const { return single_; }
+  ZoomMode Mode() const { return mode_; }
+  double Zoom() const { return zoom_; }
+  double PixelsPerTwip() const { return zoom_ / TwipsPerPixel; }
+  QSizeF PageSize() const { return {width_ * PixelsPerTwip(), height_ * PixelsPerTwip()}; }
+
+  QSizeF ContentSize() const;
+  // In content coordinates.
+  QRectF PageRect(int page) const;
+  // The page at height `y` of the content, the nearest one between pages; -1 without pages.
+  int PageAt(double y) const;
+  // Pages of which something shows between two heights of the content; first > last if none.
+  struct Range {
+    int First = 0;
+    int Last = -1;
+  };
+  Range PagesBetween(double top, double bottom) const;
+  // Height of the content at which `place` stands.
+  double YOf(const PagePlace& place) const;
+  // The place that stands at height `y` of the content.
+  PagePlace PlaceAt(double y) const;
+
+ private:
+  void Update();
+
+  int count_ = 0;
+  int single_ = 0;
+  double width_ = 1;
+  double height_ = 1;
+  QSizeF viewport_;
+  bool continuous_ = true;
+  ZoomMode mode_ = ZoomMode::FitWidth;
+  double factor_ = 1;
+  double zoom_ = 1;
+};
+
+}  // namespace tarvis

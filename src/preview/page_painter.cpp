@@ -1,0 +1,69 @@
+#include "preview/page_painter.h"
+
+#include <algorithm>
+
+namespace tarvis {
+namespace {
+
+constexpr float WeightUnit = 15;  // twips
+
+float LineWidth(const Item& item) { return static_cast<float>(item.Weight) * WeightUnit; }
+
+// Hands on runs of neighbours with the same `key`, so that the order stays.
+template <typename Key, typename Paint>
+void ByLook(const std::vector<const Item*>& items, Key key, Paint paint) {
+  std::vector<Rect> boxes;
+  for (std::size_t index = 0; index < items.size(); ++index) {
+    boxes.push_back(items[index]->Box);
+    if (index + 1 == items.size() || key(*items[index + 1]) != key(*items[index])) {
+      paint(boxes, key(*items[index]));
+      boxes.clear();
+    }
+  }
+}
+
+void PaintTick(const Item& item, Canvas& canvas) {
+  const Rect& box = item.Box;
+  canvas.Fill({box}, White);
+  canvas.Frame({box}, WeightUnit);
+  if (!item.Ticked) return;
+  const float side = std::min(box.Width, box.Height);
+  const float left = box.Left + (box.Width - side) / 2;
+  const float top = box.Top + (box.Height - side) / 2;
+  canvas.Strokes({{left + 0.2F * side, top + 0.5F * side, 0.22F * side, 0.27F * side},
+                  {left + 0.42F * side, top + 0.77F * side, 0.4F * side, -0.5F * side}},
+                 0.12F * side);
+}
+
+void PaintLayer(const Document& document, const PageLayer& layer, Canvas& canvas) {
+  ByLook(layer.Fills, [](const Item& item) { return item.Fill; },
+         [&](const std::vector<Rect>& boxes, Color color) { canvas.Fill(boxes, color); });
+  for (const Item* item : layer.Pictures) {
+    if (document.Pictures[item->Source]) canvas.Picture(*document.Pictures[item->Source], item->Box);
+  }
+  ByLook(layer.Borders, LineWidth,
+         [&](const std::vector<Rect>& boxes, float width) { canvas.Frame(boxes, width); });
+  ByLook(layer.Lines, LineWidth,
+         [&](const std::vector<Rect>& lines, float width) { canvas.Strokes(lines, width); });
+  for (const Item* item : layer.Ticks) PaintTick(*item, canvas);
+  for (const Item* item : layer.Texts) {
+    const TextPiece& piece = document.Texts[item->Source];
+    canvas.Text(piece, document.Styles[piece.Style], item->Box);
+  }
+}
+
+}  // namespace
+
+void PaintPage(const Document& document, std::size_t page, Canvas& canvas) {
+  for (const PageLayer& layer : PlanPage(document, page)) PaintLayer(document, layer, canvas);
+}
+
+TextFit FitText(const TextPiece& piece, const Rect& box) {
+  constexpr float Tolerance = 0.5F;  // twips, for rounding
+  constexpr float Narrowest = 0.5F;
+  if (piece.Advance <= 0 || box.Width + Tolerance >= piece.Advance) return {};
+  const float stretch = box.Width / piece.Advance;
+  return {std::max(stretch, Narrowest), stretch < Narrowest};
+}
+
+}  // namespace tarvis

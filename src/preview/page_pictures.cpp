@@ -1,0 +1,109 @@
+#include "preview/page_pictures.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+#include "preview/painter_canvas.h"
+
+namespace tarvis {
+namespace {
+
+QImage RenderStrip(const Document& document, const Strip& strip) {
+  const int pageHeight = PagePixelHeight(document, strip.Width);
+  const StripCut cut = CutIntoStrips(strip.Width, pageHeight);
+  const int top = strip.Index * cut.Height;
+  return RenderPage(document, strip.Page, strip.Width, top, std::min(cut.Height, pageHeight - top));
+}
+
+}  // namespace
+
+int PagePixelHeight(const Document& document, int pageWidth) {
+  return std::max(1, static_cast<int>(std::lround(static_cast<double>(document.Setup.Height) * pageWidth /
+                                                  static_cast<double>(document.Setup.Width))));
+}
+
+QImage RenderPage(const Document& document, int page, int pageWidth, int top, int height) {
+  QImage picture(std::max(1, pageWidth), std::max(1, height), QImage::Format_RGB32);
+  picture.fill(Qt::white);
+  QPainter painter(&picture);
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
+  const double scale = pageWidth / static_cast<double>(document.Setup.Width);
+  painter.translate(0, -top);
+  painter.scale(scale, scale);
+  PixelCanvas canvas(painter);
+  PaintPage(document, static_cast<std::size_t>(page), canvas);
+  return picture;
+}
+
+PagePictures::PagePictures(std::shared_ptr<const Document> document, QObject* parent)
+    : QObject(parent), document_(std::move(document)) {
+  worker_.setMaxThreadCount(1);
+}
+
+PagePictures::~PagePictures() { worker_.waitForDone(); }
+
+void PagePictures::Want(std::vector<Strip> strips) {
+  wanted_ = std::move(strips);
+  StartNext();
+}
+
+const QImage* PagePictures::Find(const Strip& strip) {
+  const auto found = entries_.find(strip);
+  if (found == entries_.end()) return nullptr;
+  found->second.LastUse = ++uses_;
+  return &found->second.Picture;
+}
+
+const QImage& PagePictures::Make(const Strip& strip) {
+  if (Find(strip) == nullptr) Keep(strip, RenderStrip(*document_, strip));
+  return entries_.at(strip).Picture;
+}
+
+std::vector<Strip> PagePictures::StandIns(int page, int pageWidth) const {
+  std::vector<int> widths;
+  const auto first = entries_.lower_bound(Strip{page, 0, 0});
+  const auto end = entries_.lower_bound(Strip{page + 1, 0, 0});
+  for (auto entry = first; entry != end; ++entry) widths.push_back(entry->first.Width);
+  const int best = StandIn(widths, pageWidth);
+  std::vector<Strip> strips;
+  for (auto entry = first; entry != end; ++entry) {
+    if (entry->first.Width == best) strips.push_back(entry->first);
+  }
+  return strips;
+}
+
+std::int64_t PagePictures::Bytes() const {
+  std::int64_t bytes = 0;
+  for (const auto& [strip, entry] : entries_) bytes += entry.Picture.sizeInBytes();
+  return bytes;
+}
+
+// One strip is rendered at a time, so that what is wanted last is never far back in a queue.
+void PagePictures::StartNext() {
+  if (busy_) return;
+  const auto next =
+      std::find_if(wanted_.begin(), wanted_.end(), [&](const Strip& strip) { return !entries_.contains(strip); });
+  if (next == wanted_.end()) return;
+  busy_ = true;
+  worker_.start([this, document = document_, strip = *next] {
+    QImage picture = RenderStrip(*document, strip);
+    QMetaObject::invokeMethod(this, [this, strip, picture = std::move(picture)] {
+      busy_ = false;
+      Keep(strip, picture);
+      emit PageReady(strip.Page);
+      StartNext();
+    }, Qt::QueuedConnection);
+  });
+}
+
+void PagePictures::Keep(const Strip& strip, QImage picture) {
+  entries_[strip] = {std::move(picture), ++uses_};
+  std::vector<CachedStrip> cached;
+  for (const auto& [key, entry] : entries_) cached.push_back({key, entry.Picture.sizeInBytes(), entry.LastUse});
+  std::vector<Strip> kept = wanted_;
+  kept.push_back(strip);
+  for (const Strip& old : Evict(std::move(cached), kept, Budget)) entries_.erase(old);
+}
+
+}  // namespace tarvis

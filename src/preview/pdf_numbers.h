@@ -1,0 +1,35 @@
+// Numbers and operators of PDF content, independent of any locale.
+#pragma once
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+
+namespace tarvis {
+
+// Appends `value` with up to two decimals and a blank behind it.
+inline void AppendNumber(std::string& out, double value) {
+  const long long hundredths = std::llround(value * 100);
+  std::array<char, 32> digits;
+  if (hundredths < 0) out += '-';
+  const long long size = std::llabs(hundredths);
+  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), size / 100).ptr;
+  out.append(digits.data(), end);
+  const int rest = static_cast<int>(size % 100);
+  if (rest != 0) {
+    out += '.';
+    out += static_cast<char>('0' + rest / 10);
+    if (rest % 10 != 0) out += static_cast<char>('0' + rest % 10);
+  }
+  out += ' ';
+}
+
+inline void AppendHex(std::string& out, std::uint16_t value) {
+  constexpr std::string_view Digits = "0123456789ABCDEF";
+  for (int shift = 12; shift >= 0; shift -= 4) out += Digits[(value >> shift) & 0xFU];
+}
+
+}  // namespace tarvis

@@ -1,0 +1,97 @@
+// The preview window's ways out: paper and PDF.
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPushButton>
+#include <QStandardPaths>
+
+#include "preview/background_job.h"
+#include "preview/page_view.h"
+#include "preview/pdf_export.h"
+#include "preview/preview_window.h"
+#include "preview/printing.h"
+
+namespace tarvis {
+namespace {
+
+// The title as a file name that every system takes.
+QString FileNameOf(const QString& title) {
+  QString name = title;
+  for (QChar& character : name) {
+    if (character.unicode() < 0x20 || QStringLiteral("\\/:*?\"<>|").contains(character)) character = QLatin1Char('_');
+  }
+  name = name.trimmed();
+  return (name.isEmpty() ? QStringLiteral("document") : name) + QStringLiteral(".pdf");
+}
+
+}  // namespace
+
+void PreviewWindow::SavePdf() {
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  const QString title = QString::fromStdString(document_->Title);
+  QFileDialog dialog(this, tr("Save as PDF"), folder, tr("PDF files (*.pdf)"));
+  dialog.setObjectName(QStringLiteral("savePdfDialog"));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(QStringLiteral("pdf"));
+  dialog.selectFile(FileNameOf(title));
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
+  const QString path = dialog.selectedFiles().front();
+  const PdfInfo info{title, author_, QDateTime::currentDateTime()};
+  StartJob(tr("Saving as PDF…"), tr("The PDF was not saved."),
+           [document = document_, path, info](const Progress& progress) {
+             return ExportPdf(*document, path, info, progress);
+           });
+}
+
+void PreviewWindow::Print() {
+  auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
+  const int count = view_->Layout().PageCount();
+  printer->setDocName(QString::fromStdString(document_->Title));
+  printer->setCreator(QStringLiteral("Tarvis"));
+  QPrintDialog dialog(printer.get(), this);
+  dialog.setObjectName(QStringLiteral("printDialog"));
+  dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
+                    QAbstractPrintDialog::PrintCollateCopies | QAbstractPrintDialog::PrintCurrentPage);
+  dialog.setMinMax(1, std::max(1, count));
+  if (dialog.exec() != QDialog::Accepted) return;
+  if (dialog.printRange() == QAbstractPrintDialog::CurrentPage) {
+    printer->setFromTo(view_->CurrentPage() + 1, view_->CurrentPage() + 1);
+  }
+  PrintScale scale = PrintScale::AsComposed;
+  if (MissingWidth(*document_, *printer) > 0 && !AskForScale(scale)) return;
+  StartJob(tr("Printing…"), tr("The document was not printed."),
+           [document = document_, printer, scale](const Progress& progress) {
+             return PrintDocument(*document, *printer, scale, progress);
+           });
+}
+
+// False if the user would rather not print.
+bool PreviewWindow::AskForScale(PrintScale& scale) {
+  QMessageBox box(QMessageBox::Question, windowTitle(),
+                  tr("The paper is too narrow for the pages: their right edge would be cut off."),
+                  QMessageBox::NoButton, this);
+  box.setObjectName(QStringLiteral("narrowPaper"));
+  const QAbstractButton* shrink = box.addButton(tr("&Scale to fit"), QMessageBox::AcceptRole);
+  box.addButton(tr("&Print as it is"), QMessageBox::DestructiveRole);
+  const QAbstractButton* cancel = box.addButton(QMessageBox::Cancel);
+  box.exec();
+  if (box.clickedButton() == shrink) scale = PrintScale::FitToPaper;
+  return box.clickedButton() != nullptr && box.clickedButton() != cancel;
+}
+
+void PreviewWindow::StartJob(const QString& caption, const QString& failure, BackgroundJob::Work work) {
+  if (job_) return;
+  job_ = std::make_unique<BackgroundJob>(caption, std::move(work), this);
+  connect(job_.get(), &BackgroundJob::Finished, this, [this, failure](const QString& error) {
+    job_.release()->deleteLater();
+    if (error.isEmpty()) return;
+    auto* box = new QMessageBox(QMessageBox::Warning, windowTitle(), failure, QMessageBox::Ok, this);
+    box->setObjectName(QStringLiteral("outputFailure"));
+    box->setInformativeText(error);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+  });
+}
+
+}  // namespace tarvis

@@ -1,0 +1,190 @@
+#include "preview/preview_window.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QScreen>
+#include <QSplitter>
+#include <QToolBar>
+#include <QToolButton>
+#include <algorithm>
+
+#include "preview/background_job.h"
+#include "preview/icons.h"
+#include "preview/page_view.h"
+#include "preview/side_pane.h"
+
+namespace tarvis {
+namespace {
+
+constexpr double OpeningLeft = 60;  // twips
+constexpr double OpeningTop = 345;
+constexpr double OpeningWidth = 16005;
+constexpr double OpeningHeight = 9675;
+
+int Pixels(double twips) { return static_cast<int>(twips / TwipsPerPixel); }
+
+QList<QKeySequence> KeysOf(const CommandEntry& entry) {
+  QList<QKeySequence> keys;
+  for (const QString& key : QString::fromUtf8(entry.Keys).split(QStringLiteral("; "), Qt::SkipEmptyParts)) {
+    keys.append(QKeySequence(key, QKeySequence::PortableText));
+  }
+  return keys;
+}
+
+QString ToolTipOf(const QAction& action) {
+  QString caption = action.text();
+  caption.remove(QLatin1Char('&')).remove(QChar(0x2026));
+  const QKeySequence key = action.shortcut();
+  return key.isEmpty() ? caption : QStringLiteral("%1 (%2)").arg(caption, key.toString(QKeySequence::NativeText));
+}
+
+}  // namespace
+
+PreviewWindow::PreviewWindow(std::shared_ptr<const Document> document, const PreviewSetup& setup, QWidget* parent)
+    : QMainWindow(parent),
+      document_(std::move(document)),
+      author_(setup.Author),
+      view_(new PageView(document_)),
+      pane_(new SidePane(document_)),
+      splitter_(new QSplitter(this)) {
+  setObjectName(QStringLiteral("previewWindow"));
+  setWindowTitle(setup.Caption);
+  splitter_->addWidget(pane_);
+  splitter_->addWidget(view_);
+  splitter_->setStretchFactor(1, 1);
+  splitter_->setCollapsible(1, false);
+  setCentralWidget(splitter_);
+  PlaceOnScreen();
+  splitter_->setSizes({Pixels(setup.ContentsWidth), width() - Pixels(setup.ContentsWidth)});
+  MakeActions();
+  MakeToolbar(setup.Tools);
+  pane_->setVisible(setup.ContentsVisible);
+  ActionOf(Command::SidePane)->setChecked(setup.ContentsVisible);
+  Connect();
+  ShowPlace();
+  ShowZoom();
+  view_->setFocus();
+}
+
+PreviewWindow::~PreviewWindow() = default;
+
+void PreviewWindow::PlaceOnScreen() {
+  const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+  const QSize size = QSize(Pixels(OpeningWidth), Pixels(OpeningHeight)).boundedTo(room.size());
+  const QPoint wanted = room.topLeft() + QPoint(Pixels(OpeningLeft), Pixels(OpeningTop));
+  resize(size);
+  move(std::min(wanted.x(), room.right() + 1 - size.width()), std::min(wanted.y(), room.bottom() + 1 - size.height()));
+}
+
+void PreviewWindow::MakeActions() {
+  for (const CommandEntry& entry : CommandTable()) {
+    auto* action = new QAction(tr(entry.Caption), this);
+    action->setObjectName(QString::fromUtf8(entry.Name));
+    action->setShortcuts(KeysOf(entry));
+    action->setToolTip(ToolTipOf(*action));
+    if (*entry.Icon != '\0') action->setIcon(OutlineIcon(entry.Icon));
+    action->setCheckable(entry.Checkable);
+    if (entry.Number != 0) action->setData(entry.Number);
+    connect(action, &QAction::triggered, this, [this, id = entry.Id](bool checked) { Run(id, checked); });
+    addAction(action);
+    actions_[entry.Id] = action;
+  }
+}
+
+void PreviewWindow::MakeToolbar(const std::vector<Tool>& tools) {
+  auto* bar = new QToolBar(tr("Tools"), this);
+  bar->setObjectName(QStringLiteral("toolbar"));
+  bar->setMovable(false);
+  bar->setIconSize(QSize(20, 20));
+  bar->setContextMenuPolicy(Qt::PreventContextMenu);
+  addToolBar(bar);
+  for (const CommandEntry& entry : CommandTable()) {
+    if (entry.Where != Shown::Toolbar) continue;
+    if (entry.StartsGroup) bar->addSeparator();
+    if (entry.Id == Command::Close) {
+      for (const Tool& tool : tools) {
+        QAction* action = bar->addAction(QString::fromStdString(tool.Caption));
+        action->setObjectName(QStringLiteral("tool%1").arg(tool.ID));
+        action->setData(tool.ID);
+        action->setToolTip(action->text());
+        connect(action, &QAction::triggered, this, [this, id = tool.ID] { emit toolUsed(id); });
+        addAction(action);
+        toolActions_.push_back(action);
+      }
+      bar->addSeparator();
+    }
+    bar->addAction(ActionOf(entry.Id));
+    if (entry.Id == Command::PreviousPage) bar->addWidget(MakePageBox());
+    if (entry.Id == Command::ZoomOut) bar->addWidget(MakeZoomBox());
+  }
+  for (QAction* action : bar->actions()) {
+    auto* button = qobject_cast<QToolButton*>(bar->widgetForAction(action));
+    if (button == nullptr) continue;
+    button->setObjectName(action->objectName() + QStringLiteral("Button"));
+    button->setAccessibleName(action->text().remove(QLatin1Char('&')));
+    button->setFocusPolicy(Qt::TabFocus);
+  }
+}
+
+void PreviewWindow::Connect() {
+  connect(view_, &PageView::PlaceChanged, this, &PreviewWindow::ShowPlace);
+  connect(view_, &PageView::ZoomChanged, this, &PreviewWindow::ShowZoom);
+  connect(pane_, &SidePane::PlaceChosen, this, &PreviewWindow::Jump);
+}
+
+void PreviewWindow::Run(Command command, bool checked) {
+  switch (command) {
+    case Command::Print: return Print();
+    case Command::SavePdf: return SavePdf();
+    case Command::SidePane: return pane_->setVisible(checked);
+    case Command::FirstPage: return Jump({0, 0});
+    case Command::PreviousPage: return view_->ScrollPages(-1);
+    case Command::NextPage: return view_->ScrollPages(1);
+    case Command::LastPage: return Jump({view_->Layout().PageCount() - 1, 0});
+    case Command::GoToPage: return FocusPageBox();
+    case Command::Back: return Walk(history_.Back(view_->CurrentPlace()));
+    case Command::Forward: return Walk(history_.Forward(view_->CurrentPlace()));
+    case Command::ZoomIn: return view_->ZoomStep(1);
+    case Command::ZoomOut: return view_->ZoomStep(-1);
+    case Command::FitPage: return view_->SetZoomMode(ZoomMode::FitPage);
+    case Command::ActualSize: return view_->SetZoom(1);
+    case Command::FitWidth: return view_->SetZoomMode(ZoomMode::FitWidth);
+    case Command::Continuous: return view_->SetContinuous(checked);
+    case Command::Close: emit toolUsed(CloseTool); return;
+    default: return;
+  }
+}
+
+void PreviewWindow::Jump(const PagePlace& place) {
+  history_.Leave(view_->CurrentPlace());
+  view_->GoTo(place);
+}
+
+void PreviewWindow::Walk(const std::optional<PagePlace>& place) {
+  if (place) view_->GoTo(*place);
+  ShowPlace();
+}
+
+void PreviewWindow::closeEvent(QCloseEvent* event) {
+  job_.reset();
+  event->accept();
+  if (event->spontaneous()) emit closedByUser();
+}
+
+void PreviewWindow::contextMenuEvent(QContextMenuEvent* event) {
+  QMenu menu(this);
+  menu.setObjectName(QStringLiteral("contextMenu"));
+  for (const CommandEntry& entry : CommandTable()) {
+    if (entry.StartsGroup) menu.addSeparator();
+    if (entry.Id == Command::Close) {
+      for (QAction* action : toolActions_) menu.addAction(action);
+    }
+    menu.addAction(ActionOf(entry.Id));
+  }
+  menu.exec(event->globalPos());
+}
+
+}  // namespace tarvis

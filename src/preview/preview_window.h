@@ -1,0 +1,93 @@
+// The window in which a composed document is read, searched, printed and saved.
+#pragma once
+
+#include <QMainWindow>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "preview/background_job.h"
+#include "preview/commands.h"
+#include "preview/page_layout.h"
+#include "preview/place_history.h"
+#include "preview/printing.h"
+#include "report/engine/active_report.h"
+#include "report/engine/document.h"
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QSplitter;
+
+namespace tarvis {
+
+class PageView;
+class SidePane;
+
+// How the report that is shown wants its window.
+struct PreviewSetup {
+  QString Caption = QStringLiteral("Print Preview");
+  std::vector<Tool> Tools;  // added tools, shown with their text
+  bool ContentsVisible = true;
+  double ContentsWidth = 2300;  // twips
+  QString Author;               // of a PDF
+};
+
+class PreviewWindow : public QMainWindow {
+  Q_OBJECT
+ public:
+  explicit PreviewWindow(std::shared_ptr<const Document> document, const PreviewSetup& setup = {},
+                         QWidget* parent = nullptr);
+  // Cancels a print or an export that is under way and waits for it.
+  ~PreviewWindow() override;
+
+  PageView& View() { return *view_; }
+  QAction* ActionOf(Command command) const { return actions_.at(command); }
+
+ signals:
+  // A tool that is none of the window's own business: an added tool, or CloseTool.
+  void toolUsed(int id);
+  // The user has closed the window; closing it from code tells nothing.
+  void closedByUser();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+
+ private:
+  void PlaceOnScreen();
+  void MakeActions();
+  void MakeToolbar(const std::vector<Tool>& tools);
+  QWidget* MakePageBox();
+  QWidget* MakeZoomBox();
+  void Connect();
+  void Run(Command command, bool checked);
+
+  void Jump(const PagePlace& place);
+  void ShowPlace();
+  void ShowZoom();
+  void Walk(const std::optional<PagePlace>& place);
+  void FocusPageBox();
+  void ReadPageBox();
+  void ReadZoomBox();
+
+  void Print();
+  void SavePdf();
+  bool AskForScale(PrintScale& scale);
+  // `failure` is told with the error text if `work` fails.
+  void StartJob(const QString& caption, const QString& failure, BackgroundJob::Work work);
+
+  std::shared_ptr<const Document> document_;
+  QString author_;
+  PageView* view_;
+  SidePane* pane_;
+  QSplitter* splitter_;
+  QLineEdit* pageBox_ = nullptr;
+  QComboBox* zoomBox_ = nullptr;
+  std::map<Command, QAction*> actions_;
+  std::vector<QAction*> toolActions_;
+  PlaceHistory history_;
+  std::unique_ptr<BackgroundJob> job_;
+};
+
+}  // namespace tarvis

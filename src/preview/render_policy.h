@@ -1,0 +1,49 @@
+// Which parts of pages are rendered when, which pictures are kept, and which stand in meanwhile: pure functions.
+#pragma once
+
+#include <compare>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace tarvis {
+
+// A strip of a page at a scale. Pages are cut into strips of full width once a whole page would be a large picture.
+struct Strip {
+  int Page = 0;
+  int Index = 0;
+  int Width = 0;   // of the whole page in device pixels: stands for the scale
+  auto operator<=>(const Strip&) const = default;
+};
+
+// How a page `width` by `height` device pixels large is cut.
+struct StripCut {
+  int Height = 1;  // of each strip but the last
+  int Count = 1;
+};
+StripCut CutIntoStrips(int width, int height);
+
+// Strips of pages `first` to `last` that show, told as heights in device pixels from the page's top.
+struct ShownPart {
+  int Page = 0;
+  int Top = 0;
+  int Bottom = 0;
+};
+
+// What is worth rendering, most urgent first: what shows, then one page each way: what comes next when scrolling on
+// before what was left behind.
+std::vector<Strip> WantedStrips(std::span<const ShownPart> shown, int width, int height, int pageCount);
+
+struct CachedStrip {
+  Strip Key;
+  std::int64_t Bytes = 0;
+  std::int64_t LastUse = 0;  // grows with each use
+};
+
+// Which strips must go so that the rest stays within `budget` bytes: the longest unused first, never one of `wanted`.
+std::vector<Strip> Evict(std::vector<CachedStrip> cached, std::span<const Strip> wanted, std::int64_t budget);
+
+// The page width among `widths` that best stands in for `wanted`: the nearest larger one, else the largest; 0 if none.
+int StandIn(std::span<const int> widths, int wanted);
+
+}  // namespace tarvis

@@ -1,0 +1,50 @@
+// The one place that picks the font of the reports: Arial, else its metric twin; other scripts by fallback.
+// Metrics are the fonts' design metrics: unhinted, without kerning, the same for every screen and printer.
+#pragma once
+
+#include <QRawFont>
+#include <array>
+#include <cstdint>
+#include <map>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace tarvis {
+
+// How one character prints.
+struct FontGlyph {
+  std::uint32_t Glyph = 0;
+  std::uint16_t Face = 0;  // see ReportFont::Face
+  bool Inks = true;        // false for control characters: no glyph is painted
+  float AdvanceEm = 0;
+};
+
+// Fonts belong to the thread that made them, so each thread has a ReportFont of its own.
+class ReportFont {
+ public:
+  static ReportFont& OfThisThread();
+
+  ReportFont();
+
+  // Found once for each character and weight.
+  const FontGlyph& Find(char32_t character, bool bold);
+  // Face 0 is the regular weight, 1 the bold one; further faces are fallback fonts.
+  const QRawFont& Face(std::uint16_t face) const { return faces_[face]; }
+  // The same at `pixels` to the em.
+  const QRawFont& FaceAt(std::uint16_t face, double pixels);
+  std::size_t FaceCount() const { return faces_.size(); }
+
+ private:
+  FontGlyph Look(char32_t character, bool bold);
+  bool LookInFallback(char32_t character, bool bold, FontGlyph& found);
+  float DesignAdvance(std::uint16_t face, std::uint32_t glyph) const;
+  std::uint16_t FaceIndex(const QRawFont& font);
+
+  std::vector<QRawFont> faces_;  // at one pixel to the design unit
+  std::array<std::array<FontGlyph, 128>, 2> ascii_;
+  std::array<std::unordered_map<char32_t, FontGlyph>, 2> others_;
+  std::map<std::pair<std::uint16_t, double>, QRawFont> sized_;
+};
+
+}  // namespace tarvis

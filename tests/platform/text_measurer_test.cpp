@@ -1,0 +1,17 @@
+#include "platform/text_measurer.h"
+
+#include <gtest/gtest.h>
+
+namespace tarvis {
+namespace {
+
+TEST(QtTextMeasurer, advances_are_arials_in_both_weights) {
+  const QtTextMeasurer measurer;
+  EXPECT_FLOAT_EQ(measurer.AdvanceEm(U'0', false), 1139.0F / 2048);
+  EXPECT_FLOAT_EQ(measurer.AdvanceEm(U'W', true), 1933.0F / 2048);
+  EXPECT_FLOAT_EQ(measurer.AdvanceEm(U'漢', false), 1);
+  EXPECT_FLOAT_EQ(measurer.AdvanceEm(char32_t{0x301}, false), 0);
+}
+
+}  // namespace
+}  // namespace tarvis
