@@ -1,0 +1,93 @@
+"""A virtual display with a window manager, and a user at it: waits for windows, presses keys, takes screenshots."""
+import os
+import subprocess
+import threading
+import time
+
+
+class Timeout(AssertionError):
+    """Something that was waited for did not come."""
+
+
+def wait_until(reached, what, seconds=20):
+    """Asks again and again until `reached` gives something true, and returns that."""
+    end = time.monotonic() + seconds
+    pause = threading.Event()
+    while True:
+        answer = reached()
+        if answer:
+            return answer
+        if time.monotonic() > end:
+            raise Timeout(f"waited {seconds} s for {what}")
+        pause.wait(0.02)
+
+
+class VirtualDisplay:
+    """An X server of its own, until `close`."""
+
+    def __init__(self, size="1280x1000"):
+        read_end, write_end = os.pipe()
+        self._server = subprocess.Popen(["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{size}x24", "-nolisten", "tcp"],
+                                        pass_fds=[write_end], stderr=subprocess.DEVNULL)
+        os.close(write_end)
+        with os.fdopen(read_end) as told:
+            self.name = ":" + told.readline().strip()
+        self.environment = {"DISPLAY": self.name}
+        self._manager = subprocess.Popen(["openbox"], env={**os.environ, **self.environment}, stderr=subprocess.DEVNULL)
+        wait_until(self._managed, "the window manager")
+
+    def _managed(self):
+        told = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], env={**os.environ, **self.environment},
+                              capture_output=True, text=True, check=False)
+        return "window id" in told.stdout
+
+    def close(self):
+        for process in (self._manager, self._server):
+            process.terminate()
+            process.wait()
+
+
+class User:
+    """Sits at a display. Every key goes to the window that has the focus, as from a real keyboard."""
+
+    def __init__(self, environment):
+        self._environment = {**os.environ, **environment}
+
+    def _run(self, *command, check=True):
+        return subprocess.run(command, env=self._environment, capture_output=True, text=True, check=check).stdout.strip()
+
+    def windows(self, title):
+        """Visible windows of exactly this title."""
+        return self._run("xdotool", "search", "--onlyvisible", "--name", f"^{title}$", check=False).split()
+
+    def titles(self):
+        """Of all windows that are shown, for messages."""
+        found = self._run("xdotool", "search", "--onlyvisible", "--name", ".+", check=False).split()
+        return sorted({self._run("xdotool", "getwindowname", window, check=False) for window in found})
+
+    def wait_for_window(self, title, seconds=20):
+        """Until a window of this title has the focus; returns its number."""
+        try:
+            return wait_until(lambda: self._focused(title), f"the window '{title}'", seconds)
+        except Timeout as timeout:
+            raise Timeout(f"{timeout}; shown are {self.titles()}") from None
+
+    def _focused(self, title):
+        window = self._run("xdotool", "getactivewindow", check=False)
+        return window if window and self._run("xdotool", "getwindowname", window, check=False) == title else None
+
+    def wait_until_gone(self, title, seconds=20):
+        wait_until(lambda: not self.windows(title), f"the window '{title}' to go", seconds)
+
+    def press(self, *keys):
+        self._run("xdotool", "key", "--clearmodifiers", "--delay", "15", *keys)
+
+    def write(self, text):
+        self._run("xdotool", "type", "--clearmodifiers", "--delay", "8", text)
+
+    def click(self, window, x, y):
+        """Clicks at pixels from the window's top left corner."""
+        self._run("xdotool", "mousemove", "--window", window, str(x), str(y), "click", "1")
+
+    def screenshot(self, path, window="root"):
+        self._run("import", "-window", window, str(path))

@@ -1,0 +1,101 @@
+"""Plays the host: writes configuration, help and data files below one folder, and starts the program."""
+import argparse
+import os
+import subprocess
+from dataclasses import dataclass
+from pathlib import Path
+
+import modes
+from bitmap import Bitmap
+from options_file import write_options_with_cover
+
+HELP_CONTEXT = 1200
+
+
+@dataclass(frozen=True)
+class Edition:
+    number: int
+    key: str
+    base_value: str
+    version_value: str
+    help_value: str
+
+
+EDITIONS = {number: Edition(number, rf"SOFTWARE\Korvane\Tessaline\Brenmark\{name}\Setup", base, name, name + "HelpPath")
+            for number, name, base in ((1, "Quillon", "SystemPath"), (2, "Rotavon", "SystemPath"), (4, "Quillex", "SavePath"))}
+
+# For each mode an edition that accepts it, and what writes its data files.
+MODES = {
+    "User": (1, modes.write_user),
+    "UPWizard": (1, modes.write_wizard),
+    "Trace": (1, modes.write_trace),
+    "RealTrace": (1, modes.write_real_trace),
+    "Mecha": (1, modes.write_mecha),
+    "IdxTbl": (2, modes.write_program_table),
+    "ZoneTbl": (2, modes.write_zone_table),
+    "JogTbl": (2, modes.write_jog_table),
+    "PrnSetting": (1, lambda folder: None),
+}
+
+
+class Host:
+    """Everything lies below `folder`, which is made anew as far as it is missing."""
+
+    def __init__(self, folder):
+        self.folder = Path(folder)
+        self.system_folder = self.folder / "base" / "bin"
+        self.temp_folder = self.system_folder / "dat" / "tmp"
+        self.help_file = self.folder / "help" / "host.html"
+        self.options_file = self.system_folder / "PrintOption.ToT"
+        self.configuration = self.folder / "tarvis.ini"
+
+    def prepare(self, version="200", pdf_printer=True):
+        """Lays the folders, the configuration of all editions and the help file."""
+        self.temp_folder.mkdir(parents=True, exist_ok=True)
+        self.help_file.parent.mkdir(parents=True, exist_ok=True)
+        self.help_file.write_text(f'<h1 id="{HELP_CONTEXT}">Printing</h1><p>Choose what is printed, then press OK.</p>\n')
+        lines = []
+        for edition in EDITIONS.values():
+            lines += [f"[{edition.key}]", f"{edition.base_value}={self.folder / 'base'}",
+                      f"{edition.version_value}={version}", f"{edition.help_value}={self.help_file.parent}", ""]
+        lines += ["[Tarvis]", "CodePage=1252", f"PdfPrinter={'yes' if pdf_printer else 'no'}", ""]
+        self.configuration.write_text("\n".join(lines), encoding="utf-8")
+
+    def write_data(self, mode):
+        MODES[mode][1](self.temp_folder)
+
+    def write_cover(self, coloured=True):
+        logo = self.folder / "logo.bmp"
+        picture = Bitmap(240, 80)
+        picture.box(0, 0, 240, 80, rgb=0x003060, inside=0x0058A8)
+        for k in range(5):
+            picture.fill(20 + 44 * k, 20 + 6 * k, 48 + 44 * k, 60, 0xFFFFFF)
+        picture.save(logo)
+        write_options_with_cover(self.options_file, logo, coloured)
+
+    def arguments(self, mode, edition=None):
+        return [mode, self.help_file.name, str(HELP_CONTEXT), str(edition or MODES[mode][0])]
+
+    def start(self, program, mode, edition=None, environment=None, **popen):
+        """Starts the program with the four arguments, as a child process."""
+        told = {**os.environ, **(environment or {}), "TARVIS_CONFIG": str(self.configuration)}
+        return subprocess.Popen([str(program), *self.arguments(mode, edition)], env=told, **popen)
+
+
+def main():
+    parser = argparse.ArgumentParser(description="Plays the host of the print module.")
+    parser.add_argument("mode", nargs="?", default="User", choices=sorted(MODES))
+    parser.add_argument("--cover", action="store_true", help="with a cover letter")
+    parser.add_argument("--folder", required=True, type=Path)
+    parser.add_argument("--program", required=True, type=Path)
+    told = parser.parse_args()
+    host = Host(told.folder)
+    host.prepare()
+    host.write_data(told.mode)
+    if told.cover:
+        host.write_cover()
+    return host.start(told.program, told.mode).wait()
+
+
+if __name__ == "__main__":
+    raise SystemExit(main())

@@ -1,0 +1,115 @@
+"""A print server of its own on the loopback address, with one queue that ends in PDF files."""
+import os
+import pwd
+import socket
+import subprocess
+import tempfile
+import time
+from pathlib import Path
+
+from desktop import wait_until
+
+QUEUE = "DemoPDF"
+PPD = "/usr/share/ppd/cups-pdf/CUPS-PDF_noopt.ppd"
+ANONYMOUS = Path("/var/spool/cups-pdf/ANONYMOUS")  # where the PDF back end leaves what unknown users print
+UNKNOWN_USER = "demo-printer-user"
+
+FILES_CONF = """\
+ServerRoot {folder}/etc
+RequestRoot {folder}/spool
+CacheDir {folder}/cache
+StateDir {folder}/run
+TempDir {folder}/spool/tmp
+ServerBin /usr/lib/cups
+DataDir /usr/share/cups
+AccessLog {folder}/access_log
+ErrorLog {folder}/error_log
+PageLog {folder}/page_log
+SystemGroup {group}
+"""
+SERVER_CONF = """\
+Listen 127.0.0.1:{port}
+Browsing Off
+DefaultAuthType None
+WebInterface No
+LogLevel info
+PreserveJobHistory Yes
+PreserveJobFiles Yes
+<Location />
+  Order allow,deny
+  Allow 127.0.0.1
+</Location>
+<Location /admin>
+  Order allow,deny
+  Allow 127.0.0.1
+</Location>
+<Policy default>
+  <Limit All>
+    Order deny,allow
+  </Limit>
+</Policy>
+"""
+
+
+def _free_port():
+    with socket.socket() as probe:
+        probe.bind(("127.0.0.1", 0))
+        return probe.getsockname()[1]
+
+
+class PrintQueue:
+    """The PDF back end works for the system's own user only, so elsewhere the server is started through sudo."""
+
+    def __init__(self):
+        self._as_root = [] if os.getuid() == 0 else ["sudo", "-n"]
+        self.folder = Path(tempfile.mkdtemp(prefix="print-queue-"))
+        self.folder.chmod(0o755)
+        for name in ("etc", "spool/tmp", "cache", "run"):
+            (self.folder / name).mkdir(parents=True)
+        port = _free_port()
+        (self.folder / "cupsd.conf").write_text(SERVER_CONF.format(port=port))
+        (self.folder / "cups-files.conf").write_text(FILES_CONF.format(folder=self.folder, group="root"))
+        self.environment = {"CUPS_SERVER": f"127.0.0.1:{port}", "CUPS_USER": UNKNOWN_USER}
+        self._server = subprocess.Popen([*self._as_root, "/usr/sbin/cupsd", "-f", "-c", self.folder / "cupsd.conf",
+                                         "-s", self.folder / "cups-files.conf"], stderr=subprocess.DEVNULL)
+        wait_until(self._answers, "the print server")
+        self._run("lpadmin", "-p", QUEUE, "-E", "-v", "cups-pdf:/", "-P", PPD)
+        self._run("lpadmin", "-d", QUEUE)
+        self._started = time.time()
+
+    def _run(self, *command):
+        told = {**os.environ, "CUPS_SERVER": self.environment["CUPS_SERVER"],
+                "CUPS_USER": pwd.getpwuid(0).pw_name}
+        return subprocess.run(command, env=told, capture_output=True, text=True, check=True).stdout
+
+    def _answers(self):
+        try:
+            return "is running" in self._run("lpstat", "-r")
+        except subprocess.CalledProcessError:
+            return False
+
+    def jobs_done(self):
+        """Numbers of the finished jobs, oldest first."""
+        lines = self._run("lpstat", "-W", "completed", "-o", QUEUE).splitlines()
+        return sorted(int(line.split()[0].rsplit("-", 1)[1]) for line in lines)
+
+    def wait_for_job(self, count=1, seconds=60):
+        return wait_until(lambda: self.jobs_done()[count - 1:count], f"print job {count}", seconds)[0]
+
+    def received(self, job, target):
+        """Copies the document as the program handed it over to `target`."""
+        source = self.folder / "spool" / f"d{job:05d}-001"
+        subprocess.run([*self._as_root, "cp", source, target], check=True)
+        subprocess.run([*self._as_root, "chmod", "a+r", target], check=True)
+
+    def printed(self, target):
+        """Moves the newest file that the PDF back end made since the server started to `target`."""
+        def newest():
+            files = [f for f in ANONYMOUS.glob("*.pdf") if f.stat().st_mtime >= self._started - 1]
+            return max(files, key=lambda f: f.stat().st_mtime, default=None)
+        subprocess.run([*self._as_root, "mv", wait_until(newest, "the printed file"), target], check=True)
+
+    def close(self):
+        subprocess.run([*self._as_root, "kill", str(self._server.pid)], check=False)
+        self._server.wait()
+        subprocess.run([*self._as_root, "rm", "-rf", str(self.folder)], check=False)
