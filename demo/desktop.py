@@ -65,19 +65,10 @@ class User:
         found = self._run("xdotool", "search", "--onlyvisible", "--name", ".+", check=False).split()
         return sorted({self._run("xdotool", "getwindowname", window, check=False) for window in found})
 
-    def wait_for_window(self, title, seconds=20):
-        """Until a window of this title has the focus; returns its number."""
-        try:
-            return wait_until(lambda: self._focused(title), f"the window '{title}'", seconds)
-        except Timeout as timeout:
-            raise Timeout(f"{timeout}; shown are {self.titles()}") from None
-
-    def _focused(self, title):
+    def focused(self, title):
+        """The window that has the focus, if its title is exactly this one."""
         window = self._run("xdotool", "getactivewindow", check=False)
         return window if window and self._run("xdotool", "getwindowname", window, check=False) == title else None
-
-    def wait_until_gone(self, title, seconds=20):
-        wait_until(lambda: not self.windows(title), f"the window '{title}' to go", seconds)
 
     def press(self, *keys):
         self._run("xdotool", "key", "--clearmodifiers", "--delay", "15", *keys)

@@ -1,0 +1,81 @@
+"""Shows the program with the demo host's data: to a user at a display, or by itself on a virtual one."""
+import argparse
+import os
+import shutil
+import sys
+from pathlib import Path
+
+from desktop import User, VirtualDisplay, wait_until
+from host import MODES, Host
+from print_queue import PrintQueue
+from session import DIALOG, Session
+
+ROOT = Path(__file__).resolve().parent.parent
+
+
+def prepared_host(told):
+    folder = told.output / told.mode
+    shutil.rmtree(folder, ignore_errors=True)
+    host = Host(folder / "host")
+    host.prepare()
+    host.write_data(told.mode)
+    if told.cover:
+        host.write_cover()
+    return host
+
+
+def take_stable(user, path):
+    """Takes a screenshot once the screen no longer changes."""
+    def unchanged():
+        before = path.read_bytes() if path.exists() else b""
+        user.screenshot(path)
+        return path.read_bytes() == before
+    wait_until(unchanged, "a screen at rest")
+
+
+def show_by_itself(told, host):
+    """Drives dialog, preview, PDF and printer by keys; returns the files that tell of it."""
+    folder = told.output / told.mode
+    made = [folder / name for name in ("1-dialog.png", "2-preview.png", f"{told.mode}.pdf", "printed.pdf")]
+    display, queue = VirtualDisplay(), PrintQueue()
+    try:
+        user = User(display.environment)
+        process = host.start(told.program, told.mode, environment={**display.environment, **queue.environment})
+        session = Session(user, process)
+        session.wait_for(DIALOG)
+        take_stable(user, made[0])
+        if told.mode == "PrnSetting":
+            user.press("Return")
+            process.wait(timeout=30)
+            return made[:1] + [host.options_file]
+        session.confirm_dialog()
+        take_stable(user, made[1])
+        session.save_pdf(made[2])
+        session.print_all(queue)
+        queue.printed(made[3])
+        session.close_preview()
+        return made
+    finally:
+        queue.close()
+        display.close()
+
+
+def main():
+    parser = argparse.ArgumentParser(prog="demo.sh", description="Plays the host and starts the print module.")
+    parser.add_argument("mode", nargs="?", default="User", choices=sorted(MODES))
+    parser.add_argument("--cover", action="store_true", help="with a cover letter, in colour")
+    parser.add_argument("--headless", action="store_true", help="on a virtual display, even if there is a real one")
+    parser.add_argument("--program", type=Path, default=ROOT / "build/release/src/tarvis", help=argparse.SUPPRESS)
+    parser.add_argument("--output", type=Path, default=ROOT / "build/demo", help=argparse.SUPPRESS)
+    told = parser.parse_args()
+    host = prepared_host(told)
+    has_display = os.environ.get("DISPLAY") or os.environ.get("WAYLAND_DISPLAY")
+    if has_display and not told.headless:
+        return host.start(told.program, told.mode).wait()
+    made = show_by_itself(told, host)
+    print("The program ran on a virtual display. See", *made, sep="\n  ")
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,54 @@
+"""One run of the program with a user at it: dialog, preview, PDF, printer, way out."""
+from desktop import Timeout, wait_until
+
+DIALOG = "Printing Item Setting"
+PREVIEW = "Print Preview"
+
+
+class Session:
+    """`process` is the program just started at the display where `user` sits."""
+
+    def __init__(self, user, process):
+        self.user = user
+        self.process = process
+
+    def wait_for(self, title, seconds=30):
+        """Until the window has the focus. A program that ends instead is told with its exit status."""
+        try:
+            return wait_until(lambda: self.ended() or self.user.focused(title), f"the window '{title}'", seconds)
+        except Timeout as timeout:
+            raise Timeout(f"{timeout}; shown are {self.user.titles()}") from None
+
+    def ended(self):
+        if self.process.poll() is not None:
+            raise Timeout(f"the program has ended with status {self.process.returncode}")
+
+    def confirm_dialog(self):
+        self.wait_for(DIALOG)
+        self.user.press("Return")
+        return self.wait_for(PREVIEW)
+
+    def save_pdf(self, path):
+        """Saves as PDF by the keyboard."""
+        path.unlink(missing_ok=True)
+        self.user.press("ctrl+s")
+        self.wait_for("Save as PDF")
+        self.user.press("ctrl+a")
+        self.user.write(str(path))
+        self.user.press("Return")
+        wait_until(lambda: path.exists() and path.read_bytes().rstrip().endswith(b"%%EOF"), f"{path}")
+        self.wait_for(PREVIEW)
+
+    def print_all(self, queue, count=1):
+        """Prints with the system's dialog as it comes up; returns the number of the print job."""
+        self.user.press("ctrl+p")
+        self.wait_for("Print")
+        self.user.press("Return")
+        job = queue.wait_for_job(count)
+        self.wait_for(PREVIEW)
+        return job
+
+    def close_preview(self):
+        """Closes the window as its own menu does; returns the exit status."""
+        self.user.press("alt+F4")
+        return self.process.wait(timeout=30)
