@@ -1,4 +1,4 @@
-// Where finished bands stand: events, rows, page breaks, kept groups, repeated headers, sub-reports.
+// In which order bands come and what stays together: events, rows, kept groups, repeated headers, unloading.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -10,11 +10,6 @@ namespace {
 using testing::ElementsAre;
 
 constexpr CellStyle Plain{.Size = 8.5F};
-
-// A box of the section's whole height, so that each band leaves one item named after its control.
-void AddBlock(Section& section, const char* name, float height) {
-  section.AddShape(name, {0, 0, 1000, height});
-}
 
 TEST(EngineFlow, RunsEventsInTheOrderOfTheContract) {
   SampleReport report;
@@ -263,139 +258,6 @@ TEST(EngineFlow, UnloadedReportStillGetsItsEndEvent) {
   report.Growing(SectionKind::Detail, "d");
   ComposeSample(report, 1000);
   EXPECT_EQ(report.Log.back(), "end");
-}
-
-TEST(EngineFlow, FlowsAnInnerReportOverPagesAndEndsTheRowAtItsOwnHeight) {
-  SampleReport outer;
-  Section& detail = outer.Fixed(SectionKind::Detail, "d", 300);
-  SubReport& region = detail.AddSubReport("region", {0, 0, 1000, 2693});
-  outer.Rows(3, [&](int pass) {
-    auto inner = std::make_shared<SampleReport>();
-    AddBlock(inner->Growing(SectionKind::Detail, "d"), pass == 0 ? "long" : "short", 100);
-    inner->Rows(pass == 0 ? 4 : 1);
-    region.object = pass == 1 ? nullptr : inner;
-  });
-  // The long row is higher than the own height of 300; the empty row takes 300.
-  EXPECT_THAT(Places(ComposeSample(outer, 1000)),
-              ElementsAre("1:long@0", "1:long@100", "1:long@200", "1:long@300", "1:short@700"));
-}
-
-TEST(EngineFlow, MeasuresTheLastPieceOfARowOnItsPageOnly) {
-  SampleReport outer;
-  Section& detail = outer.Fixed(SectionKind::Detail, "d", 300);
-  SubReport& region = detail.AddSubReport("region", {0, 0, 1000, 10});
-  outer.Rows(2, [&](int) {
-    auto inner = std::make_shared<SampleReport>();
-    AddBlock(inner->Growing(SectionKind::Detail, "d"), "row", 200);
-    inner->Rows(3);
-    region.object = inner;
-  });
-  // One row of 200 stands on page 2; the own height of 300 ends below it.
-  EXPECT_THAT(Places(ComposeSample(outer, 500)),
-              ElementsAre("1:row@0", "1:row@200", "2:row@0", "2:row@300", "3:row@0", "3:row@200"));
-}
-
-TEST(EngineFlow, StartsEachRowThatPrintsSomethingOnANewPage) {
-  SampleReport outer;
-  Section& detail = outer.Fixed(SectionKind::Detail, "d", 300);
-  detail.NewPageBefore = true;
-  SubReport& region = detail.AddSubReport("region", {0, 0, 1000, 10});
-  outer.Rows(3, [&](int pass) {
-    auto inner = std::make_shared<SampleReport>();
-    AddBlock(inner->Growing(SectionKind::Detail, "d"), "row", 100);
-    region.object = pass == 1 ? nullptr : inner;
-  });
-  EXPECT_THAT(Places(ComposeSample(outer, 1000)), ElementsAre("1:row@0", "2:row@0"));
-}
-
-TEST(EngineFlow, AnEmptyFirstRowOpensNoPage) {
-  SampleReport outer;
-  Section& detail = outer.Fixed(SectionKind::Detail, "d", 300);
-  detail.NewPageBefore = true;
-  SubReport& region = detail.AddSubReport("region", {0, 0, 1000, 10});
-  outer.Rows(2, [&](int pass) {
-    auto inner = std::make_shared<SampleReport>();
-    AddBlock(inner->Growing(SectionKind::Detail, "d"), "row", 100);
-    region.object = pass == 0 ? nullptr : inner;
-  });
-  EXPECT_THAT(Places(ComposeSample(outer, 1000)), ElementsAre("1:row@0"));
-}
-
-TEST(EngineFlow, NestsThreeDeepOverFourPages) {
-  SampleReport master;
-  SubReport& module = master.Fixed(SectionKind::Detail, "d", 100).AddSubReport("module", {0, 0, 1000, 10});
-  Field& number =
-      master.Fixed(SectionKind::PageFooter, "foot", 100).AddField("number", {0, 0, 500, 100}, Plain);
-  number.Summary = Summary::PageNumber;
-  master.Rows(1, [&](int) {
-    auto header = std::make_shared<SampleReport>();
-    AddBlock(header->Fixed(SectionKind::GroupHeader, "h", 100), "header", 100);
-    SubReport& region = header->Fixed(SectionKind::Detail, "d", 100).AddSubReport("region", {0, 0, 1000, 10});
-    header->Rows(2, [&region](int pass) {
-      auto function = std::make_shared<SampleReport>();
-      Section& guide = function->Growing(SectionKind::GroupHeader, "g");
-      AddBlock(guide, "guide", 100);
-      guide.Repeat = true;
-      AddBlock(function->Growing(SectionKind::Detail, "d"), pass == 0 ? "first" : "second", 300);
-      function->Rows(pass == 0 ? 3 : 4);
-      region.object = function;
-    });
-    module.object = header;
-  });
-  EXPECT_THAT(Places(ComposeSample(master, 900)),
-              ElementsAre("1:header@0", "1:guide@100", "1:first@200", "1:first@500", "1:1@710", "2:guide@0",
-                          "2:first@100", "2:guide@400", "2:second@500", "2:2@710", "3:guide@0",
-                          "3:second@100", "3:second@400", "3:3@710", "4:guide@0", "4:second@100", "4:4@710"));
-}
-
-TEST(EngineFlow, FormatsThePageFooterWhenThePageIsClosedAndPatchesTheTotal) {
-  SampleReport report;
-  Section& footer = report.Fixed(SectionKind::PageFooter, "foot", 100);
-  Field& number = footer.AddField("number", {0, 0, 500, 190}, Plain);
-  Field& total = footer.AddField("total", {500, 0, 500, 190}, Plain);
-  number.Summary = Summary::PageNumber;
-  total.Summary = Summary::PageCount;
-  AddBlock(report.Growing(SectionKind::Detail, "d"), "row", 400);
-  report.Rows(12);
-  const Document document = ComposeSample(report, 500);
-  ASSERT_EQ(document.Pages.size(), 12U);
-  const auto places = Places(document);
-  EXPECT_EQ(places[1], "1:1@400");
-  EXPECT_EQ(places[2], "1:12@400");
-  EXPECT_EQ(places[35], "12:12@400");
-}
-
-TEST(EngineFlow, AFooterOfInvisibleControlsStillTakesItsHeight) {
-  SampleReport report;
-  report.Fixed(SectionKind::PageFooter, "foot", 200).AddField("number", {0, 0, 500, 190}, Plain).Visible =
-      false;
-  AddBlock(report.Growing(SectionKind::Detail, "d"), "row", 400);
-  report.Rows(2);
-  EXPECT_THAT(Places(ComposeSample(report, 900)), ElementsAre("1:row@0", "2:row@0"));
-}
-
-TEST(EngineFlow, CutsABandTallerThanAPageBetweenLinesOfText) {
-  SampleReport report;
-  Field& text = report.Growing(SectionKind::Detail, "d").AddField("text", {0, 0, 2000, 100}, Plain);
-  report.Rows(2, [&](int row) { text.Text = row == 0 ? "short" : "a\r\nb\r\nc\r\nd\r\ne"; });
-  // Line pitch 190: five lines are 950. The tall band starts on a fresh page.
-  EXPECT_THAT(Places(ComposeSample(report, 500)),
-              ElementsAre("1:short@0", "2:a@0", "2:b@190", "3:c@0", "3:d@190", "4:e@0"));
-}
-
-TEST(EngineFlow, ATallBandStaysUnderHeadersThatStandAlone) {
-  SampleReport report;
-  AddBlock(report.Growing(SectionKind::GroupHeader, "h"), "head", 100);
-  Field& text = report.Growing(SectionKind::Detail, "d").AddField("text", {0, 0, 2000, 100}, Plain);
-  text.Text = "a\r\nb\r\nc";
-  EXPECT_THAT(Places(ComposeSample(report, 500)), ElementsAre("1:head@0", "1:a@100", "1:b@290", "2:c@0"));
-}
-
-TEST(EngineFlow, ABandOfExactlyThePageHeightIsNotCut) {
-  SampleReport report;
-  AddBlock(report.Growing(SectionKind::Detail, "d"), "row", 500);
-  report.Rows(2);
-  EXPECT_THAT(Places(ComposeSample(report, 500)), ElementsAre("1:row@0", "2:row@0"));
 }
 
 }  // namespace

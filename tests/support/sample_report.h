@@ -66,6 +66,11 @@ class SampleReport : public ActiveReport {
   int next_ = 0;
 };
 
+// A box of the section's whole height, so that each band leaves one item named after its control.
+inline void AddBlock(Section& section, const char* name, float height) {
+  section.AddShape(name, {0, 0, 1000, height});
+}
+
 // Paper whose body is `bodyHeight` twips high, without margins and footer.
 inline PageSetup PaperOf(float bodyHeight) {
   return {10000, bodyHeight, 0, 0, 0, 0};
