@@ -6,7 +6,8 @@
 
 namespace tarvis {
 
-BackgroundJob::BackgroundJob(const QString& caption, Work work, QWidget* parent) : QObject(parent), caption_(caption) {
+BackgroundJob::BackgroundJob(const QString& caption, Work work, QWidget* parent)
+    : QObject(parent), caption_(caption) {
   QTimer::singleShot(ProgressDelay, this, &BackgroundJob::ShowProgress);
   thread_ = std::thread([this, work = std::move(work)] {
     QString error;
@@ -18,11 +19,14 @@ BackgroundJob::BackgroundJob(const QString& caption, Work work, QWidget* parent)
     } catch (const std::exception& failure) {
       error = QString::fromUtf8(failure.what());
     }
-    QMetaObject::invokeMethod(this, [this, error] {
-      finished_ = true;
-      delete dialog_;
-      emit Finished(error);
-    }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this,
+        [this, error] {
+          finished_ = true;
+          delete dialog_;
+          emit Finished(error);
+        },
+        Qt::QueuedConnection);
   });
 }
 

@@ -1,4 +1,5 @@
-// Work that takes a while, in a thread of its own: from half a second on a window shows its progress and can cancel it.
+// Work that takes a while, in a thread of its own: from half a second on a window shows its progress and can
+// cancel it.
 #pragma once
 
 #include <QObject>

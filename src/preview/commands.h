@@ -6,9 +6,28 @@
 namespace tarvis {
 
 enum class Command {
-  Print, SavePdf, SidePane, FirstPage, PreviousPage, NextPage, LastPage, GoToPage, Back, Forward,
-  ZoomIn, ZoomOut, FitPage, ActualSize, FitWidth, Continuous, Find, FindNext, FindPrevious,
-  Copy, SelectAll, Close,
+  Print,
+  SavePdf,
+  SidePane,
+  FirstPage,
+  PreviousPage,
+  NextPage,
+  LastPage,
+  GoToPage,
+  Back,
+  Forward,
+  ZoomIn,
+  ZoomOut,
+  FitPage,
+  ActualSize,
+  FitWidth,
+  Continuous,
+  Find,
+  FindNext,
+  FindPrevious,
+  Copy,
+  SelectAll,
+  Close,
 };
 
 // Where a command shows; all stand in the context menu.
@@ -16,14 +35,14 @@ enum class Shown { Toolbar, MenuOnly };
 
 struct CommandEntry {
   Command Id;
-  const char* Name;      // object name of its action and, with "Button", of its tool
-  const char* Caption;   // with mnemonic
-  const char* Keys;      // portable key sequences, several separated by "; "
-  const char* Icon;      // see icons.h; empty for none
+  const char* Name;     // object name of its action and, with "Button", of its tool
+  const char* Caption;  // with mnemonic
+  const char* Keys;     // portable key sequences, several separated by "; "
+  const char* Icon;     // see icons.h; empty for none
   Shown Where;
   bool Checkable;
-  bool StartsGroup;      // a separator stands before it
-  int Number;            // the tool's number, 0 for none
+  bool StartsGroup;  // a separator stands before it
+  int Number;        // the tool's number, 0 for none
 };
 
 std::span<const CommandEntry> CommandTable();

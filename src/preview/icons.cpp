@@ -45,8 +45,8 @@ class OutlineEngine : public QIconEngine {
     painter->setRenderHint(QPainter::Antialiasing);
     painter->translate(rect.center() + QPointF(0.5, 0.5) - QPointF(side, side) / 2);
     painter->scale(side / Square, side / Square);
-    painter->setPen(QPen(QApplication::palette().color(group, QPalette::ButtonText), 1.2, Qt::SolidLine, Qt::RoundCap,
-                         Qt::RoundJoin));
+    painter->setPen(QPen(QApplication::palette().color(group, QPalette::ButtonText), 1.2, Qt::SolidLine,
+                         Qt::RoundCap, Qt::RoundJoin));
     painter->drawPath(ReadOutline(outline_));
     painter->restore();
   }
@@ -65,6 +65,8 @@ class OutlineEngine : public QIconEngine {
 
 }  // namespace
 
-QIcon OutlineIcon(const char* outline) { return QIcon(new OutlineEngine(outline)); }
+QIcon OutlineIcon(const char* outline) {
+  return QIcon(new OutlineEngine(outline));
+}
 
 }  // namespace tarvis

@@ -52,7 +52,8 @@ int PageLayout::PageAt(double y) const {
   if (count_ == 0) return -1;
   if (!continuous_) return single_;
   const double first = PageRect(0).top() - Margin / 2;
-  return std::clamp(static_cast<int>(std::floor((y - first) / (PageSize().height() + Margin))), 0, count_ - 1);
+  return std::clamp(static_cast<int>(std::floor((y - first) / (PageSize().height() + Margin))), 0,
+                    count_ - 1);
 }
 
 PageLayout::Range PageLayout::PagesBetween(double top, double bottom) const {
@@ -63,7 +64,9 @@ PageLayout::Range PageLayout::PagesBetween(double top, double bottom) const {
   return range;
 }
 
-double PageLayout::YOf(const PagePlace& place) const { return PageRect(place.Page).top() + place.Top * PixelsPerTwip(); }
+double PageLayout::YOf(const PagePlace& place) const {
+  return PageRect(place.Page).top() + place.Top * PixelsPerTwip();
+}
 
 PagePlace PageLayout::PlaceAt(double y) const {
   const int page = PageAt(y);

@@ -7,7 +7,9 @@ namespace {
 
 constexpr float WeightUnit = 15;  // twips
 
-float LineWidth(const Item& item) { return static_cast<float>(item.Weight) * WeightUnit; }
+float LineWidth(const Item& item) {
+  return static_cast<float>(item.Weight) * WeightUnit;
+}
 
 // Hands on runs of neighbours with the same `key`, so that the order stays.
 template <typename Key, typename Paint>
@@ -36,8 +38,9 @@ void PaintTick(const Item& item, Canvas& canvas) {
 }
 
 void PaintLayer(const Document& document, const PageLayer& layer, Canvas& canvas) {
-  ByLook(layer.Fills, [](const Item& item) { return item.Fill; },
-         [&](const std::vector<Rect>& boxes, Color color) { canvas.Fill(boxes, color); });
+  ByLook(
+      layer.Fills, [](const Item& item) { return item.Fill; },
+      [&](const std::vector<Rect>& boxes, Color color) { canvas.Fill(boxes, color); });
   for (const Item* item : layer.Pictures) {
     if (document.Pictures[item->Source]) canvas.Picture(*document.Pictures[item->Source], item->Box);
   }

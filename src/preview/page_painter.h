@@ -1,5 +1,5 @@
-// The one painter of pages, for screen, paper and PDF: it walks a page's layers and hands alike things together to a
-// canvas. All places are in twips from the top left corner of the paper.
+// The one painter of pages, for screen, paper and PDF: it walks a page's layers and hands alike things
+// together to a canvas. All places are in twips from the top left corner of the paper.
 #pragma once
 
 #include <string_view>

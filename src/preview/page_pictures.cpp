@@ -27,7 +27,8 @@ QImage RenderPage(const Document& document, int page, int pageWidth, int top, in
   QImage picture(std::max(1, pageWidth), std::max(1, height), QImage::Format_RGB32);
   picture.fill(Qt::white);
   QPainter painter(&picture);
-  painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                         QPainter::SmoothPixmapTransform);
   const double scale = pageWidth / static_cast<double>(document.Setup.Width);
   painter.translate(0, -top);
   painter.scale(scale, scale);
@@ -41,7 +42,9 @@ PagePictures::PagePictures(std::shared_ptr<const Document> document, QObject* pa
   worker_.setMaxThreadCount(1);
 }
 
-PagePictures::~PagePictures() { worker_.waitForDone(); }
+PagePictures::~PagePictures() {
+  worker_.waitForDone();
+}
 
 void PagePictures::Want(std::vector<Strip> strips) {
   wanted_ = std::move(strips);
@@ -82,25 +85,29 @@ std::int64_t PagePictures::Bytes() const {
 // One strip is rendered at a time, so that what is wanted last is never far back in a queue.
 void PagePictures::StartNext() {
   if (busy_) return;
-  const auto next =
-      std::find_if(wanted_.begin(), wanted_.end(), [&](const Strip& strip) { return !entries_.contains(strip); });
+  const auto next = std::find_if(wanted_.begin(), wanted_.end(),
+                                 [&](const Strip& strip) { return !entries_.contains(strip); });
   if (next == wanted_.end()) return;
   busy_ = true;
   worker_.start([this, document = document_, strip = *next] {
     QImage picture = RenderStrip(*document, strip);
-    QMetaObject::invokeMethod(this, [this, strip, picture = std::move(picture)] {
-      busy_ = false;
-      Keep(strip, picture);
-      emit PageReady(strip.Page);
-      StartNext();
-    }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this,
+        [this, strip, picture = std::move(picture)] {
+          busy_ = false;
+          Keep(strip, picture);
+          emit PageReady(strip.Page);
+          StartNext();
+        },
+        Qt::QueuedConnection);
   });
 }
 
 void PagePictures::Keep(const Strip& strip, QImage picture) {
   entries_[strip] = {std::move(picture), ++uses_};
   std::vector<CachedStrip> cached;
-  for (const auto& [key, entry] : entries_) cached.push_back({key, entry.Picture.sizeInBytes(), entry.LastUse});
+  for (const auto& [key, entry] : entries_)
+    cached.push_back({key, entry.Picture.sizeInBytes(), entry.LastUse});
   std::vector<Strip> kept = wanted_;
   kept.push_back(strip);
   for (const Strip& old : Evict(std::move(cached), kept, Budget)) entries_.erase(old);

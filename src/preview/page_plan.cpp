@@ -31,7 +31,8 @@ class PaintedPlaces {
     for (std::vector<const Item*>& slice : slices_) slice.clear();
   }
   void Add(const Item& item) {
-    for (std::size_t index = First(item.Box); index <= Last(item.Box); ++index) slices_[index].push_back(&item);
+    for (std::size_t index = First(item.Box); index <= Last(item.Box); ++index)
+      slices_[index].push_back(&item);
   }
   bool WouldCover(const Item& cover) const {
     const Rect inner = Shrunk(cover.Box, cover.Kind == ItemKind::Box ? SharedEdge : 0);
@@ -73,7 +74,9 @@ bool IsOpaque(const Item& item) {
 }
 
 // Whether a later fill in the same layer would come too early for it.
-bool CanBeCovered(const Item& item) { return item.Kind != ItemKind::Box || item.Weight > 0; }
+bool CanBeCovered(const Item& item) {
+  return item.Kind != ItemKind::Box || item.Weight > 0;
+}
 
 void AddTo(PageLayer& layer, const Item& item) {
   switch (item.Kind) {

@@ -10,8 +10,8 @@
 namespace tarvis {
 namespace {
 
-constexpr std::array ZoomSteps{0.1, 0.125, 0.25, 0.33, 0.5, 0.67, 0.75, 0.9, 1.0, 1.1,
-                               1.25, 1.5, 1.75, 2.0, 2.5, 3.0, 4.0, 5.0, 6.0, 8.0};
+constexpr std::array ZoomSteps{0.1,  0.125, 0.25, 0.33, 0.5, 0.67, 0.75, 0.9, 1.0, 1.1,
+                               1.25, 1.5,   1.75, 2.0,  2.5, 3.0,  4.0,  5.0, 6.0, 8.0};
 
 void PaintShadow(QPainter& painter, const QRectF& page, const QColor& edge) {
   for (int step = 4; step >= 1; --step) {
@@ -37,14 +37,18 @@ PageView::PageView(std::shared_ptr<const Document> document, QWidget* parent)
   });
 }
 
-QPointF PageView::Offset() const { return QPointF(horizontalScrollBar()->value(), verticalScrollBar()->value()); }
+QPointF PageView::Offset() const {
+  return QPointF(horizontalScrollBar()->value(), verticalScrollBar()->value());
+}
 
 int PageView::CurrentPage() const {
   // The page that holds the line a third below the top edge: what the reader most likely looks at.
   return layout_.PageAt(Offset().y() + viewport()->height() / 3.0);
 }
 
-PagePlace PageView::CurrentPlace() const { return layout_.PlaceAt(Offset().y() + PageLayout::Margin); }
+PagePlace PageView::CurrentPlace() const {
+  return layout_.PlaceAt(Offset().y() + PageLayout::Margin);
+}
 
 void PageView::UpdateScrollBars() {
   const QSizeF content = layout_.ContentSize();
@@ -110,7 +114,8 @@ void PageView::SetContinuous(bool continuous) {
 }
 
 void PageView::SetZoomMode(ZoomMode mode) {
-  ChangeLayout([&] { layout_.SetZoom(mode, layout_.Zoom()); }, QPointF(viewport()->width() / 2.0, PageLayout::Margin));
+  ChangeLayout([&] { layout_.SetZoom(mode, layout_.Zoom()); },
+               QPointF(viewport()->width() / 2.0, PageLayout::Margin));
   // The mode may change although the factor stays.
   emit ZoomChanged();
 }
@@ -193,7 +198,8 @@ void PageView::PaintPageAt(QPainter& painter, int page, const QRect& exposed) {
   // Tints multiply, so that the text below stays black.
   painter.setCompositionMode(QPainter::CompositionMode_Multiply);
   for (const Highlight& mark : highlights_(page)) {
-    painter.fillRect(QRectF(place.topLeft() + mark.Box.topLeft() * scale, mark.Box.size() * scale), mark.Tint);
+    painter.fillRect(QRectF(place.topLeft() + mark.Box.topLeft() * scale, mark.Box.size() * scale),
+                     mark.Tint);
   }
   painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
 }
@@ -203,7 +209,8 @@ void PageView::PaintPictures(QPainter& painter, int page, const QRectF& place, c
   const StripCut cut = CutIntoStrips(width, PagePixelHeight(*document_, width));
   std::vector<Strip> sharp;
   bool whole = true;
-  for (int index = part.Top / cut.Height; index <= std::min(part.Bottom / cut.Height, cut.Count - 1); ++index) {
+  for (int index = part.Top / cut.Height; index <= std::min(part.Bottom / cut.Height, cut.Count - 1);
+       ++index) {
     sharp.push_back({page, index, width});
     whole = whole && pictures_.Find(sharp.back()) != nullptr;
   }
@@ -229,10 +236,12 @@ void PageView::PaintStrip(QPainter& painter, const Strip& strip, const QRectF& p
   if (strip.Width == PageDeviceWidth()) {
     // Pixel for pixel, starting on a whole one: anything else would blur.
     const double ratio = devicePixelRatioF();
-    const QPointF corner(std::round(place.left() * ratio) / ratio, std::round((place.top() + top) * ratio) / ratio);
+    const QPointF corner(std::round(place.left() * ratio) / ratio,
+                         std::round((place.top() + top) * ratio) / ratio);
     painter.drawImage(QRectF(corner, QSizeF(picture->size()) / ratio), *picture);
   } else {
-    painter.drawImage(QRectF(place.left(), place.top() + top, place.width(), picture->height() * scale), *picture);
+    painter.drawImage(QRectF(place.left(), place.top() + top, place.width(), picture->height() * scale),
+                      *picture);
   }
 }
 

@@ -34,7 +34,8 @@ class PageView : public QAbstractScrollArea {
   void Reveal(int page, const QRectF& box);
   void SetContinuous(bool continuous);
   void SetZoomMode(ZoomMode mode);
-  // Keeps the point of the document that stands at `anchor` (view coordinates; the view's middle if none) in place.
+  // Keeps the point of the document that stands at `anchor` (view coordinates; the view's middle if none) in
+  // place.
   void SetZoom(double factor, std::optional<QPointF> anchor = {});
   // The next larger or smaller step.
   void ZoomStep(int direction, std::optional<QPointF> anchor = {});

@@ -44,7 +44,9 @@ void PageView::ScrollView(int direction) {
   bar->setValue(bar->value() + direction * std::max(bar->singleStep(), bar->pageStep() - bar->singleStep()));
 }
 
-void PageView::ScrollPages(int count) { GoTo({CurrentPage() + count, 0}); }
+void PageView::ScrollPages(int count) {
+  GoTo({CurrentPage() + count, 0});
+}
 
 void PageView::ScrollAcross(int direction) {
   QScrollBar* bar = horizontalScrollBar();
@@ -55,7 +57,9 @@ void PageView::ScrollAcross(int direction) {
   }
 }
 
-void PageView::GoToStart() { GoTo({0, 0}); }
+void PageView::GoToStart() {
+  GoTo({0, 0});
+}
 
 void PageView::GoToEnd() {
   GoTo({layout_.PageCount() - 1, 0});

@@ -18,7 +18,8 @@ QRectF ToRectF(const Rect& box) {
 }
 
 QLineF ToLine(const Rect& line) {
-  return QLineF(ToRectF(line).topLeft(), ToRectF(line).topLeft() + QPointF(ToRectF(line).width(), ToRectF(line).height()));
+  return QLineF(ToRectF(line).topLeft(),
+                ToRectF(line).topLeft() + QPointF(ToRectF(line).width(), ToRectF(line).height()));
 }
 
 QPen SolidPen(float width) {
@@ -29,7 +30,9 @@ QPen LinePen(float width) {
   return QPen(Qt::black, static_cast<double>(width), Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
 }
 
-QColor ToColor(Color color) { return QColor(static_cast<QRgb>(0xFF000000U | color)); }
+QColor ToColor(Color color) {
+  return QColor(static_cast<QRgb>(0xFF000000U | color));
+}
 
 }  // namespace
 
@@ -64,7 +67,9 @@ void PainterCanvas::Text(const TextPiece& piece, const TextStyle& style, const R
   }
   painter_.save();
   // Only the width clips: letters may stand above and below their line.
-  if (fit.Clipped) painter_.setClipRect(ToRectF(box).adjusted(0, -ToRectF(box).height(), 0, ToRectF(box).height()), Qt::IntersectClip);
+  if (fit.Clipped)
+    painter_.setClipRect(ToRectF(box).adjusted(0, -ToRectF(box).height(), 0, ToRectF(box).height()),
+                         Qt::IntersectClip);
   painter_.translate(start);
   painter_.scale(static_cast<double>(fit.Stretch), 1);
   Runs(piece, style, {});
@@ -107,8 +112,10 @@ void PixelCanvas::Fill(const std::vector<Rect>& boxes, Color color) {
   painter_.setWorldMatrixEnabled(false);
   for (const Rect& box : boxes) {
     const QRectF place = toDevice_.mapRect(ToRectF(box));
-    const QPoint topLeft(static_cast<int>(std::lround(place.left())), static_cast<int>(std::lround(place.top())));
-    const QPoint end(static_cast<int>(std::lround(place.right())), static_cast<int>(std::lround(place.bottom())));
+    const QPoint topLeft(static_cast<int>(std::lround(place.left())),
+                         static_cast<int>(std::lround(place.top())));
+    const QPoint end(static_cast<int>(std::lround(place.right())),
+                     static_cast<int>(std::lround(place.bottom())));
     painter_.fillRect(QRect(topLeft, QSize(end.x() - topLeft.x(), end.y() - topLeft.y())), ToColor(color));
   }
   painter_.restore();
@@ -143,9 +150,11 @@ void PixelCanvas::Strokes(const std::vector<Rect>& lines, float width) {
     const int left = static_cast<int>(std::lround(place.left()));
     const int top = static_cast<int>(std::lround(place.top()));
     if (line.Height == 0) {
-      painter_.fillRect(left, FirstPixel(place.top(), pen.Pixels), static_cast<int>(std::lround(place.right())) - left, pen.Pixels, pen.Ink);
+      painter_.fillRect(left, FirstPixel(place.top(), pen.Pixels),
+                        static_cast<int>(std::lround(place.right())) - left, pen.Pixels, pen.Ink);
     } else if (line.Width == 0) {
-      painter_.fillRect(FirstPixel(place.left(), pen.Pixels), top, pen.Pixels, static_cast<int>(std::lround(place.bottom())) - top, pen.Ink);
+      painter_.fillRect(FirstPixel(place.left(), pen.Pixels), top, pen.Pixels,
+                        static_cast<int>(std::lround(place.bottom())) - top, pen.Ink);
     } else {
       slanted.push_back(line);
     }

@@ -8,8 +8,8 @@
 
 namespace tarvis {
 
-// The painter's transform must map twips to the device, without rotation. Must be used on the thread on which it
-// was made.
+// The painter's transform must map twips to the device, without rotation. Must be used on the thread on which
+// it was made.
 class PainterCanvas : public Canvas {
  public:
   explicit PainterCanvas(QPainter& painter) : painter_(painter), font_(ReportFont::OfThisThread()) {}

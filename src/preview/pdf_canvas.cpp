@@ -7,7 +7,9 @@
 namespace tarvis {
 namespace {
 
-double D(float value) { return static_cast<double>(value); }
+double D(float value) {
+  return static_cast<double>(value);
+}
 
 }  // namespace
 
@@ -17,7 +19,8 @@ std::size_t PdfPictures::Number(const Picture& picture, float width, float heigh
   return place->second;
 }
 
-PdfCanvas::PdfCanvas(float height, PdfGlyphs& glyphs, PdfPictures& pictures) : glyphs_(glyphs), pictures_(pictures) {
+PdfCanvas::PdfCanvas(float height, PdfGlyphs& glyphs, PdfPictures& pictures)
+    : glyphs_(glyphs), pictures_(pictures) {
   content_.reserve(32 * 1024);
   Add(".05 0 0 -.05 0 ");
   AppendNumber(content_, D(height) / D(TwipsPerPoint));

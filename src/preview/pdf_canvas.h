@@ -1,5 +1,5 @@
-// Pages as PDF content, written directly: a page of table cells is a few kilobytes of plain operators, and writing
-// them costs a fraction of what the toolkit's PDF painter takes.
+// Pages as PDF content, written directly: a page of table cells is a few kilobytes of plain operators, and
+// writing them costs a fraction of what the toolkit's PDF painter takes.
 //
 // Content is in twips with the origin at the top left; a matrix at its start turns that into PDF's points.
 #pragma once

@@ -13,9 +13,13 @@
 namespace tarvis {
 namespace {
 
-QPDFObjectHandle Text(const QString& text) { return QPDFObjectHandle::newUnicodeString(text.toStdString()); }
+QPDFObjectHandle Text(const QString& text) {
+  return QPDFObjectHandle::newUnicodeString(text.toStdString());
+}
 
-QPDFObjectHandle Name(const char* name) { return QPDFObjectHandle::newName(name); }
+QPDFObjectHandle Name(const char* name) {
+  return QPDFObjectHandle::newName(name);
+}
 
 QPDFObjectHandle Points(float twips) {
   return QPDFObjectHandle::newReal(static_cast<double>(twips / TwipsPerPoint), 2);
@@ -25,8 +29,8 @@ QPDFObjectHandle MakePage(QPDF& pdf, const Document& document, std::string conte
   QPDFObjectHandle page = QPDFObjectHandle::newDictionary();
   page.replaceKey("/Type", Name("/Page"));
   const QPDFObjectHandle zero = QPDFObjectHandle::newInteger(0);
-  page.replaceKey("/MediaBox", QPDFObjectHandle::newArray(
-                                   {zero, zero, Points(document.Setup.Width), Points(document.Setup.Height)}));
+  page.replaceKey("/MediaBox", QPDFObjectHandle::newArray({zero, zero, Points(document.Setup.Width),
+                                                           Points(document.Setup.Height)}));
   page.replaceKey("/Contents", pdf.newStream(std::move(content)));
   return pdf.makeIndirectObject(page);
 }
@@ -56,8 +60,8 @@ bool AddPages(QPDF& pdf, const Document& document, const Progress& progress) {
 QPDFObjectHandle Destination(const Document& document, const ContentsEntry& entry,
                              const std::vector<QPDFObjectHandle>& pages) {
   return QPDFObjectHandle::newArray({pages.at(static_cast<std::size_t>(entry.Page)), Name("/XYZ"),
-                                     QPDFObjectHandle::newInteger(0), Points(document.Setup.Height - entry.Top),
-                                     QPDFObjectHandle::newNull()});
+                                     QPDFObjectHandle::newInteger(0),
+                                     Points(document.Setup.Height - entry.Top), QPDFObjectHandle::newNull()});
 }
 
 // Chains `children` below `parent` in both directions.
@@ -107,7 +111,9 @@ void AddOpening(QPDF& pdf, const Document& document) {
   pdf.getRoot().replaceKey("/PageLabels", QPDFObjectHandle::parse("<< /Nums [ 0 << /S /D >> ] >>"));
 }
 
-QString PdfDate(const QDateTime& date) { return date.toUTC().toString(QStringLiteral("'D:'yyyyMMddHHmmss'Z'")); }
+QString PdfDate(const QDateTime& date) {
+  return date.toUTC().toString(QStringLiteral("'D:'yyyyMMddHHmmss'Z'"));
+}
 
 void AddMetadata(QPDF& pdf, const PdfInfo& info) {
   QPDFObjectHandle data = pdf.makeIndirectObject(QPDFObjectHandle::newDictionary());
@@ -124,16 +130,19 @@ void AddMetadata(QPDF& pdf, const PdfInfo& info) {
 QString WriteFile(const QString& path, const Buffer& bytes) {
   QSaveFile file(path);
   const auto size = static_cast<qint64>(bytes.getSize());
-  const bool written = file.open(QIODevice::WriteOnly) &&
-                       file.write(static_cast<const char*>(static_cast<const void*>(bytes.getBuffer())), size) == size &&
-                       file.commit();
+  const bool written =
+      file.open(QIODevice::WriteOnly) &&
+      file.write(static_cast<const char*>(static_cast<const void*>(bytes.getBuffer())), size) == size &&
+      file.commit();
   if (written) return {};
-  return QCoreApplication::translate("PdfExport", "\"%1\" can't be written: %2").arg(path, file.errorString());
+  return QCoreApplication::translate("PdfExport", "\"%1\" can't be written: %2")
+      .arg(path, file.errorString());
 }
 
 }  // namespace
 
-QString ExportPdf(const Document& document, const QString& path, const PdfInfo& info, const Progress& progress) {
+QString ExportPdf(const Document& document, const QString& path, const PdfInfo& info,
+                  const Progress& progress) {
   QPDF pdf;
   pdf.emptyPDF();
   if (!AddPages(pdf, document, progress)) return {};

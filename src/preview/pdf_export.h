@@ -15,8 +15,10 @@ struct PdfInfo {
   QDateTime Created;  // invalid: no dates, so that the same document gives the same bytes
 };
 
-// Writes to a temporary file beside `path` first and replaces `path` only by a whole file, so that nothing is lost
-// on a failure or when `progress` cancels. Returns an error text for the user, empty if all is well or cancelled.
-QString ExportPdf(const Document& document, const QString& path, const PdfInfo& info, const Progress& progress);
+// Writes to a temporary file beside `path` first and replaces `path` only by a whole file, so that nothing is
+// lost on a failure or when `progress` cancels. Returns an error text for the user, empty if all is well or
+// cancelled.
+QString ExportPdf(const Document& document, const QString& path, const PdfInfo& info,
+                  const Progress& progress);
 
 }  // namespace tarvis

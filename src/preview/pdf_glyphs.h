@@ -45,6 +45,8 @@ class PdfGlyphs {
 };
 
 // Height in points of the form that holds a picture `height` twips high.
-inline int PdfPictureHeight(float height) { return static_cast<int>(height / 20) + 1; }
+inline int PdfPictureHeight(float height) {
+  return static_cast<int>(height / 20) + 1;
+}
 
 }  // namespace tarvis

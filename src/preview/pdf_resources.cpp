@@ -40,13 +40,15 @@ QByteArray PaintHelperFile(const PdfGlyphs& glyphs, const PdfPictures& pictures,
   painter.setRenderHint(QPainter::LosslessImageRendering);
   DrawGlyphs(painter, glyphs, font);
   for (const PdfPicture& picture : pictures.All()) {
-    const QSizeF points(std::floor(static_cast<double>(picture.Width) / 20) + 1, PdfPictureHeight(picture.Height));
+    const QSizeF points(std::floor(static_cast<double>(picture.Width) / 20) + 1,
+                        PdfPictureHeight(picture.Height));
     writer.setPageSize(QPageSize(points, QPageSize::Point, {}, QPageSize::ExactMatch));
     writer.newPage();
     const auto* paintable = dynamic_cast<const PaintablePicture*>(picture.Source);
     if (paintable == nullptr) continue;
     painter.save();
-    paintable->Paint(painter, QRectF(0, 0, static_cast<double>(picture.Width), static_cast<double>(picture.Height)));
+    paintable->Paint(painter,
+                     QRectF(0, 0, static_cast<double>(picture.Width), static_cast<double>(picture.Height)));
     painter.restore();
   }
   painter.end();
@@ -115,8 +117,23 @@ QPDFObjectHandle Widths(const PdfFace& face) {
   return table;
 }
 
-QPDFObjectHandle TakeFont(QPDF& pdf, QPDFObjectHandle foreign, const PdfFace& face) {
+// The name of a subset starts with six capitals of its own.
+void NameAsSubset(QPDFObjectHandle font, std::uint16_t number) {
+  std::string tag = "/TARVIS";
+  for (std::size_t place = tag.size() - 1; number > 0; --place, number /= 26) {
+    tag[place] = static_cast<char>('A' + number % 26);
+  }
+  QPDFObjectHandle descendant = font.getKey("/DescendantFonts").getArrayItem(0);
+  const QPDFObjectHandle name =
+      QPDFObjectHandle::newName(tag + "+" + font.getKey("/BaseFont").getName().substr(1));
+  font.replaceKey("/BaseFont", name);
+  descendant.replaceKey("/BaseFont", name);
+  descendant.getKey("/FontDescriptor").replaceKey("/FontName", name);
+}
+
+QPDFObjectHandle TakeFont(QPDF& pdf, QPDFObjectHandle foreign, const PdfFace& face, std::uint16_t number) {
   QPDFObjectHandle font = pdf.copyForeignObject(foreign);
+  NameAsSubset(font, number);
   font.replaceKey("/ToUnicode", pdf.newStream(ToUnicode(face)));
   font.getKey("/DescendantFonts").getArrayItem(0).replaceKey("/W", Widths(face));
   return font;
@@ -136,14 +153,16 @@ QPDFObjectHandle TakeFonts(QPDF& pdf, QPDFPageObjectHelper& page, const PdfGlyph
         throw std::runtime_error("A font of the document can't be embedded.");
       }
     }
-    fonts.replaceKey("/F" + std::to_string(number), TakeFont(pdf, foreign.getKey(reader.Glyphs[first].Font), face));
+    fonts.replaceKey("/F" + std::to_string(number),
+                     TakeFont(pdf, foreign.getKey(reader.Glyphs[first].Font), face, number));
   }
   return fonts;
 }
 
 }  // namespace
 
-QPDFObjectHandle MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPictures& pictures, ReportFont& font) {
+QPDFObjectHandle MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPictures& pictures,
+                               ReportFont& font) {
   const QByteArray bytes = PaintHelperFile(glyphs, pictures, font);
   QPDF helper;
   helper.processMemoryFile("helper", bytes.constData(), static_cast<std::size_t>(bytes.size()));

@@ -1,5 +1,5 @@
-// Fonts and pictures of a PDF. The toolkit's own PDF painter subsets the fonts and paints the pictures into a helper
-// file in memory; its objects are then taken over.
+// Fonts and pictures of a PDF. The toolkit's own PDF painter subsets the fonts and paints the pictures into a
+// helper file in memory; its objects are then taken over.
 #pragma once
 
 #include <qpdf/QPDF.hh>
@@ -11,6 +11,7 @@ namespace tarvis {
 
 // The resource dictionary that all pages of `pdf` share: fonts "F" and pictures "P" with their numbers.
 // Throws std::runtime_error if a font can't be embedded.
-QPDFObjectHandle MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPictures& pictures, ReportFont& font);
+QPDFObjectHandle MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPictures& pictures,
+                               ReportFont& font);
 
 }  // namespace tarvis

@@ -19,7 +19,8 @@ namespace {
 QString FileNameOf(const QString& title) {
   QString name = title;
   for (QChar& character : name) {
-    if (character.unicode() < 0x20 || QStringLiteral("\\/:*?\"<>|").contains(character)) character = QLatin1Char('_');
+    if (character.unicode() < 0x20 || QStringLiteral("\\/:*?\"<>|").contains(character))
+      character = QLatin1Char('_');
   }
   name = name.trimmed();
   return (name.isEmpty() ? QStringLiteral("document") : name) + QStringLiteral(".pdf");

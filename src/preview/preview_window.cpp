@@ -24,7 +24,9 @@ constexpr double OpeningTop = 345;
 constexpr double OpeningWidth = 16005;
 constexpr double OpeningHeight = 9675;
 
-int Pixels(double twips) { return static_cast<int>(twips / TwipsPerPixel); }
+int Pixels(double twips) {
+  return static_cast<int>(twips / TwipsPerPixel);
+}
 
 QList<QKeySequence> KeysOf(const CommandEntry& entry) {
   QList<QKeySequence> keys;
@@ -38,12 +40,14 @@ QString ToolTipOf(const QAction& action) {
   QString caption = action.text();
   caption.remove(QLatin1Char('&')).remove(QChar(0x2026));
   const QKeySequence key = action.shortcut();
-  return key.isEmpty() ? caption : QStringLiteral("%1 (%2)").arg(caption, key.toString(QKeySequence::NativeText));
+  return key.isEmpty() ? caption
+                       : QStringLiteral("%1 (%2)").arg(caption, key.toString(QKeySequence::NativeText));
 }
 
 }  // namespace
 
-PreviewWindow::PreviewWindow(std::shared_ptr<const Document> document, const PreviewSetup& setup, QWidget* parent)
+PreviewWindow::PreviewWindow(std::shared_ptr<const Document> document, const PreviewSetup& setup,
+                             QWidget* parent)
     : QMainWindow(parent),
       document_(std::move(document)),
       author_(setup.Author),
@@ -76,7 +80,8 @@ void PreviewWindow::PlaceOnScreen() {
   const QSize size = QSize(Pixels(OpeningWidth), Pixels(OpeningHeight)).boundedTo(room.size());
   const QPoint wanted = room.topLeft() + QPoint(Pixels(OpeningLeft), Pixels(OpeningTop));
   resize(size);
-  move(std::min(wanted.x(), room.right() + 1 - size.width()), std::min(wanted.y(), room.bottom() + 1 - size.height()));
+  move(std::min(wanted.x(), room.right() + 1 - size.width()),
+       std::min(wanted.y(), room.bottom() + 1 - size.height()));
 }
 
 void PreviewWindow::MakeActions() {
@@ -137,24 +142,43 @@ void PreviewWindow::Connect() {
 
 void PreviewWindow::Run(Command command, bool checked) {
   switch (command) {
-    case Command::Print: return Print();
-    case Command::SavePdf: return SavePdf();
-    case Command::SidePane: return pane_->setVisible(checked);
-    case Command::FirstPage: return Jump({0, 0});
-    case Command::PreviousPage: return view_->ScrollPages(-1);
-    case Command::NextPage: return view_->ScrollPages(1);
-    case Command::LastPage: return Jump({view_->Layout().PageCount() - 1, 0});
-    case Command::GoToPage: return FocusPageBox();
-    case Command::Back: return Walk(history_.Back(view_->CurrentPlace()));
-    case Command::Forward: return Walk(history_.Forward(view_->CurrentPlace()));
-    case Command::ZoomIn: return view_->ZoomStep(1);
-    case Command::ZoomOut: return view_->ZoomStep(-1);
-    case Command::FitPage: return view_->SetZoomMode(ZoomMode::FitPage);
-    case Command::ActualSize: return view_->SetZoom(1);
-    case Command::FitWidth: return view_->SetZoomMode(ZoomMode::FitWidth);
-    case Command::Continuous: return view_->SetContinuous(checked);
-    case Command::Close: emit toolUsed(CloseTool); return;
-    default: return;
+    case Command::Print:
+      return Print();
+    case Command::SavePdf:
+      return SavePdf();
+    case Command::SidePane:
+      return pane_->setVisible(checked);
+    case Command::FirstPage:
+      return Jump({0, 0});
+    case Command::PreviousPage:
+      return view_->ScrollPages(-1);
+    case Command::NextPage:
+      return view_->ScrollPages(1);
+    case Command::LastPage:
+      return Jump({view_->Layout().PageCount() - 1, 0});
+    case Command::GoToPage:
+      return FocusPageBox();
+    case Command::Back:
+      return Walk(history_.Back(view_->CurrentPlace()));
+    case Command::Forward:
+      return Walk(history_.Forward(view_->CurrentPlace()));
+    case Command::ZoomIn:
+      return view_->ZoomStep(1);
+    case Command::ZoomOut:
+      return view_->ZoomStep(-1);
+    case Command::FitPage:
+      return view_->SetZoomMode(ZoomMode::FitPage);
+    case Command::ActualSize:
+      return view_->SetZoom(1);
+    case Command::FitWidth:
+      return view_->SetZoomMode(ZoomMode::FitWidth);
+    case Command::Continuous:
+      return view_->SetContinuous(checked);
+    case Command::Close:
+      emit toolUsed(CloseTool);
+      return;
+    default:
+      return;
   }
 }
 

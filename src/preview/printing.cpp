@@ -11,7 +11,9 @@
 namespace tarvis {
 namespace {
 
-QString Text(const char* text) { return QCoreApplication::translate("Printing", text); }
+QString Text(const char* text) {
+  return QCoreApplication::translate("Printing", text);
+}
 
 // Right edge of what the pages show, in twips.
 double PrintedRight(const Document& document) {
@@ -20,7 +22,8 @@ double PrintedRight(const Document& document) {
   return static_cast<double>(right);
 }
 
-// Pages in the order in which they leave the printer; copies that the printer can't make itself are repeated here.
+// Pages in the order in which they leave the printer; copies that the printer can't make itself are repeated
+// here.
 std::vector<int> PageOrder(const QPrinter& printer, int pageCount) {
   const int first = printer.fromPage() > 0 ? printer.fromPage() - 1 : 0;
   const int last = printer.toPage() > 0 ? std::min(printer.toPage(), pageCount) - 1 : pageCount - 1;
@@ -46,15 +49,19 @@ double MissingWidth(const Document& document, const QPrinter& printer) {
   return std::max(0.0, PrintedRight(document) - end * static_cast<double>(TwipsPerPoint));
 }
 
-QString PrintDocument(const Document& document, QPrinter& printer, PrintScale scale, const Progress& progress) {
+QString PrintDocument(const Document& document, QPrinter& printer, PrintScale scale,
+                      const Progress& progress) {
   printer.setFullPage(true);
   QPainter painter;
   if (!painter.begin(&printer)) {
     return Text("The printer \"%1\" can't be used.").arg(printer.printerName());
   }
   const double toDevice = printer.resolution() / static_cast<double>(TwipsPerInch);
-  const double paper = printer.pageLayout().fullRect(QPageLayout::Point).width() * static_cast<double>(TwipsPerPoint);
-  const double shrink = scale == PrintScale::FitToPaper ? std::min(1.0, paper / static_cast<double>(document.Setup.Width)) : 1.0;
+  const double paper =
+      printer.pageLayout().fullRect(QPageLayout::Point).width() * static_cast<double>(TwipsPerPoint);
+  const double shrink = scale == PrintScale::FitToPaper
+                            ? std::min(1.0, paper / static_cast<double>(document.Setup.Width))
+                            : 1.0;
   painter.scale(toDevice * shrink, toDevice * shrink);
   const std::vector<int> order = PageOrder(printer, static_cast<int>(document.Pages.size()));
   for (std::size_t index = 0; index < order.size(); ++index) {
@@ -62,7 +69,8 @@ QString PrintDocument(const Document& document, QPrinter& printer, PrintScale sc
       printer.abort();
       return {};
     }
-    if (index > 0 && !printer.newPage()) return Text("The printer \"%1\" took no further page.").arg(printer.printerName());
+    if (index > 0 && !printer.newPage())
+      return Text("The printer \"%1\" took no further page.").arg(printer.printerName());
     PainterCanvas canvas(painter);
     PaintPage(document, static_cast<std::size_t>(order[index]), canvas);
   }

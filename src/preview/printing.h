@@ -13,10 +13,12 @@ namespace tarvis {
 // Whether the document's pages are shrunk to the printable width of the paper.
 enum class PrintScale { AsComposed, FitToPaper };
 
-// Width that the printable area of the printer's paper lacks for what the document prints, in twips; 0 if all fits.
+// Width that the printable area of the printer's paper lacks for what the document prints, in twips; 0 if all
+// fits.
 double MissingWidth(const Document& document, const QPrinter& printer);
 
 // Prints the page range of `printer`. Returns an error text for the user, empty if all is well or cancelled.
-QString PrintDocument(const Document& document, QPrinter& printer, PrintScale scale, const Progress& progress);
+QString PrintDocument(const Document& document, QPrinter& printer, PrintScale scale,
+                      const Progress& progress);
 
 }  // namespace tarvis

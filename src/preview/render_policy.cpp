@@ -43,7 +43,8 @@ std::vector<Strip> WantedStrips(std::span<const ShownPart> shown, int width, int
   return wanted;
 }
 
-std::vector<Strip> Evict(std::vector<CachedStrip> cached, std::span<const Strip> wanted, std::int64_t budget) {
+std::vector<Strip> Evict(std::vector<CachedStrip> cached, std::span<const Strip> wanted,
+                         std::int64_t budget) {
   std::int64_t total = 0;
   for (const CachedStrip& strip : cached) total += strip.Bytes;
   std::sort(cached.begin(), cached.end(),

@@ -1,4 +1,5 @@
-// Which parts of pages are rendered when, which pictures are kept, and which stand in meanwhile: pure functions.
+// Which parts of pages are rendered when, which pictures are kept, and which stand in meanwhile: pure
+// functions.
 #pragma once
 
 #include <compare>
@@ -8,11 +9,12 @@
 
 namespace tarvis {
 
-// A strip of a page at a scale. Pages are cut into strips of full width once a whole page would be a large picture.
+// A strip of a page at a scale. Pages are cut into strips of full width once a whole page would be a large
+// picture.
 struct Strip {
   int Page = 0;
   int Index = 0;
-  int Width = 0;   // of the whole page in device pixels: stands for the scale
+  int Width = 0;  // of the whole page in device pixels: stands for the scale
   auto operator<=>(const Strip&) const = default;
 };
 
@@ -30,8 +32,8 @@ struct ShownPart {
   int Bottom = 0;
 };
 
-// What is worth rendering, most urgent first: what shows, then one page each way: what comes next when scrolling on
-// before what was left behind.
+// What is worth rendering, most urgent first: what shows, then one page each way: what comes next when
+// scrolling on before what was left behind.
 std::vector<Strip> WantedStrips(std::span<const ShownPart> shown, int width, int height, int pageCount);
 
 struct CachedStrip {
@@ -40,10 +42,12 @@ struct CachedStrip {
   std::int64_t LastUse = 0;  // grows with each use
 };
 
-// Which strips must go so that the rest stays within `budget` bytes: the longest unused first, never one of `wanted`.
+// Which strips must go so that the rest stays within `budget` bytes: the longest unused first, never one of
+// `wanted`.
 std::vector<Strip> Evict(std::vector<CachedStrip> cached, std::span<const Strip> wanted, std::int64_t budget);
 
-// The page width among `widths` that best stands in for `wanted`: the nearest larger one, else the largest; 0 if none.
+// The page width among `widths` that best stands in for `wanted`: the nearest larger one, else the largest; 0
+// if none.
 int StandIn(std::span<const int> widths, int wanted);
 
 }  // namespace tarvis

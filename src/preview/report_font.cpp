@@ -9,8 +9,8 @@ namespace tarvis {
 namespace {
 
 QFont BaseFont(bool bold) {
-  static const QString family =
-      QFontDatabase::families().contains(QStringLiteral("Arial")) ? QStringLiteral("Arial") : QStringLiteral("Liberation Sans");
+  static const QString family = QString::fromLatin1(
+      QFontDatabase::families().contains(QStringLiteral("Arial")) ? "Arial" : "Liberation Sans");
   QFont font(family);
   font.setPixelSize(2048);
   font.setBold(bold);
@@ -44,7 +44,8 @@ ReportFont& ReportFont::OfThisThread() {
 ReportFont::ReportFont() {
   for (const bool bold : {false, true}) faces_.push_back(AtDesignUnits(QRawFont::fromFont(BaseFont(bold))));
   for (const bool bold : {false, true}) {
-    for (char32_t character = 0; character < 128; ++character) ascii_[bold][character] = Look(character, bold);
+    for (char32_t character = 0; character < 128; ++character)
+      ascii_[bold][character] = Look(character, bold);
   }
 }
 
@@ -96,7 +97,9 @@ float ReportFont::DesignAdvance(std::uint16_t face, std::uint32_t glyph) const {
 
 std::uint16_t ReportFont::FaceIndex(const QRawFont& font) {
   for (std::size_t index = 0; index < faces_.size(); ++index) {
-    if (faces_[index] == font) return static_cast<std::uint16_t>(index);
+    const QRawFont& face = faces_[index];
+    if (face.familyName() == font.familyName() && face.styleName() == font.styleName())
+      return static_cast<std::uint16_t>(index);
   }
   faces_.push_back(font);
   return static_cast<std::uint16_t>(faces_.size() - 1);

@@ -44,7 +44,8 @@ void SidePane::FillContents() {
 
 void SidePane::Choose(const QTreeWidgetItem* item) {
   if (item == nullptr) return;
-  const ContentsEntry& entry = document_->Contents[static_cast<std::size_t>(item->data(0, EntryRole).toInt())];
+  const ContentsEntry& entry =
+      document_->Contents[static_cast<std::size_t>(item->data(0, EntryRole).toInt())];
   emit PlaceChosen({entry.Page, static_cast<double>(entry.Top)});
 }
 
@@ -53,9 +54,8 @@ void SidePane::ShowPlace(const PagePlace& place, int) {
   QTreeWidgetItem* current = nullptr;
   for (std::size_t index = 0; index < items_.size(); ++index) {
     const ContentsEntry& entry = document_->Contents[index];
-    const bool before =
-        entry.Page < place.Page ||
-        (entry.Page == place.Page && static_cast<double>(entry.Top) <= place.Top + Slack);
+    const bool before = entry.Page < place.Page ||
+                        (entry.Page == place.Page && static_cast<double>(entry.Top) <= place.Top + Slack);
     if (before) current = items_[index];
   }
   if (current != contents_->currentItem()) contents_->setCurrentItem(current);

@@ -27,7 +27,8 @@ std::vector<TextRun> MakeRuns(std::string_view text, float size, bool bold, Repo
 std::vector<float> CharacterEdges(std::string_view text, float size, bool bold, ReportFont& font) {
   std::vector<float> edges{0};
   for (std::size_t offset = 0; offset < text.size();) {
-    edges.push_back(edges.back() + font.Find(NextCharacter(text, offset), bold).AdvanceEm * size * TwipsPerPoint);
+    edges.push_back(edges.back() +
+                    font.Find(NextCharacter(text, offset), bold).AdvanceEm * size * TwipsPerPoint);
   }
   return edges;
 }

@@ -35,7 +35,8 @@ std::uint32_t DocumentBuilder::Piece(const std::string& text, float size, bool b
   auto known = std::find(document_->Styles.begin(), document_->Styles.end(), style);
   const auto number = static_cast<std::uint16_t>(known - document_->Styles.begin());
   if (known == document_->Styles.end()) document_->Styles.push_back(style);
-  const auto [place, isNew] = pieces_.try_emplace({text, number}, static_cast<std::uint32_t>(document_->Texts.size()));
+  const auto [place, isNew] =
+      pieces_.try_emplace({text, number}, static_cast<std::uint32_t>(document_->Texts.size()));
   if (isNew) {
     document_->Storage.push_back(text);
     const float advance = CharacterEdges(text, size, bold, ReportFont::OfThisThread()).back();
@@ -61,7 +62,8 @@ DocumentBuilder& DocumentBuilder::Row(const std::vector<std::string>& cells, flo
   return *this;
 }
 
-DocumentBuilder& DocumentBuilder::Text(const std::string& text, float left, float top, float size, bool bold) {
+DocumentBuilder& DocumentBuilder::Text(const std::string& text, float left, float top, float size,
+                                       bool bold) {
   ++band_;
   control_ = 0;
   const std::uint32_t piece = Piece(text, size, bold);
@@ -111,7 +113,8 @@ DocumentBuilder& DocumentBuilder::TablePages(int count) {
     Page();
     for (int row = 0; row < 48; ++row) {
       const std::string number = std::to_string(page * 48 + row);
-      Row({"Pn" + number, "Speed Loop Gain " + number, std::to_string(page * 7 + row * 13) + ".5", "Hz", "40.0"},
+      Row({"Pn" + number, "Speed Loop Gain " + number, std::to_string(page * 7 + row * 13) + ".5", "Hz",
+           "40.0"},
           720 + static_cast<float>(row) * 293);
     }
     Text("Page " + std::to_string(page + 1) + " / " + std::to_string(count), 8810, 15773);
@@ -119,6 +122,8 @@ DocumentBuilder& DocumentBuilder::TablePages(int count) {
   return *this;
 }
 
-std::shared_ptr<const Document> DocumentBuilder::Build() { return document_; }
+std::shared_ptr<const Document> DocumentBuilder::Build() {
+  return document_;
+}
 
 }  // namespace tarvis

@@ -15,7 +15,8 @@ class DocumentBuilder {
 
   DocumentBuilder& Page();
   // A table row: bordered cells of equal width, one text each. A new band.
-  DocumentBuilder& Row(const std::vector<std::string>& cells, float top, float height = 283, float cellWidth = 1700);
+  DocumentBuilder& Row(const std::vector<std::string>& cells, float top, float height = 283,
+                       float cellWidth = 1700);
   // Text on its own in a new band, in its natural width.
   DocumentBuilder& Text(const std::string& text, float left, float top, float size = 8.5F, bool bold = false);
   // The same, printed `width` wide.

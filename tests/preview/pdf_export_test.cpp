@@ -10,13 +10,16 @@
 namespace tarvis {
 namespace {
 
-bool GoOn(int, int) { return true; }
+bool GoOn(int, int) {
+  return true;
+}
 
 class PdfExport : public testing::Test {
  protected:
   QString Path() const { return folder_.filePath(QStringLiteral("out.pdf")); }
   void Export(const Document& document) {
-    ASSERT_EQ(ExportPdf(document, Path(), {QString::fromStdString(document.Title), QStringLiteral("Korvane"), {}}, GoOn),
+    ASSERT_EQ(ExportPdf(document, Path(),
+                        {QString::fromStdString(document.Title), QStringLiteral("Korvane"), {}}, GoOn),
               QString());
   }
   // Standard output and error of a tool that reads the file.
@@ -27,13 +30,19 @@ class PdfExport : public testing::Test {
     process.waitForFinished();
     return QString::fromUtf8(process.readAll());
   }
-  QString TextOf() const { return Run(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), Path(), QStringLiteral("-")}); }
+  QString TextOf() const {
+    return Run(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), Path(), QStringLiteral("-")});
+  }
 
   QTemporaryDir folder_;
 };
 
 TEST_F(PdfExport, text_can_be_extracted_in_reading_order) {
-  Export(*DocumentBuilder().Page().Row({"Pn100", "Speed Loop Gain", "40.0", "Hz"}, 720).Row({"Pn101", "x", "1", "ms"}, 1003).Build());
+  Export(*DocumentBuilder()
+              .Page()
+              .Row({"Pn100", "Speed Loop Gain", "40.0", "Hz"}, 720)
+              .Row({"Pn101", "x", "1", "ms"}, 1003)
+              .Build());
   EXPECT_EQ(TextOf().simplified(), QStringLiteral("Pn100 Speed Loop Gain 40.0 Hz Pn101 x 1 ms"));
 }
 
@@ -44,7 +53,8 @@ TEST_F(PdfExport, japanese_keeps_its_characters) {
 
 TEST_F(PdfExport, tools_find_nothing_to_complain_about) {
   Export(*DocumentBuilder().TablePages(3).Entry("Parameter", 0, 0, 720).Entry("Second", 1, 2, 1000).Build());
-  EXPECT_TRUE(Run(QStringLiteral("qpdf"), {QStringLiteral("--check"), Path()}).contains(QStringLiteral("No syntax or stream encoding errors found")));
+  EXPECT_TRUE(Run(QStringLiteral("qpdf"), {QStringLiteral("--check"), Path()})
+                  .contains(QStringLiteral("No syntax or stream encoding errors found")));
   EXPECT_FALSE(TextOf().contains(QStringLiteral("Error")));
 }
 

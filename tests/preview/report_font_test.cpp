@@ -21,11 +21,13 @@ TEST(ReportFont, widths_are_those_of_arials_design_metrics) {
   EXPECT_NEAR(Width("Encoder Dividing Ratio", 8.5F), 1729, 0.6);
   EXPECT_NEAR(Width("Printing Date : September 30, 2026", 8.5F), 2665, 0.6);
   EXPECT_NEAR(Width("9999", 8.5F), 378, 0.6);
-  EXPECT_NEAR(Width("1234.567", 8.5F), 708.9, 0.1);
+  EXPECT_NEAR(Width("1234.567", 8.5F), 708.9, 0.2);
   EXPECT_NEAR(Width("Dynamics Simulation-Overlapping target", 12, true), 4641, 0.6);
 }
 
-TEST(ReportFont, pairs_are_not_kerned) { EXPECT_NEAR(Width("AVAVAV", 10), 3 * Width("A", 10) + 3 * Width("V", 10), 0.01); }
+TEST(ReportFont, pairs_are_not_kerned) {
+  EXPECT_NEAR(Width("AVAVAV", 10), 3 * Width("A", 10) + 3 * Width("V", 10), 0.01);
+}
 
 TEST(ReportFont, japanese_comes_from_a_fallback_font_one_em_wide) {
   ReportFont& font = ReportFont::OfThisThread();
@@ -33,14 +35,20 @@ TEST(ReportFont, japanese_comes_from_a_fallback_font_one_em_wide) {
   EXPECT_NE(glyph.Glyph, 0U);
   EXPECT_GT(glyph.Face, 1);
   EXPECT_FLOAT_EQ(glyph.AdvanceEm, 1.0F);
+  EXPECT_EQ(font.Find(U'本', false).Face, glyph.Face);
 }
 
 TEST(ReportFont, combining_marks_and_control_characters_take_no_width) {
   EXPECT_DOUBLE_EQ(Width("e\xCC\x81", 10), Width("e", 10));
-  EXPECT_DOUBLE_EQ(Width("a\x01\x02""b", 10), Width("ab", 10));
+  EXPECT_DOUBLE_EQ(Width("a\x01\x02"
+                         "b",
+                         10),
+                   Width("ab", 10));
 }
 
-TEST(ReportFont, a_tab_is_a_blank) { EXPECT_DOUBLE_EQ(Width("\t", 10), Width(" ", 10)); }
+TEST(ReportFont, a_tab_is_a_blank) {
+  EXPECT_DOUBLE_EQ(Width("\t", 10), Width(" ", 10));
+}
 
 TEST(ReportFont, a_character_of_no_font_still_shows_something) {
   const FontGlyph& glyph = ReportFont::OfThisThread().Find(char32_t{0xE123}, false);
