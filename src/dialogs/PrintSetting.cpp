@@ -1,0 +1,254 @@
+#include "dialogs/PrintSetting.h"
+
+#include <QSignalBlocker>
+#include <utility>
+
+#include "dialogs/help_context.h"
+#include "dialogs/item_pages.h"
+#include "launch/failures.h"
+#include "launch/print_run.h"
+#include "printfiles/date_text.h"
+#include "printfiles/host_files.h"
+#include "printfiles/numbers.h"
+#include "printfiles/print_options_file.h"
+#include "printfiles/text.h"
+
+namespace tarvis {
+
+namespace {
+
+constexpr Bounds DialogBounds{0, 0, 5535, 8130};
+constexpr int PageCount = 10;
+constexpr std::int16_t StepsWithoutTable = 1000;
+constexpr int UnknownHost = 1;  // numbers of failures
+constexpr int UnreadableTable = 15;
+
+// A member of a family by a number that an options file may hold.
+template <typename Control, std::size_t Count>
+Control& Member(const std::array<Control*, Count>& family, const char* name, int index) {
+  if (index >= 0 && static_cast<std::size_t>(index) < Count) return *family[static_cast<std::size_t>(index)];
+  throw RunTimeFailure("control array element does not exist",
+                       {.File = {}, .Line = 0, .Key = name, .Text = std::to_string(index)});
+}
+
+}  // namespace
+
+PrintSetting::PrintSetting(PrintRun& run, PrintSettingServices services)
+    : run_(run), services_(std::move(services)) {
+  setObjectName(QString::fromLatin1("PrintSetting"));
+  setWindowTitle(QString::fromLatin1("Printing Item Setting"));
+  setFont(DialogFont());
+  setFixedSize(PixelRect(DialogBounds).size());
+  BuildCoverGroup();
+  BuildFunctionGroup();
+  BuildColorGroup();
+  BuildButtons();
+  Connect();
+  LoadDialog();
+}
+
+void PrintSetting::BuildCoverGroup() {
+  auto* frame = new GroupFrame("Frame1", "Cover", {120, 45, 5300, 2640}, this);
+  chkCover_ = new CheckBox("chkCover", NoFamily, "&Attaching the Cover", {240, 225, 1815, 375}, frame);
+  cmdEdit_ = MakeButton("cmdEdit", "Cover &Editing", {2640, 240, 1695, 495}, frame);
+  cmdEdit_->setEnabled(false);
+  lblCover1_ = MakeLabel("lblCover1", NoFamily, " Where to Submit", {360, 810, 3375, 255}, frame);
+  lblCover1_->setEnabled(false);
+  optDrow_ = {new OptionButton("optDrow", 0, " Where to Submit (No.&1)", {330, 1035, 1455, 375}, frame),
+              new OptionButton("optDrow", 1, " Where to Submit (No.&2)", {1800, 1035, 1455, 375}, frame),
+              new OptionButton("optDrow", 2, " Where to Submit (No.&3)", {3240, 1035, 1455, 375}, frame)};
+  drowGroup_ = new QButtonGroup(this);
+  for (OptionButton* option : optDrow_) {
+    option->setEnabled(false);
+    drowGroup_->addButton(option);
+  }
+  spread_ = new AddresseeGrid({105, 1440, 5145, 1140}, frame);
+  spread_->setEnabled(false);
+}
+
+void PrintSetting::BuildFunctionGroup() {
+  auto* frame = new GroupFrame("Frame2", "Data for each f&unction", {135, 2800, 5300, 3980}, this);
+  cmbFunc_ = new QComboBox(frame);
+  NameControl(*cmbFunc_, "cmbFunc", NoFamily, QString::fromLatin1("Function"));
+  Place(*cmbFunc_, {480, 360, 3975, 330});
+  for (int id = 0; id < PageCount; ++id) pages_.push_back(MakeItemPage(static_cast<PageId>(id), run_, frame));
+}
+
+void PrintSetting::BuildColorGroup() {
+  auto* frame = new GroupFrame("Frame3", "Color Selection", {135, 6850, 5300, 615}, this);
+  optColor_ = {new OptionButton("optColor", 0, "&Black and White", {480, 240, 1815, 255}, frame),
+               new OptionButton("optColor", 1, "&Color", {2400, 240, 855, 255}, frame)};
+  optColor_[0]->setChecked(true);
+}
+
+void PrintSetting::BuildButtons() {
+  cmdOK_ = MakeButton("cmdOK", "&OK", {975, 7650, 1455, 375}, this);
+  cmdOK_->setDefault(true);
+  cmdCancel_ = MakeButton("cmdCancel", "Ca&ncel", {3015, 7650, 1455, 375}, this);
+}
+
+void PrintSetting::Connect() {
+  connect(chkCover_, &CheckBox::stateChanged, this, &PrintSetting::CoverClicked);
+  for (std::int16_t index = 0; index < 3; ++index) {
+    connect(optDrow_.at(static_cast<std::size_t>(index)), &OptionButton::toggled, this,
+            [this, index](bool on) {
+              if (on) SubmitBlockClicked(index);
+            });
+  }
+  connect(cmbFunc_, &QComboBox::activated, this, &PrintSetting::FunctionClicked);
+  for (std::int16_t index = 0; index < 2; ++index) {
+    connect(optColor_.at(static_cast<std::size_t>(index)), &OptionButton::toggled, this,
+            [this, index](bool on) {
+              if (on) run_.Options.ColorType = index;
+            });
+  }
+  connect(cmdOK_, &QPushButton::clicked, this, &PrintSetting::OkClicked);
+  connect(cmdCancel_, &QPushButton::clicked, this, &PrintSetting::reject);
+}
+
+// A page that appears while the dialog loads waits with its own load until the dialog's is over.
+void PrintSetting::LoadDialog() {
+  if (FileExists(run_.Session.HelpFile)) {
+    services_.SetHelp(run_.Session.HelpFile, run_.Session.HelpContextId);
+    SetHelpContext(*this, run_.Session.HelpContextId);
+  }
+  LoadCover();
+  FillFunctionList();
+  SelectByMode();
+  run_.Session.StepStartValid = -1;
+  run_.Session.StepEndValid = -1;
+  Member(optColor_, "optColor", run_.Options.ColorType).setChecked(true);
+  loaded_ = true;
+  shown_->Load();
+}
+
+void PrintSetting::LoadCover() {
+  if (run_.Options.Cover == 0) return chkCover_->SetValue(0);
+  chkCover_->SetValue(1);
+  if (run_.Options.SelectCover > 0)
+    Member(optDrow_, "optDrow", run_.Options.SelectCover - 1).setChecked(true);
+}
+
+void PrintSetting::FillFunctionList() {
+  const std::int16_t edition = run_.Session.HostEdition;
+  entries_ = FunctionEntries(edition, run_.Session.HostVersion);
+  if (entries_.empty() && (edition == 1 || edition == 4)) ReportFailure(run_, UnknownHost);
+  const QSignalBlocker quiet(cmbFunc_);
+  cmbFunc_->clear();
+  for (const FunctionEntry& entry : entries_) cmbFunc_->addItem(QString::fromLatin1(entry.Caption));
+  cmbFunc_->setCurrentIndex(-1);
+}
+
+void PrintSetting::SelectByMode() {
+  PrintSession& session = run_.Session;
+  const ModeChoice* choice = FindModeChoice(session.HostEdition, session.Mode);
+  if (choice == nullptr) ReportFailure(run_, UnknownHost);
+  if (session.Mode == "SimEx") {
+    session.Mode = "Sim";
+    session.SimExMode = 1;
+  }
+  SelectFunction(choice->Index);
+  cmbFunc_->setEnabled(choice->ListEnabled);
+  if (session.Mode == "IdxTbl") ReadStepCount();
+  if (session.HostEdition == 2 && session.Mode == "PrnSetting") session.StepLimit = StepsWithoutTable;
+}
+
+void PrintSetting::ReadStepCount() {
+  PrintSession& session = run_.Session;
+  if (LoadLines(run_, session.TempFolder + "IdxIdxTbl.tmp") < 0) ReportFailure(run_, UnreadableTable);
+  for (int line = 0; line < session.LineCount; ++line) {
+    std::string_view text = session.Lines[line];
+    if (NextField(text) != "IndexCnt") continue;
+    try {
+      session.StepLimit = StrictInteger(text);
+    } catch (const RunTimeFailure& failure) {
+      throw failure.At({.File = session.LinesFile, .Line = line + 1, .Key = "IndexCnt", .Text = {}});
+    }
+    return;
+  }
+}
+
+// Runs the handling of the list also when the index stays, which the toolkit's own setter doesn't.
+void PrintSetting::SelectFunction(int index) {
+  if (index >= cmbFunc_->count()) {
+    throw RunTimeFailure("invalid list index",
+                         {.File = {}, .Line = 0, .Key = "cmbFunc", .Text = std::to_string(index)});
+  }
+  cmbFunc_->setCurrentIndex(index);
+  FunctionClicked();
+}
+
+void PrintSetting::FunctionClicked() {
+  const FunctionEntry& entry = entries_[static_cast<std::size_t>(cmbFunc_->currentIndex())];
+  ShowPage(*pages_.at(static_cast<std::size_t>(PageOf(entry))));
+}
+
+// Edition 4 compares simulations; edition 1 has no such page, not even for PrnSetting.
+PageId PrintSetting::PageOf(const FunctionEntry& entry) const {
+  const PrintSession& session = run_.Session;
+  const bool compares = session.HostEdition == 4 && (session.Mode == "PrnSetting" || session.SimExMode == 1);
+  return entry.Page == PageId::InfSim && compares ? PageId::InfSimOverlap : entry.Page;
+}
+
+void PrintSetting::ShowPage(ItemPage& page) {
+  if (shown_ == &page) return;
+  if (shown_ != nullptr) shown_->hide();
+  shown_ = &page;
+  page.show();
+  if (loaded_) page.Load();
+}
+
+void PrintSetting::SetCoverControlsEnabled(bool enabled) {
+  lblCover1_->setEnabled(enabled);
+  for (OptionButton* option : optDrow_) option->setEnabled(enabled);
+  spread_->setEnabled(enabled);
+}
+
+void PrintSetting::ShowSubmitBlock(bool show, std::int16_t index) {
+  const AddresseeBlock block =
+      show ? run_.Options.User.at(static_cast<std::size_t>(index)) : AddresseeBlock{};
+  spread_->SetSettingValue(1, block.Title);
+  spread_->SetSettingValue(2, block.Corp);
+  spread_->SetSettingValue(3, NewlinesToBlanks(block.Sect));
+  spread_->SetSettingValue(4, block.Name);
+}
+
+void PrintSetting::CoverClicked() {
+  SetCoverControlsEnabled(chkCover_->IsOn());
+  PrintOptions& options = run_.Options;
+  if (chkCover_->IsOn()) {
+    options.Cover = 1;
+    if (options.SelectCover != 0) return;
+    options.SelectCover = 1;
+    optDrow_[0]->setChecked(true);
+    return;
+  }
+  options.Cover = 0;
+  options.SelectCover = 0;
+  drowGroup_->setExclusive(false);
+  for (OptionButton* option : optDrow_) option->setChecked(false);
+  drowGroup_->setExclusive(true);
+  ShowSubmitBlock(false, 0);
+}
+
+void PrintSetting::SubmitBlockClicked(std::int16_t index) {
+  ShowSubmitBlock(true, index);
+  run_.Options.SelectCover = static_cast<std::int16_t>(index + 1);
+}
+
+// No check of any kind: all input has been checked field by field before.
+void PrintSetting::OkClicked() {
+  run_.Options.DateTime = DateTimeText(run_.Now());
+  // A file that can't be written stops nobody from printing.
+  static_cast<void>(WritePrintOptionsFile(run_, run_.Session.SystemFolder + "PrintOption.ToT"));
+  if (run_.Session.Mode == "PrnSetting") EndRun(run_);
+  hide();
+  deleteLater();
+  services_.ShowPrintPreview();
+}
+
+void PrintSetting::reject() {
+  EndRun(run_);
+}
+
+}  // namespace tarvis

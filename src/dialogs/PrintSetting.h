@@ -1,0 +1,93 @@
+// "Printing Item Setting": the one window that every run passes through.
+#pragma once
+
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QDialog>
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "dialogs/ItemPage.h"
+#include "dialogs/addressee_grid.h"
+#include "dialogs/controls.h"
+#include "dialogs/function_list.h"
+
+namespace tarvis {
+
+struct PrintRun;
+
+// What the dialog asks of the program around it.
+struct PrintSettingServices {
+  // Called once, after the user has confirmed, the options are written and the dialog is gone from the
+  // screen.
+  std::function<void()> ShowPrintPreview;
+  // Sets the application's help file and the context number of this dialog; only if the file exists.
+  std::function<void(const std::string& helpFile, std::int32_t helpContextId)> SetHelp;
+};
+
+// Edits the options of the run in place, at each click and change; there is nothing to collect. Building it
+// is its load: an edition, version or mode that it doesn't know, and a program table that can't be read, end
+// the run as numbered failures; options that no control can show throw RunTimeFailure, and so may every
+// handling that a click runs, through the event loop to the application object.
+//
+// Create it with new and show it modeless. When the user confirms it deletes itself; every other way out of
+// it ends the run.
+class PrintSetting : public QDialog {
+  Q_OBJECT
+
+ public:
+  PrintSetting(PrintRun& run, PrintSettingServices services);
+
+  // Esc and the window's close box: as cmdCancel.
+  void reject() override;
+
+ private:
+  void BuildCoverGroup();
+  void BuildFunctionGroup();
+  void BuildColorGroup();
+  void BuildButtons();
+  void Connect();
+
+  void LoadDialog();
+  void LoadCover();
+  void FillFunctionList();
+  void SelectByMode();
+  void ReadStepCount();
+
+  void SelectFunction(int index);
+  void FunctionClicked();
+  PageId PageOf(const FunctionEntry& entry) const;
+  void ShowPage(ItemPage& page);
+
+  void SetCoverControlsEnabled(bool enabled);
+  void ShowSubmitBlock(bool show, std::int16_t index);
+  void CoverClicked();
+  void SubmitBlockClicked(std::int16_t index);
+  void OkClicked();
+
+  PrintRun& run_;
+  PrintSettingServices services_;
+  bool loaded_ = false;
+
+  CheckBox* chkCover_ = nullptr;
+  QPushButton* cmdEdit_ = nullptr;
+  QLabel* lblCover1_ = nullptr;
+  std::array<OptionButton*, 3> optDrow_{};
+  QButtonGroup* drowGroup_ = nullptr;
+  AddresseeGrid* spread_ = nullptr;
+
+  QComboBox* cmbFunc_ = nullptr;
+  std::span<const FunctionEntry> entries_;
+  std::vector<ItemPage*> pages_;  // by PageId
+  ItemPage* shown_ = nullptr;
+
+  std::array<OptionButton*, 2> optColor_{};
+  QPushButton* cmdOK_ = nullptr;
+  QPushButton* cmdCancel_ = nullptr;
+};
+
+}  // namespace tarvis

@@ -1,0 +1,43 @@
+// What the function list of the dialog offers, by edition and version of the host.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace tarvis {
+
+// The ten item pages.
+enum class PageId {
+  InfUser,
+  InfTrace,
+  InfRealTrace,
+  InfWizard,
+  InfMecha,
+  InfSim,
+  InfSimOverlap,
+  InfIdxTbl,
+  InfZoneTbl,
+  InfJogTbl,
+};
+
+struct FunctionEntry {
+  const char* Caption;
+  PageId Page;
+};
+
+// Empty for an edition or a version that the list doesn't know. Edition 2 comes in one version.
+std::span<const FunctionEntry> FunctionEntries(std::int16_t edition, std::string_view version);
+
+// The entry with which the dialog opens.
+struct ModeChoice {
+  std::int16_t Edition;
+  std::string_view Mode;
+  int Index;
+  bool ListEnabled;
+};
+
+// nullptr if the edition has no such mode. Modes are compared with case.
+const ModeChoice* FindModeChoice(std::int16_t edition, std::string_view mode);
+
+}  // namespace tarvis

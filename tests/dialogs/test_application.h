@@ -1,0 +1,34 @@
+// An application that keeps what a handler threw until the test asks for it: nothing may fly through the
+// toolkit's event loop.
+#pragma once
+
+#include <QApplication>
+#include <exception>
+#include <utility>
+
+namespace tarvis {
+
+class TestApplication : public QApplication {
+ public:
+  using QApplication::QApplication;
+
+  bool notify(QObject* receiver, QEvent* event) override {
+    try {
+      return QApplication::notify(receiver, event);
+    } catch (...) {
+      if (!thrown_) thrown_ = std::current_exception();
+      return true;
+    }
+  }
+
+  static TestApplication& Instance() { return *static_cast<TestApplication*>(qApp); }
+  void RethrowWhatHandlersThrew() {
+    if (thrown_) std::rethrow_exception(std::exchange(thrown_, nullptr));
+  }
+  bool HasThrown() const { return thrown_ != nullptr; }
+
+ private:
+  std::exception_ptr thrown_;
+};
+
+}  // namespace tarvis
