@@ -1,0 +1,54 @@
+#include "report/cursor_graph_report.h"
+
+namespace tarvis {
+namespace {
+
+constexpr CellStyle HeadingStyle{.Size = 8.5F, .Bold = true};
+
+}  // namespace
+
+CursorGraphReport::CursorGraphReport(const char* name, ReportContext context, const char* caption,
+                                     Entry entry, const CursorGraphLayout& layout,
+                                     const CursorGraphData& data)
+    : GraphReport(name, 9000, context, caption, 690, entry, Keep::All),
+      data_(data),
+      ghGraph(AddGrowing(SectionKind::GroupHeader, "ghGraph", 8430)),
+      imgGraph(ghGraph.AddImage("imgGraph", layout.Graph)),
+      Label2(ghGraph.AddLabel("Label2", layout.CursorLabel, "[Cursor Data]", HeadingStyle)),
+      imgNote(ghGraph.AddImage("imgNote", layout.Note)),
+      imgIONote(layout.IONote ? &ghGraph.AddImage("imgIONote", *layout.IONote) : nullptr),
+      ghGuide(AddGrowing(SectionKind::GroupHeader, "ghGuide", layout.GuideHeight)),
+      Detail(AddGrowing(SectionKind::Detail, "Detail", 300)),
+      cursors_(ghGuide, Detail, layout.Cursors),
+      GroupFooter2(AddGrowing(SectionKind::GroupFooter, "GroupFooter2", 10)),
+      GroupFooter3(AddGrowing(SectionKind::GroupFooter, "GroupFooter3", 0)),
+      GroupFooter1(AddGrowing(SectionKind::GroupFooter, "GroupFooter1", 0)) {
+  ghGuide.Repeat = true;
+}
+
+void CursorGraphReport::ActiveReport_ReportStart() {
+  Row = 0;
+  imgGraph.Picture = LoadGraph(data_.Graph);
+  imgNote.Picture = LoadLegend(data_.Note);
+  if (imgIONote != nullptr && data_.IONote) imgIONote->Picture = LoadLegend(*data_.IONote);
+  if (data_.CursolSelect == 0) HideCursorTable();
+}
+
+void CursorGraphReport::HideCursorTable() {
+  Label2.Visible = false;
+  for (Field* field :
+       {&cursors_.txtTitleName, &cursors_.txtTitleCurA, &cursors_.txtTitleCurB, &cursors_.txtTitleCurB_A,
+        &cursors_.txtValueName, &cursors_.txtValueCurA, &cursors_.txtValueCurB, &cursors_.txtValueCurB_A}) {
+    field->Visible = false;
+  }
+}
+
+// Required: every row behind the first shows the second cursor row.
+void CursorGraphReport::ActiveReport_FetchData(bool& endOfData) {
+  endOfData = Row >= data_.CursolSelect;
+  if (endOfData) return;
+  cursors_.Show(Row == 0 ? data_.CursolInfo1 : data_.CursolInfo2);
+  ++Row;
+}
+
+}  // namespace tarvis
