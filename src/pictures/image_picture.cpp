@@ -1,0 +1,149 @@
+#include "pictures/image_picture.h"
+
+#include <QBuffer>
+#include <QImageReader>
+#include <QPaintEngine>
+#include <QPainter>
+#include <cmath>
+#include <cstring>
+#include <string_view>
+
+#include "pictures/dib.h"
+
+namespace tarvis {
+namespace {
+
+constexpr float TwipsPerPixel = 15;  // at 96 pixels to the inch; only the proportion matters
+constexpr int LargestSide = 0x8000;
+constexpr qint64 MostPixels = 32 << 20;
+
+bool StartsWith(Bytes bytes, std::string_view start) {
+  return bytes.size() >= start.size() && std::memcmp(bytes.data(), start.data(), start.size()) == 0;
+}
+
+[[noreturn]] void Refuse(const QImageReader& reader) {
+  throw BadDib(reader.errorString().toStdString());
+}
+
+// The toolkit shows icons only: a cursor differs in its kind, and in the hot spots that stand where an icon
+// tells planes and bits.
+QByteArray CursorAsIcon(QByteArray bytes) {
+  constexpr qsizetype entrySize = 16;
+  constexpr qsizetype headerSize = 6;
+  bytes[2] = 1;
+  const qsizetype count = static_cast<uchar>(bytes[4]) | static_cast<uchar>(bytes[5]) << 8;
+  for (qsizetype i = 0; i < count && headerSize + (i + 1) * entrySize <= bytes.size(); ++i)
+    bytes.replace(headerSize + i * entrySize + 4, 4, QByteArray(4, '\0'));
+  return bytes;
+}
+
+void CheckSize(const QSize& size) {
+  const qint64 pixels = qint64{size.width()} * size.height();
+  if (size.width() > LargestSide || size.height() > LargestSide || pixels > MostPixels)
+    throw BadDib("it is too large");
+}
+
+// The toolkit fills what is missing of a cut JPEG with grey. No marker but its end follows the start of its
+// last scan.
+bool IsCutJpeg(Bytes bytes) {
+  const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+  const std::size_t scan = text.rfind("\xFF\xDA");
+  return StartsWith(bytes, "\xFF\xD8") && scan != text.npos && text.find("\xFF\xD9", scan) == text.npos;
+}
+
+QImage ReadWithToolkit(Bytes bytes) {
+  if (IsCutJpeg(bytes)) throw OutOfBytes();
+  QByteArray data = QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()),
+                                            static_cast<qsizetype>(bytes.size()));
+  QBuffer buffer(&data);
+  QImageReader reader(&buffer);
+  reader.setAutoTransform(true);
+  if (reader.size().isValid()) CheckSize(reader.size());
+  QImage image = reader.read();
+  if (image.isNull()) Refuse(reader);
+  return image;
+}
+
+// The largest picture of an icon, and of several that large the last, which has most colours.
+QImage ReadIcon(QByteArray data) {
+  QBuffer buffer(&data);
+  QImageReader reader(&buffer, "ico");
+  QImage best;
+  const int count = std::min(reader.imageCount(), 64);
+  for (int i = 0; i < count; ++i) {
+    if (!reader.jumpToImage(i)) continue;
+    QImage image = reader.read();
+    if (!image.isNull() && image.width() >= best.width()) best = std::move(image);
+  }
+  if (best.isNull()) Refuse(reader);
+  return best;
+}
+
+QByteArray Copy(Bytes bytes) {
+  return QByteArray(reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size()));
+}
+
+}  // namespace
+
+float ImagePicture::NaturalWidth() const {
+  return static_cast<float>(image_.width()) * TwipsPerPixel;
+}
+
+float ImagePicture::NaturalHeight() const {
+  return static_cast<float>(image_.height()) * TwipsPerPixel;
+}
+
+void ImagePicture::Paint(QPainter& painter, const QRectF& target) const {
+  DrawImageWell(painter, target, image_, image_.rect());
+}
+
+void DrawImageWell(QPainter& painter, const QRectF& target, const QImage& image, const QRectF& source) {
+  painter.save();
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  const QRectF place = painter.deviceTransform().mapRect(target);
+  const bool screen =
+      painter.paintEngine() != nullptr && painter.paintEngine()->type() == QPaintEngine::Raster;
+  const double across = source.width() / std::max(place.width(), 1.0);
+  const double down = source.height() / std::max(place.height(), 1.0);
+  if (screen && painter.deviceTransform().type() <= QTransform::TxScale && std::max(across, down) > 1.5) {
+    const QImage part = source == QRectF(image.rect()) ? image : image.copy(source.toAlignedRect());
+    const QSize size(std::max(1, static_cast<int>(std::lround(part.width() / std::max(across, 1.0)))),
+                     std::max(1, static_cast<int>(std::lround(part.height() / std::max(down, 1.0)))));
+    const QImage scaled = part.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    painter.drawImage(target, scaled, scaled.rect());
+  } else {
+    painter.drawImage(target, image, source);
+  }
+  painter.restore();
+}
+
+ImageKind FindImageKind(Bytes bytes) {
+  using namespace std::string_view_literals;
+  if (StartsWith(bytes, "BM")) return ImageKind::Bitmap;
+  if (StartsWith(bytes, "\xFF\xD8\xFF") || StartsWith(bytes, "GIF8") || StartsWith(bytes, "\x89PNG"))
+    return ImageKind::Toolkit;
+  if (StartsWith(bytes, "\0\0\1\0"sv)) return ImageKind::Icon;
+  if (StartsWith(bytes, "\0\0\2\0"sv)) return ImageKind::Cursor;
+  return LooksLikeDib(bytes) ? ImageKind::BareBitmap : ImageKind::None;
+}
+
+QImage DecodeImage(Bytes bytes, ImageKind kind) {
+  switch (kind) {
+    case ImageKind::Bitmap:
+      return DecodeBmpFile(bytes);
+    case ImageKind::BareBitmap:
+      return DecodePackedDib(bytes);
+    case ImageKind::Toolkit:
+      return ReadWithToolkit(bytes);
+    case ImageKind::Icon:
+      return ReadIcon(Copy(bytes));
+    case ImageKind::Cursor:
+      if (bytes.size() < 6) throw OutOfBytes();
+      return ReadIcon(CursorAsIcon(Copy(bytes)));
+    case ImageKind::None:
+      break;
+  }
+  throw BadDib("its content is none of a known picture format");
+}
+
+}  // namespace tarvis

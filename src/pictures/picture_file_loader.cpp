@@ -1,0 +1,47 @@
+#include "pictures/picture_file_loader.h"
+
+#include <QFile>
+
+#include "pictures/image_picture.h"
+#include "printfiles/host_files.h"
+#include "printfiles/run_time_failure.h"
+
+namespace tarvis {
+namespace {
+
+constexpr qint64 LargestFile = 96 << 20;
+
+[[noreturn]] void Refuse(const std::string& name, const std::string& reason) {
+  throw RunTimeFailure("no picture that can be shown", {.File = name, .Line = 0, .Key = {}, .Text = reason});
+}
+
+Bytes AsBytes(std::string_view bytes) {
+  return {reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()};
+}
+
+}  // namespace
+
+PicturePtr DecodePicture(const std::string& name, Bytes bytes) {
+  if (bytes.empty()) Refuse(name, "it is empty");
+  try {
+    return std::make_shared<ImagePicture>(DecodeImage(bytes, FindImageKind(bytes)));
+  } catch (const std::exception& error) {
+    Refuse(name, error.what());
+  }
+}
+
+PicturePtr PictureFileLoader::Load(const std::string& path) {
+  if (const auto known = loaded_.find(path); known != loaded_.end()) return known->second;
+  QFile file(NativePath(path));
+  if (!file.open(QIODevice::ReadOnly)) Refuse(path, file.errorString().toStdString());
+  if (file.size() > LargestFile) Refuse(path, "it is too large");
+  const QByteArray bytes = file.read(LargestFile + 1);
+  return loaded_[path] = DecodePicture(path, AsBytes({bytes.data(), static_cast<std::size_t>(bytes.size())}));
+}
+
+PicturePtr PictureFileLoader::LoadBytes(const std::string& name, std::string_view bytes) {
+  if (const auto known = loaded_.find(name); known != loaded_.end()) return known->second;
+  return loaded_[name] = DecodePicture(name, AsBytes(bytes));
+}
+
+}  // namespace tarvis
