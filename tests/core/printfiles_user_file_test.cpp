@@ -278,6 +278,18 @@ TEST_F(UserFile, StopsAtMoreLinesThan16BitsCountBeforeReadingAny) {
   EXPECT_EQ(Stopped(lines), "User.tmp:32769: overflow: more than 32768 lines");
 }
 
+TEST_F(UserFile, FullOfCountLinesIsReadLikeAnyOther) {
+  Lines lines;
+  for (int line = 0; line < 16384; ++line) {
+    lines.push_back("SwitchNum," + std::string(line % 2 == 0 ? "32767" : "16384"));
+    lines.push_back("Switch3,0,1,,,x");
+  }
+  ASSERT_TRUE(Read(lines));
+  EXPECT_EQ(Run.User.Switches.HighestIndex(), 16384);
+  EXPECT_EQ(Run.User.Switches[16383].Digit[3].Text, "x");
+  EXPECT_EQ(Run.User.Switches[16382].Digit[3].Text, "");
+}
+
 TEST_F(UserFile, ReadsDoubleByteTextsWhoseSecondByteIsABackslashOrBar) {
   Run.Page = CodePage(932);
   LoadBytes(Run, "User.tmp",
