@@ -37,9 +37,10 @@ QImage RenderPage(const Document& document, int page, int pageWidth, int top, in
   return picture;
 }
 
-PagePictures::PagePictures(std::shared_ptr<const Document> document, QObject* parent)
-    : QObject(parent), document_(std::move(document)) {
+PagePictures::PagePictures(std::shared_ptr<const Document> document, std::int64_t budget, QObject* parent)
+    : QObject(parent), document_(std::move(document)), budget_(budget) {
   worker_.setMaxThreadCount(1);
+  worker_.setExpiryTimeout(-1);  // the thread's fonts are loaded once
 }
 
 PagePictures::~PagePictures() {
@@ -110,7 +111,7 @@ void PagePictures::Keep(const Strip& strip, QImage picture) {
     cached.push_back({key, entry.Picture.sizeInBytes(), entry.LastUse});
   std::vector<Strip> kept = wanted_;
   kept.push_back(strip);
-  for (const Strip& old : Evict(std::move(cached), kept, Budget)) entries_.erase(old);
+  for (const Strip& old : Evict(std::move(cached), kept, budget_)) entries_.erase(old);
 }
 
 }  // namespace tarvis

@@ -22,11 +22,11 @@ int PagePixelHeight(const Document& document, int pageWidth);
 class PagePictures : public QObject {
   Q_OBJECT
  public:
-  explicit PagePictures(std::shared_ptr<const Document> document, QObject* parent = nullptr);
+  // Keeps at most `budget` bytes of pictures, unless what is wanted takes more.
+  explicit PagePictures(std::shared_ptr<const Document> document, std::int64_t budget,
+                        QObject* parent = nullptr);
   // Waits for the rendering that is under way.
   ~PagePictures() override;
-
-  static constexpr std::int64_t Budget = 64 * 1024 * 1024;  // bytes
 
   // What is to be rendered from now on, most urgent first.
   void Want(std::vector<Strip> strips);
@@ -51,6 +51,7 @@ class PagePictures : public QObject {
   void Keep(const Strip& strip, QImage picture);
 
   std::shared_ptr<const Document> document_;
+  std::int64_t budget_;
   std::map<Strip, Entry> entries_;
   std::vector<Strip> wanted_;
   std::int64_t uses_ = 0;

@@ -10,6 +10,8 @@
 namespace tarvis {
 namespace {
 
+constexpr std::int64_t PictureBudget = 64 * 1024 * 1024;  // bytes
+
 constexpr std::array ZoomSteps{0.1,  0.125, 0.25, 0.33, 0.5, 0.67, 0.75, 0.9, 1.0, 1.1,
                                1.25, 1.5,   1.75, 2.0,  2.5, 3.0,  4.0,  5.0, 6.0, 8.0};
 
@@ -23,7 +25,7 @@ void PaintShadow(QPainter& painter, const QRectF& page, const QColor& edge) {
 }  // namespace
 
 PageView::PageView(std::shared_ptr<const Document> document, QWidget* parent)
-    : QAbstractScrollArea(parent), document_(std::move(document)), pictures_(document_) {
+    : QAbstractScrollArea(parent), document_(std::move(document)), pictures_(document_, PictureBudget) {
   setObjectName(QStringLiteral("pageView"));
   setAccessibleName(tr("Pages"));
   setFrameShape(QFrame::NoFrame);
@@ -42,8 +44,11 @@ QPointF PageView::Offset() const {
 }
 
 int PageView::CurrentPage() const {
-  // The page that holds the line a third below the top edge: what the reader most likely looks at.
-  return layout_.PageAt(Offset().y() + viewport()->height() / 3.0);
+  return ReadPlace().Page;
+}
+
+PagePlace PageView::ReadPlace() const {
+  return layout_.PlaceAt(Offset().y() + viewport()->height() / 3.0);
 }
 
 PagePlace PageView::CurrentPlace() const {
@@ -138,6 +143,7 @@ void PageView::ZoomStep(int direction, std::optional<QPointF> anchor) {
 
 void PageView::SetHighlights(std::function<std::vector<Highlight>(int)> highlights) {
   highlights_ = std::move(highlights);
+  viewport()->update();
 }
 
 PageView::Spot PageView::SpotAt(QPointF point) const {

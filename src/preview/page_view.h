@@ -25,6 +25,8 @@ class PageView : public QAbstractScrollArea {
   const PageLayout& Layout() const { return layout_; }
   PagePictures& Pictures() { return pictures_; }
   int CurrentPage() const;
+  // What the reader most likely looks at: a third below the top edge.
+  PagePlace ReadPlace() const;
   // What stands at the top edge of the view.
   PagePlace CurrentPlace() const;
   double Zoom() const { return layout_.Zoom(); }

@@ -21,6 +21,7 @@ constexpr std::array ZoomChoices{25, 50, 75, 100, 125, 150, 200, 300, 400, 800};
 
 QWidget* PreviewWindow::MakePageBox() {
   auto* holder = new QWidget(this);
+  holder->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
   auto* row = new QHBoxLayout(holder);
   row->setContentsMargins(4, 0, 4, 0);
   const int count = view_->Layout().PageCount();
@@ -79,8 +80,9 @@ void PreviewWindow::ReadZoomBox() {
 void PreviewWindow::ShowPlace() {
   const int count = view_->Layout().PageCount();
   const int page = view_->CurrentPage();
+  // What is being typed stays.
   if (!pageBox_->hasFocus()) pageBox_->setText(QString::number(page + 1));
-  pane_->ShowPlace(view_->CurrentPlace(), page);
+  pane_->ShowPlace(view_->ReadPlace());
   ActionOf(Command::FirstPage)->setEnabled(page > 0);
   ActionOf(Command::PreviousPage)->setEnabled(page > 0);
   ActionOf(Command::NextPage)->setEnabled(page + 1 < count);

@@ -1,6 +1,7 @@
 #include "preview/preview_window.h"
 
 #include <QAction>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
@@ -9,9 +10,12 @@
 #include <QSplitter>
 #include <QToolBar>
 #include <QToolButton>
+#include <QVBoxLayout>
 #include <algorithm>
 
 #include "preview/background_job.h"
+#include "preview/find_bar.h"
+#include "preview/finder.h"
 #include "preview/icons.h"
 #include "preview/page_view.h"
 #include "preview/side_pane.h"
@@ -23,6 +27,8 @@ constexpr double OpeningLeft = 60;  // twips
 constexpr double OpeningTop = 345;
 constexpr double OpeningWidth = 16005;
 constexpr double OpeningHeight = 9675;
+
+const QColor SelectionTint(170, 205, 255);
 
 int Pixels(double twips) {
   return static_cast<int>(twips / TwipsPerPixel);
@@ -50,9 +56,13 @@ PreviewWindow::PreviewWindow(std::shared_ptr<const Document> document, const Pre
                              QWidget* parent)
     : QMainWindow(parent),
       document_(std::move(document)),
+      text_(*document_),
+      selection_(text_),
       author_(setup.Author),
       view_(new PageView(document_)),
       pane_(new SidePane(document_)),
+      findBar_(new FindBar(this)),
+      finder_(new Finder(*findBar_, text_, *view_, this)),
       splitter_(new QSplitter(this)) {
   setObjectName(QStringLiteral("previewWindow"));
   setWindowTitle(setup.Caption);
@@ -60,7 +70,13 @@ PreviewWindow::PreviewWindow(std::shared_ptr<const Document> document, const Pre
   splitter_->addWidget(view_);
   splitter_->setStretchFactor(1, 1);
   splitter_->setCollapsible(1, false);
-  setCentralWidget(splitter_);
+  auto* body = new QWidget(this);
+  auto* column = new QVBoxLayout(body);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  column->addWidget(splitter_, 1);
+  column->addWidget(findBar_);
+  setCentralWidget(body);
   PlaceOnScreen();
   splitter_->setSizes({Pixels(setup.ContentsWidth), width() - Pixels(setup.ContentsWidth)});
   MakeActions();
@@ -70,6 +86,7 @@ PreviewWindow::PreviewWindow(std::shared_ptr<const Document> document, const Pre
   Connect();
   ShowPlace();
   ShowZoom();
+  SelectionChanged();
   view_->setFocus();
 }
 
@@ -138,6 +155,38 @@ void PreviewWindow::Connect() {
   connect(view_, &PageView::PlaceChanged, this, &PreviewWindow::ShowPlace);
   connect(view_, &PageView::ZoomChanged, this, &PreviewWindow::ShowZoom);
   connect(pane_, &SidePane::PlaceChosen, this, &PreviewWindow::Jump);
+  connect(finder_, &Finder::Leaving, this, [this] { history_.Leave(view_->CurrentPlace()); });
+  ConnectSelection();
+}
+
+void PreviewWindow::ConnectSelection() {
+  connect(view_, &PageView::Pressed, this, [this](const PageView::Spot& spot) {
+    selection_.Clear();
+    if (spot.Page >= 0) selection_.Start(spot.Page, spot.Point);
+    SelectionChanged();
+  });
+  connect(view_, &PageView::Dragged, this, [this](const PageView::Spot& spot) {
+    if (spot.Page >= 0) selection_.ExtendTo(spot.Page, spot.Point);
+    SelectionChanged();
+  });
+  connect(view_, &PageView::DoubleClicked, this, [this](const PageView::Spot& spot) {
+    if (spot.Page >= 0) selection_.SelectWord(spot.Page, spot.Point);
+    SelectionChanged();
+  });
+  view_->SetHighlights([this](int page) {
+    std::vector<Highlight> marks = finder_->Marks(page);
+    for (const QRectF& box : selection_.Boxes(page)) marks.push_back({box, SelectionTint});
+    return marks;
+  });
+}
+
+void PreviewWindow::SelectionChanged() {
+  ActionOf(Command::Copy)->setEnabled(!selection_.IsEmpty());
+  view_->viewport()->update();
+}
+
+void PreviewWindow::Copy() {
+  if (!selection_.IsEmpty()) QGuiApplication::clipboard()->setText(selection_.Text());
 }
 
 void PreviewWindow::Run(Command command, bool checked) {
@@ -174,10 +223,19 @@ void PreviewWindow::Run(Command command, bool checked) {
       return view_->SetZoomMode(ZoomMode::FitWidth);
     case Command::Continuous:
       return view_->SetContinuous(checked);
+    case Command::Find:
+      return finder_->Open();
+    case Command::FindNext:
+      return finder_->Step(1);
+    case Command::FindPrevious:
+      return finder_->Step(-1);
+    case Command::Copy:
+      return Copy();
+    case Command::SelectAll:
+      selection_.SelectAll();
+      return SelectionChanged();
     case Command::Close:
       emit toolUsed(CloseTool);
-      return;
-    default:
       return;
   }
 }

@@ -8,9 +8,11 @@
 
 #include "preview/background_job.h"
 #include "preview/commands.h"
+#include "preview/document_text.h"
 #include "preview/page_layout.h"
 #include "preview/place_history.h"
 #include "preview/printing.h"
+#include "preview/text_selection.h"
 #include "report/engine/active_report.h"
 #include "report/engine/document.h"
 
@@ -21,6 +23,8 @@ class QSplitter;
 
 namespace tarvis {
 
+class FindBar;
+class Finder;
 class PageView;
 class SidePane;
 
@@ -61,6 +65,7 @@ class PreviewWindow : public QMainWindow {
   QWidget* MakePageBox();
   QWidget* MakeZoomBox();
   void Connect();
+  void ConnectSelection();
   void Run(Command command, bool checked);
 
   void Jump(const PagePlace& place);
@@ -71,6 +76,8 @@ class PreviewWindow : public QMainWindow {
   void ReadPageBox();
   void ReadZoomBox();
 
+  void Copy();
+  void SelectionChanged();
   void Print();
   void SavePdf();
   bool AskForScale(PrintScale& scale);
@@ -78,9 +85,13 @@ class PreviewWindow : public QMainWindow {
   void StartJob(const QString& caption, const QString& failure, BackgroundJob::Work work);
 
   std::shared_ptr<const Document> document_;
+  DocumentText text_;
+  TextSelection selection_;
   QString author_;
   PageView* view_;
   SidePane* pane_;
+  FindBar* findBar_;
+  Finder* finder_;
   QSplitter* splitter_;
   QLineEdit* pageBox_ = nullptr;
   QComboBox* zoomBox_ = nullptr;

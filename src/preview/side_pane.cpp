@@ -3,6 +3,8 @@
 #include <QHeaderView>
 #include <QTreeWidget>
 
+#include "preview/thumbnails.h"
+
 namespace tarvis {
 namespace {
 
@@ -11,7 +13,10 @@ constexpr int EntryRole = Qt::UserRole;
 }  // namespace
 
 SidePane::SidePane(std::shared_ptr<const Document> document, QWidget* parent)
-    : QTabWidget(parent), document_(std::move(document)), contents_(new QTreeWidget(this)) {
+    : QTabWidget(parent),
+      document_(std::move(document)),
+      contents_(new QTreeWidget(this)),
+      thumbnails_(new Thumbnails(document_, this)) {
   setObjectName(QStringLiteral("sidePane"));
   setDocumentMode(true);
   contents_->setObjectName(QStringLiteral("contents"));
@@ -22,6 +27,8 @@ SidePane::SidePane(std::shared_ptr<const Document> document, QWidget* parent)
   contents_->setTextElideMode(Qt::ElideRight);
   FillContents();
   addTab(contents_, tr("Contents"));
+  addTab(thumbnails_, tr("Pages"));
+  connect(thumbnails_, &Thumbnails::PageChosen, this, [this](int page) { emit PlaceChosen({page, 0}); });
   connect(contents_, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) { Choose(item); });
   connect(contents_, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* item) { Choose(item); });
 }
@@ -49,14 +56,14 @@ void SidePane::Choose(const QTreeWidgetItem* item) {
   emit PlaceChosen({entry.Page, static_cast<double>(entry.Top)});
 }
 
-void SidePane::ShowPlace(const PagePlace& place, int) {
-  constexpr double Slack = 60;  // twips: a place gone to stands a rounding error beside its entry
+void SidePane::ShowPlace(const PagePlace& place) {
+  thumbnails_->SetCurrent(place.Page);
   QTreeWidgetItem* current = nullptr;
   for (std::size_t index = 0; index < items_.size(); ++index) {
     const ContentsEntry& entry = document_->Contents[index];
-    const bool before = entry.Page < place.Page ||
-                        (entry.Page == place.Page && static_cast<double>(entry.Top) <= place.Top + Slack);
-    if (before) current = items_[index];
+    const bool above =
+        entry.Page < place.Page || (entry.Page == place.Page && static_cast<double>(entry.Top) <= place.Top);
+    if (above || current == nullptr) current = items_[index];
   }
   if (current != contents_->currentItem()) contents_->setCurrentItem(current);
 }

@@ -12,13 +12,15 @@ class QTreeWidgetItem;
 
 namespace tarvis {
 
+class Thumbnails;
+
 class SidePane : public QTabWidget {
   Q_OBJECT
  public:
   explicit SidePane(std::shared_ptr<const Document> document, QWidget* parent = nullptr);
 
   // Marks what is being read.
-  void ShowPlace(const PagePlace& place, int page);
+  void ShowPlace(const PagePlace& place);
 
  signals:
   void PlaceChosen(const PagePlace& place);
@@ -29,6 +31,7 @@ class SidePane : public QTabWidget {
 
   std::shared_ptr<const Document> document_;
   QTreeWidget* contents_;
+  Thumbnails* thumbnails_;
   std::vector<QTreeWidgetItem*> items_;  // by entry
 };
 
