@@ -16,9 +16,9 @@ InfUser::InfUser(PrintRun& run, QWidget* parent)
                      {"chkItemUser", 3, "&Default Setting", 4, {2400, 840, 1695, 255}},
                      {"chkItemEtc", NoFamily, "Comment&s", 5, {330, 2040, 1485, 255}}},
                     run.Options.UserOption);
-  CheckBox* name = items_[0].Box;
-  CheckBox* switches = items_[1].Box;
-  connect(name, &CheckBox::stateChanged, switches, [name, switches] { switches->setEnabled(name->IsOn()); });
+  TickBox* name = items_[0].Box;
+  TickBox* switches = items_[1].Box;
+  connect(name, &TickBox::stateChanged, switches, [name, switches] { switches->setEnabled(name->IsOn()); });
 }
 
 void InfUser::LoadItems() {

@@ -60,19 +60,19 @@ void ItemPage::BuildFirstTab(const PageFrame& frame) {
   txtTitle_ = new LineBox("txtTitle", NoFamily, "Title text", TitleLimit, {1305, 660, 3330, 315}, tab);
   txtTitle_->setText(QString::fromLatin1(frame.Title));
   for (int index = 1; index < 4; ++index) AddHeaderBox(tab, index);
-  chkFooter_ = new CheckBox("chkFooter", NoFamily, "Pa&ges", {330, 2460, 1215, 255}, tab);
+  chkFooter_ = new TickBox("chkFooter", NoFamily, "Pa&ges", {330, 2460, 1215, 255}, tab);
   chkFooter_->SetValue(1);
-  connect(chkHeader_[0], &CheckBox::stateChanged, this,
+  connect(chkHeader_[0], &TickBox::stateChanged, this,
           [this] { txtTitle_->setEnabled(chkHeader_[0]->IsOn()); });
   connect(txtTitle_, &LineBox::textChanged, this, &ItemPage::TitleChanged);
-  connect(chkFooter_, &CheckBox::stateChanged, this, [this] { header_.Pages = chkFooter_->Value(); });
+  connect(chkFooter_, &TickBox::stateChanged, this, [this] { header_.Pages = chkFooter_->Value(); });
 }
 
 void ItemPage::AddHeaderBox(QWidget* tab, int index) {
   const HeaderBoxPlan& plan = HeaderBoxes.at(static_cast<std::size_t>(index));
-  auto* box = new CheckBox("chkHeader", index, plan.Caption, plan.Place, tab);
+  auto* box = new TickBox("chkHeader", index, plan.Caption, plan.Place, tab);
   box->SetValue(1);
-  connect(box, &CheckBox::stateChanged, this, [this, box, &plan] { header_.*plan.Element = box->Value(); });
+  connect(box, &TickBox::stateChanged, this, [this, box, &plan] { header_.*plan.Element = box->Value(); });
   chkHeader_.push_back(box);
 }
 
@@ -102,10 +102,10 @@ std::vector<BoundBox> ItemPage::AddBoxes(QWidget* tab, std::initializer_list<Ite
                                          std::span<std::int16_t> elements) {
   std::vector<BoundBox> made;
   for (const ItemBox& plan : boxes) {
-    auto* box = new CheckBox(plan.Name, plan.Index, plan.Caption, plan.Place, tab);
+    auto* box = new TickBox(plan.Name, plan.Index, plan.Caption, plan.Place, tab);
     std::int16_t& element = elements[static_cast<std::size_t>(plan.Element - 1)];
     box->SetValue(1);
-    connect(box, &CheckBox::stateChanged, this, [box, &element] { element = box->Value(); });
+    connect(box, &TickBox::stateChanged, this, [box, &element] { element = box->Value(); });
     made.push_back({box, &element});
   }
   SetReadingOrder(*tab);

@@ -41,7 +41,7 @@ struct ItemBox {
 
 // A box on its tab with its element.
 struct BoundBox {
-  CheckBox* Box;
+  TickBox* Box;
   std::int16_t* Element;
 };
 
@@ -68,7 +68,7 @@ class ItemPage : public QWidget {
 
   PrintRun& Run() const { return run_; }
   HeaderOptions& Header() const { return header_; }
-  CheckBox& HeaderBox(int index) const { return *chkHeader_.at(static_cast<std::size_t>(index)); }
+  TickBox& HeaderBox(int index) const { return *chkHeader_.at(static_cast<std::size_t>(index)); }
 
   void AddLabels(QWidget* tab, std::initializer_list<ItemLabel> labels);
   // The boxes in the order given, each writing through to its element of `elements` on a click. Starts
@@ -88,9 +88,9 @@ class ItemPage : public QWidget {
   PrintRun& run_;
   HeaderOptions& header_;
   TabControl* tabs_;
-  std::vector<CheckBox*> chkHeader_;
+  std::vector<TickBox*> chkHeader_;
   LineBox* txtTitle_ = nullptr;
-  CheckBox* chkFooter_ = nullptr;
+  TickBox* chkFooter_ = nullptr;
 };
 
 }  // namespace tarvis

@@ -49,7 +49,7 @@ PrintSetting::PrintSetting(PrintRun& run, PrintSettingServices services)
 
 void PrintSetting::BuildCoverGroup() {
   auto* frame = new GroupFrame("Frame1", "Cover", {120, 45, 5300, 2640}, this);
-  chkCover_ = new CheckBox("chkCover", NoFamily, "&Attaching the Cover", {240, 225, 1815, 375}, frame);
+  chkCover_ = new TickBox("chkCover", NoFamily, "&Attaching the Cover", {240, 225, 1815, 375}, frame);
   cmdEdit_ = MakeButton("cmdEdit", "Cover &Editing", {2640, 240, 1695, 495}, frame);
   cmdEdit_->setEnabled(false);
   lblCover1_ = MakeLabel("lblCover1", NoFamily, " Where to Submit", {360, 810, 3375, 255}, frame);
@@ -88,7 +88,7 @@ void PrintSetting::BuildButtons() {
 }
 
 void PrintSetting::Connect() {
-  connect(chkCover_, &CheckBox::stateChanged, this, &PrintSetting::CoverClicked);
+  connect(chkCover_, &TickBox::stateChanged, this, &PrintSetting::CoverClicked);
   for (std::int16_t index = 0; index < 3; ++index) {
     connect(optDrow_.at(static_cast<std::size_t>(index)), &OptionButton::toggled, this,
             [this, index](bool on) {

@@ -73,7 +73,7 @@ class PrintSetting : public QDialog {
   PrintSettingServices services_;
   bool loaded_ = false;
 
-  CheckBox* chkCover_ = nullptr;
+  TickBox* chkCover_ = nullptr;
   QPushButton* cmdEdit_ = nullptr;
   QLabel* lblCover1_ = nullptr;
   std::array<OptionButton*, 3> optDrow_{};

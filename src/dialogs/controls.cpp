@@ -98,13 +98,13 @@ void SetReadingOrder(QWidget& container) {
   for (std::size_t i = 1; i < controls.size(); ++i) QWidget::setTabOrder(controls[i - 1], controls[i]);
 }
 
-CheckBox::CheckBox(const char* name, int index, const char* caption, const Bounds& bounds, QWidget* parent)
+TickBox::TickBox(const char* name, int index, const char* caption, const Bounds& bounds, QWidget* parent)
     : QCheckBox(QString::fromLatin1(caption), parent) {
   NameControl(*this, name, index, PlainCaption(text()));
   wraps_ = PlaceCaption(*this, bounds);
 }
 
-std::int16_t CheckBox::Value() const {
+std::int16_t TickBox::Value() const {
   switch (checkState()) {
     case Qt::Unchecked:
       return 0;
@@ -116,7 +116,7 @@ std::int16_t CheckBox::Value() const {
   return 0;
 }
 
-void CheckBox::SetValue(std::int16_t value) {
+void TickBox::SetValue(std::int16_t value) {
   switch (value) {
     case 0:
       return setCheckState(Qt::Unchecked);
@@ -131,11 +131,11 @@ void CheckBox::SetValue(std::int16_t value) {
   }
 }
 
-void CheckBox::nextCheckState() {
+void TickBox::nextCheckState() {
   setCheckState(Value() == 0 ? Qt::Checked : Qt::Unchecked);
 }
 
-void CheckBox::paintEvent(QPaintEvent* event) {
+void TickBox::paintEvent(QPaintEvent* event) {
   if (!wraps_) return QCheckBox::paintEvent(event);
   QStyleOptionButton option;
   initStyleOption(&option);

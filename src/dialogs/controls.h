@@ -30,13 +30,13 @@ void SetReadingOrder(QWidget& container);
 
 // A check box with the three values of an option element. `stateChanged` is the click: it comes from the user
 // and from SetValue alike, and only when the value changes.
-class CheckBox : public QCheckBox {
+class TickBox : public QCheckBox {
   Q_OBJECT
 
  public:
   // `caption` may hold a mnemonic mark. Where the caption doesn't fit into `bounds` it wraps if there is room
   // for two lines; otherwise the box grows to the right.
-  CheckBox(const char* name, int index, const char* caption, const Bounds& bounds, QWidget* parent);
+  TickBox(const char* name, int index, const char* caption, const Bounds& bounds, QWidget* parent);
 
   // 0 unchecked, 1 checked, 2 greyed: a value that only an options file can bring.
   std::int16_t Value() const;

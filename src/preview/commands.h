@@ -48,6 +48,6 @@ struct CommandEntry {
 std::span<const CommandEntry> CommandTable();
 
 // The tool's number of "Close", which ends the run.
-inline constexpr int CloseTool = 5113;
+inline constexpr int CloseToolNumber = 5113;
 
 }  // namespace tarvis

@@ -25,8 +25,8 @@ void PageLayout::SetZoom(ZoomMode mode, double factor) {
 }
 
 void PageLayout::Update() {
-  const double acrossZoom = (viewport_.width() - 2 * Margin) * TwipsPerPixel / width_;
-  const double downZoom = (viewport_.height() - 2 * Margin) * TwipsPerPixel / height_;
+  const double acrossZoom = (viewport_.width() - 2 * Margin) * TwipsPerScreenPixel / width_;
+  const double downZoom = (viewport_.height() - 2 * Margin) * TwipsPerScreenPixel / height_;
   if (mode_ == ZoomMode::Factor) zoom_ = factor_;
   if (mode_ == ZoomMode::FitWidth) zoom_ = std::clamp(acrossZoom, LeastZoom, GreatestZoom);
   if (mode_ == ZoomMode::FitPage) zoom_ = std::clamp(std::min(acrossZoom, downZoom), LeastZoom, GreatestZoom);

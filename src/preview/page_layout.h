@@ -22,7 +22,7 @@ namespace tarvis {
 enum class ZoomMode { Factor, FitWidth, FitPage };
 
 // Twips to a logical pixel at 100 %.
-inline constexpr double TwipsPerPixel = 15;
+inline constexpr double TwipsPerScreenPixel = 15;
 
 // A place to go to: a page and a height on it, in twips.
 struct PagePlace {
@@ -51,7 +51,7 @@ class PageLayout {
   int SinglePage() const { return single_; }
   ZoomMode Mode() const { return mode_; }
   double Zoom() const { return zoom_; }
-  double PixelsPerTwip() const { return zoom_ / TwipsPerPixel; }
+  double PixelsPerTwip() const { return zoom_ / TwipsPerScreenPixel; }
   QSizeF PageSize() const { return {width_ * PixelsPerTwip(), height_ * PixelsPerTwip()}; }
 
   QSizeF ContentSize() const;

@@ -31,7 +31,7 @@ constexpr double OpeningHeight = 9675;
 const QColor SelectionTint(170, 205, 255);
 
 int Pixels(double twips) {
-  return static_cast<int>(twips / TwipsPerPixel);
+  return static_cast<int>(twips / TwipsPerScreenPixel);
 }
 
 QList<QKeySequence> KeysOf(const CommandEntry& entry) {
@@ -235,7 +235,7 @@ void PreviewWindow::Run(Command command, bool checked) {
       selection_.SelectAll();
       return SelectionChanged();
     case Command::Close:
-      emit toolUsed(CloseTool);
+      emit toolUsed(CloseToolNumber);
       return;
   }
 }

@@ -49,7 +49,7 @@ class PreviewWindow : public QMainWindow {
   QAction* ActionOf(Command command) const { return actions_.at(command); }
 
  signals:
-  // A tool that is none of the window's own business: an added tool, or CloseTool.
+  // A tool that is none of the window's own business: an added tool, or CloseToolNumber.
   void toolUsed(int id);
   // The user has closed the window; closing it from code tells nothing.
   void closedByUser();

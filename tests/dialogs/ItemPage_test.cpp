@@ -152,7 +152,7 @@ TEST_F(ItemPageTest, ItemsOfTheParametersWriteTheirElements) {
 TEST_F(ItemPageTest, SwitchesInfoGreysWithNameAndKeepsItsMark) {
   Open(2, "", "User");
   ClickTab(Page("InfUser").Tabs(), 1);
-  CheckBox& switches = Check("chkItemUser_1", "InfUser");
+  TickBox& switches = Check("chkItemUser_1", "InfUser");
   Click(Check("chkItemUser_0", "InfUser"));
   EXPECT_FALSE(switches.isEnabled());
   EXPECT_TRUE(switches.isChecked());
@@ -212,8 +212,8 @@ TEST_F(ItemPageTest, OnlyTheShownPageLoadsWithTheDialog) {
 TEST_F(ItemPageTest, ALoadWithUnchangedValuesRunsNoHandling) {
   Open(2, "", "User");
   int clicks = 0;
-  for (CheckBox* box : Page("InfUser").findChildren<CheckBox*>()) {
-    QObject::connect(box, &CheckBox::stateChanged, Dialog, [&clicks] { ++clicks; });
+  for (TickBox* box : Page("InfUser").findChildren<TickBox*>()) {
+    QObject::connect(box, &TickBox::stateChanged, Dialog, [&clicks] { ++clicks; });
   }
   Page("InfUser").Load();
   EXPECT_EQ(clicks, 0);
@@ -239,7 +239,7 @@ TEST_F(ItemPageTest, TheWizardsPageOffersNoFileName) {
   page->show();
   page->Load();
   EXPECT_EQ(Run.Options.PrmWizHeader.FileName, 0);
-  EXPECT_TRUE(page->findChild<CheckBox*>("chkHeader_3")->isHidden());
+  EXPECT_TRUE(page->findChild<TickBox*>("chkHeader_3")->isHidden());
   EXPECT_EQ(page->Tabs().Bar()->count(), 1);
 }
 

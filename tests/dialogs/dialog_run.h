@@ -83,7 +83,7 @@ class DialogRun : public testing::Test {
     if (control == nullptr) throw std::runtime_error(std::string("no control ") + name);
     return *control;
   }
-  CheckBox& Check(const char* name, const char* page = nullptr) { return Find<CheckBox>(name, page); }
+  TickBox& Check(const char* name, const char* page = nullptr) { return Find<TickBox>(name, page); }
   ItemPage& Page(const char* name) { return Find<ItemPage>(name); }
 
   // The one item page that the user sees, or all of them if that isn't one.
