@@ -78,8 +78,12 @@ class Host:
 
     def start(self, program, mode, edition=None, environment=None, **popen):
         """Starts the program with the four arguments, as a child process."""
+        return self.start_with(program, self.arguments(mode, edition), environment, **popen)
+
+    def start_with(self, program, arguments, environment=None, **popen):
+        """The same with any arguments."""
         told = {**os.environ, **(environment or {}), "TARVIS_CONFIG": str(self.configuration)}
-        return subprocess.Popen([str(program), *self.arguments(mode, edition)], env=told, **popen)
+        return subprocess.Popen([str(program), *arguments], env=told, **popen)
 
 
 def main():

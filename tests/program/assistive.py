@@ -1,0 +1,74 @@
+"""Reads the program's windows as assistive tools do: by role, name and state, through the accessibility bus."""
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+
+class Widget:
+    """One thing on the screen; it may be gone at the next call, and then it has no name, text or children."""
+
+    def __init__(self, accessible):
+        self._accessible = accessible
+
+    def _ask(self, question, otherwise):
+        try:
+            return question(self._accessible)
+        except GLib.Error:
+            return otherwise
+
+    @property
+    def name(self):
+        return self._ask(lambda a: a.get_name(), "") or ""
+
+    @property
+    def role(self):
+        return self._ask(lambda a: a.get_role_name(), "") or ""
+
+    @property
+    def text(self):
+        """What stands in a text box."""
+        return self._ask(lambda a: Atspi.Text.get_text(a, 0, -1), "") or ""
+
+    def has(self, state):
+        """`state` is a word such as "checked", "focused", "enabled", "showing"."""
+        kind = getattr(Atspi.StateType, state.upper())
+        return self._ask(lambda a: a.get_state_set().contains(kind), False)
+
+    def children(self):
+        count = self._ask(lambda a: a.get_child_count(), 0)
+        for i in range(count):
+            child = self._ask(lambda a, i=i: a.get_child_at_index(i), None)
+            if child is not None:
+                yield Widget(child)
+
+    def all(self):
+        """This one and everything inside, outermost first."""
+        yield self
+        for child in self.children():
+            yield from child.all()
+
+    def find(self, role=None, name=None):
+        """The first that shows and has this role and name; None if there is none."""
+        for widget in self.all():
+            if (role is None or widget.role == role) and (name is None or widget.name == name) and widget.has("showing"):
+                return widget
+        return None
+
+
+class AccessibleProgram:
+    """The program with this process number, once it is on the bus."""
+
+    def __init__(self, pid):
+        self._pid = pid
+
+    def windows(self):
+        desktop = Atspi.get_desktop(0)
+        for i in range(desktop.get_child_count()):
+            application = desktop.get_child_at_index(i)
+            if application is not None and application.get_process_id() == self._pid:
+                return [window for window in Widget(application).children() if window.has("showing")]
+        return []
+
+    def window(self, title):
+        return next((window for window in self.windows() if window.name == title), None)

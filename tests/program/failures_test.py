@@ -1,0 +1,98 @@
+"""Runs that fail end with the exact words, and leave behind what they must."""
+import unittest
+
+from program_case import ProgramCase
+
+CANCELED = "Printing Process is canceled."
+
+
+class Failures(ProgramCase):
+    def expect_failure(self, session, words):
+        """The numbered failure, answered with OK; the run ends as every run does."""
+        text, buttons = self.read_message(session, "Printing Error")
+        self.assertEqual(text, f"{words}\n{CANCELED}")
+        self.assertEqual([name.replace("&", "") for name in buttons], ["OK"])
+        self.user.press("Return")
+        self.assertEqual(session.process.wait(timeout=30), 0)
+
+    def expect_run_time_error(self, session, *words):
+        """Told with its place on the screen and on standard error; exit status 1; no file deleted."""
+        text, _ = self.read_message(session, "Run-time error")
+        for word in words:
+            self.assertIn(word, text)
+            self.assertIn(word, self.standard_error())
+        self.user.press("Return")
+        self.assertEqual(session.process.wait(timeout=30), 1)
+
+    def test_no_argument_is_failure_1_and_deletes_nothing(self):
+        self.host.write_data("User")
+        self.expect_failure(self.start(None, arguments=[]), "Argument is wrong.")
+        self.assertEqual(self.files_left(), ["User.tmp"])
+
+    def test_unknown_edition_is_failure_1(self):
+        self.expect_failure(self.start("User", edition=3), "Argument is wrong.")
+
+    def test_mode_in_small_letters_is_failure_1_and_deletes_the_hosts_files(self):
+        self.host.write_data("User")
+        self.expect_failure(self.start(None, arguments=["user", "host.html", "1", "1"]), "Argument is wrong.")
+        self.assertEqual(self.files_left(), [])
+
+    def test_three_arguments_are_a_run_time_error_and_delete_nothing(self):
+        self.host.write_data("User")
+        self.expect_run_time_error(self.start(None, arguments=["User", "host.html", "1"]), "subscript out of range")
+        self.assertEqual(self.files_left(), ["User.tmp"])
+
+    def test_unknown_key_in_the_options_is_failure_10_and_names_the_line_on_standard_error(self):
+        self.host.options_file.write_bytes(b"File-Spec,4\r\nColour,1\r\n")
+        self.expect_failure(self.start("User"), "Printing Items Setting File is wrong.")
+        self.assertIn("PrintOption.ToT", self.standard_error())
+        self.assertIn("Colour", self.standard_error())
+        self.assertTrue(self.host.options_file.exists())
+
+    def test_unknown_key_in_the_parameter_file_is_failure_3_after_ok(self):
+        (self.host.temp_folder / "User.tmp").write_bytes(b"File-Spec,3\r\nParameterNum,1\r\n")
+        (self.host.temp_folder / "other.tmp").write_bytes(b"left by another run")
+        session = self.start("User")
+        session.wait_for("Printing Item Setting")
+        self.user.press("Return")
+        self.expect_failure(session, "Parameter File is wrong.")
+        self.assertIn("ParameterNum", self.standard_error())
+        self.assertEqual(self.files_left(), [])
+        self.assertTrue(self.host.options_file.exists())
+
+    def test_missing_parameter_file_is_failure_3(self):
+        session = self.start("User")
+        session.wait_for("Printing Item Setting")
+        self.user.press("Return")
+        self.expect_failure(session, "Parameter File is wrong.")
+
+    def test_bad_number_in_the_parameter_file_is_a_run_time_error_and_deletes_nothing(self):
+        (self.host.temp_folder / "User.tmp").write_bytes(b"File-Spec,3\r\nUserNum,many\r\n")
+        session = self.start("User")
+        session.wait_for("Printing Item Setting")
+        self.user.press("Return")
+        self.expect_run_time_error(session, "User.tmp", "UserNum", "many")
+        self.assertEqual(self.files_left(), ["User.tmp"])
+
+    def test_without_a_printer_the_user_is_told_and_the_run_ends(self):
+        self.host.prepare(pdf_printer=False)
+        self.host.write_data("User")
+        session = self.start("User")
+        text, _ = self.read_message(session, "Print")
+        self.assertIn("No printer is installed.", text)
+        self.user.press("Return")
+        self.assertEqual(session.process.wait(timeout=30), 0)
+        self.assertEqual(self.files_left(), [])
+        self.assertFalse(self.host.options_file.exists())
+
+    def test_settings_need_no_printer(self):
+        self.host.prepare(pdf_printer=False)
+        session = self.start("PrnSetting")
+        session.wait_for("Printing Item Setting")
+        self.user.press("Return")
+        self.assertEqual(session.process.wait(timeout=30), 0)
+        self.assertTrue(self.host.options_file.exists())
+
+
+if __name__ == "__main__":
+    unittest.main()
