@@ -8,12 +8,28 @@
 #include "functions/mecha/rptMechaResonance.h"
 #include "functions/realtrace/rptRealTraceGraph.h"
 #include "functions/realtrace/rptRealTraceInfo.h"
+#include "functions/sim/rptSimCmpFileList.h"
+#include "functions/sim/rptSimCmpTime.h"
+#include "functions/sim/rptSimCmpUser.h"
+#include "functions/sim/rptSimCmpUserEx.h"
 #include "functions/sim/rptSimGraph.h"
+#include "functions/sim/rptSimInfo.h"
+#include "functions/sim/rptSimRef1.h"
+#include "functions/sim/rptSimRef2.h"
+#include "functions/sim/rptSimSettingMecha.h"
+#include "functions/sim/rptSimSettingSvMt.h"
+#include "functions/tables/rptIdxIdxTblExTable.h"
+#include "functions/tables/rptIdxIdxTblTable.h"
+#include "functions/tables/rptIdxJogTblTable.h"
+#include "functions/tables/rptIdxZoneTblTable.h"
 #include "functions/trace/rptTraceGraph.h"
 #include "functions/trace/rptTraceObject.h"
 #include "functions/trace/rptTraceObjectOverlap.h"
 #include "functions/trace/rptTraceTrigger.h"
 #include "functions/user/rptUserPrm.h"
+#include "functions/user/rptUserSwitch.h"
+#include "functions/wizard/rptUPWizard.h"
+#include "report/rptCover.h"
 #include "report/rptDataDate.h"
 #include "report/rptUserComment.h"
 
@@ -31,7 +47,10 @@ std::shared_ptr<ActiveReport> Make(ReportContext context) {
 }
 
 constexpr CatalogEntry Catalog[] = {
+    {"rptCover", Make<rptCover>},
     {"rptUserPrm", Make<rptUserPrm>},
+    {"rptUserSwitch", Make<rptUserSwitch>},
+    {"rptUPWizard", Make<rptUPWizard>},
     {"rptUserComment", Make<rptUserComment>},
     {"rptDataDate", Make<rptDataDate>},
     {"rptTraceGraph", Make<rptTraceGraph>},
@@ -46,6 +65,19 @@ constexpr CatalogEntry Catalog[] = {
     {"rptMechaNotch", Make<rptMechaNotch>},
     {"rptMechaMeasure", Make<rptMechaMeasure>},
     {"rptSimGraph", Make<rptSimGraph>},
+    {"rptSimCmpFileList", Make<rptSimCmpFileList>},
+    {"rptSimCmpTime", Make<rptSimCmpTime>},
+    {"rptSimCmpUser", Make<rptSimCmpUser>},
+    {"rptSimCmpUserEx", Make<rptSimCmpUserEx>},
+    {"rptSimInfo", Make<rptSimInfo>},
+    {"rptSimRef1", Make<rptSimRef1>},
+    {"rptSimRef2", Make<rptSimRef2>},
+    {"rptSimSettingMecha", Make<rptSimSettingMecha>},
+    {"rptSimSettingSvMt", Make<rptSimSettingSvMt>},
+    {"rptIdxIdxTblExTable", Make<rptIdxIdxTblExTable>},
+    {"rptIdxIdxTblTable", Make<rptIdxIdxTblTable>},
+    {"rptIdxJogTblTable", Make<rptIdxJogTblTable>},
+    {"rptIdxZoneTblTable", Make<rptIdxZoneTblTable>},
 };
 
 }  // namespace

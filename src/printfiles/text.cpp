@@ -94,6 +94,15 @@ std::string LeftCharacters(std::string_view text, std::size_t count) {
   return std::string(text.substr(0, end));
 }
 
+std::size_t CharacterCount(std::string_view text) {
+  std::size_t units = 0;
+  for (std::size_t size = 0; !text.empty(); text.remove_prefix(size)) {
+    size = CharacterSize(text);
+    units += size > 3 ? 2 : 1;
+  }
+  return units;
+}
+
 bool EqualIgnoringCase(std::string_view left, std::string_view right) {
   if (left == right) return true;
   const auto unicode = [](std::string_view text) {

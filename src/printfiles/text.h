@@ -39,6 +39,9 @@ int CountWrappedLines(const CodePage& page, std::string_view text, std::size_t w
 // The first `count` characters, counted in UTF-16 code units as the host counts them.
 std::string LeftCharacters(std::string_view text, std::size_t count);
 
+// The number of characters, counted in UTF-16 code units as the host counts them.
+std::size_t CharacterCount(std::string_view text);
+
 // Whether two texts are equal without regard to case, by Unicode's simple case folding. Blanks count.
 bool EqualIgnoringCase(std::string_view left, std::string_view right);
 

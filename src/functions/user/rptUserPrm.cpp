@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "printfiles/numbers.h"
+#include "functions/user/digit_list.h"
 #include "printfiles/text.h"
 
 namespace tarvis {
@@ -167,8 +167,7 @@ void rptUserPrm::FillDigitGroups(const UserSwitch& digits) {
     for (std::size_t group = 0; group < Groups; ++group) {
       const SwitchDigit& digit = digits.Digit[group];
       // A number that fails skips the call, and the text of the row before stays.
-      IgnoreErrors(
-          [&] { SetDigitList(StrictInteger(digit.First), StrictInteger(digit.Count), *txtPos[group]); });
+      IgnoreErrors([&] { SetDigitList(digit, *txtPos[group]); });
       if (!txtPos[group]->Text.empty()) ++DigitCount;
     }
   } else {
@@ -187,19 +186,6 @@ void rptUserPrm::ClearDigitGroups() {
     txtPos[group]->Text.clear();
     txtValueBitName[group]->Text.clear();
     txtValueBitValue[group]->Text.clear();
-  }
-}
-
-// "1, 2" for first 1 and count 2. A position above the 16-bit range fails and leaves the part before it.
-void rptUserPrm::SetDigitList(std::int16_t first, std::int16_t count, Field& field) {
-  field.Text.clear();
-  for (int index = 0; index < count; ++index) {
-    if (index > 0) field.Text += ", ";
-    const int position = first + index;
-    if (position > INT16_MAX)
-      throw RunTimeFailure("overflow",
-                           {.File = Name, .Line = 0, .Key = field.Name, .Text = std::to_string(position)});
-    field.Text += std::to_string(position);
   }
 }
 

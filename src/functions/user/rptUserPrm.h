@@ -36,7 +36,6 @@ class rptUserPrm : public FunctionReport {
   void NarrowDigitBlock(float by);
   void FillDigitGroups(const UserSwitch& digits);
   void ClearDigitGroups();
-  void SetDigitList(std::int16_t first, std::int16_t count, Field& field);
   void SplitDigitText(const std::string& text, Field& heading, Field& meaning, Field& value);
 
   std::int16_t DigitCount = 0;  // digit groups of the current row

@@ -112,7 +112,8 @@ void BandComposer::EmitControls(const Section& section, float left, Band& band) 
   ++bandNumber_;
   pageCountItems_.clear();
   for (const auto& control : section.Controls()) {
-    // What begins at or below the band's bottom is a leftover of the design; what begins above it prints whole.
+    // What begins at or below the band's bottom is a leftover of the design; what begins above it prints
+    // whole.
     if (!control->Visible || (control->Top >= band.Height && control->Top > 0)) continue;
     Item model;
     model.Control = cache_.Name(control->Name);
@@ -121,8 +122,8 @@ void BandComposer::EmitControls(const Section& section, float left, Band& band) 
     switch (control->Kind) {
       case ControlKind::Field:
       case ControlKind::Label:
-        EmitText(static_cast<const TextControl&>(*control), Wraps(static_cast<const TextControl&>(*control), section),
-                 left, band);
+        EmitText(static_cast<const TextControl&>(*control),
+                 Wraps(static_cast<const TextControl&>(*control), section), left, band);
         break;
       case ControlKind::Image:
         EmitImage(static_cast<const Image&>(*control), model, band);
@@ -135,7 +136,7 @@ void BandComposer::EmitControls(const Section& section, float left, Band& band) 
       case ControlKind::Shape: {
         const auto& shape = static_cast<const Shape&>(*control);
         model.Kind = ItemKind::Box;
-        model.Weight = shape.Border ? 1 : 0;
+        model.Weight = static_cast<std::uint8_t>(shape.Weight);
         model.Filled = shape.Filled;
         model.Fill = shape.Fill;
         band.Items.push_back(model);
@@ -204,7 +205,7 @@ void BandComposer::EmitLine(const TextControl& text, std::uint32_t piece, float 
                             Band& band) const {
   const TextPiece& printed = document_.Texts[piece];
   if (printed.Text.empty()) return;
-  const bool condensed = printed.Advance > text.Width + FitTolerance;
+  const bool condensed = !text.Style.RunsOn && printed.Advance > text.Width + FitTolerance;
   Item item = model;
   item.Source = piece;
   item.Box.Left += condensed ? text.Left : AlignedLeft(text, printed.Advance);

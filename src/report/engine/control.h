@@ -47,12 +47,17 @@ struct CellStyle {
   bool Border = false;
   bool Filled = false;
   Color Fill = White;
+  bool RunsOn = false;    // a line wider than its box runs on to the right instead of being condensed
   bool RoomOnly = false;  // takes its room but paints neither fill nor text
 };
 
 // Table looks that all function reports share.
-inline constexpr CellStyle TitleCell{
-    .Size = 8.5F, .Bold = false, .Alignment = Align::Centre, .Border = true, .Filled = true, .Fill = 0xE0E0E0};
+inline constexpr CellStyle TitleCell{.Size = 8.5F,
+                                     .Bold = false,
+                                     .Alignment = Align::Centre,
+                                     .Border = true,
+                                     .Filled = true,
+                                     .Fill = 0xE0E0E0};
 inline constexpr CellStyle ValueCell{
     .Size = 8.5F, .Bold = false, .Alignment = Align::Left, .Border = true, .Filled = true, .Fill = White};
 
@@ -90,7 +95,8 @@ enum class Fit : std::uint8_t { Fill, KeepCentred, KeepTopRight };
 
 class Image : public Control {
  public:
-  Image(const char* name, const Rect& place, Fit fit) : Control(ControlKind::Image, name, place), Placement(fit) {}
+  Image(const char* name, const Rect& place, Fit fit)
+      : Control(ControlKind::Image, name, place), Placement(fit) {}
 
   PicturePtr Picture;  // empty paints nothing
   Fit Placement;
@@ -98,7 +104,8 @@ class Image : public Control {
 
 class Line : public Control {
  public:
-  Line(const char* name, const Rect& place, int weight) : Control(ControlKind::Line, name, place), Weight(weight) {}
+  Line(const char* name, const Rect& place, int weight)
+      : Control(ControlKind::Line, name, place), Weight(weight) {}
 
   int Weight;  // units of 15 twips
 };
@@ -108,7 +115,7 @@ class Shape : public Control {
   Shape(const char* name, const Rect& place, bool filled, Color fill)
       : Control(ControlKind::Shape, name, place), Filled(filled), Fill(fill) {}
 
-  bool Border = true;
+  int Weight = 1;  // of the border, units of 15 twips; 0 none
   bool Filled;
   Color Fill;
 };

@@ -1,0 +1,58 @@
+// The settings of servo drive and motor; a motor of type 1 has a shorter table.
+#pragma once
+
+#include "functions/sim/setting_columns.h"
+
+namespace tarvis {
+
+class rptSimSettingSvMt : public NameValueTable {
+ public:
+  explicit rptSimSettingSvMt(ReportContext context)
+      : NameValueTable("rptSimSettingSvMt", context, "Servo Drive Setting", Entry::Grouped, SimSettingColumns,
+                       RowsOf(context.Run.Sim)) {}
+
+ private:
+  static constexpr int ShortTable = 1;
+
+  // The rated current comes ahead of the maximum current, unlike in the file. A blank row parts the motor's
+  // rows from the three types.
+  static std::vector<TableRow> RowsOf(const SimData& sim) {
+    const TableRow blank;
+    if (sim.MotorType == ShortTable) {
+      return {sim.MtRatedTorque,
+              sim.MtPeakTorque,
+              sim.MtRatedCurrent,
+              sim.MtMaxCurrent,
+              sim.MtRatedSpeed,
+              sim.MtMaxSpeed,
+              sim.MtTorqueConstant,
+              sim.MtRoterMoment,
+              sim.MtInertiaTimeConstant,
+              sim.MtInductionTimeConstant,
+              blank,
+              sim.PgType,
+              sim.MtOpType,
+              sim.FcType};
+    }
+    return {sim.MtRatedTorque,
+            sim.MtPeakTorque,
+            sim.MtRatedCurrent,
+            sim.MtMaxCurrent,
+            sim.MtRatedSpeed,
+            sim.MtMaxSpeed,
+            sim.MtTorqueConstant,
+            sim.MtRoterMoment,
+            sim.MtRatedPowerRate,
+            sim.MtRatedAnglulerAcc,
+            sim.MtInertiaTimeConstant,
+            sim.MtInductionTimeConstant,
+            sim.MtBrakeCompensation,
+            sim.MtOilSealCompensation,
+            blank,
+            sim.PgType,
+            sim.MtOpType,
+            sim.FcType};
+  }
+};
+
+}  // namespace tarvis

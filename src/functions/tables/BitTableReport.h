@@ -1,0 +1,62 @@
+// A table whose rows spell out the bits of their ID, one column a bit: the zone and the jog speed table.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "report/function_report.h"
+
+namespace tarvis {
+
+// A text column behind the bit columns, or the ID column before them.
+struct BitTableColumn {
+  const char* TitleControl;
+  const char* Title;
+  const char* ValueControl;
+  float Left;
+  float Width;
+};
+
+struct BitTableLayout {
+  const char* Caption;
+  float UnitLabelLeft;
+  float UnitLeft;
+  float UnitWidth;
+  BitTableColumn Id;
+  std::span<const BitTableColumn> Bits;  // from the highest bit at the left to bit 0
+  std::span<const BitTableColumn> Texts;
+};
+
+class BitTableReport : public FunctionReport {
+ public:
+  void ActiveReport_FetchData(bool& endOfData) override;
+
+ protected:
+  // `layout` must have static storage.
+  BitTableReport(const char* name, ReportContext context, const BitTableLayout& layout);
+
+  virtual std::int16_t RowCount() const = 0;
+  // Shows the row with this index: its ID, and its texts in the order of the layout's text columns.
+  virtual void ShowRow(int index) = 0;
+  // The number and, lowest bit first, an X for each bit that is set; a bit without a column is dropped.
+  void ShowId(std::int16_t id);
+  void ShowText(std::size_t column, const std::string& text) { texts_[column]->Text = text; }
+
+ private:
+  Field& AddColumn(const BitTableColumn& column, const CellStyle& style);
+
+  Section& ghGuide;
+  Section& Detail;
+  Section& GroupFooter2;
+  Section& GroupFooter1;
+  Field* id_ = nullptr;
+  std::vector<Field*> bits_;
+  std::vector<Field*> texts_;
+
+ protected:
+  Field& txtUnit;
+};
+
+}  // namespace tarvis
