@@ -34,7 +34,7 @@ struct PrintSession {
   TextLines Lines;             // of the file loaded last; one empty spare at index LineCount
   std::int32_t LineCount = 0;  // -1 after a load that failed
   std::string LinesFile;       // name without folder of the file loaded last
-  std::string Diagnosis;       // why the file read last was refused, in one line; empty if it was not
+  std::string Diagnosis;       // why a data file or a picture was refused, in one line; empty if none was
 
   ActiveReport* MasterReport = nullptr;  // the running master report; not owned
   CheckedArray<std::string> ModuleNames{"ModuleNames"};

@@ -41,7 +41,10 @@ void FunctionReport::EnterContents() {
 }
 
 PicturePtr FunctionReport::LoadPictureOrFail(const std::string& path, int failure) {
-  if (!FileExists(path)) ReportFailure(Run, failure);
+  if (!FileExists(path)) {
+    Run.Session.Diagnosis = std::string(Name) + ": no picture file '" + path + "'";
+    ReportFailure(Run, failure);
+  }
   return Pictures.Load(path);
 }
 
