@@ -1,11 +1,6 @@
 #include "report/cursor_graph_report.h"
 
 namespace tarvis {
-namespace {
-
-constexpr CellStyle HeadingStyle{.Size = 8.5F, .Bold = true};
-
-}  // namespace
 
 CursorGraphReport::CursorGraphReport(const char* name, ReportContext context, const char* caption,
                                      Entry entry, const CursorGraphLayout& layout,
@@ -14,7 +9,7 @@ CursorGraphReport::CursorGraphReport(const char* name, ReportContext context, co
       data_(data),
       ghGraph(AddGrowing(SectionKind::GroupHeader, "ghGraph", 8430)),
       imgGraph(ghGraph.AddImage("imgGraph", layout.Graph)),
-      Label2(ghGraph.AddLabel("Label2", layout.CursorLabel, "[Cursor Data]", HeadingStyle)),
+      Label2(ghGraph.AddLabel("Label2", layout.CursorLabel, "[Cursor Data]", GraphHeading)),
       imgNote(ghGraph.AddImage("imgNote", layout.Note)),
       imgIONote(layout.IONote ? &ghGraph.AddImage("imgIONote", *layout.IONote) : nullptr),
       ghGuide(AddGrowing(SectionKind::GroupHeader, "ghGuide", layout.GuideHeight)),

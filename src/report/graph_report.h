@@ -7,6 +7,8 @@
 
 namespace tarvis {
 
+inline constexpr CellStyle GraphHeading{.Size = 8.5F, .Bold = true};
+
 // The host writes each picture in both looks. Only the path of the chosen look is ever tested.
 struct PicturePaths {
   const std::string& BlackAndWhite;

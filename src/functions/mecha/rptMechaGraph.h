@@ -14,7 +14,6 @@ class rptMechaGraph : public GraphReport {
   void ActiveReport_FetchData(bool& endOfData) override;
 
  private:
-  static constexpr CellStyle HeadingStyle{.Size = 8.5F, .Bold = true};
   // Required: the first title stands 7 twips off the line of its neighbours.
   static constexpr CursorLayout Cursors{
       .TitleName = {135, 135, 2834, 285},
@@ -30,11 +29,11 @@ class rptMechaGraph : public GraphReport {
   void HideCursorColumns();
 
   Section& ghGraph = AddGrowing(SectionKind::GroupHeader, "ghGraph", 8520);
-  Label& Label2 = ghGraph.AddLabel("Label2", {142, 142, 1842, 283}, "[Gain Graph]", HeadingStyle);
+  Label& Label2 = ghGraph.AddLabel("Label2", {142, 142, 1842, 283}, "[Gain Graph]", GraphHeading);
   Image& imgGraph1 = ghGraph.AddImage("imgGraph1", {142, 425, 8787, 3544});
-  Label& Label5 = ghGraph.AddLabel("Label5", {142, 4110, 1842, 284}, "[Phase Graph]", HeadingStyle);
+  Label& Label5 = ghGraph.AddLabel("Label5", {142, 4110, 1842, 284}, "[Phase Graph]", GraphHeading);
   Image& imgGraph2 = ghGraph.AddImage("imgGraph2", {142, 4394, 8787, 3544});
-  Label& Label4 = ghGraph.AddLabel("Label4", {142, 8220, 1842, 284}, "[Cursor Data]", HeadingStyle);
+  Label& Label4 = ghGraph.AddLabel("Label4", {142, 8220, 1842, 284}, "[Cursor Data]", GraphHeading);
 
   Section& ghGuide = AddGrowing(SectionKind::GroupHeader, "ghGuide", 420);
   Section& Detail = AddGrowing(SectionKind::Detail, "Detail", 300);
