@@ -1,9 +1,11 @@
 #include "platform/help_opener.h"
 
+#include <QApplication>
 #include <QDesktopServices>
 #include <QKeyEvent>
 #include <QUrl>
 
+#include "dialogs/help_context.h"
 #include "printfiles/host_files.h"
 
 namespace tarvis {
@@ -11,7 +13,10 @@ namespace tarvis {
 void HelpOpener::Open() const {
   const QString path = QString::fromStdU16String(NativePath(helpFile_).u16string());
   QUrl place = QUrl::fromLocalFile(path);
-  if (path.endsWith(".html", Qt::CaseInsensitive)) place.setFragment(QString::number(context_));
+  if (path.endsWith(".html", Qt::CaseInsensitive)) {
+    const std::int32_t own = HelpContextOf(QApplication::focusWidget());
+    place.setFragment(QString::number(own != 0 ? own : context_));
+  }
   QDesktopServices::openUrl(place);
 }
 

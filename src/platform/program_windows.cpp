@@ -1,0 +1,76 @@
+#include "platform/program_windows.h"
+
+#include <QApplication>
+
+#include "dialogs/PrintSetting.h"
+#include "functions/catalog.h"
+#include "launch/print_run.h"
+#include "platform/paper.h"
+#include "platform/text_measurer.h"
+#include "preview/preview_window.h"
+#include "report/engine/composer.h"
+#include "report/rptTarvis.h"
+
+namespace tarvis {
+namespace {
+
+// Shows that the program is busy until its end, whatever happens.
+class BusyPointer {
+ public:
+  BusyPointer() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+  ~BusyPointer() { QApplication::restoreOverrideCursor(); }
+};
+
+std::shared_ptr<const Document> ComposeForDesk(ActiveReport& report) {
+  const BusyPointer busy;
+  const QtTextMeasurer measurer;
+  return std::make_shared<const Document>(Compose(report, PaperOfTheDesk(), measurer));
+}
+
+PreviewSetup SetupOf(const ActiveReport& report, const PrintOptions& options) {
+  return {.Caption = QString::fromStdString(report.Caption),
+          .Tools = report.Tools,
+          .ContentsVisible = report.TOCVisible,
+          .ContentsWidth = report.TOCWidth,
+          .Author = QString::fromStdString(options.DrowCorp)};
+}
+
+}  // namespace
+
+QtProgramWindows::QtProgramWindows(PrintRun& run) : run_(run) { qApp->installEventFilter(&help_); }
+
+QtProgramWindows::~QtProgramWindows() = default;
+
+void QtProgramWindows::ShowPrintSetting() {
+  const PrintSettingServices services{
+      .ShowPrintPreview = [this] { ShowPrintPreview(run_, *this); },
+      .SetHelp = [this](const std::string& helpFile, std::int32_t helpContextId) {
+        help_.SetHelpFile(helpFile);
+        help_.SetContext(helpContextId);
+      }};
+  (new PrintSetting(run_, services))->show();  // it deletes itself
+}
+
+void QtProgramWindows::ShowMasterReport() {
+  report_ = std::make_unique<rptTarvis>(ReportContext{run_, pictures_}, CreateFunctionReport, *this);
+  run_.Session.MasterReport = report_.get();
+  const std::shared_ptr<const Document> document = ComposeForDesk(*report_);  // fills caption and tools, too
+  preview_ = std::make_unique<PreviewWindow>(document, SetupOf(*report_, run_.Options));
+  ShowPreview();
+}
+
+void QtProgramWindows::ShowPreview() {
+  connect(preview_.get(), &PreviewWindow::toolUsed, this, [this](int id) { report_->ActiveReport_ToolbarClick(id); });
+  connect(preview_.get(), &PreviewWindow::closedByUser, this, [this] { report_->ActiveReport_QueryClose(0); });
+  preview_->show();
+}
+
+void QtProgramWindows::UnloadMasterReport() {
+  run_.Session.MasterReport = nullptr;
+  preview_->hide();
+  preview_.release()->deleteLater();  // its own event may have led here
+}
+
+void QtProgramWindows::SetHelpFile(const std::string& path) { help_.SetHelpFile(path); }
+
+}  // namespace tarvis

@@ -1,0 +1,39 @@
+// The program's windows: the dialog and the preview, one at a time, and the road between them.
+#pragma once
+
+#include <QObject>
+#include <memory>
+
+#include "launch/desktop.h"
+#include "pictures/picture_file_loader.h"
+#include "platform/help_opener.h"
+
+namespace tarvis {
+
+class PreviewWindow;
+class rptTarvis;
+struct PrintRun;
+
+class QtProgramWindows : public QObject, public ProgramWindows {
+ public:
+  // `run` must outlive the windows.
+  explicit QtProgramWindows(PrintRun& run);
+  ~QtProgramWindows() override;
+
+  void ShowPrintSetting() override;
+  void ShowMasterReport() override;
+  void UnloadMasterReport() override;
+  void SetHelpFile(const std::string& path) override;
+
+ private:
+  void ShowPreview();
+
+  PrintRun& run_;
+  HelpOpener help_;
+  PictureFileLoader pictures_;
+  // The master report handles the preview's events, so it lives on until the next one is shown.
+  std::unique_ptr<rptTarvis> report_;
+  std::unique_ptr<PreviewWindow> preview_;
+};
+
+}  // namespace tarvis
