@@ -1,8 +1,12 @@
 #include "dialogs/PrintSetting.h"
 
+#include <QApplication>
 #include <QSignalBlocker>
 #include <utility>
 
+#include "dialogs/InfIdxTbl.h"
+#include "dialogs/data_file_scan.h"
+#include "dialogs/focus_guard.h"
 #include "dialogs/help_context.h"
 #include "dialogs/item_pages.h"
 #include "launch/failures.h"
@@ -20,6 +24,7 @@ namespace {
 constexpr Bounds DialogBounds{0, 0, 5535, 8130};
 constexpr int PageCount = 10;
 constexpr std::int16_t StepsWithoutTable = 1000;
+constexpr int ProgramTableEntry = 2;
 constexpr int UnknownHost = 1;  // numbers of failures
 constexpr int UnreadableTable = 15;
 
@@ -47,6 +52,11 @@ PrintSetting::PrintSetting(PrintRun& run, PrintSettingServices services)
   LoadDialog();
 }
 
+// The focus moves once more while the controls go; nobody is to be held back then.
+PrintSetting::~PrintSetting() {
+  delete guard_;
+}
+
 void PrintSetting::BuildCoverGroup() {
   auto* frame = new GroupFrame("Frame1", "Cover", {120, 45, 5300, 2640}, this);
   chkCover_ = new TickBox("chkCover", NoFamily, "&Attaching the Cover", {240, 225, 1815, 375}, frame);
@@ -72,6 +82,7 @@ void PrintSetting::BuildFunctionGroup() {
   NameControl(*cmbFunc_, "cmbFunc", NoFamily, QString::fromLatin1("Function"));
   Place(*cmbFunc_, {480, 360, 3975, 330});
   for (int id = 0; id < PageCount; ++id) pages_.push_back(MakeItemPage(static_cast<PageId>(id), run_, frame));
+  infIdxTbl_ = qobject_cast<InfIdxTbl*>(pages_.at(static_cast<std::size_t>(PageId::InfIdxTbl)));
 }
 
 void PrintSetting::BuildColorGroup() {
@@ -102,6 +113,9 @@ void PrintSetting::Connect() {
               if (on) run_.Options.ColorType = index;
             });
   }
+  guard_ = new FocusGuard(*this, [this](const QWidget& left, const QWidget& entered) {
+    return RefuseToLeaveRange(left, entered);
+  });
   connect(cmdOK_, &QPushButton::clicked, this, &PrintSetting::OkClicked);
   connect(cmdCancel_, &QPushButton::clicked, this, &PrintSetting::reject);
 }
@@ -156,16 +170,11 @@ void PrintSetting::SelectByMode() {
 void PrintSetting::ReadStepCount() {
   PrintSession& session = run_.Session;
   if (LoadLines(run_, session.TempFolder + "IdxIdxTbl.tmp") < 0) ReportFailure(run_, UnreadableTable);
-  for (int line = 0; line < session.LineCount; ++line) {
-    std::string_view text = session.Lines[line];
-    if (NextField(text) != "IndexCnt") continue;
-    try {
-      session.StepLimit = StrictInteger(text);
-    } catch (const RunTimeFailure& failure) {
-      throw failure.At({.File = session.LinesFile, .Line = line + 1, .Key = "IndexCnt", .Text = {}});
-    }
-    return;
-  }
+  ScanLines(run_, [&session](std::string_view key, std::string_view rest) {
+    if (key != "IndexCnt") return true;
+    session.StepLimit = StrictInteger(rest);
+    return false;
+  });
 }
 
 // Runs the handling of the list also when the index stays, which the toolkit's own setter doesn't.
@@ -178,9 +187,23 @@ void PrintSetting::SelectFunction(int index) {
   FunctionClicked();
 }
 
+// A page that holds the focus gives it up before it goes, which its range may refuse.
 void PrintSetting::FunctionClicked() {
+  if (shown_ != nullptr && shown_->isAncestorOf(QApplication::focusWidget()) && !guard_->Enter(*cmbFunc_))
+    return;
   const FunctionEntry& entry = entries_[static_cast<std::size_t>(cmbFunc_->currentIndex())];
   ShowPage(*pages_.at(static_cast<std::size_t>(PageOf(entry))));
+}
+
+// True if the focus has left the page of the program table with a bad range; the user is back at it then.
+bool PrintSetting::RefuseToLeaveRange(const QWidget& left, const QWidget& entered) {
+  if (!infIdxTbl_->isAncestorOf(&left) || infIdxTbl_->isAncestorOf(&entered)) return false;
+  if (&entered == cmdCancel_) return false;
+  if (run_.Session.Mode != "PrnSetting" && run_.Session.Mode != "IdxTbl") return false;
+  if (infIdxTbl_->RangeIsValid()) return false;
+  SelectFunction(ProgramTableEntry);
+  infIdxTbl_->ReturnToRange();
+  return true;
 }
 
 // Edition 4 compares simulations; edition 1 has no such page, not even for PrnSetting.
@@ -236,8 +259,10 @@ void PrintSetting::SubmitBlockClicked(std::int16_t index) {
   run_.Options.SelectCover = static_cast<std::int16_t>(index + 1);
 }
 
-// No check of any kind: all input has been checked field by field before.
+// All input has been checked field by field, when its field was left. A key presses the button without
+// leaving the field, so it is left here.
 void PrintSetting::OkClicked() {
+  if (!guard_->Enter(*cmdOK_)) return;
   run_.Options.DateTime = DateTimeText(run_.Now());
   // A file that can't be written stops nobody from printing.
   static_cast<void>(WritePrintOptionsFile(run_, run_.Session.SystemFolder + "PrintOption.ToT"));

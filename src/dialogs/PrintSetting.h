@@ -19,6 +19,8 @@
 namespace tarvis {
 
 struct PrintRun;
+class FocusGuard;
+class InfIdxTbl;
 
 // What the dialog asks of the program around it.
 struct PrintSettingServices {
@@ -42,6 +44,8 @@ class PrintSetting : public QDialog {
  public:
   PrintSetting(PrintRun& run, PrintSettingServices services);
 
+  ~PrintSetting() override;
+
   // Esc and the window's close box: as cmdCancel.
   void reject() override;
 
@@ -60,6 +64,7 @@ class PrintSetting : public QDialog {
 
   void SelectFunction(int index);
   void FunctionClicked();
+  bool RefuseToLeaveRange(const QWidget& left, const QWidget& entered);
   PageId PageOf(const FunctionEntry& entry) const;
   void ShowPage(ItemPage& page);
 
@@ -83,6 +88,8 @@ class PrintSetting : public QDialog {
   QComboBox* cmbFunc_ = nullptr;
   std::span<const FunctionEntry> entries_;
   std::vector<ItemPage*> pages_;  // by PageId
+  InfIdxTbl* infIdxTbl_ = nullptr;
+  FocusGuard* guard_ = nullptr;
   ItemPage* shown_ = nullptr;
 
   std::array<OptionButton*, 2> optColor_{};

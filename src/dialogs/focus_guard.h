@@ -1,0 +1,40 @@
+// Holds the user back in a field whose text was refused, whichever way he tries to leave it.
+#pragma once
+
+#include <QObject>
+#include <QWidget>
+#include <functional>
+
+namespace tarvis {
+
+// Asks `refuse` whenever the focus has moved from one control of the window to another one of it; switching
+// to another window or program is no leave. Who refuses returns true and has put the focus back and told the
+// user; the press or the shortcut that moved the focus then does nothing more.
+class FocusGuard : public QObject {
+  Q_OBJECT
+
+ public:
+  using Refuse = std::function<bool(QWidget& left, QWidget& entered)>;
+
+  // `window` owns the guard.
+  FocusGuard(QWidget& window, Refuse refuse);
+
+  // Moves the focus to `control` before something that a key does to it without moving the focus. False if
+  // that was refused.
+  bool Enter(QWidget& control);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void FocusMoved(QWidget* left, QWidget* entered);
+  bool IsOfWindow(const QWidget* control) const;
+
+  QWidget& window_;
+  Refuse refuse_;
+  bool asking_ = false;
+  bool refused_ = false;
+  bool swallowPress_ = false;
+};
+
+}  // namespace tarvis
