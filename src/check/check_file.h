@@ -1,0 +1,20 @@
+// What the host's developers ask of a file: is it good, and what does it hold?
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "printfiles/code_page.h"
+
+namespace tarvis {
+
+struct FileCheck {
+  bool IsGood = false;
+  std::string Line;  // what the file holds, or what is wrong with it
+};
+
+// Reads the file at `path`, whose name without folder tells what kind of file it is: User.tmp, Trace2.tmp,
+// PrintOption.ToT and so on. Writes and deletes nothing.
+FileCheck CheckFile(std::string_view path, CodePage page);
+
+}  // namespace tarvis

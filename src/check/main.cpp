@@ -1,0 +1,50 @@
+// tarvis-check: tells the host's developers whether their files are good. Exit status 0 if all are, 1 if not.
+#include <cstring>
+#include <iostream>
+
+#include "check/check_file.h"
+#include "printfiles/numbers.h"
+#include "printfiles/run_time_failure.h"
+
+namespace {
+
+constexpr const char* kUsage =
+    "Usage: tarvis-check [--code-page NUMBER] FILE...\n"
+    "Reads files that the host wrote for printing and tells in one line for each what it holds or what is "
+    "wrong.\n"
+    "The name of a file tells its kind: User.tmp, UPWizard.tmp, Trace.tmp, Trace1.tmp, RealTrace.tmp, "
+    "Mecha.tmp, Sim.tmp,\n"
+    "Sim1.tmp, IdxIdxTbl.tmp, IdxZoneTbl.tmp, IdxJogTbl.tmp, PrintOption.ToT. The code page is 1252 unless "
+    "told.\n";
+
+int CheckFiles(int codePage, char** first, char** end) {
+  bool allGood = true;
+  for (char** path = first; path != end; ++path) {
+    const tarvis::FileCheck check = tarvis::CheckFile(*path, tarvis::CodePage(codePage));
+    std::cout << check.Line << '\n';
+    allGood = allGood && check.IsGood;
+  }
+  return allGood ? 0 : 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  char** end = argv + argc;
+  char** first = argv + 1;
+  int codePage = 1252;
+  try {
+    if (end - first >= 2 && std::strcmp(*first, "--code-page") == 0) {
+      codePage = tarvis::StrictInteger(first[1]);
+      first += 2;
+    }
+    if (first >= end || std::strncmp(*first, "--", 2) == 0) {
+      std::cerr << kUsage;
+      return 1;
+    }
+    return CheckFiles(codePage, first, end);
+  } catch (const tarvis::RunTimeFailure& failure) {
+    std::cerr << "tarvis-check: " << failure.what() << '\n';
+    return 1;
+  }
+}
