@@ -17,7 +17,8 @@ std::string Counted(int count, std::string_view one, std::string_view many) {
 }
 
 std::string Comment(const PrintRun& run) {
-  return run.User.Comment.empty() ? "no comment" : "comment '" + Excerpt(NewlinesToBlanks(run.User.Comment)) + "'";
+  return run.User.Comment.empty() ? "no comment"
+                                  : "comment '" + Excerpt(NewlinesToBlanks(run.User.Comment)) + "'";
 }
 
 std::string Parameters(const PrintRun& run) {

@@ -1,0 +1,4 @@
+#include "fuzz_reader.h"
+#include "printfiles/jog_tbl_file.h"
+
+TARVIS_FUZZ_READER(tarvis::ReadJogTblFile, "IdxJogTbl.tmp")

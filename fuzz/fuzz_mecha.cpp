@@ -1,0 +1,4 @@
+#include "fuzz_reader.h"
+#include "printfiles/mecha_file.h"
+
+TARVIS_FUZZ_READER(tarvis::ReadMechaFile, "Mecha.tmp")

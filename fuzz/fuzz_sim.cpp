@@ -1,0 +1,4 @@
+#include "fuzz_reader.h"
+#include "printfiles/sim_file.h"
+
+TARVIS_FUZZ_READER(tarvis::ReadSimFile, "Sim.tmp")

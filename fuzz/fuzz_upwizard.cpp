@@ -1,0 +1,4 @@
+#include "fuzz_reader.h"
+#include "printfiles/upwizard_file.h"
+
+TARVIS_FUZZ_READER(tarvis::ReadUPWizardFile, "UPWizard.tmp")

@@ -1,0 +1,4 @@
+#include "fuzz_reader.h"
+#include "printfiles/user_file.h"
+
+TARVIS_FUZZ_READER(tarvis::ReadUserFile, "User.tmp")

@@ -1,0 +1,4 @@
+#include "fuzz_reader.h"
+#include "printfiles/zone_tbl_file.h"
+
+TARVIS_FUZZ_READER(tarvis::ReadZoneTblFile, "IdxZoneTbl.tmp")
