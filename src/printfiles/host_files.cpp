@@ -70,14 +70,12 @@ std::int32_t LoadBytes(PrintRun& run, std::string_view path, std::string bytes) 
 }
 
 std::int32_t LoadLines(PrintRun& run, std::string_view path) {
+  if (std::optional<std::string> bytes = ReadBytes(path)) return LoadBytes(run, path, std::move(*bytes));
   PrintSession& session = run.Session;
-  std::optional<std::string> bytes = ReadBytes(path);
-  LoadBytes(run, path, std::move(bytes).value_or(std::string()));
-  if (!bytes) {
-    session.Lines.Clear();
-    session.LineCount = kLoadFailed;
-    session.Diagnosis = session.LinesFile + ": can't be read";
-  }
+  LoadBytes(run, path, {});
+  session.Lines.Clear();
+  session.LineCount = kLoadFailed;
+  session.Diagnosis = session.LinesFile + ": can't be read";
   return session.LineCount;
 }
 

@@ -4,6 +4,7 @@
 
 #include <fstream>
 #include <iterator>
+#include <ostream>
 #include <string>
 
 #include "core/support/test_run.h"
@@ -23,6 +24,8 @@ struct Example {
   std::string Name;
   std::string Contents;
 };
+
+void PrintTo(const Example& example, std::ostream* out) { *out << example.Name; }
 
 class ExampleFiles : public testing::TestWithParam<Example> {};
 
