@@ -14,6 +14,7 @@ const QColor CurrentTint(255, 170, 60);
 
 Finder::Finder(FindBar& bar, DocumentText& text, PageView& view, QObject* parent)
     : QObject(parent), bar_(bar), text_(text), view_(view) {
+  setObjectName(QStringLiteral("finder"));
   connect(&bar, &FindBar::Changed, this, &Finder::SearchAgain);
   connect(&bar, &FindBar::NextWanted, this, [this] { Step(1); });
   connect(&bar, &FindBar::PreviousWanted, this, [this] { Step(-1); });

@@ -62,6 +62,7 @@ void PageView::GoToStart() {
 }
 
 void PageView::GoToEnd() {
+  if (layout_.PageCount() == 0) return;
   GoTo({layout_.PageCount() - 1, 0});
   verticalScrollBar()->setValue(verticalScrollBar()->maximum());
 }
@@ -101,6 +102,10 @@ void PageView::keyPressEvent(QKeyEvent* event) {
       return ScrollView(-1);
     case Qt::Key_Space:
       return ScrollView(shift ? -1 : 1);
+    case Qt::Key_Home:
+      return GoToStart();
+    case Qt::Key_End:
+      return GoToEnd();
     default:
       QAbstractScrollArea::keyPressEvent(event);
   }

@@ -92,6 +92,7 @@ void PainterCanvas::Picture(const tarvis::Picture& picture, const Rect& box) {
   const auto* paintable = dynamic_cast<const PaintablePicture*>(&picture);
   if (paintable == nullptr) return;
   painter_.save();
+  painter_.setClipRect(ToRectF(box), Qt::IntersectClip);  // as in a PDF
   paintable->Paint(painter_, ToRectF(box));
   painter_.restore();
 }

@@ -127,14 +127,23 @@ void AddMetadata(QPDF& pdf, const PdfInfo& info) {
   pdf.getTrailer().replaceKey("/Info", data);
 }
 
+// Unbuffered, and piece by piece: a full disk takes a part first and refuses the rest, and a buffer would
+// hide that.
+bool WriteAll(QSaveFile& file, const char* bytes, qint64 size) {
+  if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) return false;
+  while (size > 0) {
+    const qint64 written = file.write(bytes, size);
+    if (written <= 0) return false;
+    bytes += written;
+    size -= written;
+  }
+  return file.commit();
+}
+
 QString WriteFile(const QString& path, const Buffer& bytes) {
   QSaveFile file(path);
-  const auto size = static_cast<qint64>(bytes.getSize());
-  const bool written =
-      file.open(QIODevice::WriteOnly) &&
-      file.write(static_cast<const char*>(static_cast<const void*>(bytes.getBuffer())), size) == size &&
-      file.commit();
-  if (written) return {};
+  const char* data = static_cast<const char*>(static_cast<const void*>(bytes.getBuffer()));
+  if (WriteAll(file, data, static_cast<qint64>(bytes.getSize()))) return {};
   return QCoreApplication::translate("PdfExport", "\"%1\" can't be written: %2")
       .arg(path, file.errorString());
 }

@@ -113,10 +113,14 @@ void Thumbnails::mousePressEvent(QMouseEvent* event) {
 }
 
 void Thumbnails::keyPressEvent(QKeyEvent* event) {
-  const int step = event->key() == Qt::Key_Down ? 1 : event->key() == Qt::Key_Up ? -1 : 0;
-  if (step == 0) return QAbstractScrollArea::keyPressEvent(event);
-  const int page = std::clamp(current_ + step, 0, std::max(0, Count() - 1));
-  if (page != current_) emit PageChosen(page);
+  const int last = Count() - 1;
+  int page = current_;
+  if (event->key() == Qt::Key_Up) page = std::max(0, current_ - 1);
+  if (event->key() == Qt::Key_Down) page = std::min(last, current_ + 1);
+  if (event->key() == Qt::Key_Home) page = 0;
+  if (event->key() == Qt::Key_End) page = last;
+  if (page == current_ || page < 0) return QAbstractScrollArea::keyPressEvent(event);
+  emit PageChosen(page);
 }
 
 }  // namespace tarvis

@@ -45,19 +45,54 @@ std::uint32_t DocumentBuilder::Piece(const std::string& text, float size, bool b
   return place->second;
 }
 
+void DocumentBuilder::Cell(std::size_t column, const std::vector<std::string>& lines, const Rect& box) {
+  control_ = static_cast<std::uint16_t>(column);
+  Item& frame = Add(ItemKind::Box, box);
+  frame.Weight = 1;
+  frame.Filled = true;
+  float top = box.Top + 46;
+  for (const std::string& line : lines) {
+    const std::uint32_t piece = Piece(line, 8.5F, false);
+    const float width = std::min(document_->Texts[piece].Advance, box.Width);
+    if (!line.empty()) Add(ItemKind::Text, {box.Left + 30, top, width, 190}).Source = piece;
+    top += 190;
+  }
+}
+
 DocumentBuilder& DocumentBuilder::Row(const std::vector<std::string>& cells, float top, float height,
                                       float cellWidth) {
   ++band_;
   for (std::size_t index = 0; index < cells.size(); ++index) {
-    control_ = static_cast<std::uint16_t>(index);
-    const float left = 1440 + static_cast<float>(index) * cellWidth;
-    Item& box = Add(ItemKind::Box, {left, top, cellWidth, height});
-    box.Weight = 1;
-    box.Filled = true;
-    if (cells[index].empty()) continue;
-    const std::uint32_t piece = Piece(cells[index], 8.5F, false);
-    const float width = std::min(document_->Texts[piece].Advance, cellWidth);
-    Add(ItemKind::Text, {left + 30, top + 46, width, 190}).Source = piece;
+    Cell(index, {cells[index]}, {1440 + static_cast<float>(index) * cellWidth, top, cellWidth, height});
+  }
+  return *this;
+}
+
+DocumentBuilder& DocumentBuilder::RowFromRight(const std::vector<std::string>& cells, float top) {
+  ++band_;
+  for (std::size_t index = cells.size(); index-- > 0;) {
+    Cell(index, {cells[index]}, {1440 + static_cast<float>(index) * 1700, top, 1700, 283});
+  }
+  return *this;
+}
+
+DocumentBuilder& DocumentBuilder::WrappedRow(const std::vector<std::string>& first,
+                                             const std::vector<std::string>& second,
+                                             const std::vector<std::string>& third, float top) {
+  ++band_;
+  Cell(0, first, {1440, top, 1700, 475});
+  Cell(1, second, {3140, top, 1700, 475});
+  Cell(2, third, {4840, top, 1700, 475});
+  return *this;
+}
+
+DocumentBuilder& DocumentBuilder::Lines(const std::vector<std::string>& lines, float left, float top) {
+  ++band_;
+  control_ = 0;
+  for (const std::string& line : lines) {
+    const std::uint32_t piece = Piece(line, 8.5F, false);
+    Add(ItemKind::Text, {left, top, document_->Texts[piece].Advance, 190}).Source = piece;
+    top += 190;
   }
   return *this;
 }

@@ -17,6 +17,13 @@ class DocumentBuilder {
   // A table row: bordered cells of equal width, one text each. A new band.
   DocumentBuilder& Row(const std::vector<std::string>& cells, float top, float height = 283,
                        float cellWidth = 1700);
+  // The same, the rightmost cell first in layout order.
+  DocumentBuilder& RowFromRight(const std::vector<std::string>& cells, float top);
+  // A row of three cells with several lines each.
+  DocumentBuilder& WrappedRow(const std::vector<std::string>& first, const std::vector<std::string>& second,
+                              const std::vector<std::string>& third, float top);
+  // Lines of one control in a new band.
+  DocumentBuilder& Lines(const std::vector<std::string>& lines, float left, float top);
   // Text on its own in a new band, in its natural width.
   DocumentBuilder& Text(const std::string& text, float left, float top, float size = 8.5F, bool bold = false);
   // The same, printed `width` wide.
@@ -33,6 +40,7 @@ class DocumentBuilder {
   const Document& Peek() const { return *document_; }
 
  private:
+  void Cell(std::size_t column, const std::vector<std::string>& lines, const Rect& box);
   Item& Add(ItemKind kind, const Rect& box);
   std::uint32_t Piece(const std::string& text, float size, bool bold);
 

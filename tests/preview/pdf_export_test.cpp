@@ -1,11 +1,17 @@
 #include "preview/pdf_export.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
-#include <QProcess>
+#include <QDir>
+#include <QFile>
 #include <QTemporaryDir>
+#include <QXmlStreamReader>
+#include <csignal>
 
 #include "preview/document_builder.h"
+#include "preview/pdf_file.h"
+#include "preview/sample_picture.h"
 
 namespace tarvis {
 namespace {
@@ -17,22 +23,20 @@ bool GoOn(int, int) {
 class PdfExport : public testing::Test {
  protected:
   QString Path() const { return folder_.filePath(QStringLiteral("out.pdf")); }
-  void Export(const Document& document) {
-    ASSERT_EQ(ExportPdf(document, Path(),
-                        {QString::fromStdString(document.Title), QStringLiteral("Korvane"), {}}, GoOn),
-              QString());
+  void Export(const Document& document, const QDateTime& created = {}) {
+    const PdfInfo info{QString::fromStdString(document.Title), QStringLiteral("Korvane"), created};
+    ASSERT_EQ(ExportPdf(document, Path(), info, GoOn), QString());
   }
-  // Standard output and error of a tool that reads the file.
-  QString Run(const QString& tool, const QStringList& arguments) const {
-    QProcess process;
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(tool, arguments);
-    process.waitForFinished();
-    return QString::fromUtf8(process.readAll());
+  void WriteOldFile() const {
+    QFile file(Path());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("old");
   }
-  QString TextOf() const {
-    return Run(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), Path(), QStringLiteral("-")});
+  QByteArray FileBytes() const {
+    QFile file(Path());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
   }
+  QStringList FilesInFolder() const { return QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden); }
 
   QTemporaryDir folder_;
 };
@@ -40,28 +44,164 @@ class PdfExport : public testing::Test {
 TEST_F(PdfExport, text_can_be_extracted_in_reading_order) {
   Export(*DocumentBuilder()
               .Page()
-              .Row({"Pn100", "Speed Loop Gain", "40.0", "Hz"}, 720)
-              .Row({"Pn101", "x", "1", "ms"}, 1003)
+              .RowFromRight({"Pn100", "Speed Loop Gain", "40.0"}, 720)
+              .Row({"x", "1"}, 1003)
               .Build());
-  EXPECT_EQ(TextOf().simplified(), QStringLiteral("Pn100 Speed Loop Gain 40.0 Hz Pn101 x 1 ms"));
+  const QString raw = RunTool("pdftotext", {QStringLiteral("-raw"), Path(), QStringLiteral("-")});
+  EXPECT_EQ(raw.simplified(), QStringLiteral("Pn100 Speed Loop Gain 40.0 x 1"));
+}
+
+TEST_F(PdfExport, words_stand_where_the_layout_says_within_a_twentieth_of_a_point) {
+  const auto document = DocumentBuilder().Page().Text("Speed Loop Gain Wide", 1447, 1003, 8.5F).Build();
+  Export(*document);
+  const QString boxes = RunTool("pdftotext", {QStringLiteral("-bbox"), Path(), QStringLiteral("-")});
+  QXmlStreamReader reader(boxes.mid(boxes.indexOf(QStringLiteral("<page"))));
+  std::vector<double> lefts;
+  double right = 0;
+  while (!reader.atEnd()) {
+    if (reader.readNext() != QXmlStreamReader::StartElement || reader.name() != QLatin1String("word"))
+      continue;
+    lefts.push_back(reader.attributes().value(QLatin1String("xMin")).toDouble());
+    right = reader.attributes().value(QLatin1String("xMax")).toDouble();
+    EXPECT_NEAR(reader.attributes().value(QLatin1String("yMin")).toDouble(), 1003 / 20.0, 0.05);
+  }
+  ASSERT_EQ(lefts.size(), 4U);
+  EXPECT_NEAR(lefts[0], 1447 / 20.0, 0.05);
+  EXPECT_NEAR(right, (1447 + static_cast<double>(document->Texts[0].Advance)) / 20, 0.05);
+}
+
+TEST_F(PdfExport, condensed_text_keeps_to_its_printed_width) {
+  Export(*DocumentBuilder().Page().NarrowText("Encoder", 1440, 720, 400).Build());
+  const QString boxes = RunTool("pdftotext", {QStringLiteral("-bbox"), Path(), QStringLiteral("-")});
+  const auto number = [&](const QString& name) {
+    return boxes.section(QStringLiteral("<word"), 1)
+        .section(name + QStringLiteral("=\""), 1)
+        .section(QLatin1Char('"'), 0, 0)
+        .toDouble();
+  };
+  EXPECT_NEAR(number(QStringLiteral("xMin")), 72, 0.05);
+  EXPECT_NEAR(number(QStringLiteral("xMax")), 92, 0.05);
 }
 
 TEST_F(PdfExport, japanese_keeps_its_characters) {
-  Export(*DocumentBuilder().Page().Text("サーボ一覧 日本語", 1440, 720).Build());
-  EXPECT_EQ(TextOf().simplified(), QStringLiteral("サーボ一覧 日本語"));
+  Export(*DocumentBuilder()
+              .Page()
+              .Text("サーボ一覧 日本語", 1440, 720)
+              .Text("日付", 1440, 1720, 12, true)
+              .Build());
+  EXPECT_EQ(PdfText(Path()).simplified(), QStringLiteral("サーボ一覧 日本語 日付"));
 }
 
 TEST_F(PdfExport, tools_find_nothing_to_complain_about) {
-  Export(*DocumentBuilder().TablePages(3).Entry("Parameter", 0, 0, 720).Entry("Second", 1, 2, 1000).Build());
-  EXPECT_TRUE(Run(QStringLiteral("qpdf"), {QStringLiteral("--check"), Path()})
-                  .contains(QStringLiteral("No syntax or stream encoding errors found")));
-  EXPECT_FALSE(TextOf().contains(QStringLiteral("Error")));
+  Export(*DocumentBuilder()
+              .TablePages(3)
+              .Text("漢字", 1440, 400)
+              .Entry("Parameter", 0, 0, 720)
+              .Entry("B", 1, 2, 9)
+              .Build());
+  EXPECT_TRUE(RunTool("qpdf", {QStringLiteral("--check"), Path()})
+                  .contains(QStringLiteral("No syntax or stream encoding errors")));
+  EXPECT_EQ(RunTool("pdftocairo", {QStringLiteral("-svg"), Path(), QStringLiteral("/dev/null")}), QString());
+  QString drawn = RunTool("mutool", {QStringLiteral("draw"), QStringLiteral("-F"), QStringLiteral("stext"),
+                                     QStringLiteral("-o"), QStringLiteral("/dev/null"), Path()});
+  drawn.remove(QStringLiteral("warning: ICC support is not available"));  // tells how the tool was built
+  EXPECT_TRUE(drawn.contains(QStringLiteral("page ")));
+  EXPECT_FALSE(drawn.contains(QStringLiteral("warning")) || drawn.contains(QStringLiteral("error")))
+      << drawn.toStdString();
 }
 
 TEST_F(PdfExport, fonts_are_embedded_subsets) {
   Export(*DocumentBuilder().Page().Text("Regular", 1440, 720).Text("Bold", 1440, 1720, 12, true).Build());
-  const QString fonts = Run(QStringLiteral("pdffonts"), {Path()});
+  const QString fonts = RunTool("pdffonts", {Path()});
   EXPECT_EQ(fonts.count(QStringLiteral("yes yes yes")), 2) << fonts.toStdString();
+}
+
+TEST_F(PdfExport, contents_become_an_outline_of_two_levels_that_leads_to_places) {
+  DocumentBuilder builder;
+  builder.TablePages(3).Entry("Overlapping target", 0, 0, 720).Entry("Parameter", 1, 1, 1000);
+  builder.Entry("Comment", 1, 2, 2000).Entry("Résumé 日本", 0, 2, 3000);
+  Export(*builder.Build());
+  const QString outline = RunTool("mutool", {QStringLiteral("show"), Path(), QStringLiteral("outline")});
+  const QStringList lines = outline.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+  ASSERT_EQ(lines.size(), 4) << outline.toStdString();
+  EXPECT_TRUE(lines[0].contains(QStringLiteral("\"Overlapping target\"")));
+  EXPECT_TRUE(lines[1].contains(QStringLiteral("\t\"Parameter\"")) &&
+              lines[1].contains(QStringLiteral("page=2")));
+  EXPECT_TRUE(lines[3].contains(QStringLiteral("Résumé 日本")) &&
+              lines[3].contains(QStringLiteral("page=3")));
+}
+
+TEST_F(PdfExport, metadata_tells_title_author_creator_and_dates) {
+  Export(*DocumentBuilder("Parameter List").TablePages(1).Build(),
+         QDateTime({2026, 3, 5}, {10, 20, 30}, Qt::UTC));
+  EXPECT_EQ(PdfFact(Path(), "Title"), QStringLiteral("Parameter List"));
+  EXPECT_EQ(PdfFact(Path(), "Author"), QStringLiteral("Korvane"));
+  EXPECT_EQ(PdfFact(Path(), "Creator"), QStringLiteral("Tarvis"));
+  EXPECT_TRUE(PdfFact(Path(), "CreationDate").contains(QStringLiteral("2026")));
+  EXPECT_TRUE(PdfFact(Path(), "Page size").startsWith(QStringLiteral("595.3 x 841.9")));
+}
+
+TEST_F(PdfExport, opens_at_fit_width_with_the_outline_and_has_page_labels) {
+  Export(*DocumentBuilder().TablePages(2).Entry("Parameter", 0, 0, 720).Build());
+  const QString root = RunTool("mutool", {QStringLiteral("show"), Path(), QStringLiteral("trailer/Root")});
+  EXPECT_TRUE(root.contains(QStringLiteral("/FitH")));
+  EXPECT_TRUE(root.contains(QStringLiteral("/PageMode /UseOutlines")));
+  EXPECT_TRUE(root.contains(QStringLiteral("/PageLabels")));
+}
+
+TEST_F(PdfExport, pictures_stay_vectors) {
+  const auto picture = std::make_shared<SamplePicture>();
+  Export(*DocumentBuilder()
+              .Page()
+              .Picture(picture, {1440, 720, 3000, 2000})
+              .Picture(picture, {1440, 5720, 3000, 2000})
+              .Build());
+  EXPECT_EQ(RunTool("pdfimages", {QStringLiteral("-list"), Path()}).count(QLatin1Char('\n')), 2)
+      << "only the heading";
+  EXPECT_EQ(RunTool("qpdf", {QStringLiteral("--check"), Path()}).count(QStringLiteral("WARNING")), 0);
+}
+
+TEST_F(PdfExport, the_same_document_gives_the_same_bytes) {
+  const auto document = DocumentBuilder().TablePages(2).Text("漢字", 1440, 400).Build();
+  Export(*document);
+  const QByteArray first = FileBytes();
+  Export(*document);
+  EXPECT_EQ(FileBytes(), first);
+}
+
+TEST_F(PdfExport, a_document_without_pages_is_a_file_that_opens) {
+  Export(*DocumentBuilder().Build());
+  EXPECT_FALSE(FileBytes().isEmpty());
+}
+
+TEST_F(PdfExport, a_cancelled_export_leaves_the_old_file) {
+  WriteOldFile();
+  const auto document = DocumentBuilder().TablePages(3).Build();
+  EXPECT_EQ(ExportPdf(*document, Path(), {}, [](int done, int) { return done < 2; }), QString());
+  EXPECT_EQ(FileBytes(), QByteArray("old"));
+  EXPECT_EQ(FilesInFolder(), QStringList(QStringLiteral("out.pdf")));
+}
+
+TEST_F(PdfExport, a_full_disk_is_told_and_leaves_the_old_file_and_nothing_else) {
+  WriteOldFile();
+  const auto document = DocumentBuilder().TablePages(3).Build();
+  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  const rlimit tight{1000, before.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &tight);
+  const QString error = ExportPdf(*document, Path(), {}, GoOn);
+  setrlimit(RLIMIT_FSIZE, &before);
+  std::signal(SIGXFSZ, handler);
+  EXPECT_TRUE(error.contains(Path())) << error.toStdString();
+  EXPECT_EQ(FileBytes(), QByteArray("old"));
+  EXPECT_EQ(FilesInFolder(), QStringList(QStringLiteral("out.pdf")));
+}
+
+TEST_F(PdfExport, a_folder_that_is_gone_is_told) {
+  const auto document = DocumentBuilder().TablePages(1).Build();
+  const QString error = ExportPdf(*document, folder_.filePath(QStringLiteral("gone/out.pdf")), {}, GoOn);
+  EXPECT_TRUE(error.contains(QStringLiteral("gone/out.pdf"))) << error.toStdString();
 }
 
 }  // namespace

@@ -1,42 +1,23 @@
 #include "preview/preview_window.h"
 
-#include <gtest/gtest.h>
+#include <QtTest/qtestspontaneevent.h>
 
-#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QLabel>
 #include <QLineEdit>
-#include <QSignalSpy>
-#include <QTest>
-#include <QToolButton>
+#include <QMenu>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QTabWidget>
 
-#include "preview/document_builder.h"
-#include "preview/page_view.h"
+#include "preview/window_fixture.h"
 
 namespace tarvis {
 namespace {
 
-class Window : public testing::Test {
- protected:
-  void Open(std::shared_ptr<const Document> document) {
-    PreviewSetup setup;
-    setup.Tools = {{"Editing of the Printing Items", 999}};
-    window_ = std::make_unique<PreviewWindow>(std::move(document), setup);
-    window_->show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
-  }
-  void OpenTable(int pages) { Open(DocumentBuilder().TablePages(pages).Build()); }
-  template <typename Widget>
-  Widget& Find(const char* name) {
-    auto* widget = window_->findChild<Widget*>(QString::fromLatin1(name));
-    EXPECT_NE(widget, nullptr) << name;
-    return *widget;
-  }
-  void Click(const char* name) { QTest::mouseClick(&Find<QToolButton>(name), Qt::LeftButton); }
-  PageView& View() { return window_->View(); }
+using Window = WindowTest;
 
-  std::unique_ptr<PreviewWindow> window_;
-};
-
-TEST_F(Window, caption_place_and_size_are_those_of_a_print_preview) {
+TEST_F(Window, caption_and_size_are_those_of_a_print_preview) {
   OpenTable(1);
   EXPECT_EQ(window_->windowTitle(), QStringLiteral("Print Preview"));
   const QSize screen = window_->screen()->availableSize();
@@ -44,14 +25,47 @@ TEST_F(Window, caption_place_and_size_are_those_of_a_print_preview) {
   EXPECT_EQ(window_->height(), std::min(645, screen.height()));
 }
 
-TEST_F(Window, the_added_tool_and_close_tell_their_numbers) {
+TEST_F(Window, contents_pane_stands_left_of_the_pages_2300_twips_wide) {
+  OpenTable(1);
+  auto& pane = Find<QTabWidget>("sidePane");
+  EXPECT_NEAR(pane.width(), 153, 1);
+  EXPECT_LT(pane.mapToGlobal(QPoint()).x(), View().mapToGlobal(QPoint()).x());
+}
+
+TEST_F(Window, f7_hides_and_shows_the_side_pane) {
+  OpenTable(1);
+  Press(Qt::Key_F7);
+  EXPECT_FALSE(Find<QTabWidget>("sidePane").isVisible());
+  Press(Qt::Key_F7);
+  EXPECT_TRUE(Find<QTabWidget>("sidePane").isVisible());
+}
+
+TEST_F(Window, the_added_tool_shows_its_text_and_tells_its_number) {
   OpenTable(1);
   const QSignalSpy used(window_.get(), &PreviewWindow::toolUsed);
+  EXPECT_EQ(Find<QToolButton>("tool999Button").text(), QStringLiteral("Editing of the Printing Items"));
   Click("tool999Button");
-  Click("closeButton");
-  ASSERT_EQ(used.count(), 2);
+  ASSERT_EQ(used.count(), 1);
   EXPECT_EQ(used.at(0).at(0).toInt(), 999);
+}
+
+TEST_F(Window, close_tells_5113_by_tool_and_by_key) {
+  OpenTable(1);
+  const QSignalSpy used(window_.get(), &PreviewWindow::toolUsed);
+  Click("closeButton");
+  Press(Qt::Key_W, Qt::ControlModifier);
+  ASSERT_EQ(used.count(), 2);
+  EXPECT_EQ(used.at(0).at(0).toInt(), 5113);
   EXPECT_EQ(used.at(1).at(0).toInt(), 5113);
+}
+
+TEST_F(Window, closed_by_the_user_is_told_once) {
+  OpenTable(1);
+  const QSignalSpy closed(window_.get(), &PreviewWindow::closedByUser);
+  QCloseEvent event;
+  QSpontaneKeyEvent::setSpontaneous(&event);
+  qApp->notify(window_.get(), &event);
+  EXPECT_EQ(closed.count(), 1);
 }
 
 TEST_F(Window, closing_from_code_is_not_told_as_closed_by_the_user) {
@@ -61,13 +75,72 @@ TEST_F(Window, closing_from_code_is_not_told_as_closed_by_the_user) {
   EXPECT_EQ(closed.count(), 0);
 }
 
-TEST_F(Window, page_box_goes_to_the_page_typed) {
-  OpenTable(20);
-  QTest::keyClick(window_.get(), Qt::Key_G, Qt::ControlModifier);
-  QTest::keyClicks(&Find<QLineEdit>("pageBox"), QStringLiteral("7"));
-  QTest::keyClick(&Find<QLineEdit>("pageBox"), Qt::Key_Return);
-  EXPECT_EQ(View().CurrentPage(), 6);
-  EXPECT_EQ(Find<QLineEdit>("pageBox").text(), QStringLiteral("7"));
+TEST_F(Window, every_tool_has_an_icon_or_text_a_tooltip_with_its_key_and_an_accessible_name) {
+  OpenTable(3);
+  for (const CommandEntry& entry : CommandTable()) {
+    if (entry.Where != Shown::Toolbar) continue;
+    auto& button = Find<QToolButton>((std::string(entry.Name) + "Button").c_str());
+    EXPECT_FALSE(button.icon().isNull()) << entry.Name;
+    EXPECT_FALSE(button.accessibleName().isEmpty()) << entry.Name;
+    const QString key = window_->ActionOf(entry.Id)->shortcut().toString(QKeySequence::NativeText);
+    EXPECT_FALSE(key.isEmpty()) << entry.Name;
+    EXPECT_TRUE(button.toolTip().contains(key)) << entry.Name;
+  }
+}
+
+TEST_F(Window, the_context_menu_holds_every_command_and_the_added_tool) {
+  OpenTable(3);
+  QStringList names;
+  QTimer::singleShot(0, window_.get(), [&] {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    for (const QAction* action : menu->actions()) names.append(action->objectName());
+    menu->close();
+  });
+  QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(200, 200),
+                          View().viewport()->mapToGlobal(QPoint(200, 200)));
+  QApplication::sendEvent(View().viewport(), &event);
+  for (const CommandEntry& entry : CommandTable())
+    EXPECT_TRUE(names.contains(QString::fromLatin1(entry.Name)));
+  EXPECT_TRUE(names.contains(QStringLiteral("tool999")));
+}
+
+TEST_F(Window, shortcuts_are_distinct) {
+  OpenTable(1);
+  QStringList keys;
+  for (const CommandEntry& entry : CommandTable()) {
+    for (const QKeySequence& key : window_->ActionOf(entry.Id)->shortcuts()) keys.append(key.toString());
+  }
+  EXPECT_EQ(keys.removeDuplicates(), 0);
+}
+
+TEST_F(Window, a_document_without_pages_can_be_looked_at_and_closed) {
+  Open(DocumentBuilder().Build());
+  Press(Qt::Key_End);
+  Press(Qt::Key_PageDown);
+  Press(Qt::Key_2, Qt::ControlModifier);
+  Press(Qt::Key_A, Qt::ControlModifier);
+  Press(Qt::Key_F, Qt::ControlModifier);
+  Type("x");
+  EXPECT_EQ(Find<QLabel>("findCount").text(), QStringLiteral("not found"));
+  EXPECT_EQ(Find<QLabel>("pageTotal").text(), QStringLiteral("/ 0"));
+}
+
+TEST_F(Window, icons_take_the_text_colour_of_the_desktop) {
+  OpenTable(1);
+  const QPalette before = QApplication::palette();
+  const auto darkest = [&] {
+    const QImage icon = Find<QToolButton>("closeButton").icon().pixmap(32).toImage();
+    return icon.pixelColor(icon.width() / 2, icon.height() / 2);
+  };
+  QPalette dark = before;
+  dark.setColor(QPalette::ButtonText, Qt::white);
+  QApplication::setPalette(dark);
+  EXPECT_GT(darkest().lightness(), 200);
+  dark.setColor(QPalette::ButtonText, Qt::black);
+  QApplication::setPalette(dark);
+  EXPECT_LT(darkest().lightness(), 50);
+  QApplication::setPalette(before);
 }
 
 }  // namespace

@@ -1,0 +1,121 @@
+// Painting, scrolling, searching and saving long documents.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <fstream>
+
+#include "preview/document_builder.h"
+#include "preview/page_view.h"
+#include "preview/painter_canvas.h"
+#include "preview/pdf_export.h"
+#include "preview/text_search.h"
+
+namespace tarvis {
+namespace {
+
+// 240 bordered cells a page: a list of 16,000 parameters has 334 pages of them.
+std::shared_ptr<const Document> Table(int pages) { return DocumentBuilder().TablePages(pages).Build(); }
+
+void PaintPageAtZoom(benchmark::State& state) {
+  const auto document = Table(8);
+  const int width = static_cast<int>(794 * state.range(0) / 100);
+  int page = 0;
+  for (auto _ : state) {
+    page = (page + 1) % 8;
+    benchmark::DoNotOptimize(RenderPage(*document, page, width, 0, PagePixelHeight(*document, width)));
+  }
+}
+BENCHMARK(PaintPageAtZoom)->Arg(100)->Arg(200)->Unit(benchmark::kMillisecond);
+
+// One wheel notch after the other through 400 pages, each frame painted; the counter tells the slowest frame.
+void ScrollFrame(benchmark::State& state) {
+  PageView view(Table(400));
+  view.resize(913, 600);
+  view.show();
+  QCoreApplication::processEvents();
+  double slowest = 0;
+  for (auto _ : state) {
+    QElapsedTimer frame;
+    frame.start();
+    QScrollBar* bar = view.verticalScrollBar();
+    bar->setValue(bar->value() + 144 > bar->maximum() ? 0 : bar->value() + 144);
+    QCoreApplication::processEvents();
+    slowest = std::max(slowest, static_cast<double>(frame.nsecsElapsed()) / 1e6);
+  }
+  state.counters["slowest_ms"] = slowest;
+}
+BENCHMARK(ScrollFrame)->Unit(benchmark::kMillisecond)->Iterations(3000);
+
+void SavePdf(benchmark::State& state) {
+  const auto document = Table(334);
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("list.pdf"));
+  for (auto _ : state) {
+    const QString error = ExportPdf(*document, path, {}, [](int, int) { return true; });
+    if (!error.isEmpty()) state.SkipWithError(error.toUtf8().constData());
+  }
+  state.counters["megabytes"] = static_cast<double>(QFileInfo(path).size()) / 1e6;
+}
+BENCHMARK(SavePdf)->Unit(benchmark::kMillisecond);
+
+// The same pages painted into the toolkit's PDF writer, to compare with.
+void SavePdfByToolkit(benchmark::State& state) {
+  const auto document = Table(334);
+  const QTemporaryDir folder;
+  for (auto _ : state) {
+    QPdfWriter writer(folder.filePath(QStringLiteral("list.pdf")));
+    writer.setResolution(1440);
+    QPainter painter(&writer);
+    for (std::size_t page = 0; page < document->Pages.size(); ++page) {
+      if (page > 0) writer.newPage();
+      PainterCanvas canvas(painter);
+      PaintPage(*document, page, canvas);
+    }
+  }
+}
+BENCHMARK(SavePdfByToolkit)->Unit(benchmark::kMillisecond);
+
+void SearchAsOneTypes(benchmark::State& state) {
+  const auto document = Table(334);
+  DocumentText text(*document);
+  for (auto _ : state) benchmark::DoNotOptimize(Search(text, QStringLiteral("gain 15"), {}));
+}
+BENCHMARK(SearchAsOneTypes)->Unit(benchmark::kMillisecond);
+
+double ResidentMegabytes(const std::string& key) {
+  std::ifstream status("/proc/self/status");
+  for (std::string word; status >> word;) {
+    double kilobytes = 0;
+    if (word == key && status >> kilobytes) return kilobytes / 1024;
+  }
+  return 0;
+}
+
+// Peak memory of the process with 700 pages open and every page visited.
+void VisitEveryPage(benchmark::State& state) {
+  PageView view(Table(700));
+  view.resize(913, 600);
+  view.show();
+  for (auto _ : state) {
+    for (int page = 0; page < 700; ++page) {
+      view.GoTo({page, 0});
+      QCoreApplication::processEvents();
+    }
+  }
+  state.counters["peak_megabytes"] = ResidentMegabytes("VmHWM:");
+}
+BENCHMARK(VisitEveryPage)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+}  // namespace
+}  // namespace tarvis
+
+int main(int argc, char** argv) {
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+}

@@ -1,0 +1,103 @@
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+
+#include "preview/finder.h"
+#include "preview/text_search.h"
+#include "preview/window_fixture.h"
+
+namespace tarvis {
+namespace {
+
+using FindBarTest = WindowTest;
+
+std::shared_ptr<const Document> Words() {
+  return DocumentBuilder()
+      .Page()
+      .Row({"Gain", "gain margin", "again"}, 720)
+      .Page()
+      .Text("GAIN at the end", 1440, 5000)
+      .Build();
+}
+
+TEST_F(FindBarTest, counts_hits_of_the_whole_document_as_one_types) {
+  Open(Words());
+  Press(Qt::Key_F, Qt::ControlModifier);
+  Type("gai");
+  EXPECT_EQ(Find<QLabel>("findCount").text(), QStringLiteral("1 of 4"));
+  Type("x");
+  EXPECT_EQ(Find<QLabel>("findCount").text(), QStringLiteral("not found"));
+}
+
+TEST_F(FindBarTest, f3_and_shift_f3_step_through_the_hits_and_around) {
+  Open(Words());
+  Press(Qt::Key_F, Qt::ControlModifier);
+  Type("gain");
+  Press(Qt::Key_F3);
+  EXPECT_EQ(Find<QLabel>("findCount").text(), QStringLiteral("2 of 4"));
+  Press(Qt::Key_F3, Qt::ShiftModifier);
+  Press(Qt::Key_F3, Qt::ShiftModifier);
+  EXPECT_EQ(Find<QLabel>("findCount").text(), QStringLiteral("4 of 4"));
+  EXPECT_EQ(Page(), 1);
+  Press(Qt::Key_Return);
+  EXPECT_EQ(Find<QLabel>("findCount").text(), QStringLiteral("1 of 4"));
+}
+
+TEST_F(FindBarTest, case_and_whole_word_switches_narrow_the_hits) {
+  Open(Words());
+  Press(Qt::Key_F, Qt::ControlModifier);
+  Type("Gain");
+  QTest::mouseClick(&Find<QCheckBox>("findWords"), Qt::LeftButton, Qt::NoModifier, QPoint(8, 8));
+  EXPECT_EQ(Find<QLabel>("findCount").text(), QStringLiteral("1 of 3"));
+  QTest::mouseClick(&Find<QCheckBox>("findCase"), Qt::LeftButton, Qt::NoModifier, QPoint(8, 8));
+  EXPECT_EQ(Find<QLabel>("findCount").text(), QStringLiteral("1 of 1"));
+}
+
+TEST_F(FindBarTest, esc_closes_the_bar_and_takes_the_marks_away) {
+  Open(Words());
+  Press(Qt::Key_F, Qt::ControlModifier);
+  Type("gain");
+  auto& finder = Find<Finder>("finder");
+  EXPECT_EQ(finder.Marks(0).size(), 3U);
+  Press(Qt::Key_Escape);
+  EXPECT_FALSE(Find<QWidget>("findBar").isVisible());
+  EXPECT_TRUE(finder.Marks(0).empty());
+  EXPECT_TRUE(View().hasFocus());
+}
+
+TEST_F(FindBarTest, f3_without_a_bar_opens_it) {
+  Open(Words());
+  Press(Qt::Key_F3);
+  EXPECT_TRUE(Find<QLineEdit>("findText").hasFocus());
+}
+
+TEST_F(FindBarTest, a_hit_is_marked_where_its_letters_stand) {
+  Open(Words());
+  Press(Qt::Key_F, Qt::ControlModifier);
+  Type("margin");
+  const std::vector<Highlight> marks = Find<Finder>("finder").Marks(0);
+  ASSERT_EQ(marks.size(), 1U);
+  EXPECT_GT(marks[0].Box.left(), 1440 + 1700 + 30 + 300);
+  EXPECT_NEAR(marks[0].Box.top(), 720 + 46, 0.5);
+  EXPECT_NEAR(marks[0].Box.width(), 510, 60);
+}
+
+TEST(SearchTest, a_phrase_is_found_over_the_lines_of_one_cell) {
+  const auto document = DocumentBuilder().Page().Lines({"Encoder Dividing", "Ratio"}, 1440, 720).Build();
+  DocumentText text(*document);
+  const std::vector<SearchHit> hits = Search(text, QStringLiteral("dividing ratio"), {});
+  ASSERT_EQ(hits.size(), 1U);
+  EXPECT_EQ(hits[0].Boxes.size(), 2U);
+}
+
+TEST(SearchTest, japanese_is_found_with_its_place) {
+  const auto document = DocumentBuilder().Page().Text("速度ループゲイン", 1440, 720, 10).Build();
+  DocumentText text(*document);
+  const std::vector<SearchHit> hits = Search(text, QStringLiteral("ループ"), {});
+  ASSERT_EQ(hits.size(), 1U);
+  EXPECT_NEAR(hits[0].Boxes[0].left(), 1440 + 400, 1);
+  EXPECT_NEAR(hits[0].Boxes[0].width(), 600, 1);
+}
+
+}  // namespace
+}  // namespace tarvis

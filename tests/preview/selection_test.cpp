@@ -1,0 +1,97 @@
+#include <QClipboard>
+
+#include "preview/text_selection.h"
+#include "preview/window_fixture.h"
+
+namespace tarvis {
+namespace {
+
+class Selection : public WindowTest {
+ protected:
+  void SetUp() override { QApplication::clipboard()->clear(); }
+  QString Copied() {
+    Press(Qt::Key_C, Qt::ControlModifier);
+    return QApplication::clipboard()->text();
+  }
+  void Drag(QPoint from, QPoint to) {
+    QWidget* viewport = View().viewport();
+    QTest::mousePress(viewport, Qt::LeftButton, Qt::NoModifier, from);
+    QTest::mouseMove(viewport, (from + to) / 2);
+    QTest::mouseMove(viewport, to);
+    QTest::mouseRelease(viewport, Qt::LeftButton, Qt::NoModifier, to);
+  }
+};
+
+TEST_F(Selection, a_table_copies_as_lines_with_tabs_between_cells) {
+  Open(DocumentBuilder().Page().Row({"Pn100", "Gain", "40.0"}, 720).Row({"Pn101", "", "8"}, 1003).Build());
+  Press(Qt::Key_A, Qt::ControlModifier);
+  EXPECT_EQ(Copied(), QStringLiteral("Pn100\tGain\t40.0\nPn101\t\t8"));
+}
+
+TEST_F(Selection, dragging_selects_from_letter_to_letter) {
+  Open(DocumentBuilder()
+           .Page()
+           .Text("Speed Loop Gain", 1440, 1000, 12)
+           .Text("Second", 1440, 1500, 12)
+           .Build());
+  Drag(At(0, 1440, 1100), At(0, 1440 + 690, 1100));
+  EXPECT_EQ(Copied(), QStringLiteral("Speed"));
+}
+
+TEST_F(Selection, dragging_backwards_over_lines_selects_what_lies_between) {
+  Open(DocumentBuilder()
+           .Page()
+           .Text("First line", 1440, 1000, 12)
+           .Text("Second line", 1440, 1500, 12)
+           .Build());
+  Drag(At(0, 9000, 1620), At(0, 1400, 1120));
+  EXPECT_EQ(Copied(), QStringLiteral("First line\nSecond line"));
+}
+
+TEST_F(Selection, a_double_click_selects_the_word) {
+  Open(DocumentBuilder().Page().Text("Speed Loop Gain", 1440, 1000, 12).Build());
+  QTest::mouseDClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, At(0, 1440 + 900, 1100));
+  EXPECT_EQ(Copied(), QStringLiteral("Loop"));
+}
+
+TEST_F(Selection, a_click_takes_the_selection_away) {
+  Open(DocumentBuilder().Page().Text("Speed", 1440, 1000, 12).Build());
+  Press(Qt::Key_A, Qt::ControlModifier);
+  EXPECT_TRUE(window_->ActionOf(Command::Copy)->isEnabled());
+  QTest::mouseClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, At(0, 1500, 1100));
+  EXPECT_FALSE(window_->ActionOf(Command::Copy)->isEnabled());
+}
+
+TEST_F(Selection, all_pages_are_selected_by_ctrl_a) {
+  OpenTable(3);
+  Press(Qt::Key_A, Qt::ControlModifier);
+  EXPECT_EQ(Copied().count(QLatin1Char('\n')), 3 * 49 - 1);
+}
+
+TEST(TextSelection, a_cell_that_wraps_beside_others_stays_one_cell) {
+  const auto document =
+      DocumentBuilder().Page().WrappedRow({"Pn1"}, {"Encoder Dividing", "Ratio"}, {"5"}, 720).Build();
+  DocumentText text(*document);
+  TextSelection selection(text);
+  selection.SelectAll();
+  EXPECT_EQ(selection.Text(), QStringLiteral("Pn1\tEncoder Dividing Ratio\t5"));
+}
+
+TEST(TextSelection, lines_of_a_comment_stay_lines) {
+  const auto document = DocumentBuilder().Page().Lines({"one", "two"}, 1440, 720).Build();
+  DocumentText text(*document);
+  TextSelection selection(text);
+  selection.SelectAll();
+  EXPECT_EQ(selection.Text(), QStringLiteral("one\ntwo"));
+}
+
+TEST(TextSelection, cells_are_read_from_the_left_whatever_their_layout_order) {
+  const auto document = DocumentBuilder().Page().RowFromRight({"a", "b", "c"}, 720).Build();
+  DocumentText text(*document);
+  TextSelection selection(text);
+  selection.SelectAll();
+  EXPECT_EQ(selection.Text(), QStringLiteral("a\tb\tc"));
+}
+
+}  // namespace
+}  // namespace tarvis

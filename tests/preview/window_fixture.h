@@ -1,0 +1,82 @@
+// A preview window on the test's display, driven by keys and mouse.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+#include <QWheelEvent>
+#include <functional>
+
+#include "preview/document_builder.h"
+#include "preview/page_view.h"
+#include "preview/preview_window.h"
+
+namespace tarvis {
+
+class WindowTest : public testing::Test {
+ protected:
+  void Open(std::shared_ptr<const Document> document) {
+    PreviewSetup setup;
+    setup.Tools = {{"Editing of the Printing Items", 999}};
+    setup.Author = QStringLiteral("Korvane");
+    window_ = std::make_unique<PreviewWindow>(std::move(document), setup);
+    window_->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+  }
+  void OpenTable(int pages) { Open(DocumentBuilder().TablePages(pages).Build()); }
+
+  // A part of the window by its object name.
+  template <typename Part>
+  Part& Find(const char* name) {
+    auto* widget = window_->findChild<Part*>(QString::fromLatin1(name));
+    if (widget == nullptr) throw std::runtime_error(std::string("no widget ") + name);
+    return *widget;
+  }
+  void Click(const char* name) { QTest::mouseClick(&Find<QToolButton>(name), Qt::LeftButton); }
+  // A key press where the focus is, as from a keyboard.
+  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QWidget* focus = QApplication::focusWidget();
+    QTest::keyClick(focus != nullptr ? focus : window_.get(), key, modifiers);
+  }
+  void Type(const char* text) { QTest::keyClicks(QApplication::focusWidget(), QString::fromUtf8(text)); }
+
+  PageView& View() { return window_->View(); }
+  int Page() { return View().CurrentPage(); }
+  int Percent() { return qRound(View().Zoom() * 100); }
+  // Where a place of a page (twips) stands in the view.
+  QPoint At(int page, double x, double y) {
+    const PageLayout& layout = View().Layout();
+    const QPointF offset(View().horizontalScrollBar()->value(), View().verticalScrollBar()->value());
+    return (layout.PageRect(page).topLeft() + QPointF(x, y) * layout.PixelsPerTwip() - offset).toPoint();
+  }
+  void Wheel(int notches, Qt::KeyboardModifiers modifiers = Qt::NoModifier, QPoint at = {200, 200}) {
+    QWheelEvent event(at, View().viewport()->mapToGlobal(at), {}, {0, notches * 120}, Qt::NoButton, modifiers,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(View().viewport(), &event);
+  }
+  // `answer` gets the dialog of that name as soon as it is up; run what opens it after this.
+  void OnDialog(const char* name, std::function<void(QDialog&)> answer) {
+    answered_ = false;
+    auto* timer = new QTimer(window_.get());
+    QObject::connect(timer, &QTimer::timeout, window_.get(), [this, timer, name, answer = std::move(answer)] {
+      auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+      if (dialog == nullptr || dialog->objectName() != QLatin1String(name)) return;
+      timer->deleteLater();
+      timer->stop();
+      answered_ = true;
+      answer(*dialog);
+    });
+    timer->start(5);
+  }
+
+  std::unique_ptr<PreviewWindow> window_;
+  bool answered_ = false;
+};
+
+}  // namespace tarvis
