@@ -130,6 +130,13 @@ TEST_F(MechaGraph, TheFirstTitleStandsOffTheLineOfItsNeighbours) {
   EXPECT_EQ(PrintedOf(document, "txtValueName").at(0).Box, (Rect{142, guide + 425, 2834, 283}));
 }
 
+TEST_F(MechaGraph, TitlesComeAgainWhereTheTableGoesOnOnTheNextPage) {
+  const Document document = Report.ComposeAlone("rptMechaGraph", 630 + 7938 + 425 + 283);
+  ASSERT_EQ(document.Pages.size(), 2U);
+  EXPECT_EQ(PrintedOf(document, "txtTitleCurB_A").size(), 2U);
+  EXPECT_EQ(PrintedOf(document, "txtValueCurB_A").at(1).Box.Top, 425);
+}
+
 TEST_F(MechaGraph, PrintsThePicturesOfTheChosenLook) {
   Data.MechaGraph1C = Data.MechaGraph2C = PathOf("gone.bmp");
   Compose(0);

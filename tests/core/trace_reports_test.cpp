@@ -269,6 +269,13 @@ TEST_F(TriggerSetting, PrintsFiveRowsAlsoWithoutAnyData) {
   EXPECT_THAT(TextsOf(document, "txtValueName"), ElementsAre("", "", "", "", ""));
 }
 
+TEST_F(TriggerSetting, TitlesComeAgainWhereTheTableIsLongerThanThePaper) {
+  const Document document = Report.ComposeAlone("rptTraceTrigger", 630 + 425 + 2 * 283);
+  ASSERT_EQ(document.Pages.size(), 2U);
+  EXPECT_EQ(PrintedOf(document, "txtTitleName").size(), 2U);
+  EXPECT_EQ(PrintedOf(document, "txtValueName").at(2).Box.Top, 425);
+}
+
 TEST_F(TriggerSetting, ARowGrowsWithItsValueAndLeavesTheCellBesideItAlone) {
   Run.Trace.TriggerLevel = {"Trigger level", "one\r\ntwo\r\nthree"};
   const Document document = Report.ComposeAlone("rptTraceTrigger");
