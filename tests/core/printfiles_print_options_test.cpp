@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cctype>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -7,6 +9,7 @@
 #include "core/support/test_run.h"
 #include "printfiles/host_files.h"
 #include "printfiles/print_options_file.h"
+#include "printfiles/text.h"
 
 namespace tarvis {
 namespace {
@@ -226,6 +229,30 @@ TEST_F(PrintOptionsFile, WithAKeyOfADataFileIsRefused) {
   EXPECT_EQ(Run.Session.Diagnosis, "PrintOption.ToT:2: unknown key 'MechaInfo'");
   EXPECT_FALSE(Read({"File,x"}));
   EXPECT_FALSE(Read({"cover,1"}));
+}
+
+TEST_F(PrintOptionsFile, KnowsEachKeyInItsOwnSpellingOnly) {
+  std::string_view text = kDefaultFile;
+  while (!text.empty()) {
+    const std::string line(NextTextLine(text));
+    std::string other = line;
+    const std::size_t comma = line.find(',');
+    std::transform(other.begin(), other.begin() + static_cast<std::ptrdiff_t>(comma), other.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    EXPECT_TRUE(Read({line, line})) << "twice: " << line;
+    EXPECT_FALSE(Read({other})) << other;
+    EXPECT_FALSE(Read({" " + line})) << line;
+  }
+}
+
+TEST_F(PrintOptionsFile, DropsElementsThatNobodyAsksFor) {
+  ASSERT_TRUE(
+      Read({"File-Spec,4", "UserOption,1,0,1,0,1,x", "TraceOption,1,1,1,1,1,1,1,1,0,x",
+            "SimOption,0,0,0,0,0,0,0,0,0,0,1,0,1,x", "IdxTblOption,1,2,3,1,x", "SimHeader,1,0,1,0,1,t,x"}));
+  EXPECT_EQ(Run.Options.UserOption[4], 1);
+  EXPECT_EQ(Run.Options.SimOption[12], 1);
+  EXPECT_EQ(Run.Options.IdxTblOption.Comment, 1);
+  EXPECT_EQ(Run.Options.SimHeader.TitleText, "t");
 }
 
 TEST_F(PrintOptionsFile, KeepsAMultiLineGreetingInOneLine) {

@@ -80,6 +80,7 @@ TEST_F(RealTraceFile, PassesOverACursorRowAheadOfCursolSelectInAFirstRead) {
 }
 
 TEST_F(RealTraceFile, HoldsTheParameterBlockByItsRules) {
+  ExpectParameterBlock(*this, kRealTraceFile);
   EXPECT_FALSE(Read({"UserName,1,a"}));
   EXPECT_FALSE(Read({"SwitchNum,1", "Switch,1,2,3,a", "Switch3,0,1,,,x", "Switch,2,2,3,b"}));
   EXPECT_TRUE(Read({"UserNum,1", "UserName,1,a", "UserValue,1,2,u"}));

@@ -130,6 +130,7 @@ TEST_F(SimFile, PassesWithAnyFileSpecThoughItHasAParameterBlock) {
 }
 
 TEST_F(SimFile, HoldsTheParameterBlockByItsRules) {
+  ExpectParameterBlock(*this, kSimFile);
   EXPECT_FALSE(Read({"UserName,1,a"}));
   EXPECT_FALSE(Read({"UserNum,0", "UserName,1,a"}));
   EXPECT_FALSE(Read({"Switch,1,2,3,a"}));

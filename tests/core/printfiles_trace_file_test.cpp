@@ -136,6 +136,7 @@ TEST_F(TraceFile, LeavesTheSessionsOverlapAlone) {
 }
 
 TEST_F(TraceFile, HoldsTheParameterBlockByItsRules) {
+  ExpectParameterBlock(*this, kTraceFile);
   EXPECT_TRUE(Read({"UserNum,1", "UserName,1,a", "UserValue,1,2,u"}));
   EXPECT_FALSE(Read({"UserName,1,a"}));
   EXPECT_FALSE(Read({"Switch,1,2,3,a"}));

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "core/support/test_run.h"
+#include "core/support/line_cases.h"
 #include "printfiles/host_files.h"
 #include "printfiles/user_file.h"
 
@@ -65,6 +65,12 @@ TEST_F(UserFile, FillsHeaderParametersSwitchesAndComment) {
   EXPECT_EQ(row.Digit[3].Text, "D, with comma");
   EXPECT_EQ(Run.User.CommentCnt, 2);
   EXPECT_EQ(Run.User.Comment, "one, two\r\nthree");
+}
+
+TEST_F(UserFile, KnowsEachKeyInItsOwnSpellingOnly) {
+  const HostFile userFile = {"User.tmp", ReadUserFile, {}};
+  ExpectHeaderLines(*this, userFile);
+  ExpectParameterBlock(*this, userFile);
 }
 
 TEST_F(UserFile, BelowFileSpec3IsRefusedAtOnce) {

@@ -112,4 +112,21 @@ void ExpectUnknownKeys(TestRun& test, const HostFile& file, const std::vector<st
   for (const std::string& key : keys) ExpectUnknown(test, file, key);
 }
 
+void ExpectParameterBlock(TestRun& test, const HostFile& file) {
+  EXPECT_TRUE(ReadLine(test, file,
+                       "UserNum,1\r\nUserName,1,a,b\r\nUserValue,2,3,u,x\r\nSwitchNum,1\r\nSwitch,1,2,3,s\r\n"
+                       "Switch0,0,1,2,3,w\r\nSwitch1,0,1,2,3,x\r\nSwitch2,0,1,2,3,y\r\nSwitch3,0,1,2,3,z"));
+  const UserData& user = test.Run.User;
+  EXPECT_EQ(user.Prm[0].No + user.Prm[0].Name + user.Prm[0].Value + user.Prm[0].Default + user.Prm[0].Unit,
+            "1a,b23u");
+  std::string texts;
+  for (const SwitchDigit& digit : user.Switches[0].Digit) texts += digit.Text;
+  EXPECT_EQ(user.Switches[0].Name + texts, "swxyz");
+  for (const char* key : {"UserNum", "UserName", "UserValue", "SwitchNum", "Switch", "Switch0", "Switch1",
+                          "Switch2", "Switch3", "CommentCnt", "Comment"}) {
+    ExpectUnknown(test, file, LowerCase(key));
+  }
+  ExpectUnknown(test, file, "Switch4");
+}
+
 }  // namespace tarvis

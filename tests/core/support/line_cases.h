@@ -57,4 +57,7 @@ void ExpectHeaderLines(TestRun& test, const HostFile& file);
 // Each of these keys is unknown to the file.
 void ExpectUnknownKeys(TestRun& test, const HostFile& file, const std::vector<std::string>& keys);
 
+// The parameter block fills its rows, and each of its keys is unknown in lower case.
+void ExpectParameterBlock(TestRun& test, const HostFile& file);
+
 }  // namespace tarvis
