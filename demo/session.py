@@ -6,22 +6,26 @@ PREVIEW = "Print Preview"
 
 
 class Session:
-    """`process` is the program just started at the display where `user` sits."""
+    """`process` is the program just started at the display where `user` sits. `is_ready` tells more exactly than the
+    display can whether the program itself knows that its window of a title has the focus."""
 
-    def __init__(self, user, process):
+    def __init__(self, user, process, is_ready=lambda title: True):
         self.user = user
         self.process = process
+        self._is_ready = is_ready
 
     def wait_for(self, title, seconds=30):
         """Until the window has the focus. A program that ends instead is told with its exit status."""
         try:
-            return wait_until(lambda: self.ended() or self.user.focused(title), f"the window '{title}'", seconds)
+            return wait_until(lambda: self._focused(title), f"the window '{title}'", seconds)
         except Timeout as timeout:
             raise Timeout(f"{timeout}; shown are {self.user.titles()}") from None
 
-    def ended(self):
+    def _focused(self, title):
         if self.process.poll() is not None:
             raise Timeout(f"the program has ended with status {self.process.returncode}")
+        window = self.user.focused(title)
+        return window if window and self._is_ready(title) else None
 
     def confirm_dialog(self):
         self.wait_for(DIALOG)

@@ -48,7 +48,11 @@ class ProgramCase(unittest.TestCase):
                 process = self.host.start_with(PROGRAM, arguments, environment=told, stderr=stderr)
         self.addCleanup(self._end, process)
         self.program = AccessibleProgram(process.pid)
-        return Session(self.user, process)
+        return Session(self.user, process, self._is_active)
+
+    def _is_active(self, title):
+        window = self.program.window(title)
+        return window is not None and window.has("active")
 
     def _end(self, process):
         if process.poll() is None:
@@ -59,9 +63,9 @@ class ProgramCase(unittest.TestCase):
         return self.errors.read_text(encoding="utf-8", errors="replace")
 
     def window(self, session, title):
-        """The window of this title once it has the focus and stands on the accessibility bus."""
+        """The window of this title once it has the focus."""
         session.wait_for(title)
-        return wait_until(lambda: self.program.window(title), f"'{title}' on the accessibility bus")
+        return self.program.window(title)
 
     def read_message(self, session, title):
         """The words of the message box of this title, and its buttons."""
