@@ -63,7 +63,7 @@ InfIdxTbl::InfIdxTbl(PrintRun& run, QWidget* parent)
   AddLabels(tab, {{"Label4", "Program Table Print Range", {150, 390, 1905, 210}},
                   {"Label1", "Others", {150, 1800, 495, 210}}});
   BuildRange(tab);
-  chkItemEtc_ = new CheckBox("chkItemEtc", NoFamily, "Comment&s", {330, 2040, 1485, 255}, tab);
+  chkItemEtc_ = new TickBox("chkItemEtc", NoFamily, "Comment&s", {330, 2040, 1485, 255}, tab);
   chkItemEtc_->SetValue(1);
   SetReadingOrder(*tab);
   for (std::int16_t index = 0; index < 3; ++index) {
@@ -74,7 +74,7 @@ InfIdxTbl::InfIdxTbl(PrintRun& run, QWidget* parent)
   }
   connect(textStart_, &StepBox::Left, this, &InfIdxTbl::CheckStepRange);
   connect(textEnd_, &StepBox::Left, this, &InfIdxTbl::CheckStepRange);
-  connect(chkItemEtc_, &CheckBox::stateChanged, this, &InfIdxTbl::CommentsClicked);
+  connect(chkItemEtc_, &TickBox::stateChanged, this, &InfIdxTbl::CommentsClicked);
   connect(&Tabs(), &TabControl::TabChanged, this, &InfIdxTbl::TabLeft);
 }
 

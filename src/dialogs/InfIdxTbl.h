@@ -59,7 +59,7 @@ class InfIdxTbl : public ItemPage {
   StepBox* textStart_ = nullptr;
   QLabel* labelEnd_ = nullptr;
   StepBox* textEnd_ = nullptr;
-  CheckBox* chkItemEtc_ = nullptr;
+  TickBox* chkItemEtc_ = nullptr;
 };
 
 }  // namespace tarvis

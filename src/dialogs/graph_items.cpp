@@ -11,15 +11,15 @@ void SetEnabled(std::span<const BoundBox> boxes, bool enabled) {
 }  // namespace
 
 void ConnectParameterBoxes(std::span<const BoundBox> boxes) {
-  CheckBox* parameters = boxes[0].Box;
-  CheckBox* name = boxes[1].Box;
-  CheckBox* switches = boxes[2].Box;
+  TickBox* parameters = boxes[0].Box;
+  TickBox* name = boxes[1].Box;
+  TickBox* switches = boxes[2].Box;
   const std::vector<BoundBox> dependents(boxes.begin() + 1, boxes.end());
-  QObject::connect(parameters, &CheckBox::stateChanged, parameters, [parameters, name, switches, dependents] {
+  QObject::connect(parameters, &TickBox::stateChanged, parameters, [parameters, name, switches, dependents] {
     SetEnabled(dependents, parameters->IsOn());
     if (!name->IsOn()) switches->setEnabled(false);
   });
-  QObject::connect(name, &CheckBox::stateChanged, switches,
+  QObject::connect(name, &TickBox::stateChanged, switches,
                    [name, switches] { switches->setEnabled(name->IsOn()); });
 }
 

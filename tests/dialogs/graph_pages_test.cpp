@@ -187,7 +187,7 @@ TEST_F(GraphPages, DetailOfOverlappedTracesRulesAllOtherItems) {
   WriteFile("Trace.tmp", "OverlapMode,1\r\nOverlapNum,3\r\n");
   Open(4, "200", "Trace");
   ClickTab(Page("InfTrace").Tabs(), 1);
-  CheckBox& overlap = Check("chkItemOverlap", "InfTrace");
+  TickBox& overlap = Check("chkItemOverlap", "InfTrace");
   EXPECT_TRUE(overlap.isEnabled());
   Click(overlap);
   EXPECT_EQ(Enabled("InfTrace", TraceDetails), "00000000");
