@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <ctime>
 #include <map>
 #include <string>
 #include <vector>
@@ -249,6 +250,12 @@ TEST_F(LaunchTest, ClearsWhatTheSessionKeepsOfOverlapAndProgress) {
   EXPECT_EQ(Run.Session.FinishedReports, 0);
   EXPECT_EQ(Run.Session.TocGroup, "");
   EXPECT_EQ(Run.Session.SimExMode, 0);
+}
+
+TEST(PrintRunTest, HasTheSystemsOwnClockUnlessATestPinsIt) {
+  NotingDesktop desktop;
+  std::tm time = PrintRun(desktop).Now();
+  EXPECT_NEAR(std::difftime(std::time(nullptr), std::mktime(&time)), 0, 60);
 }
 
 }  // namespace
