@@ -23,11 +23,12 @@ def wait_until(reached, what, seconds=20):
 
 
 class VirtualDisplay:
-    """An X server of its own, until `close`."""
+    """An X server of its own, until `close`. `server_options` are passed on to it."""
 
-    def __init__(self, size="1280x1000"):
+    def __init__(self, size="1280x1000", server_options=()):
         read_end, write_end = os.pipe()
-        self._server = subprocess.Popen(["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{size}x24", "-nolisten", "tcp"],
+        self._server = subprocess.Popen(["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{size}x24",
+                                         "-nolisten", "tcp", *server_options],
                                         pass_fds=[write_end], stderr=subprocess.DEVNULL)
         os.close(write_end)
         with os.fdopen(read_end) as told:

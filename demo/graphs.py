@@ -77,22 +77,22 @@ def pen_of(curve, coloured):
 
 
 def legend(coloured, names, path):
-    """A strip that names the curves."""
-    sheet = Metafile(1550, 70)
-    sheet.font(30)
+    """Names the curves, one below the other."""
+    sheet = Metafile(1000, 240)
+    sheet.font(52)
     for k, name in enumerate(names):
-        left = 150 + 450 * k
         sheet.pen(*pen_of(k, coloured))
-        sheet.polyline([(left, 40), (left + 90, 40)])
-        sheet.text(left + 110, 50, name)
+        sheet.polyline([(20, 50 + 75 * k), (160, 50 + 75 * k)])
+        sheet.text(190, 66 + 75 * k, name)
     sheet.save(path)
 
 
 def io_legend(path):
-    """A strip that names the levels of the input and output signals."""
-    sheet = Metafile(1550, 70)
-    sheet.font(30)
-    sheet.text(150, 50, "I/O: upper level = signal on, lower level = signal off")
+    """Tells what the levels of the input and output signals mean."""
+    sheet = Metafile(700, 240)
+    sheet.font(52)
+    sheet.text(20, 66, "Upper level: signal on")
+    sheet.text(20, 141, "Lower level: signal off")
     sheet.save(path)
 
 

@@ -1,11 +1,11 @@
 """Plays the host: writes configuration, help and data files below one folder, and starts the program."""
-import argparse
 import os
 import subprocess
 from dataclasses import dataclass
 from pathlib import Path
 
 import modes
+import simulation
 from bitmap import Bitmap
 from options_file import write_options_with_cover
 
@@ -24,6 +24,9 @@ class Edition:
 EDITIONS = {number: Edition(number, rf"SOFTWARE\Korvane\Tessaline\Brenmark\{name}\Setup", base, name, name + "HelpPath")
             for number, name, base in ((1, "Quillon", "SystemPath"), (2, "Rotavon", "SystemPath"), (4, "Quillex", "SavePath"))}
 
+OVERLAPPING = ("Trace", "Sim", "SimEx")  # modes whose data sets can lie over one another
+OVERLAPPED_SETS = 3
+
 # For each mode an edition that accepts it, and what writes its data files.
 MODES = {
     "User": (1, modes.write_user),
@@ -31,6 +34,8 @@ MODES = {
     "Trace": (1, modes.write_trace),
     "RealTrace": (1, modes.write_real_trace),
     "Mecha": (1, modes.write_mecha),
+    "Sim": (1, simulation.write_simulation),
+    "SimEx": (4, simulation.write_simulation),
     "IdxTbl": (2, modes.write_program_table),
     "ZoneTbl": (2, modes.write_zone_table),
     "JogTbl": (2, modes.write_jog_table),
@@ -61,8 +66,12 @@ class Host:
         lines += ["[Tarvis]", "CodePage=1252", f"PdfPrinter={'yes' if pdf_printer else 'no'}", ""]
         self.configuration.write_text("\n".join(lines), encoding="utf-8")
 
-    def write_data(self, mode):
-        MODES[mode][1](self.temp_folder)
+    def write_data(self, mode, overlapped=0):
+        """`overlapped` data sets lie over one another, in the modes that have such."""
+        if overlapped:
+            MODES[mode][1](self.temp_folder, overlapped=overlapped)
+        else:
+            MODES[mode][1](self.temp_folder)
 
     def write_cover(self, coloured=True):
         logo = self.folder / "logo.bmp"
@@ -84,22 +93,3 @@ class Host:
         """The same with any arguments."""
         told = {**os.environ, **(environment or {}), "TARVIS_CONFIG": str(self.configuration)}
         return subprocess.Popen([str(program), *arguments], env=told, **popen)
-
-
-def main():
-    parser = argparse.ArgumentParser(description="Plays the host of the print module.")
-    parser.add_argument("mode", nargs="?", default="User", choices=sorted(MODES))
-    parser.add_argument("--cover", action="store_true", help="with a cover letter")
-    parser.add_argument("--folder", required=True, type=Path)
-    parser.add_argument("--program", required=True, type=Path)
-    told = parser.parse_args()
-    host = Host(told.folder)
-    host.prepare()
-    host.write_data(told.mode)
-    if told.cover:
-        host.write_cover()
-    return host.start(told.program, told.mode).wait()
-
-
-if __name__ == "__main__":
-    raise SystemExit(main())

@@ -6,7 +6,7 @@ import sys
 from pathlib import Path
 
 from desktop import User, VirtualDisplay, wait_until
-from host import MODES, Host
+from host import MODES, OVERLAPPED_SETS, OVERLAPPING, Host
 from print_queue import PrintQueue
 from session import DIALOG, Session
 
@@ -18,7 +18,7 @@ def prepared_host(told):
     shutil.rmtree(folder, ignore_errors=True)
     host = Host(folder / "host")
     host.prepare()
-    host.write_data(told.mode)
+    host.write_data(told.mode, OVERLAPPED_SETS if told.overlap else 0)
     if told.cover:
         host.write_cover()
     return host
@@ -64,10 +64,13 @@ def main():
     parser = argparse.ArgumentParser(prog="demo.sh", description="Plays the host and starts the print module.")
     parser.add_argument("mode", nargs="?", default="User", choices=sorted(MODES))
     parser.add_argument("--cover", action="store_true", help="with a cover letter, in colour")
+    parser.add_argument("--overlap", action="store_true", help="with several data sets over one another")
     parser.add_argument("--headless", action="store_true", help="on a virtual display, even if there is a real one")
     parser.add_argument("--program", type=Path, default=ROOT / "build/release/src/tarvis", help=argparse.SUPPRESS)
     parser.add_argument("--output", type=Path, default=ROOT / "build/demo", help=argparse.SUPPRESS)
     told = parser.parse_args()
+    if told.overlap and told.mode not in OVERLAPPING:
+        parser.error(f"only {', '.join(OVERLAPPING)} can overlap")
     host = prepared_host(told)
     has_display = os.environ.get("DISPLAY") or os.environ.get("WAYLAND_DISPLAY")
     if has_display and not told.headless:
