@@ -10,15 +10,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-using Texts = std::vector<std::string>;
-
-Texts ColumnOf(const Document& document, const std::string& control) {
-  Texts texts;
-  for (const Printed& printed : PrintedOf(document, control)) {
-    texts.push_back(printed.Texts.empty() ? "" : printed.Texts[0]);
-  }
-  return texts;
-}
 
 std::vector<float> HeightsOf(const Document& document, const std::string& control) {
   std::vector<float> heights;

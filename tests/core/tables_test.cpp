@@ -9,16 +9,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-using Texts = std::vector<std::string>;
-
-// The text of that control in each row; "" where it prints none.
-Texts ColumnOf(const Document& document, const std::string& control) {
-  Texts texts;
-  for (const Printed& printed : PrintedOf(document, control)) {
-    texts.push_back(printed.Texts.empty() ? "" : printed.Texts[0]);
-  }
-  return texts;
-}
 
 struct ProgramTable : testing::Test {
   // Steps 0 to count - 1; those in `defined` hold a program.

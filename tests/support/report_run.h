@@ -85,4 +85,14 @@ inline std::vector<Printed> PrintedOf(const Document& document, const std::strin
   return printed;
 }
 
+// The first line of that control in each row; "" where it prints none.
+using Texts = std::vector<std::string>;
+inline Texts ColumnOf(const Document& document, const std::string& control) {
+  Texts texts;
+  for (const Printed& printed : PrintedOf(document, control)) {
+    texts.push_back(printed.Texts.empty() ? "" : printed.Texts[0]);
+  }
+  return texts;
+}
+
 }  // namespace tarvis

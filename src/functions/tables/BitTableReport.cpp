@@ -1,11 +1,10 @@
 #include "functions/tables/BitTableReport.h"
 
+#include "functions/tables/table_cells.h"
+
 namespace tarvis {
 namespace {
 
-constexpr CellStyle Nine{.Size = 9};
-constexpr CellStyle NineBold{
-    .Size = 9, .Bold = true, .Alignment = Align::Centre, .Border = true, .Filled = true, .Fill = 0xE0E0E0};
 constexpr CellStyle BitCell{.Size = 9, .Alignment = Align::Centre, .Border = true, .Filled = true};
 constexpr CellStyle TextCell{.Size = 9, .Border = true, .Filled = true};
 constexpr float CellHeight = 300;
@@ -18,13 +17,17 @@ BitTableReport::BitTableReport(const char* name, ReportContext context, const Bi
       Detail(AddGrowing(SectionKind::Detail, "Detail", 405)),
       GroupFooter2(AddGrowing(SectionKind::GroupFooter, "GroupFooter2", 285)),
       GroupFooter1(AddGrowing(SectionKind::GroupFooter, "GroupFooter1", 0)),
-      txtUnit((ghTitle.AddLabel("Label2", {layout.UnitLabelLeft, 850, 567, 284}, "Unit:", Nine),
-               ghTitle.AddField("txtUnit", {layout.UnitLeft, 850, layout.UnitWidth, 284}, Nine))) {
+      txtUnit(AddUnit(layout)) {
   ghGuide.Repeat = true;
   id_ = &AddColumn(layout.Id, NineBold);
   for (const BitTableColumn& column : layout.Bits) bits_.push_back(&AddColumn(column, BitCell));
   for (const BitTableColumn& column : layout.Texts) texts_.push_back(&AddColumn(column, TextCell));
   GroupFooter2.AddLabel("Label3", {1276, 30, 4818, 283}, "X:Active    Blank:Non-Active", Nine);
+}
+
+Field& BitTableReport::AddUnit(const BitTableLayout& layout) {
+  ghTitle.AddLabel("Label2", {layout.UnitLabelLeft, 850, 567, 284}, "Unit:", Nine);
+  return ghTitle.AddField("txtUnit", {layout.UnitLeft, 850, layout.UnitWidth, 284}, Nine);
 }
 
 Field& BitTableReport::AddColumn(const BitTableColumn& column, const CellStyle& style) {

@@ -45,6 +45,7 @@ class BitTableReport : public FunctionReport {
   void ShowText(std::size_t column, const std::string& text) { texts_[column]->Text = text; }
 
  private:
+  Field& AddUnit(const BitTableLayout& layout);
   Field& AddColumn(const BitTableColumn& column, const CellStyle& style);
 
   Section& ghGuide;

@@ -1,5 +1,7 @@
 #include "functions/tables/IdxTblReport.h"
 
+#include "functions/tables/table_cells.h"
+
 #include <cmath>
 #include <limits>
 
@@ -9,9 +11,6 @@
 namespace tarvis {
 namespace {
 
-constexpr CellStyle NineBold{
-    .Size = 9, .Bold = true, .Alignment = Align::Centre, .Border = true, .Filled = true, .Fill = 0xE0E0E0};
-constexpr CellStyle Nine{.Size = 9};
 constexpr float CellHeight = 283;
 // Rows are this high from the first text on that is longer than its column; they stay so.
 constexpr float HighRow = 400;
