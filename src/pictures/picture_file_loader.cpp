@@ -3,6 +3,8 @@
 #include <QFile>
 
 #include "pictures/image_picture.h"
+#include "pictures/metafile/glyph_outlines.h"
+#include "pictures/metafile/metafile_picture.h"
 #include "printfiles/host_files.h"
 #include "printfiles/run_time_failure.h"
 
@@ -10,6 +12,7 @@ namespace tarvis {
 namespace {
 
 constexpr qint64 LargestFile = 96 << 20;
+constexpr std::size_t LargestMetafile = 48 << 20;
 
 [[noreturn]] void Refuse(const std::string& name, const std::string& reason) {
   throw RunTimeFailure("no picture that can be shown", {.File = name, .Line = 0, .Key = {}, .Text = reason});
@@ -21,14 +24,24 @@ Bytes AsBytes(std::string_view bytes) {
 
 }  // namespace
 
-PicturePtr DecodePicture(const std::string& name, Bytes bytes) {
+PicturePtr DecodePicture(const std::string& name, Bytes bytes, GlyphOutlines& glyphs) {
   if (bytes.empty()) Refuse(name, "it is empty");
   try {
+    const bool emf = LooksLikeEmf(bytes);
+    if (emf || LooksLikeWmf(bytes)) {
+      if (bytes.size() > LargestMetafile) Refuse(name, "it is too large");
+      return emf ? LoadEmf(bytes, glyphs) : LoadWmf(bytes, glyphs);
+    }
     return std::make_shared<ImagePicture>(DecodeImage(bytes, FindImageKind(bytes)));
+  } catch (const RunTimeFailure&) {
+    throw;
   } catch (const std::exception& error) {
     Refuse(name, error.what());
   }
 }
+
+PictureFileLoader::PictureFileLoader() : glyphs_(std::make_unique<GlyphOutlines>()) {}
+PictureFileLoader::~PictureFileLoader() = default;
 
 PicturePtr PictureFileLoader::Load(const std::string& path) {
   if (const auto known = loaded_.find(path); known != loaded_.end()) return known->second;
@@ -36,12 +49,13 @@ PicturePtr PictureFileLoader::Load(const std::string& path) {
   if (!file.open(QIODevice::ReadOnly)) Refuse(path, file.errorString().toStdString());
   if (file.size() > LargestFile) Refuse(path, "it is too large");
   const QByteArray bytes = file.read(LargestFile + 1);
-  return loaded_[path] = DecodePicture(path, AsBytes({bytes.data(), static_cast<std::size_t>(bytes.size())}));
+  return loaded_[path] =
+             DecodePicture(path, AsBytes({bytes.data(), static_cast<std::size_t>(bytes.size())}), *glyphs_);
 }
 
 PicturePtr PictureFileLoader::LoadBytes(const std::string& name, std::string_view bytes) {
   if (const auto known = loaded_.find(name); known != loaded_.end()) return known->second;
-  return loaded_[name] = DecodePicture(name, AsBytes(bytes));
+  return loaded_[name] = DecodePicture(name, AsBytes(bytes), *glyphs_);
 }
 
 }  // namespace tarvis

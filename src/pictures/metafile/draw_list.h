@@ -1,0 +1,128 @@
+// What a metafile draws, once its records are decoded: a compact list of outlines, pictures and clips, in the
+// units of the picture. It is only read once it is complete, so that any thread may paint it.
+#pragma once
+
+#include <QBrush>
+#include <QImage>
+#include <QPainterPath>
+#include <QPen>
+#include <QTransform>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <stdexcept>
+#include <vector>
+
+namespace tarvis {
+
+// A metafile that can't be shown at all; the text says why.
+class BadMetafile : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+struct ListPoint {
+  float X = 0;
+  float Y = 0;
+};
+
+enum class Verb : std::uint8_t { Move, Line, Curve, Close };  // Curve takes three points, Close none
+
+// Points and verbs of an outline in the list. Without verbs it is one open line through its points.
+struct Outline {
+  std::uint32_t FirstPoint = 0;
+  std::uint32_t PointCount = 0;
+  std::uint32_t FirstVerb = 0;
+  std::uint32_t VerbCount = 0;
+};
+
+// A pen. Hairlines are as thin as the device shows well, and their dashes count in 1/96 inch.
+struct ListPen {
+  QPen Pen;          // all but the width
+  double Width = 0;  // units of the picture
+  bool Hairline = false;
+  bool operator==(const ListPen&) const = default;
+};
+
+// A brush. Hatches and textures keep their physical size: a pixel of them is 1/96 inch.
+struct ListBrush {
+  QBrush Brush;
+  QColor Behind;  // between the lines of a hatch; invalid if nothing is
+  bool operator==(const ListBrush&) const = default;
+};
+
+// All of `Paths`, cut with `Box` if there is one. No paths and no box: everything.
+struct ListClip {
+  bool HasBox = false;
+  QRectF Box;
+  std::vector<std::shared_ptr<const QPainterPath>> Paths;
+};
+
+struct ListImage {
+  QImage Image;
+  QRectF Source;     // pixels of the image
+  QTransform Place;  // from pixels of the image to the picture
+};
+
+enum class ListKind : std::uint8_t { Shape, Image, Clip };
+
+struct ListCommand {
+  ListKind Kind = ListKind::Shape;
+  bool Winding = false;
+  std::int32_t Pen = -1;    // none if below 0
+  std::int32_t Brush = -1;  // none if below 0
+  std::uint32_t Index = 0;  // of the outline, image or clip
+};
+
+class DrawList {
+ public:
+  // Coordinates are cut off this far from the origin.
+  void SetReach(double reach) { reach_ = reach; }
+
+  void AddShape(const QPainterPath& path, const ListPen* pen, const ListBrush* brush);
+  void AddPolyline(std::span<const QPointF> points, const ListPen& pen);
+  void AddImage(ListImage image);
+  // Takes back the last `count` images, if nothing else was added after the first of them.
+  bool DropLastImages(std::size_t count);
+  // Holds for what is added after it.
+  void SetClip(std::shared_ptr<const ListClip> clip);
+
+  // The box around everything that is drawn, pens left aside.
+  QRectF Bounds() const;
+
+  const std::vector<ListCommand>& Commands() const { return commands_; }
+  const ListPen& Pen(std::int32_t index) const { return pens_[static_cast<std::size_t>(index)]; }
+  const ListBrush& Brush(std::int32_t index) const { return brushes_[static_cast<std::size_t>(index)]; }
+  const ListImage& Image(std::uint32_t index) const { return images_[index]; }
+  const ListClip& Clip(std::uint32_t index) const { return *clips_[index]; }
+  const Outline& OutlineAt(std::uint32_t index) const { return outlines_[index]; }
+  std::span<const ListPoint> Points(const Outline& outline) const {
+    return std::span(points_).subspan(outline.FirstPoint, outline.PointCount);
+  }
+  std::span<const Verb> Verbs(const Outline& outline) const {
+    return std::span(verbs_).subspan(outline.FirstVerb, outline.VerbCount);
+  }
+
+ private:
+  void AddPoint(double x, double y);
+  void AddCommand(ListCommand command);
+  void Account(std::size_t bytes);
+  std::int32_t PenIndex(const ListPen* pen);
+  std::int32_t BrushIndex(const ListBrush* brush);
+
+  std::vector<ListCommand> commands_;
+  std::vector<ListPoint> points_;
+  std::vector<Verb> verbs_;
+  std::vector<Outline> outlines_;
+  std::vector<ListPen> pens_;
+  std::vector<ListBrush> brushes_;
+  std::vector<ListImage> images_;
+  std::vector<std::shared_ptr<const ListClip>> clips_;
+  std::shared_ptr<const ListClip> asked_;  // null: none
+  std::shared_ptr<const ListClip> clip_;
+  bool clipPending_ = false;
+  double reach_ = 1e9;
+  std::size_t bytes_ = 0;
+};
+
+}  // namespace tarvis

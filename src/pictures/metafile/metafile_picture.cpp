@@ -1,0 +1,22 @@
+#include "pictures/metafile/metafile_picture.h"
+
+#include <cmath>
+
+#include "pictures/metafile/draw_list_painter.h"
+
+namespace tarvis {
+
+MetafilePicture::MetafilePicture(DrawList list, const QRectF& frame, const QSizeF& natural,
+                                 int skippedRecords)
+    : list_(std::move(list)), frame_(frame), natural_(natural), skippedRecords_(skippedRecords) {
+  const auto usable = [](double size) { return std::isfinite(size) && size > 0; };
+  if (!usable(frame.width()) || !usable(frame.height()) || !usable(natural.width()) ||
+      !usable(natural.height()))
+    throw BadMetafile("it has no extent");
+}
+
+void MetafilePicture::Paint(QPainter& painter, const QRectF& target) const {
+  if (!target.isEmpty()) DrawListPainter(list_, painter, frame_, target).Paint();
+}
+
+}  // namespace tarvis

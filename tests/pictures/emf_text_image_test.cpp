@@ -1,0 +1,271 @@
+// Text and bitmaps of enhanced metafiles.
+#include <gtest/gtest.h>
+
+#include "metafile_writer.h"
+
+namespace tarvis {
+namespace {
+
+const QColor Red(255, 0, 0), Green(0, 255, 0), Blue(0, 0, 255), White(255, 255, 255), Black(0, 0, 0);
+constexpr std::uint32_t RedInk = Rgb(255, 0, 0), GreenInk = Rgb(0, 255, 0);
+
+// The box around what isn't white.
+QRect Ink(const QImage& image) {
+  QRect ink;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x)
+      if ((image.pixel(x, y) & 0xFFFFFF) != 0xFFFFFF) ink |= QRect(x, y, 1, 1);
+  return ink;
+}
+
+EmfWriter TextEmf(int height = -40) {
+  EmfWriter emf;
+  emf.Set(18, 1).Font(height, "Arial");
+  return emf;
+}
+
+TEST(EmfText, HangsFromItsPointOrStandsOnIt) {
+  const QRect top = Ink(TextEmf().Text(10, 20, "H").Show());
+  const QRect baseline = Ink(TextEmf().Set(22, 24).Text(10, 60, "H").Show());
+  const QRect bottom = Ink(TextEmf().Set(22, 8).Text(10, 60, "H").Show());
+  EXPECT_NEAR(top.top(), 27, 2);  // 40 high, 36.2 of it above the baseline, letters 28.6
+  EXPECT_NEAR(baseline.bottom(), 59, 1);
+  EXPECT_NEAR(bottom.bottom(), 51, 2);
+}
+
+TEST(EmfText, HeightAboveZeroIsThatOfTheCell) {
+  const int em = Ink(TextEmf(-40).Text(10, 20, "H").Show()).height();
+  const int cell = Ink(TextEmf(40).Text(10, 20, "H").Show()).height();
+  EXPECT_NEAR(cell, em / 1.117, 1.5);
+}
+
+TEST(EmfText, AlignsLeftRightAndCentred) {
+  const QRect left = Ink(TextEmf().Text(50, 20, "H").Show());
+  const QRect right = Ink(TextEmf().Set(22, 2).Text(50, 20, "H").Show());
+  const QRect centre = Ink(TextEmf().Set(22, 6).Text(50, 20, "H").Show());
+  EXPECT_GE(left.left(), 50);
+  EXPECT_LE(right.right(), 50);
+  EXPECT_NEAR(centre.center().x(), 50, 2);
+}
+
+TEST(EmfText, KeepsTheWidthsThatTheRecordTells) {
+  const QImage shown = TextEmf(-20).Text(0, 20, "II", {60, 10}).Show();
+  EXPECT_GT(InkedPixels(shown, QRect(0, 0, 20, 100)), 0);
+  EXPECT_EQ(InkedPixels(shown, QRect(20, 0, 38, 100)), 0);
+  EXPECT_GT(InkedPixels(shown, QRect(58, 0, 20, 100)), 0);
+}
+
+TEST(EmfText, TurnsWithTheFont) {
+  EmfWriter emf;
+  emf.Set(18, 1).Set(22, 24).Font(-20, "Arial", 900).Text(50, 90, "HHH");
+  const QRect ink = Ink(emf.Show());
+  EXPECT_GT(ink.height(), 2 * ink.width());
+  EXPECT_LE(ink.right(), 51);
+  EXPECT_NEAR(ink.bottom(), 88, 3);
+}
+
+TEST(EmfText, StandsUprightWhereTheAxisPointsUp) {
+  EmfWriter emf;
+  emf.Set(17, 8)
+      .Pair(9, 100, -100)
+      .Pair(11, 100, 100)
+      .Pair(12, 0, 100)
+      .Set(18, 1)
+      .Set(22, 24)
+      .Font(-40, "Arial");
+  const QImage shown = emf.Text(10, 30, "L").Show();
+  // The foot of the letter is wide, its head narrow.
+  EXPECT_GT(InkedPixels(shown, QRect(0, 65, 100, 5)), InkedPixels(shown, QRect(0, 45, 100, 5)));
+}
+
+TEST(EmfText, AnOpaqueBackgroundFillsItsCell) {
+  const QImage shown = EmfWriter().Set(25, GreenInk).Set(18, 2).Font(-40, "Arial").Text(10, 20, "I").Show();
+  EXPECT_EQ(shown.pixelColor(11, 22), Green);
+  EXPECT_EQ(InkedPixels(TextEmf().Set(25, GreenInk).Text(10, 20, " ").Show()), 0);
+}
+
+TEST(EmfText, ABoxIsFilledAndClips) {
+  EmfWriter emf = TextEmf();
+  emf.Set(25, GreenInk).Text(0, 20, "HHHHH", {}, 2 | 4, Box32(10, 10, 50, 90));
+  const QImage shown = emf.Show();
+  EXPECT_EQ(shown.pixelColor(12, 12), Green);
+  EXPECT_EQ(InkedPixels(shown, QRect(51, 0, 49, 100)), 0);
+}
+
+TEST(EmfText, MovesThePositionWhenTold) {
+  const QImage shown =
+      TextEmf(-20).Set(22, 1).Pair(27, 10, 10).Text(0, 0, "A", {50}).Text(0, 0, "B", {10}).Show();
+  EXPECT_GT(InkedPixels(shown, QRect(58, 10, 20, 30)), 0);
+}
+
+TEST(EmfText, HasItsColor) {
+  const QImage shown = TextEmf(-60).Set(24, RedInk).Text(10, 10, "I").Show();
+  const QPoint middle = Ink(shown).center();
+  EXPECT_EQ(shown.pixelColor(middle), Red);
+}
+
+TEST(EmfText, OfASymbolFontShowsGreekLetters) {
+  const auto shown = [](const std::string& face, std::uint16_t code, std::uint32_t charset) {
+    EmfWriter emf;
+    emf.Set(18, 1).Font(-40, face, 0, charset);
+    ByteWriter text = Box32(0, 0, 0, 0).U32(1).F32(1).F32(1).I32(10).I32(20).U32(1).U32(76).U32(0);
+    emf.Add(84, text.Add(Box32(0, 0, 0, 0)).U32(0).U16(code));
+    return emf.Show();
+  };
+  EXPECT_EQ(shown("Symbol", 'W', 2), shown("Symbol", 0xF057, 2));
+  EXPECT_GT(InkedPixels(shown("Symbol", 'W', 2)), 20);
+  EXPECT_NE(shown("Symbol", 'W', 2), shown("Arial", 'W', 0));
+}
+
+TEST(EmfText, OfEightBitsFollowsTheCharsetOfItsFont) {
+  const auto shown = [](std::uint32_t charset, const std::string& bytes, std::uint32_t record) {
+    EmfWriter emf;
+    emf.Set(18, 1).Font(-40, "Arial", 0, charset);
+    ByteWriter text = Box32(0, 0, 0, 0).U32(1).F32(1).F32(1).I32(10).I32(20).U32(1).U32(76).U32(0);
+    return emf.Add(record, text.Add(Box32(0, 0, 0, 0)).U32(0).Text(bytes)).Show();
+  };
+  EXPECT_EQ(shown(204, "\xC6", 83), shown(0, std::string("\x16\x04", 2), 84));  // a Cyrillic letter
+  EXPECT_NE(shown(204, "\xC6", 83), shown(0, "\xC6", 83));
+}
+
+TEST(EmfText, SmallRecordsShow) {
+  ByteWriter text;
+  text.I32(10).I32(20).U32(1).U32(0x300).U32(1).F32(1).F32(1).Text("H");
+  EXPECT_EQ(Ink(TextEmf().Add(108, text).Show()), Ink(TextEmf().Text(10, 20, "H").Show()));
+}
+
+TEST(EmfText, GlyphNumbersAreSkippedAndCounted) {
+  EXPECT_EQ(Play(TextEmf().Rectangle(0, 0, 9, 9).Text(10, 20, "H", {}, 0x10).Bytes())->SkippedRecords(), 1);
+}
+
+// Left half red, right half blue; the bottom row is green.
+ByteWriter Flag() {
+  return Dib24(4, 4, [](int x, int y) { return y == 3 ? Green : x < 2 ? Red : Blue; });
+}
+
+ByteWriter StretchDib(const ByteWriter& dib, int x, int y, int width, int height,
+                      std::uint32_t rop = 0x00CC0020, const ByteWriter& source = Box32(0, 0, 4, 4)) {
+  ByteWriter out = Box32(0, 0, 0, 0).I32(x).I32(y).Add(source).U32(80).U32(40).U32(120);
+  out.U32(static_cast<std::uint32_t>(dib.Size() - 40)).U32(0).U32(rop).I32(width).I32(height);
+  return out.Add(dib);
+}
+
+TEST(EmfImages, ADibFillsItsPlace) {
+  const QImage shown = EmfWriter().Add(81, StretchDib(Flag(), 20, 20, 40, 40)).Show();
+  EXPECT_EQ(shown.pixelColor(25, 25), Red);
+  EXPECT_EQ(shown.pixelColor(55, 25), Blue);
+  EXPECT_EQ(shown.pixelColor(40, 57), Green);
+  EXPECT_EQ(shown.pixelColor(62, 40), White);
+}
+
+TEST(EmfImages, NegativeSizesMirror) {
+  const QImage shown = EmfWriter().Add(81, StretchDib(Flag(), 60, 60, -40, -40)).Show();
+  EXPECT_EQ(shown.pixelColor(25, 50), Blue);
+  EXPECT_EQ(shown.pixelColor(55, 50), Red);
+  EXPECT_EQ(shown.pixelColor(40, 23), Green);
+}
+
+TEST(EmfImages, PartsOfADibCountFromItsBottom) {
+  const QImage shown =
+      EmfWriter().Add(81, StretchDib(Flag(), 0, 0, 100, 100, 0x00CC0020, Box32(0, 0, 4, 1))).Show();
+  EXPECT_EQ(shown.pixelColor(50, 50), Green);
+}
+
+TEST(EmfImages, ABlockWithoutSourceIsFilledByTheBrush) {
+  const auto shown = [](std::uint32_t rop) {
+    ByteWriter block = Box32(0, 0, 0, 0).I32(20).I32(20).I32(40).I32(40).U32(rop).Zeros(8 + 24 + 4 + 4 + 16);
+    return EmfWriter().Brush(RedInk).Add(76, block).Show().pixelColor(40, 40);
+  };
+  EXPECT_EQ(shown(0x00F00021), Red);
+  EXPECT_EQ(shown(0x00000042), Black);
+  EXPECT_EQ(shown(0x00FF0062), White);
+  EXPECT_EQ(shown(0x00550009), Black);
+}
+
+ByteWriter BitBlock(const ByteWriter& dib, std::uint32_t operation, bool stretch) {
+  ByteWriter out = Box32(0, 0, 0, 0).I32(0).I32(0).I32(100).I32(100).U32(operation).I32(0).I32(0);
+  out.F32(1).F32(0).F32(0).F32(1).F32(0).F32(0).U32(0).U32(0);
+  const std::uint32_t start = stretch ? 108 : 100;
+  out.U32(start).U32(40).U32(start + 40).U32(static_cast<std::uint32_t>(dib.Size() - 40));
+  if (stretch) out.I32(4).I32(4);
+  return out.Add(dib);
+}
+
+TEST(EmfImages, StretchedBlocksShow) {
+  const QImage shown = EmfWriter().Add(77, BitBlock(Flag(), 0x00CC0020, true)).Show();
+  EXPECT_EQ(shown.pixelColor(10, 10), Red);
+  EXPECT_EQ(shown.pixelColor(90, 10), Blue);
+  EXPECT_EQ(shown.pixelColor(50, 95), Green);
+}
+
+TEST(EmfImages, MaskAndPictureShowThePictureOnly) {
+  const auto mask = Dib24(4, 4, [](int x, int) { return x < 2 ? Black : White; });
+  const auto picture = Dib24(4, 4, [](int x, int) { return x < 2 ? Red : Black; });
+  const QImage shown = EmfWriter()
+                           .Brush(GreenInk)
+                           .Rectangle(-1, -1, 101, 101)
+                           .Add(77, BitBlock(mask, 0x008800C6, true))
+                           .Add(77, BitBlock(picture, 0x00EE0086, true))
+                           .Show();
+  EXPECT_EQ(shown.pixelColor(10, 50), Red);
+  EXPECT_EQ(shown.pixelColor(90, 50), Green);
+}
+
+TEST(EmfImages, PictureMaskPictureShowThePictureOnly) {
+  const auto mask = Dib24(4, 4, [](int x, int) { return x < 2 ? Black : White; });
+  const auto picture = Dib24(4, 4, [](int, int) { return Red; });
+  const QImage shown = EmfWriter()
+                           .Brush(GreenInk)
+                           .Rectangle(-1, -1, 101, 101)
+                           .Add(77, BitBlock(picture, 0x00660046, true))
+                           .Add(77, BitBlock(mask, 0x008800C6, true))
+                           .Add(77, BitBlock(picture, 0x00660046, true))
+                           .Show();
+  EXPECT_EQ(shown.pixelColor(10, 50), Red);
+  EXPECT_EQ(shown.pixelColor(90, 50), Green);
+}
+
+TEST(EmfImages, BlendByOneOpacity) {
+  const auto picture = Dib24(4, 4, [](int, int) { return Black; });
+  const QImage shown = EmfWriter().Add(114, BitBlock(picture, 0x00800000, true)).Show();
+  EXPECT_NEAR(shown.pixelColor(50, 50).red(), 127, 2);
+}
+
+TEST(EmfImages, BlendByTheirOwnAlpha) {
+  ByteWriter dib;
+  dib.I32(40).I32(1).I32(1).U16(1).U16(32).Zeros(24).U32(0x80800000);
+  ByteWriter out = BitBlock(dib, 0x01FF0000, true);
+  const QImage shown = EmfWriter().Add(114, out).Show();
+  EXPECT_EQ(shown.pixelColor(10, 90), White);  // the record's source is 4 by 4, the bitmap 1 by 1
+  EXPECT_NEAR(shown.pixelColor(10, 10).red(), 255, 1);
+  EXPECT_NEAR(shown.pixelColor(10, 10).green(), 127, 1);
+}
+
+TEST(EmfImages, OneColorMayBeTransparent) {
+  const QImage shown = EmfWriter().Add(116, BitBlock(Flag(), RedInk, true)).Show();
+  EXPECT_EQ(shown.pixelColor(10, 10), White);
+  EXPECT_EQ(shown.pixelColor(90, 10), Blue);
+}
+
+TEST(EmfImages, AreSetToTheDevicePixelByPixel) {
+  const ByteWriter dib = Flag();
+  ByteWriter out = Box32(0, 0, 0, 0).I32(50).I32(50).Add(Box32(0, 0, 4, 4)).U32(76).U32(40).U32(116);
+  out.U32(static_cast<std::uint32_t>(dib.Size() - 40)).U32(0).U32(0).U32(4).Add(dib);
+  const QImage shown = EmfWriter().Add(80, out).Show();
+  EXPECT_EQ(Ink(shown), QRect(50, 50, 4, 4));
+  EXPECT_EQ(shown.pixelColor(50, 50), Red);
+}
+
+TEST(EmfImages, FillParallelograms) {
+  const ByteWriter dib = Flag();
+  ByteWriter out = Box32(0, 0, 0, 0).I32(100).I32(0).I32(100).I32(100).I32(0).I32(0).Add(Box32(0, 0, 4, 4));
+  out.F32(1).F32(0).F32(0).F32(1).F32(0).F32(0).U32(0).U32(0);
+  out.U32(140).U32(40).U32(180).U32(static_cast<std::uint32_t>(dib.Size() - 40)).Zeros(12 + 16).Add(dib);
+  const QImage shown = EmfWriter().Add(79, out).Show();
+  EXPECT_EQ(shown.pixelColor(70, 10), Red);  // turned by a quarter
+  EXPECT_EQ(shown.pixelColor(70, 90), Blue);
+  EXPECT_EQ(shown.pixelColor(5, 50), Green);
+}
+
+}  // namespace
+}  // namespace tarvis

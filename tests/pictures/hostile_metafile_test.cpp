@@ -1,0 +1,142 @@
+// Broken and hostile metafiles: they end in a failure that names the file, in bounded time and memory.
+#include <gtest/gtest.h>
+
+#include "metafile_writer.h"
+#include "printfiles/run_time_failure.h"
+
+namespace tarvis {
+namespace {
+
+constexpr std::uint32_t RedInk = Rgb(255, 0, 0);
+
+void ExpectRefused(const std::string& bytes, const std::string& what) {
+  PictureFileLoader loader;
+  try {
+    loader.LoadBytes("graph.emf", bytes);
+    ADD_FAILURE() << "no failure: " << what;
+  } catch (const RunTimeFailure& failure) {
+    EXPECT_EQ(failure.Place().File, "graph.emf");
+    EXPECT_FALSE(failure.Place().Text.empty());
+  }
+}
+
+std::string SmallEmf() {
+  return EmfWriter()
+      .Brush(RedInk)
+      .Pen(0, 2)
+      .Rectangle(10, 10, 50, 50)
+      .Font(-20, "Arial")
+      .Text(10, 60, "Text")
+      .Bytes();
+}
+
+std::string SmallWmf() {
+  WmfWriter wmf;
+  wmf.Placeable(0, 0, 100, 100, 96).Window(0, 0, 100, 100).Brush(RedInk).Words(0x041B, {50, 50, 10, 10});
+  return wmf.Bytes();
+}
+
+TEST(HostileMetafile, CutAnywhereIsRefused) {
+  const std::string emf = SmallEmf();
+  for (std::size_t size = 0; size < emf.size() - 20; ++size)
+    ExpectRefused(emf.substr(0, size), "emf of " + std::to_string(size));
+  const std::string wmf = SmallWmf();
+  for (std::size_t size = 0; size < wmf.size() - 6; ++size)
+    ExpectRefused(wmf.substr(0, size), "wmf of " + std::to_string(size));
+}
+
+TEST(HostileMetafile, WithoutExtentIsRefused) {
+  ExpectRefused(EmfWriter().Frame(0, 0, 0, 0).Bounds(0, 0, 0, 0).Rectangle(0, 0, 9, 9).Bytes(), "frame");
+  ExpectRefused(WmfWriter().Placeable(5, 5, 5, 5, 96).Words(0x041B, {9, 9, 0, 0}).Bytes(), "box");
+}
+
+TEST(HostileMetafile, ThatShowsNothingAtAllIsRefused) {
+  ExpectRefused(EmfWriter().Add(200).Bytes(), "unknown records only");
+  ExpectRefused(WmfWriter().Window(0, 0, 100, 100).Bytes(), "no drawing");
+}
+
+TEST(HostileMetafile, CountsPastTheRecordAreRefused) {
+  for (const std::uint32_t type : {2u, 3u, 4u, 5u, 6u, 56u, 85u, 86u, 87u, 88u, 89u, 92u})
+    ExpectRefused(EmfWriter().Add(type, Box32(0, 0, 0, 0).U32(0xFFFFFFFF).U32(0)).Bytes(),
+                  std::to_string(type));
+  for (const std::uint32_t type : {7u, 8u, 90u, 91u})
+    ExpectRefused(EmfWriter().Add(type, Box32(0, 0, 0, 0).U32(1).U32(9).U32(0x40000001)).Bytes(),
+                  std::to_string(type));
+  WmfWriter wmf;
+  ExpectRefused(wmf.Window(0, 0, 9, 9).Words(0x0324, {-1, 0, 0}).Bytes(), "wmf polygon");
+}
+
+TEST(HostileMetafile, OffsetsPastTheRecordAreRefused) {
+  ByteWriter text = Box32(0, 0, 0, 0).U32(1).F32(1).F32(1).I32(10).I32(20).U32(5).U32(0xFFFFFFF0).U32(0);
+  ExpectRefused(EmfWriter().Add(84, text.Zeros(20)).Bytes(), "text");
+  ByteWriter dib = Box32(0, 0, 0, 0).Zeros(24).U32(80).U32(0xFFFFFFF0).U32(120).U32(4).U32(0).U32(0x00CC0020);
+  ExpectRefused(EmfWriter().Add(81, dib.I32(9).I32(9).Zeros(60)).Bytes(), "bitmap");
+}
+
+TEST(HostileMetafile, RecordsOfNoSizeAreRefused) {
+  std::string emf = SmallEmf();
+  emf.replace(88 + 4, 4, std::string(4, '\0'));
+  ExpectRefused(emf, "record size 0");
+}
+
+TEST(HostileMetafile, SavingWithoutEndIsCounted) {
+  EmfWriter emf;
+  for (int i = 0; i < 5000; ++i) emf.Add(33);
+  EXPECT_GT(Play(emf.Rectangle(0, 0, 9, 9).Bytes())->SkippedRecords(), 4000);
+}
+
+TEST(HostileMetafile, RestoringWhatWasNotSavedIsCounted) {
+  EmfWriter emf;
+  emf.Set(34, static_cast<std::uint32_t>(-1)).Set(34, 0x80000000).Set(34, 7).Rectangle(0, 0, 9, 9);
+  EXPECT_EQ(Play(emf.Bytes())->SkippedRecords(), 3);
+}
+
+TEST(HostileMetafile, ObjectsThatAreNotThereAreCounted) {
+  EmfWriter emf;
+  emf.Select(77).Select(0x80000063).Set(40, 99).Rectangle(0, 0, 9, 9);
+  EXPECT_EQ(Play(emf.Bytes())->SkippedRecords(), 2);
+}
+
+TEST(HostileMetafile, AMillionRecordsLoad) {
+  EmfWriter emf;
+  emf.NoPen();
+  for (int i = 0; i < 1000000; ++i) emf.Rectangle(i % 90, i / 90 % 90, i % 90 + 1, i / 90 % 90 + 1);
+  EXPECT_EQ(Play(emf.Bytes())->List().Commands().size(), 1000000u);
+}
+
+TEST(HostileMetafile, HugeCoordinatesAndDashesPaintInTime) {
+  EmfWriter emf;
+  for (const std::uint32_t style : {0u, 1u, 2u}) {
+    emf.Pen(0, 0, style).Pair(27, INT32_MIN, INT32_MIN).Pair(54, INT32_MAX, INT32_MAX - 7);
+    emf.Pen(0, 3, style).Add(42, Box32(INT32_MIN, INT32_MIN, INT32_MAX, INT32_MAX));
+    emf.WidePen(0, 1000000000, 0x10000 | style).Pair(54, INT32_MAX, 0).Pair(54, 0, INT32_MIN);
+  }
+  emf.Brush(RedInk, 2, 4).Rectangle(INT32_MIN, INT32_MIN, INT32_MAX, INT32_MAX);
+  emf.Font(INT32_MIN, "Arial").Text(0, 0, "Text").Font(INT32_MAX, "Arial").Text(INT32_MAX, INT32_MIN, "Text");
+  EXPECT_FALSE(emf.Show().isNull());
+}
+
+TEST(HostileMetafile, TransformsThatAreNoNumbersAreCounted) {
+  const float nan = std::numeric_limits<float>::quiet_NaN();
+  EmfWriter emf;
+  emf.Add(35, ByteWriter().F32(nan).F32(0).F32(0).F32(1).F32(0).F32(0)).Rectangle(0, 0, 9, 9);
+  EXPECT_EQ(Play(emf.Bytes())->SkippedRecords(), 1);
+  EmfWriter flat;
+  flat.Add(35, ByteWriter().F32(0).F32(0).F32(0).F32(0).F32(0).F32(0)).Pen(0, 5, 1).Rectangle(0, 0, 9, 9);
+  flat.Font(-10, "Arial").Set(22, 1).Text(0, 0, "Text");
+  EXPECT_FALSE(flat.Show().isNull());
+}
+
+TEST(HostileMetafile, BitmapsThatUnpackWithoutEndAreRefused) {
+  ByteWriter dib;  // 5,000 by 5,000 of run-length code that is over at once
+  dib.I32(40).I32(5000).I32(5000).U16(1).U16(8).U32(1).Zeros(20).Zeros(1024).U8(0).U8(1);
+  ByteWriter record =
+      Box32(0, 0, 0, 0).I32(0).I32(0).Add(Box32(0, 0, 5000, 5000)).U32(80).U32(1064).U32(1144).U32(2);
+  record.U32(0).U32(0x00CC0020).I32(10).I32(10).Add(dib);
+  EmfWriter emf;
+  for (int i = 0; i < 100; ++i) emf.Add(81, record);
+  ExpectRefused(emf.Bytes(), "bitmaps");
+}
+
+}  // namespace
+}  // namespace tarvis
