@@ -54,7 +54,13 @@ void ReadColors(ByteReader& reader, bool core, std::size_t used, DibColors color
   const std::size_t whole = header.BitCount <= 8 ? std::size_t{1} << header.BitCount : 0;
   const std::size_t count = used == 0 ? whole : used;
   const std::size_t entrySize = core ? 3 : colors == DibColors::PaletteIndexes ? 2 : 4;
-  if (colors == DibColors::ForegroundBackground) return;
+  if (colors == DibColors::ForegroundBackground) {
+    for (std::size_t i = 0; i < whole; ++i) {
+      const int gray = static_cast<int>(i * 255 / (whole - 1));
+      header.Colors.push_back(qRgb(gray, gray, gray));
+    }
+    return;
+  }
   if (count > 0x10000) throw BadDib("its colour table makes no sense");
   reader.Seek(header.Size);
   const std::size_t there = std::min(count, reader.Left() / entrySize);
