@@ -4,6 +4,7 @@
 #include <QSignalBlocker>
 #include <utility>
 
+#include "dialogs/EditCover.h"
 #include "dialogs/InfIdxTbl.h"
 #include "dialogs/data_file_scan.h"
 #include "dialogs/focus_guard.h"
@@ -106,6 +107,7 @@ void PrintSetting::Connect() {
               if (on) SubmitBlockClicked(index);
             });
   }
+  connect(cmdEdit_, &QPushButton::clicked, this, &PrintSetting::EditClicked);
   connect(cmbFunc_, &QComboBox::activated, this, &PrintSetting::FunctionClicked);
   for (std::int16_t index = 0; index < 2; ++index) {
     connect(optColor_.at(static_cast<std::size_t>(index)), &OptionButton::toggled, this,
@@ -222,6 +224,7 @@ void PrintSetting::ShowPage(ItemPage& page) {
 }
 
 void PrintSetting::SetCoverControlsEnabled(bool enabled) {
+  cmdEdit_->setEnabled(enabled);
   lblCover1_->setEnabled(enabled);
   for (OptionButton* option : optDrow_) option->setEnabled(enabled);
   spread_->setEnabled(enabled);
@@ -257,6 +260,18 @@ void PrintSetting::CoverClicked() {
 void PrintSetting::SubmitBlockClicked(std::int16_t index) {
   ShowSubmitBlock(true, index);
   run_.Options.SelectCover = static_cast<std::int16_t>(index + 1);
+}
+
+// Modal: this dialog gets no input until the editor has closed, and then shows what was edited.
+void PrintSetting::EditClicked() {
+  auto* editor = new EditCover(run_, this);
+  editor->setAttribute(Qt::WA_DeleteOnClose);
+  connect(editor, &QDialog::finished, this, [this] {
+    const std::int16_t selected = run_.Options.SelectCover;
+    if (selected != 0) SubmitBlockClicked(static_cast<std::int16_t>(selected - 1));
+  });
+  editor->show();
+  editor->activateWindow();
 }
 
 // All input has been checked field by field, when its field was left. A key presses the button without

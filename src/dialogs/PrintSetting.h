@@ -72,6 +72,7 @@ class PrintSetting : public QDialog {
   void ShowSubmitBlock(bool show, std::int16_t index);
   void CoverClicked();
   void SubmitBlockClicked(std::int16_t index);
+  void EditClicked();
   void OkClicked();
 
   PrintRun& run_;

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QProxyStyle>
 #include <QSignalBlocker>
 #include <QStyleOptionTabWidgetFrame>
 #include <QStylePainter>
@@ -13,6 +14,8 @@ namespace tarvis {
 namespace {
 
 constexpr int BarPixels = 22;  // the topmost controls of the pages begin at 24
+constexpr int CaptionPadding =
+    10;  // both sides together; narrower than the styles have it, so that five tabs fit
 
 class LowTabBar : public QTabBar {
  public:
@@ -25,13 +28,26 @@ class LowTabBar : public QTabBar {
   QSize minimumTabSizeHint(int index) const override { return tabSizeHint(index); }
 };
 
+class NarrowTabs : public QProxyStyle {
+ public:
+  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+    return metric == PM_TabBarTabHSpace ? CaptionPadding : QProxyStyle::pixelMetric(metric, option, widget);
+  }
+};
+
 }  // namespace
 
 TabControl::TabControl(const Bounds& bounds, QWidget* parent) : QWidget(parent), bar_(new LowTabBar(this)) {
   NameControl(*this, "SSTab1", NoFamily, {});
   Place(*this, bounds);
+  auto* narrow = new NarrowTabs;
+  narrow->setParent(bar_);
+  bar_->setStyle(narrow);
   bar_->setFocusPolicy(Qt::StrongFocus);
   bar_->setDrawBase(false);
+  bar_->setUsesScrollButtons(false);
+  bar_->setElideMode(Qt::ElideNone);
+  bar_->setExpanding(true);
   bar_->setGeometry(0, 0, width(), BarPixels);
   connect(bar_, &QTabBar::currentChanged, this, &TabControl::BringForward);
 }

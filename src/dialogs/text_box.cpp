@@ -32,10 +32,19 @@ void LineBox::SetMaximumLength(int characters) {
 }
 
 // The toolkit cuts a text that is longer than its maximum, so that never goes below the text's own length:
-// what is too long stays, but the user can't add to it.
+// what is too long stays, but the user can't add to it. Each change of the maximum costs the user the undo
+// history and the place of the cursor, so there is none without need.
 void LineBox::ApplyMaximumLength(qsizetype length) {
-  const int limit = maximumLength_ == 0 ? Unlimited : maximumLength_;
-  setMaxLength(std::max(limit, static_cast<int>(length)));
+  const int wanted = std::max(maximumLength_ == 0 ? Unlimited : maximumLength_, static_cast<int>(length));
+  if (wanted == maxLength()) return;
+  const int cursor = cursorPosition();
+  setMaxLength(wanted);
+  setCursorPosition(cursor);
+}
+
+void LineBox::TypeOver(const QString& text) {
+  selectAll();
+  insert(text);
 }
 
 void LineBox::GiveFocus() {

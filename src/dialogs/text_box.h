@@ -38,6 +38,9 @@ class LineBox : public QLineEdit, public InputBox {
   int MaximumLength() const override { return maximumLength_; }
   void GiveFocus() override;
 
+  // As if the user had typed it over the old text: it can be undone.
+  void TypeOver(const QString& text);
+
  private:
   void ApplyMaximumLength(qsizetype length);
 

@@ -82,6 +82,17 @@ TEST_F(ItemPageTest, TypingStoresTheTitleAtEachKey) {
   EXPECT_EQ(Run.Options.UserHeader.TitleText, "Axi");
 }
 
+TEST_F(ItemPageTest, TypingInTheMiddleStaysThereAndCanBeUndone) {
+  Open(2, "", "User");
+  LineBox& title = Find<LineBox>("txtTitle", "InfUser");
+  title.setFocus();
+  Key(Qt::Key_Home);
+  QTest::keyClicks(&title, "My ");
+  EXPECT_EQ(Run.Options.UserHeader.TitleText, "My Parameters");
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Run.Options.UserHeader.TitleText, "Parameters");
+}
+
 TEST_F(ItemPageTest, ATitleOfFortyOneBytesInTheFileRaisesTheMessageAsThePageOpens) {
   Run.Options.UserHeader.TitleText = FortyOne;
   Open(2, "", "User");
