@@ -155,7 +155,7 @@ def write_program_table(folder, extended=False, steps=64):
     file.line("IndexCnt", steps)
     for step in range(steps):
         used = step % 16 < 11
-        moves = (f"{'I' if step % 2 else ''}{step * 12500:+d}", 3000 + 20 * step, "-", "-", 120, 150, "NNNNNNZ",
+        moves = (f"{'I' if step % 2 else ''}{step * 12500:+d}", 3000 + 20 * step, "-", "-", 120, 150, "NNNZ",
                  "IT100", 1, "END" if step % 16 == 10 else step + 1)
         file.line("Index", step, *(moves if used else ("",) * 10), int(used))
     file.line("CommentCnt", 1)

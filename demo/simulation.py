@@ -59,7 +59,7 @@ def _run(folder, n, suffix, overlapped):
     file.line("Ref", "Speed Reference", "Trapezoid", "")
     file.line("SettingTime", "Settling Time", f"{12.4 + n:.1f}", "ms")
     file.line("SamplingCycle", "Sampling", "0.25", "ms")
-    file.line("PatternSetting", "Pattern", 0, "Trapezoid, three moves", 3)
+    file.line("PatternSetting", "Pattern", 0, "Trapezoid of three moves", 3)
     file.line("SimTime", "Time", "200", "ms")
     for key, (name, unit, *values) in PATTERN.items():
         file.line(key, name, unit, *values)
