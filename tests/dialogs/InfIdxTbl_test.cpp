@@ -146,7 +146,7 @@ TEST_P(BadRangeTest, HoldsTheUserWhoPressesEnter) {
 TEST_P(BadRangeTest, HoldsTheUserWhoPressesTheMnemonicOfOk) {
   Key(Qt::Key_O, Qt::AltModifier);
   ExpectHeld();
-  QTest::qWait(0);
+  QCoreApplication::processEvents();
   EXPECT_TRUE(PreviewDialogVisible.empty());
 }
 
