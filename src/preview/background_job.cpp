@@ -6,6 +6,12 @@
 
 namespace tarvis {
 
+namespace {
+
+constexpr int LookInterval = 50;  // milliseconds
+
+}  // namespace
+
 BackgroundJob::BackgroundJob(const QString& caption, Work work, QWidget* parent)
     : QObject(parent), caption_(caption) {
   QTimer::singleShot(ProgressDelay, this, &BackgroundJob::ShowProgress);
@@ -13,7 +19,8 @@ BackgroundJob::BackgroundJob(const QString& caption, Work work, QWidget* parent)
     QString error;
     try {
       error = work([this](int done, int total) {
-        emit Progressed(done, total);
+        done_ = done;
+        total_ = total;
         return !cancelled_;
       });
     } catch (const std::exception& failure) {
@@ -43,10 +50,13 @@ void BackgroundJob::ShowProgress() {
   dialog_->setWindowModality(Qt::WindowModal);
   dialog_->setAutoClose(false);
   dialog_->setAutoReset(false);
-  connect(this, &BackgroundJob::Progressed, dialog_, [this](int done, int total) {
-    dialog_->setMaximum(total);
-    dialog_->setValue(done);
+  // Asked for now and then, so that quick steps don't flood the window's thread.
+  auto* look = new QTimer(dialog_);
+  connect(look, &QTimer::timeout, dialog_, [this] {
+    dialog_->setMaximum(total_);
+    dialog_->setValue(done_);
   });
+  look->start(LookInterval);
   connect(dialog_, &QProgressDialog::canceled, this, &BackgroundJob::Cancel);
   dialog_->show();
 }

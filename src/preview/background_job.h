@@ -34,7 +34,6 @@ class BackgroundJob : public QObject {
   static constexpr int ProgressDelay = 500;  // milliseconds
 
  signals:
-  void Progressed(int done, int total);
   // Comes once, on the thread of this object.
   void Finished(const QString& error);
 
@@ -44,6 +43,8 @@ class BackgroundJob : public QObject {
   QString caption_;
   QPointer<QProgressDialog> dialog_;
   std::atomic<bool> cancelled_ = false;
+  std::atomic<int> done_ = 0;
+  std::atomic<int> total_ = 0;
   bool finished_ = false;
   std::thread thread_;
 };

@@ -46,6 +46,8 @@ class PreviewWindow : public QMainWindow {
   ~PreviewWindow() override;
 
   PageView& View() { return *view_; }
+  // Whether a print or an export is under way.
+  bool IsBusy() const { return job_ != nullptr; }
   QAction* ActionOf(Command command) const { return actions_.at(command); }
 
  signals:

@@ -1,15 +1,14 @@
 #include "preview/pdf_export.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
-#include <csignal>
 
 #include "preview/document_builder.h"
+#include "preview/full_disk.h"
 #include "preview/pdf_file.h"
 #include "preview/sample_picture.h"
 
@@ -185,14 +184,10 @@ TEST_F(PdfExport, a_cancelled_export_leaves_the_old_file) {
 TEST_F(PdfExport, a_full_disk_is_told_and_leaves_the_old_file_and_nothing_else) {
   WriteOldFile();
   const auto document = DocumentBuilder().TablePages(3).Build();
-  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-  rlimit before{};
-  getrlimit(RLIMIT_FSIZE, &before);
-  const rlimit tight{1000, before.rlim_max};
-  setrlimit(RLIMIT_FSIZE, &tight);
-  const QString error = ExportPdf(*document, Path(), {}, GoOn);
-  setrlimit(RLIMIT_FSIZE, &before);
-  std::signal(SIGXFSZ, handler);
+  const QString error = [&] {
+    const FullDisk full;
+    return ExportPdf(*document, Path(), {}, GoOn);
+  }();
   EXPECT_TRUE(error.contains(Path())) << error.toStdString();
   EXPECT_EQ(FileBytes(), QByteArray("old"));
   EXPECT_EQ(FilesInFolder(), QStringList(QStringLiteral("out.pdf")));

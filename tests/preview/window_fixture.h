@@ -44,6 +44,11 @@ class WindowTest : public testing::Test {
     QWidget* focus = QApplication::focusWidget();
     QTest::keyClick(focus != nullptr ? focus : window_.get(), key, modifiers);
   }
+  // A dialog has closed: the window gets the keys again.
+  void Return() {
+    window_->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+  }
   void Type(const char* text) { QTest::keyClicks(QApplication::focusWidget(), QString::fromUtf8(text)); }
 
   PageView& View() { return window_->View(); }
@@ -60,14 +65,14 @@ class WindowTest : public testing::Test {
                       Qt::NoScrollPhase, false);
     QApplication::sendEvent(View().viewport(), &event);
   }
-  // `answer` gets the dialog of that name as soon as it is up; run what opens it after this.
-  void OnDialog(const char* name, std::function<void(QDialog&)> answer) {
+  // `answer` gets the modal dialog of class `Dialog` as soon as it is up; run what opens it after this.
+  template <typename Dialog>
+  void OnDialog(std::function<void(Dialog&)> answer) {
     answered_ = false;
     auto* timer = new QTimer(window_.get());
-    QObject::connect(timer, &QTimer::timeout, window_.get(), [this, timer, name, answer = std::move(answer)] {
-      auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-      if (dialog == nullptr || dialog->objectName() != QLatin1String(name)) return;
-      timer->deleteLater();
+    QObject::connect(timer, &QTimer::timeout, window_.get(), [this, timer, answer = std::move(answer)] {
+      auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+      if (dialog == nullptr || !dialog->isVisible()) return;
       timer->stop();
       answered_ = true;
       answer(*dialog);

@@ -1,0 +1,41 @@
+#include "preview/print_server.h"
+
+#include <QElapsedTimer>
+
+namespace tarvis {
+
+PrintServer& PrintServer::Instance() {
+  static PrintServer server;
+  return server;
+}
+
+void PrintServer::Start() {
+  process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+  process_.start(QStringLiteral("python3"),
+                 {QStringLiteral(TARVIS_SOURCE_DIR "/tests/preview/print_server.py")});
+  const QString line = ReadLine();
+  qputenv("CUPS_SERVER", line.section(QLatin1Char(' '), 0, 0).toUtf8());
+  qputenv("CUPS_USER", line.section(QLatin1Char(' '), 1, 1).trimmed().toUtf8());
+}
+
+void PrintServer::Stop() {
+  process_.closeWriteChannel();
+  process_.waitForFinished();
+}
+
+bool PrintServer::WaitForJob(const QString& received, const QString& printed) {
+  process_.write(QStringLiteral("%1 %2 %3\n").arg(++jobs_).arg(received, printed).toUtf8());
+  return ReadLine().trimmed() == QLatin1String("done");
+}
+
+QString PrintServer::ReadLine() {
+  constexpr int Limit = 60'000;  // milliseconds
+  QElapsedTimer timer;
+  timer.start();
+  while (!process_.canReadLine() && process_.state() != QProcess::NotRunning && timer.elapsed() < Limit) {
+    process_.waitForReadyRead(1000);
+  }
+  return QString::fromUtf8(process_.readLine());
+}
+
+}  // namespace tarvis
