@@ -109,22 +109,23 @@ def write_mecha(folder):
 
 
 def _schematic(path):
+    """The servo pack with its encoder; the wizard's relays and texts stand on a grid beside it."""
     picture = Bitmap(640, 420)
-    picture.box(40, 60, 160, 360, inside=0xE8F0FF)
-    picture.box(260, 60, 420, 360, inside=0xF0FFE8)
+    picture.path((44, 60), (44, 405))
+    picture.box(272, 60, 414, 405, inside=0xF0FFE8)
     picture.box(520, 150, 600, 270, inside=0xFFF4E0)
-    for y in range(90, 350, 40):
-        picture.path((160, y), (260, y))
-    picture.path((420, 180), (520, 180))
-    picture.path((420, 240), (470, 240), (470, 250), (520, 250))
+    picture.path((44, 60), (272, 60))
+    picture.path((414, 180), (520, 180))
+    picture.path((414, 240), (520, 240))
     picture.save(path)
 
 
 def _relay(path):
-    picture = Bitmap(90, 40)
-    picture.path((0, 20), (30, 20))
-    picture.box(30, 8, 60, 32)
-    picture.path((60, 20), (90, 20))
+    """A wire below the relay's texts, with the contact at its left."""
+    picture = Bitmap(180, 28)
+    picture.path((0, 23), (12, 23))
+    picture.box(12, 18, 32, 27)
+    picture.path((32, 23), (180, 23))
     picture.save(path)
 
 
