@@ -282,9 +282,10 @@ void PrintSetting::OkClicked() {
   // A file that can't be written stops nobody from printing.
   static_cast<void>(WritePrintOptionsFile(run_, run_.Session.SystemFolder + "PrintOption.ToT"));
   if (run_.Session.Mode == "PrnSetting") EndRun(run_);
+  const auto showPrintPreview = services_.ShowPrintPreview;  // outlives the dialog
   hide();
   deleteLater();
-  services_.ShowPrintPreview();
+  showPrintPreview();
 }
 
 void PrintSetting::reject() {

@@ -14,7 +14,7 @@ namespace {
 constexpr int MarginPixels = 4;
 
 // The largest rectangle of the picture's proportion inside `room`, in its middle.
-QRectF Fitted(const Picture& picture, const QRectF& room) {
+QRectF Fitted(const PaintablePicture& picture, const QRectF& room) {
   const QSizeF size =
       QSizeF(static_cast<qreal>(picture.NaturalWidth()), static_cast<qreal>(picture.NaturalHeight()))
           .scaled(room.size(), Qt::KeepAspectRatio);
@@ -41,7 +41,7 @@ void LogoPreview::ShowFile(const std::string& path) {
     words_ = QString::fromLatin1("No such file");
   } else {
     try {
-      picture_ = PictureFileLoader().Load(path);
+      picture_ = std::dynamic_pointer_cast<const PaintablePicture>(PictureFileLoader().Load(path));
     } catch (const RunTimeFailure& failure) {
       words_ = QString::fromLatin1("Not shown: ") + QString::fromStdString(failure.Reason());
     }
@@ -54,15 +54,14 @@ void LogoPreview::paintEvent(QPaintEvent* event) {
   QFrame::paintEvent(event);
   QPainter painter(this);
   const QRect room = contentsRect().adjusted(MarginPixels, MarginPixels, -MarginPixels, -MarginPixels);
-  const auto* paintable = dynamic_cast<const PaintablePicture*>(picture_.get());
-  if (paintable == nullptr) {
+  if (picture_ == nullptr) {
     painter.setPen(palette().color(QPalette::Disabled, QPalette::WindowText));
     painter.drawText(room, Qt::AlignCenter | Qt::TextWordWrap, words_);
     return;
   }
   painter.fillRect(contentsRect(), Qt::white);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  paintable->Paint(painter, Fitted(*picture_, QRectF(room)));
+  picture_->Paint(painter, Fitted(*picture_, QRectF(room)));
 }
 
 }  // namespace tarvis

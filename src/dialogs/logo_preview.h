@@ -3,12 +3,14 @@
 
 #include <QFrame>
 #include <QString>
+#include <memory>
 #include <string>
 
 #include "dialogs/place.h"
-#include "report/engine/picture.h"
 
 namespace tarvis {
+
+class PaintablePicture;
 
 class LogoPreview : public QFrame {
   Q_OBJECT
@@ -25,7 +27,7 @@ class LogoPreview : public QFrame {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  PicturePtr picture_;
+  std::shared_ptr<const PaintablePicture> picture_;
   QString words_;
 };
 
