@@ -24,14 +24,15 @@ void ByLook(const std::vector<const Item*>& items, Key key, Paint paint) {
   }
 }
 
+// A square in the middle of the control's place, clear of the borders of the cell that it stands in.
 void PaintTick(const Item& item, Canvas& canvas) {
-  const Rect& box = item.Box;
+  const float side = 0.7F * std::min(item.Box.Width, item.Box.Height);
+  const float left = item.Box.Left + (item.Box.Width - side) / 2;
+  const float top = item.Box.Top + (item.Box.Height - side) / 2;
+  const Rect box{left, top, side, side};
   canvas.Fill({box}, White);
   canvas.Frame({box}, WeightUnit);
   if (!item.Ticked) return;
-  const float side = std::min(box.Width, box.Height);
-  const float left = box.Left + (box.Width - side) / 2;
-  const float top = box.Top + (box.Height - side) / 2;
   canvas.Strokes({{left + 0.2F * side, top + 0.5F * side, 0.22F * side, 0.27F * side},
                   {left + 0.42F * side, top + 0.77F * side, 0.4F * side, -0.5F * side}},
                  0.12F * side);
