@@ -104,6 +104,11 @@ bool DrawList::DropLastImages(std::size_t count) {
   return true;
 }
 
+void DrawList::Truncate(std::size_t first) {
+  commands_.resize(std::min(first, commands_.size()));
+  asked_ = std::make_shared<ListClip>();  // whatever clip comes next is new
+}
+
 void DrawList::SetClip(std::shared_ptr<const ListClip> clip) {
   if (clip == asked_) return;
   asked_ = clip;

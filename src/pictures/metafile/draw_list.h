@@ -84,6 +84,8 @@ class DrawList {
   void AddImage(ListImage image);
   // Takes back the last `count` images, if nothing else was added after the first of them.
   bool DropLastImages(std::size_t count);
+  // Takes back all commands from `first` on.
+  void Truncate(std::size_t first);
   // Holds for what is added after it.
   void SetClip(std::shared_ptr<const ListClip> clip);
 

@@ -55,6 +55,8 @@ class Drawing {
   void RoundRectangle(const QRectF& box, QSizeF corner);
   void Ellipse(const QRectF& box);
   void Arc(const ArcShape& arc, ArcKind kind, bool to);
+  // With a pen and brush of their own, in device units.
+  void Paint(const QPainterPath& logical, const ListPen* pen, const ListBrush* brush);
   void Pixel(QPointF point, QColor color);
   void FillBox(const QRectF& box, QColor color);
   void FillRegion(const MetaRegion& region, const MetaBrush& brush);
@@ -89,6 +91,15 @@ class Drawing {
 
  private:
   struct TextPlace;
+  // Fills XORed, then a black mask, then the same fills again: so writers without clips cut a gradient to a
+  // shape.
+  struct XorGroup {
+    std::size_t First = 0;  // command of the list
+    std::size_t Count = 0;  // fills before the mask; 0: no group
+    bool HasMask = false;
+    QPainterPath Mask;
+    std::vector<std::pair<QPainterPath, QColor>> Again;
+  };
   struct LastBlock {
     std::uint32_t Rop;
     QRectF Box;
@@ -111,6 +122,9 @@ class Drawing {
   std::vector<QPointF> GlyphPlaces(const TextRecord& text, TextPlace& place);
   TextPlace PlaceText(const TextRecord& text);
   bool MergeMask(const LastBlock& block);
+  void FollowXorFill(const QPainterPath& device);
+  void FollowCopyFill(const QPainterPath& device);
+  void DrawMaskedFills();
   void PlaceImage(QImage image, QTransform place);
 
   DrawList& list_;
@@ -118,6 +132,7 @@ class Drawing {
   DeviceContext dc_;
   QPainterPath path_;
   bool inPath_ = false;
+  XorGroup xor_;
   int costlyClips_ = 0;
   int triangles_ = 0;
   std::vector<LastBlock> blocks_;  // at most two

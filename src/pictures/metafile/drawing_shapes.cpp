@@ -42,6 +42,8 @@ void Drawing::Emit(const QPainterPath& device, bool fill, bool stroke) {
   if (!hasPen && !hasBrush) return;
   list_.SetClip(State().Clip);
   list_.AddShape(device, hasPen ? &pen : nullptr, hasBrush ? &brush : nullptr);
+  if (hasBrush && State().Rop2 != XorPen) FollowCopyFill(device);
+  if (hasBrush && State().Rop2 == XorPen && !hasPen) FollowXorFill(device);
 }
 
 void Drawing::EmitFill(const QPainterPath& device, const MetaBrush& metaBrush) {
@@ -166,6 +168,11 @@ void Drawing::Arc(const ArcShape& arc, ArcKind kind, bool to) {
     Emit(device, false, true);
   }
   State().Position = path.currentPosition();
+}
+
+void Drawing::Paint(const QPainterPath& logical, const ListPen* pen, const ListBrush* brush) {
+  list_.SetClip(State().Clip);
+  list_.AddShape(ToDevice().map(logical), pen, brush);
 }
 
 void Drawing::Pixel(QPointF point, QColor color) {

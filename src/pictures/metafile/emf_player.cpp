@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "pictures/metafile/emf_playback.h"
+#include "pictures/metafile/emf_plus_player.h"
 #include "pictures/metafile/metafile_picture.h"
 
 namespace tarvis {
@@ -11,6 +12,7 @@ namespace {
 constexpr std::size_t RecordHeadSize = 8;
 constexpr std::size_t SmallestHeader = 88;
 constexpr std::uint32_t Signature = 0x464D4520;
+constexpr std::uint32_t PlusSignature = 0x2B464D45;
 constexpr double HundredthsPerMillimeter = 100;
 constexpr double TwipsPerMillimeter = 1440 / 25.4;
 constexpr double ReachInFrames = 200;
@@ -70,7 +72,6 @@ struct RecordTable {
         Known[record.Type] = true;
       }
     }
-    Known[EmfCommentRecord] = true;
   }
 };
 
@@ -112,7 +113,17 @@ class EmfPlayer {
     return true;
   }
 
+  void PlayComment(Bytes record) {
+    ByteReader reader(record);
+    reader.Skip(RecordHeadSize);
+    const Bytes data = reader.Take(reader.U32());
+    if (data.size() < 4 || ByteReader(data).U32() != PlusSignature) return;
+    skipped_ += plus_.Play(data.subspan(4));
+  }
+
   void PlayRecord(std::uint32_t type, Bytes record) {
+    if (type == EmfCommentRecord) return PlayComment(record);
+    if (plus_.Rules()) return;
     if (type >= table_.Play.size() || !table_.Known[type]) {
       ++skipped_;
       return;
@@ -131,6 +142,7 @@ class EmfPlayer {
   EmfHeader header_;
   DrawList list_;
   EmfPlayback playback_;
+  EmfPlusPlayer plus_{playback_.Draw};
   RecordTable table_;
   int skipped_ = 0;
   bool ended_ = false;

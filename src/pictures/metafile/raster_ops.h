@@ -8,6 +8,7 @@ namespace tarvis {
 
 // The binary raster operations of pens and brushes, by their number (1 to 16).
 inline constexpr std::uint32_t CopyPen = 13;
+inline constexpr std::uint32_t XorPen = 7;
 
 // The colour that drawing with `color` leaves on white, or nothing where the operation never changes
 // anything.

@@ -1,0 +1,72 @@
+// Plays the extended records that stand in comments of an enhanced metafile. Files that hold both kinds of
+// records play the plain ones; files that hold extended ones only play those.
+#pragma once
+
+#include <array>
+#include <map>
+
+#include "pictures/metafile/emf_plus_objects.h"
+
+namespace tarvis {
+
+class EmfPlusPlayer {
+ public:
+  explicit EmfPlusPlayer(Drawing& draw) : draw_(draw) {}
+
+  // The records in one comment; returns how many could not be played.
+  int Play(Bytes records);
+  // Whether plain records are to be left alone at this moment.
+  bool Rules() const { return active_ && !givesContext_; }
+
+ private:
+  struct Saved {
+    DcState State;
+    QTransform World;
+    double PageScale;
+  };
+
+  void PlayRecord(std::uint32_t type, std::uint32_t flags, ByteReader& r);
+  bool PlayState(std::uint32_t type, std::uint32_t flags, ByteReader& r);
+  bool PlayClip(std::uint32_t type, std::uint32_t flags, ByteReader& r);
+  bool PlayFill(std::uint32_t type, std::uint32_t flags, ByteReader& r);
+  bool PlayLine(std::uint32_t type, std::uint32_t flags, ByteReader& r);
+  bool PlayText(std::uint32_t type, std::uint32_t flags, ByteReader& r);
+  bool PlayImage(std::uint32_t type, std::uint32_t flags, ByteReader& r);
+  void Header(std::uint32_t flags, ByteReader& r);
+  void Object(std::uint32_t flags, ByteReader& r);
+  void Keep(std::uint32_t flags, Bytes bytes);
+  void Fill(const QPainterPath& path, std::uint32_t flags, std::uint32_t brush);
+  void Stroke(const QPainterPath& path, std::uint32_t pen);
+  void String(std::uint32_t flags, ByteReader& r);
+  void DriverString(std::uint32_t flags, ByteReader& r);
+  void SetFont(std::uint32_t flags, std::uint32_t brush);
+  void ModifyWorld(const QTransform& by, std::uint32_t flags);
+  void UpdateTransform();
+  void Save(std::uint32_t index);
+  void Restore(std::uint32_t index);
+  QRectF Rect(ByteReader& r, std::uint32_t flags) const;
+  ListBrush BrushOf(std::uint32_t flags, std::uint32_t brush) const;
+  template <typename T>
+  const T& At(std::uint32_t index) const;
+
+  Drawing& draw_;
+  bool active_ = false;
+  bool dual_ = false;
+  bool givesContext_ = false;
+  QTransform world_;
+  double pageScale_ = 1;
+  double dotsPerInch_ = 96;
+  std::array<PlusObject, 64> objects_;
+  std::map<std::uint32_t, Saved> saved_;
+  std::vector<std::uint8_t> pending_;  // an object that comes in pieces
+};
+
+template <typename T>
+const T& EmfPlusPlayer::At(std::uint32_t index) const {
+  if (index >= objects_.size()) throw SkipRecord();
+  const T* object = std::get_if<T>(&objects_[index]);
+  if (object == nullptr) throw SkipRecord();
+  return *object;
+}
+
+}  // namespace tarvis
