@@ -1,8 +1,7 @@
 #include "report/function_report.h"
 
-#include "launch/failures.h"
-#include "printfiles/host_files.h"
 #include "report/band_bitmap.h"
+#include "report/picture_file.h"
 
 namespace tarvis {
 namespace {
@@ -41,11 +40,7 @@ void FunctionReport::EnterContents() {
 }
 
 PicturePtr FunctionReport::LoadPictureOrFail(const std::string& path, int failure) {
-  if (!FileExists(path)) {
-    Run.Session.Diagnosis = std::string(Name) + ": no picture file '" + path + "'";
-    ReportFailure(Run, failure);
-  }
-  return Pictures.Load(path);
+  return tarvis::LoadPictureOrFail({Run, Pictures}, Name, path, failure);
 }
 
 }  // namespace tarvis

@@ -3,10 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "launch/failures.h"
 #include "printfiles/date_text.h"
-#include "printfiles/host_files.h"
 #include "printfiles/text.h"
+#include "report/picture_file.h"
 
 namespace tarvis {
 namespace {
@@ -115,8 +114,7 @@ void rptCover::ShiftSender() {
 void rptCover::LoadLogo() {
   const std::string& path = Run.Options.DrowLogo;
   if (path.empty()) return;
-  if (!FileExists(path)) ReportFailure(Run, LogoIsMissing);
-  imgLogo.Picture = Pictures.Load(path);
+  imgLogo.Picture = LoadPictureOrFail({Run, Pictures}, Name, path, LogoIsMissing);
 }
 
 // An overlong line goes on in the next row. What is left after the last row is not printed.
