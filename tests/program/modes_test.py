@@ -16,15 +16,16 @@ DOCUMENTS = {
     "RealTrace": ["Real-Time Tracing", "Real-Time Tracing Graph", "Tracing Info", *PARAMETERS],
     "Mecha": ["Mechanical Analysis", "Gain Graph/Phase Graph", "Resonance/Anti-Resonance", "Notch Filters Info",
               "Measurement Conditions", "Acquisition Date of the Data", "Comments"],
-    "Sim": ["Dynamics Simulation", "Simulated Graph", "Simulation Information", "Simulation Object Setting", "Reference Setting",
-            "Servo Drive Setting", "Mechanical Setting", "Acquisition Date of the Data", *PARAMETERS],
+    "Sim": ["Dynamics Simulation", "Simulated Graph", "Simulation Information", "Simulation Object Setting",
+            "Reference Setting", "Servo Drive Setting", "Mechanical Setting", "Acquisition Date of the Data",
+            *PARAMETERS],
     "IdxTbl": ["Program Table", "Program Table", "Comments"],
     "ZoneTbl": ["Zone Table", "Zone Table", "Comments"],
     "JogTbl": ["Jog Speed Table", "Jog Speed Table", "Comments"],
 }
 DOCUMENTS["SimEx"] = DOCUMENTS["Sim"]
-NOT_ACCEPTED = [("UPWizard", 2), ("RealTrace", 2), ("Mecha", 2), ("Sim", 2), ("SimEx", 1), ("SimEx", 2), ("IdxTbl", 1),
-                ("ZoneTbl", 4), ("JogTbl", 4), ("UPWizard", 4)]
+NOT_ACCEPTED = [("UPWizard", 2), ("RealTrace", 2), ("Mecha", 2), ("Sim", 2), ("SimEx", 1), ("SimEx", 2),
+                ("IdxTbl", 1), ("ZoneTbl", 4), ("JogTbl", 4), ("UPWizard", 4)]
 
 
 def text_of(pdf):
