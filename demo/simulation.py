@@ -16,7 +16,7 @@ MOTOR = {
     "MtInertiaTimeConstant": ("Inertia Time Constant", "0.56", "ms"),
     "MtInductionTimeConstant": ("Inductive Time Constant", "5.4", "ms"),
     "MtBrakeCompensation": ("Brake", "None", ""), "MtOilSealCompensation": ("Oil Seal", "None", ""),
-    "PgType": ("Encoder", "17 bit, incremental", ""), "MtOpType": ("Motor Option", "Straight shaft", ""),
+    "PgType": ("Encoder", "17 bit incremental", ""), "MtOpType": ("Motor Option", "Straight shaft", ""),
     "FcType": ("Coupling", "Rigid", ""), "ResPoint": ("Resonance", "851", "Hz"),
     "AntiResPoint": ("Anti-Resonance", "631", "Hz"),
 }
