@@ -1,10 +1,14 @@
 #include "pictures/metafile/emf_plus_objects.h"
 
+#include <QBuffer>
+#include <QImageReader>
 #include <cmath>
 #include <utility>
 
 namespace tarvis {
 namespace {
+
+constexpr qint64 MostImagePixels = 16 << 20;
 
 double ReadF(ByteReader& r) {
   const double value = static_cast<double>(r.F32());
@@ -240,7 +244,13 @@ QImage ReadImage(ByteReader& r) {
   const std::uint32_t format = r.U32();
   if (r.U32() != File) return FromPixels(r, width, height, stride, format);
   const Bytes file = r.Rest();
-  const QImage image = QImage::fromData(file.data(), static_cast<int>(file.size()));
+  QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(file.data()),
+                                             static_cast<qsizetype>(file.size()));
+  QBuffer buffer(&bytes);
+  QImageReader reader(&buffer);
+  const QSize size = reader.size();
+  if (qint64{size.width()} * size.height() > MostImagePixels) throw SkipRecord();
+  const QImage image = reader.read();
   if (image.isNull()) throw SkipRecord();
   return image;
 }

@@ -9,6 +9,7 @@ constexpr std::uint32_t HeaderRecord = 0x4001, ContextRecord = 0x4004, ObjectRec
 constexpr std::uint32_t AppendFlag = 0x2000, CompressedFlag = 0x4000, ContinuedFlag = 0x8000;
 constexpr std::size_t MostObjectBytes = 48 << 20;
 constexpr std::size_t MostSaved = 512;
+constexpr qsizetype MostImageBytes = 96 << 20;  // in the whole file
 
 // Records that change nothing that is seen: ends, comments and hints on quality.
 bool IsQuiet(std::uint32_t type) {
@@ -81,6 +82,8 @@ void EmfPlusPlayer::Keep(std::uint32_t flags, Bytes bytes) {
   objects_[index] = {};
   ByteReader reader(bytes);
   objects_[index] = ReadPlusObject(static_cast<PlusKind>(flags >> 8 & 0x7F), reader);
+  if (const QImage* image = std::get_if<QImage>(&objects_[index])) imageBytes_ += image->sizeInBytes();
+  if (imageBytes_ > MostImageBytes) throw BadMetafile("its bitmaps are too large");
 }
 
 QRectF EmfPlusPlayer::Rect(ByteReader& r, std::uint32_t flags) const {

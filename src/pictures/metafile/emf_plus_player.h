@@ -58,6 +58,7 @@ class EmfPlusPlayer {
   double dotsPerInch_ = 96;
   std::array<PlusObject, 64> objects_;
   std::map<std::uint32_t, Saved> saved_;
+  qsizetype imageBytes_ = 0;
   std::vector<std::uint8_t> pending_;  // an object that comes in pieces
 };
 
