@@ -208,6 +208,16 @@ TEST_F(SimPages, PassAnOldFileSpecThoughThereAreParameters) {
   EXPECT_THAT(Report.Screen.Messages, IsEmpty());
 }
 
+TEST_F(SimPages, OfMotorTypeOneListTheRowsOfTheShortTableInOrder) {
+  TurnOn({});
+  WriteLines("Sim.tmp", Whole("one.sim") + Lines{"MotorType,1"});
+  Print();
+  EXPECT_THAT(ColumnOf(Report.ComposeAlone("rptSimSettingSvMt"), "txtValueName"),
+              ElementsAre("Rated Torque", "Peak Torque", "Rated Current", "Max Current", "Rated Speed",
+                          "Max Speed", "Torque Constant", "Rotor Moment", "Inertia Time", "Induction Time",
+                          "", "Encoder", "Option", "Cooling"));
+}
+
 TEST_F(SimPages, EndAtTheMechanicalSettingWhoseModelIsMissing) {
   WriteLines("Sim.tmp", Whole("one.sim"));
   std::filesystem::remove(Folder.Path() / "model.bmp");
