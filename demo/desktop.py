@@ -26,16 +26,24 @@ class VirtualDisplay:
     """An X server of its own, until `close`. `server_options` are passed on to it."""
 
     def __init__(self, size="1280x1000", server_options=()):
+        self.name = wait_until(lambda: self._start_server(size, server_options), "an X server")
+        self.environment = {"DISPLAY": self.name}
+        self._manager = subprocess.Popen(["openbox"], env={**os.environ, **self.environment}, stderr=subprocess.DEVNULL)
+        wait_until(self._managed, "the window manager")
+
+    def _start_server(self, size, server_options):
+        """The name of the display; nothing if another server that starts at this moment takes it away."""
         read_end, write_end = os.pipe()
         self._server = subprocess.Popen(["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{size}x24",
                                          "-nolisten", "tcp", *server_options],
                                         pass_fds=[write_end], stderr=subprocess.DEVNULL)
         os.close(write_end)
         with os.fdopen(read_end) as told:
-            self.name = ":" + told.readline().strip()
-        self.environment = {"DISPLAY": self.name}
-        self._manager = subprocess.Popen(["openbox"], env={**os.environ, **self.environment}, stderr=subprocess.DEVNULL)
-        wait_until(self._managed, "the window manager")
+            number = told.readline().strip()
+        if number:
+            return f":{number}"
+        self._server.wait()
+        return None
 
     def _managed(self):
         told = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], env={**os.environ, **self.environment},
