@@ -38,6 +38,19 @@ void PaintTick(const Item& item, Canvas& canvas) {
                  0.12F * side);
 }
 
+// Thin lines make frames: each reaches half its width past its ends, so that no corner shows a notch.
+void CloseCorners(std::vector<Rect>& lines, float width) {
+  for (Rect& line : lines) {
+    if (line.Height == 0) {
+      line.Left -= width / 2;
+      line.Width += width;
+    } else if (line.Width == 0) {
+      line.Top -= width / 2;
+      line.Height += width;
+    }
+  }
+}
+
 void PaintLayer(const Document& document, const PageLayer& layer, Canvas& canvas) {
   ByLook(
       layer.Fills, [](const Item& item) { return item.Fill; },
@@ -47,8 +60,10 @@ void PaintLayer(const Document& document, const PageLayer& layer, Canvas& canvas
   }
   ByLook(layer.Borders, LineWidth,
          [&](const std::vector<Rect>& boxes, float width) { canvas.Frame(boxes, width); });
-  ByLook(layer.Lines, LineWidth,
-         [&](const std::vector<Rect>& lines, float width) { canvas.Strokes(lines, width); });
+  ByLook(layer.Lines, LineWidth, [&](std::vector<Rect> lines, float width) {
+    if (width <= WeightUnit) CloseCorners(lines, width);
+    canvas.Strokes(lines, width);
+  });
   for (const Item* item : layer.Ticks) PaintTick(*item, canvas);
   for (const Item* item : layer.Texts) {
     const TextPiece& piece = document.Texts[item->Source];
