@@ -21,12 +21,15 @@ inline void FillUserData(UserData& data, int parameters, int switches) {
   for (int i = 0; i < parameters; ++i) {
     const std::string no = "S-" + std::to_string(i);
     data.Prm[i] = {no, Names[static_cast<std::size_t>(i % 5)], std::to_string(i * 7 % 9973), "100", "min-1"};
-    if (nextSwitch * static_cast<long>(parameters) > static_cast<long>(i) * switches || nextSwitch >= switches) continue;
+    if (nextSwitch * static_cast<long>(parameters) > static_cast<long>(i) * switches ||
+        nextSwitch >= switches)
+      continue;
     UserSwitch& broken = data.Switches[nextSwitch++];
     broken.No = no;
     for (int k = 0; k < 4; ++k) {
-      broken.Digit[static_cast<std::size_t>(k)] = {std::to_string(k), "1", "1", "0",
-                                                   "Function of the Digit\r\n1:Enabled while the axis moves, number " + no};
+      broken.Digit[static_cast<std::size_t>(k)] = {
+          std::to_string(k), "1", "1", "0",
+          "Function of the Digit\r\n1:Enabled while the axis moves, number " + no};
     }
   }
 }

@@ -18,7 +18,9 @@ namespace tarvis {
 namespace {
 
 // 240 bordered cells a page: a list of 16,000 parameters has 334 pages of them.
-std::shared_ptr<const Document> Table(int pages) { return DocumentBuilder().TablePages(pages).Build(); }
+std::shared_ptr<const Document> Table(int pages) {
+  return DocumentBuilder().TablePages(pages).Build();
+}
 
 void PaintPageAtZoom(benchmark::State& state) {
   const auto document = Table(8);

@@ -1,4 +1,5 @@
-// The event loop of the program, with a floor under it: what no routine handles ends the run as a run-time failure.
+// The event loop of the program, with a floor under it: what no routine handles ends the run as a run-time
+// failure.
 #pragma once
 
 #include <QApplication>
@@ -27,8 +28,9 @@ class Application : public QApplication {
   // Catches what escapes an event handler.
   bool notify(QObject* receiver, QEvent* event) override;
 
-  // To be called in a catch block. Says on standard error and in a box titled "Run-time error" what happened and where, and ends the process
-  // with status 1. Deletes no file. The box is left out for a failure while another one is being shown.
+  // To be called in a catch block. Says on standard error and in a box titled "Run-time error" what happened
+  // and where, and ends the process with status 1. Deletes no file. The box is left out for a failure while
+  // another one is being shown.
   [[noreturn]] void Fail();
 
  private:

@@ -58,17 +58,21 @@ int ConfigurationRegistry::CodePageNumber() const {
   int number = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   if (error != std::errc() || end != text.data() + text.size()) {
-    throw RunTimeFailure("not a code page number", {.File = path_, .Line = 0, .Key = "CodePage", .Text = text});
+    throw RunTimeFailure("not a code page number",
+                         {.File = path_, .Line = 0, .Key = "CodePage", .Text = text});
   }
   return number;
 }
 
-bool ConfigurationRegistry::CountsPdfPrinter() const { return Find("Tarvis", "PdfPrinter") == "yes"; }
+bool ConfigurationRegistry::CountsPdfPrinter() const {
+  return Find("Tarvis", "PdfPrinter") == "yes";
+}
 
 std::string ConfigurationPath() {
   if (const std::string told = Environment("TARVIS_CONFIG"); !told.empty()) return told;
   std::string folder = Environment("XDG_CONFIG_HOME");
-  if (const std::string home = Environment("HOME"); folder.empty() && !home.empty()) folder = home + "/.config";
+  if (const std::string home = Environment("HOME"); folder.empty() && !home.empty())
+    folder = home + "/.config";
   const std::string own = folder + "/tarvis/tarvis.ini";
   std::error_code ignored;  // a folder that can't be looked into holds no file for this user
   if (!folder.empty() && std::filesystem::exists(own, ignored)) return own;

@@ -33,8 +33,8 @@ class ConfigurationRegistry : public HostSettings {
   std::map<std::pair<std::string, std::string>, std::string> values_;
 };
 
-// $TARVIS_CONFIG if set; else tarvis/tarvis.ini in the user's configuration folder if there is one there; else
-// the machine's own below /etc.
+// $TARVIS_CONFIG if set; else tarvis/tarvis.ini in the user's configuration folder if there is one there;
+// else the machine's own below /etc.
 std::string ConfigurationPath();
 
 }  // namespace tarvis

@@ -21,7 +21,8 @@ void HelpOpener::Open() const {
 }
 
 bool HelpOpener::eventFilter(QObject* watched, QEvent* event) {
-  const bool isHelpKey = event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_F1;
+  const bool isHelpKey =
+      event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_F1;
   if (!isHelpKey || helpFile_.empty()) return QObject::eventFilter(watched, event);
   Open();
   return true;

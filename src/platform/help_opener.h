@@ -15,8 +15,8 @@ class HelpOpener : public QObject {
   // The context number where the control that has the focus has none.
   void SetContext(std::int32_t helpContextId) { context_ = helpContextId; }
 
-  // An .html file opens at the anchor named by the context number of the control that has the focus, any other
-  // kind with the desktop's program for it.
+  // An .html file opens at the anchor named by the context number of the control that has the focus, any
+  // other kind with the desktop's program for it.
   void Open() const;
 
  protected:

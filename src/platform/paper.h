@@ -5,7 +5,8 @@
 
 namespace tarvis {
 
-// The default printer's paper, upright; where no printer is set up, the usual one of the country: A4 or Letter.
+// The default printer's paper, upright; where no printer is set up, the usual one of the country: A4 or
+// Letter.
 PageSetup PaperOfTheDesk();
 
 }  // namespace tarvis

@@ -37,17 +37,19 @@ PreviewSetup SetupOf(const ActiveReport& report, const PrintOptions& options) {
 
 }  // namespace
 
-QtProgramWindows::QtProgramWindows(PrintRun& run) : run_(run) { qApp->installEventFilter(&help_); }
+QtProgramWindows::QtProgramWindows(PrintRun& run) : run_(run) {
+  qApp->installEventFilter(&help_);
+}
 
 QtProgramWindows::~QtProgramWindows() = default;
 
 void QtProgramWindows::ShowPrintSetting() {
-  const PrintSettingServices services{
-      .ShowPrintPreview = [this] { ShowPrintPreview(run_, *this); },
-      .SetHelp = [this](const std::string& helpFile, std::int32_t helpContextId) {
-        help_.SetHelpFile(helpFile);
-        help_.SetContext(helpContextId);
-      }};
+  const PrintSettingServices services{.ShowPrintPreview = [this] { ShowPrintPreview(run_, *this); },
+                                      .SetHelp =
+                                          [this](const std::string& helpFile, std::int32_t helpContextId) {
+                                            help_.SetHelpFile(helpFile);
+                                            help_.SetContext(helpContextId);
+                                          }};
   (new PrintSetting(run_, services))->show();  // it deletes itself
 }
 
@@ -60,8 +62,10 @@ void QtProgramWindows::ShowMasterReport() {
 }
 
 void QtProgramWindows::ShowPreview() {
-  connect(preview_.get(), &PreviewWindow::toolUsed, this, [this](int id) { report_->ActiveReport_ToolbarClick(id); });
-  connect(preview_.get(), &PreviewWindow::closedByUser, this, [this] { report_->ActiveReport_QueryClose(0); });
+  connect(preview_.get(), &PreviewWindow::toolUsed, this,
+          [this](int id) { report_->ActiveReport_ToolbarClick(id); });
+  connect(preview_.get(), &PreviewWindow::closedByUser, this,
+          [this] { report_->ActiveReport_QueryClose(0); });
   preview_->show();
 }
 
@@ -71,6 +75,8 @@ void QtProgramWindows::UnloadMasterReport() {
   preview_.release()->deleteLater();  // its own event may have led here
 }
 
-void QtProgramWindows::SetHelpFile(const std::string& path) { help_.SetHelpFile(path); }
+void QtProgramWindows::SetHelpFile(const std::string& path) {
+  help_.SetHelpFile(path);
+}
 
 }  // namespace tarvis

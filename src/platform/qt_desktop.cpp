@@ -7,11 +7,13 @@
 
 namespace tarvis {
 
-void QtDesktop::Beep() { QApplication::beep(); }
+void QtDesktop::Beep() {
+  QApplication::beep();
+}
 
 void QtDesktop::ShowMessage(const std::string& title, const std::string& text) {
-  QMessageBox box(QMessageBox::NoIcon, QString::fromStdString(title), QString::fromStdString(text), QMessageBox::Ok,
-                  QApplication::activeWindow());
+  QMessageBox box(QMessageBox::NoIcon, QString::fromStdString(title), QString::fromStdString(text),
+                  QMessageBox::Ok, QApplication::activeWindow());
   box.setObjectName("message");
   box.setTextFormat(Qt::PlainText);
   box.exec();

@@ -13,7 +13,8 @@ constexpr qsizetype LongestValue = 1024;
 class WindowsRegistry : public HostSettings {
  public:
   std::string Value(const std::string& key, const std::string& valueName) override {
-    const QSettings registry("HKEY_LOCAL_MACHINE\\" + QString::fromStdString(key), QSettings::Registry32Format);
+    const QSettings registry("HKEY_LOCAL_MACHINE\\" + QString::fromStdString(key),
+                             QSettings::Registry32Format);
     return registry.value(QString::fromStdString(valueName)).toString().left(LongestValue).toStdString();
   }
   int CodePageNumber() const override { return static_cast<int>(GetACP()); }
@@ -22,6 +23,8 @@ class WindowsRegistry : public HostSettings {
 
 }  // namespace
 
-std::unique_ptr<HostSettings> OpenHostSettings() { return std::make_unique<WindowsRegistry>(); }
+std::unique_ptr<HostSettings> OpenHostSettings() {
+  return std::make_unique<WindowsRegistry>();
+}
 
 }  // namespace tarvis

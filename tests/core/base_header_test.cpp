@@ -22,13 +22,14 @@ struct CommonHeader : testing::Test {
   }
 
   Document Compose() {
-    rptBaseHeader header(Report.Context(), [this](const std::string& name, ReportContext) -> std::shared_ptr<ActiveReport> {
-      Asked.push_back(name);
-      if (name != "known") return nullptr;
-      auto made = std::make_shared<SampleReport>();
-      made->Growing(SectionKind::Detail, "d").AddShape("known", {0, 0, 100, 1000});
-      return made;
-    });
+    rptBaseHeader header(Report.Context(),
+                         [this](const std::string& name, ReportContext) -> std::shared_ptr<ActiveReport> {
+                           Asked.push_back(name);
+                           if (name != "known") return nullptr;
+                           auto made = std::make_shared<SampleReport>();
+                           made->Growing(SectionKind::Detail, "d").AddShape("known", {0, 0, 100, 1000});
+                           return made;
+                         });
     return tarvis::Compose(header, {10000, 14918, 0, 0, 0, 0}, ArialMeasurer());
   }
   std::vector<std::string> TextsOf(const std::string& control) {
@@ -152,7 +153,8 @@ TEST_F(SmallBlocks, AnEmptyTextStillPrintsTheBand) {
 }
 
 TEST_F(SmallBlocks, ACommentLongerThanAPageGoesOnOnTheNext) {
-  for (int index = 0; index < 100; ++index) Report.Run.User.Comment += "line " + std::to_string(index) + "\r\n";
+  for (int index = 0; index < 100; ++index)
+    Report.Run.User.Comment += "line " + std::to_string(index) + "\r\n";
   const Document document = Report.ComposeAlone("rptUserComment");
   EXPECT_EQ(document.Pages.size(), 2U);
   std::size_t lines = 0;
@@ -161,8 +163,11 @@ TEST_F(SmallBlocks, ACommentLongerThanAPageGoesOnOnTheNext) {
 }
 
 std::uint32_t PixelOf(const std::string& bitmap, int x, int rowFromTop) {
-  const std::size_t offset = 54 + static_cast<std::size_t>(28 - rowFromTop) * 1608 + static_cast<std::size_t>(x) * 3;
-  const auto byte = [&](std::size_t index) { return static_cast<std::uint32_t>(static_cast<unsigned char>(bitmap[index])); };
+  const std::size_t offset =
+      54 + static_cast<std::size_t>(28 - rowFromTop) * 1608 + static_cast<std::size_t>(x) * 3;
+  const auto byte = [&](std::size_t index) {
+    return static_cast<std::uint32_t>(static_cast<unsigned char>(bitmap[index]));
+  };
   return byte(offset) | byte(offset + 1) << 8U | byte(offset + 2) << 16U;
 }
 

@@ -25,7 +25,9 @@ struct Example {
   std::string Contents;
 };
 
-void PrintTo(const Example& example, std::ostream* out) { *out << example.Name; }
+void PrintTo(const Example& example, std::ostream* out) {
+  *out << example.Name;
+}
 
 class ExampleFiles : public testing::TestWithParam<Example> {};
 

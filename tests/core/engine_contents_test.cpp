@@ -68,8 +68,8 @@ TEST(EngineContents, APathIsSplitAtItsFirstBackslash) {
   detail.AfterPrint = [&] { report.TOC.Add(paths[static_cast<std::size_t>(row++)]); };
   report.Rows(5);
   EXPECT_THAT(Entries(ComposeSample(report, 1000)),
-              ElementsAre("Alone 1@0", "Group 1@400", "  first\\rest 1@400", "  second 2@400", "Other 2@0", "  x 2@0",
-                          "Alone 3@0"));
+              ElementsAre("Alone 1@0", "Group 1@400", "  first\\rest 1@400", "  second 2@400", "Other 2@0",
+                          "  x 2@0", "Alone 3@0"));
 }
 
 TEST(EngineContents, TextsKeepTheirTrailingBlanks) {

@@ -36,7 +36,8 @@ std::vector<std::string> LinesOf(const Document& document, const std::string& co
 struct OneField {
   explicit OneField(const std::string& content, Rect place = {0, 0, 2000, 283}, CellStyle style = Plain,
                     bool growing = true)
-      : Detail(growing ? Report.Growing(SectionKind::Detail, "d") : Report.Fixed(SectionKind::Detail, "d", 2000)),
+      : Detail(growing ? Report.Growing(SectionKind::Detail, "d")
+                       : Report.Fixed(SectionKind::Detail, "d", 2000)),
         Text(Detail.AddField("text", place, style)) {
     Text.Text = content;
   }
@@ -162,7 +163,8 @@ TEST(EngineSections, AreAsHighAsTheLowestVisibleControl) {
 
 TEST(EngineSections, WithoutVisibleControlsTakeNoRoomIfTheyCanShrink) {
   SampleReport report;
-  report.Growing(SectionKind::GroupHeader, "g", 420).AddField("hidden", {0, 0, 500, 283}, Cell).Visible = false;
+  report.Growing(SectionKind::GroupHeader, "g", 420).AddField("hidden", {0, 0, 500, 283}, Cell).Visible =
+      false;
   report.Growing(SectionKind::Detail, "d").AddField("row", {0, 0, 500, 283}, Cell);
   EXPECT_THAT(Places(ComposeSample(report, 5000)), ElementsAre("1:row@0"));
 }
@@ -208,8 +210,8 @@ TEST(EngineSections, ReadGroupKeepTogetherAfterFormat) {
     inner->Rows(2);
     region.object = inner;
   });
-  EXPECT_THAT(Places(ComposeSample(outer, 550)), ElementsAre("1:title@0", "1:row@100", "1:row@200", "2:title@0",
-                                                             "2:row@100", "2:row@200"));
+  EXPECT_THAT(Places(ComposeSample(outer, 550)),
+              ElementsAre("1:title@0", "1:row@100", "1:row@200", "2:title@0", "2:row@100", "2:row@200"));
 }
 
 TEST(EngineText, WrapsAtBreakOpportunities) {
@@ -231,8 +233,10 @@ TEST(EngineText, TenTwipsOfWidthAreToleratedBeforeTextWraps) {
 }
 
 TEST(EngineText, ATrailingLineBreakAddsNoLineButAnEmptyLineInsideCounts) {
-  EXPECT_EQ(Find(OneField("Items\r\n", {0, 0, 2000, 190}, Cell).Compose(), "text", ItemKind::Box).Box.Height, 190);
-  EXPECT_EQ(Find(OneField("a\r\n\r\nb", {0, 0, 2000, 190}, Cell).Compose(), "text", ItemKind::Box).Box.Height, 570);
+  EXPECT_EQ(Find(OneField("Items\r\n", {0, 0, 2000, 190}, Cell).Compose(), "text", ItemKind::Box).Box.Height,
+            190);
+  EXPECT_EQ(Find(OneField("a\r\n\r\nb", {0, 0, 2000, 190}, Cell).Compose(), "text", ItemKind::Box).Box.Height,
+            570);
 }
 
 TEST(EngineText, LineEndsAloneAreNoBreaks) {
@@ -255,8 +259,8 @@ TEST(EngineText, StandsAtTheTopLoweredByHalfTheSpareHeightButAtMost46) {
 }
 
 TEST(EngineText, HangsUpwardsFromTheBottomOfALowBoxThatCannotGrow) {
-  EXPECT_FLOAT_EQ(Find(OneField("a", {0, 283, 2000, 142}, Plain, false).Compose(), "text", ItemKind::Text).Box.Top,
-                  235);
+  EXPECT_FLOAT_EQ(
+      Find(OneField("a", {0, 283, 2000, 142}, Plain, false).Compose(), "text", ItemKind::Text).Box.Top, 235);
 }
 
 TEST(EngineText, IsCondensedToALowBoxThatCannotGrow) {
@@ -271,7 +275,8 @@ TEST(EngineText, WrapsInABoxThatCannotGrowIfItHasRoomForTwoLines) {
 }
 
 TEST(EngineText, JoinsLinesWhereThereIsRoomForOneOnly) {
-  EXPECT_THAT(LinesOf(OneField("a\r\nb", {0, 0, 700, 283}, Plain, false).Compose(), "text"), ElementsAre("a b"));
+  EXPECT_THAT(LinesOf(OneField("a\r\nb", {0, 0, 700, 283}, Plain, false).Compose(), "text"),
+              ElementsAre("a b"));
 }
 
 TEST(EngineText, IsSetInFromTheSideOfABorderedCellThatItIsAlignedTo) {
@@ -281,7 +286,8 @@ TEST(EngineText, IsSetInFromTheSideOfABorderedCellThatItIsAlignedTo) {
   const float digits = 2 * 0.556F * 170;
   const Rect place{100, 0, 500, 283};
   EXPECT_FLOAT_EQ(Find(OneField("12", place, left).Compose(), "text", ItemKind::Text).Box.Left, 130);
-  EXPECT_FLOAT_EQ(Find(OneField("12", place, right).Compose(), "text", ItemKind::Text).Box.Left, 600 - 30 - digits);
+  EXPECT_FLOAT_EQ(Find(OneField("12", place, right).Compose(), "text", ItemKind::Text).Box.Left,
+                  600 - 30 - digits);
   EXPECT_FLOAT_EQ(Find(OneField("12", place, centre).Compose(), "text", ItemKind::Text).Box.Left,
                   100 + (500 - digits) / 2);
 }
@@ -306,7 +312,8 @@ TEST(EnginePaint, FollowsTheOrderOfTheLayout) {
   detail.AddShape("first", {0, 0, 100, 100}, true);
   detail.AddField("second", {0, 0, 100, 283}, Cell, "x");
   detail.AddCheckBox("third", {0, 0, 283, 283}).Value = true;
-  EXPECT_THAT(Places(ComposeSample(report, 5000)), ElementsAre("1:first@0", "1:second@0", "1:x@46", "1:third@0"));
+  EXPECT_THAT(Places(ComposeSample(report, 5000)),
+              ElementsAre("1:first@0", "1:second@0", "1:x@46", "1:third@0"));
 }
 
 TEST(EnginePaint, PicturesFillTheirBoxOrKeepTheirProportion) {

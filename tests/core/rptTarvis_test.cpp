@@ -35,7 +35,8 @@ struct MasterReport : testing::Test {
   }
 
   // Loads the data set of `mode` from an empty file and tells the module list.
-  std::vector<std::string> ModulesOf(const std::string& mode, const std::string& file, bool overlapResult = false) {
+  std::vector<std::string> ModulesOf(const std::string& mode, const std::string& file,
+                                     bool overlapResult = false) {
     Session.Mode = mode;
     Folder.Write(file, "");
     LoadFunctionDataSet(Report.Run, {}, overlapResult);
@@ -113,8 +114,9 @@ TEST_F(MasterReport, ListsTheReportsOfEachFunctionByItsOptionElements) {
   EXPECT_THAT(ModulesOf("User", "User.tmp"), ElementsAre("rptUserPrm", "rptUserComment"));
   EXPECT_THAT(ModulesOf("UPWizard", "UPWizard.tmp"), ElementsAre("rptUPWizard"));
   Options.TraceOption = {1, 1, 1, 0, 0, 0, 0, 1, 0};
-  EXPECT_THAT(ModulesOf("Trace", "Trace.tmp"), ElementsAre("rptTraceGraph", "rptTraceObject", "rptTraceTrigger",
-                                                           "rptDataDate", "rptUserPrm", "rptUserComment"));
+  EXPECT_THAT(ModulesOf("Trace", "Trace.tmp"),
+              ElementsAre("rptTraceGraph", "rptTraceObject", "rptTraceTrigger", "rptDataDate", "rptUserPrm",
+                          "rptUserComment"));
   Options.TraceOption = {};
   EXPECT_THAT(ModulesOf("Trace", "Trace.tmp"), ElementsAre("rptTraceGraph", "rptTraceObject"));
   Options.RealTraceOption = {1, 1, 0, 0, 0, 0, 1};
@@ -122,8 +124,8 @@ TEST_F(MasterReport, ListsTheReportsOfEachFunctionByItsOptionElements) {
               ElementsAre("rptRealTraceGraph", "rptRealTraceInfo", "rptUserPrm", "rptUserComment"));
   Options.MechaOption = {1, 1, 1, 1, 1};
   EXPECT_THAT(ModulesOf("Mecha", "Mecha.tmp"),
-              ElementsAre("rptMechaGraph", "rptMechaResonance", "rptMechaNotch", "rptMechaMeasure", "rptDataDate",
-                          "rptUserComment"));
+              ElementsAre("rptMechaGraph", "rptMechaResonance", "rptMechaNotch", "rptMechaMeasure",
+                          "rptDataDate", "rptUserComment"));
   Options.ZoneTblOption = 1;
   EXPECT_THAT(ModulesOf("ZoneTbl", "IdxZoneTbl.tmp"), ElementsAre("rptIdxZoneTblTable", "rptUserComment"));
   Options.JogTblOption = 2;
@@ -208,10 +210,14 @@ TEST_F(MasterReport, AnOverlapResultWithoutDetailsHasNoGroup) {
 
 TEST_F(MasterReport, AWrongFileEndsTheRunWithTheNumberOfItsFunction) {
   const std::vector<std::pair<std::string, std::string>> modes{
-      {"User", "Parameter File is wrong."},          {"UPWizard", "Parameter Wizard is wrong."},
-      {"Trace", "Tracing File is wrong."},           {"RealTrace", "Real-Time Tracing File is wrong."},
-      {"Mecha", "Mechanical Analysis File is wrong."}, {"Sim", "Dynamics Simulation File is wrong."},
-      {"IdxTbl", "Program Table File is wrong."},    {"ZoneTbl", "Zone Table File is wrong."},
+      {"User", "Parameter File is wrong."},
+      {"UPWizard", "Parameter Wizard is wrong."},
+      {"Trace", "Tracing File is wrong."},
+      {"RealTrace", "Real-Time Tracing File is wrong."},
+      {"Mecha", "Mechanical Analysis File is wrong."},
+      {"Sim", "Dynamics Simulation File is wrong."},
+      {"IdxTbl", "Program Table File is wrong."},
+      {"ZoneTbl", "Zone Table File is wrong."},
       {"JogTbl", "Jog Speed Table File is wrong."}};
   for (const auto& [mode, message] : modes) {
     Session.Mode = mode;
@@ -256,8 +262,8 @@ struct OverlappedTrace : MasterReport {
 };
 
 TEST_F(OverlappedTrace, PrintsResultTargetAndDataEachOnPagesOfTheirOwn) {
-  EXPECT_THAT(Compose(), ElementsAre("1: rptTraceGraph rptTraceObjrctOverlap", "2: rptTraceGraph rptTraceObject",
-                                     "3: rptTraceGraph rptTraceObject"));
+  EXPECT_THAT(Compose(), ElementsAre("1: rptTraceGraph rptTraceObjrctOverlap",
+                                     "2: rptTraceGraph rptTraceObject", "3: rptTraceGraph rptTraceObject"));
   EXPECT_EQ(Session.FinishedReports, 3);
 }
 
@@ -292,7 +298,8 @@ TEST_F(OverlappedTrace, AClosedGateNeverLoopsForEver) {
 TEST_F(OverlappedTrace, AMissingCompanionEndsTheRunWithFailureFour) {
   std::filesystem::remove(Folder.Path() / "Trace2.tmp");
   EXPECT_THROW(Compose(), RunEnded);
-  EXPECT_EQ(Report.Screen.Messages.back(), "Printing Error|Tracing File is wrong.\nPrinting Process is canceled.");
+  EXPECT_EQ(Report.Screen.Messages.back(),
+            "Printing Error|Tracing File is wrong.\nPrinting Process is canceled.");
 }
 
 TEST_F(MasterReport, OffersItsToolOncePerWindow) {

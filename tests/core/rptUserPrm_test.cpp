@@ -56,16 +56,19 @@ struct ParameterList : testing::Test {
 TEST_F(ParameterList, PlacesAllColumns) {
   AddParameter(User, "Pn100");
   const Document document = Compose();
-  EXPECT_THAT(Lefts(document, {"txtTitleNo", "txtTitleName", "txtTitleValue", "txtTitleUnit", "txtTitleDefault"}),
-              ElementsAre(142, 850, 4677, 5811, 7795));
-  EXPECT_THAT(Lefts(document, {"txtValueNo", "txtValueName", "txtValueVal", "txtValueUnit", "txtValueDefault"}),
-              ElementsAre(142, 850, 4677, 5811, 7795));
+  EXPECT_THAT(
+      Lefts(document, {"txtTitleNo", "txtTitleName", "txtTitleValue", "txtTitleUnit", "txtTitleDefault"}),
+      ElementsAre(142, 850, 4677, 5811, 7795));
+  EXPECT_THAT(
+      Lefts(document, {"txtValueNo", "txtValueName", "txtValueVal", "txtValueUnit", "txtValueDefault"}),
+      ElementsAre(142, 850, 4677, 5811, 7795));
 }
 
 TEST_F(ParameterList, ClosesUpTheColumnsWithoutNames) {
   Session.ShowPrmName = 0;
-  AddParameter(User, "Pn100", "a name so long that it would take three lines of the column if only it were shown at all "
-                              "which it is not, since names are off");
+  AddParameter(User, "Pn100",
+               "a name so long that it would take three lines of the column if only it were shown at all "
+               "which it is not, since names are off");
   AddSwitch(User, "Pn100", {Direction, NoDigit, NoDigit, NoDigit});
   const Document document = Compose();
   EXPECT_THAT(Lefts(document, {"txtTitleName", "txtTitleValue", "txtTitleUnit", "txtTitleDefault"}),
@@ -79,7 +82,8 @@ TEST_F(ParameterList, ClosesUpTheColumnsWithoutNames) {
 TEST_F(ParameterList, DefaultTakesThePlaceOfAHiddenUnit) {
   Session.ShowPrmUnit = 0;
   AddParameter(User, "Pn100");
-  EXPECT_THAT(Lefts(Compose(), {"txtTitleUnit", "txtTitleDefault", "txtValueDefault"}), ElementsAre(-1, 5811, 5811));
+  EXPECT_THAT(Lefts(Compose(), {"txtTitleUnit", "txtTitleDefault", "txtValueDefault"}),
+              ElementsAre(-1, 5811, 5811));
 }
 
 TEST_F(ParameterList, NarrowsTheDigitBlockByHiddenColumns) {
@@ -194,7 +198,8 @@ TEST_F(ParameterList, CountsGroupsFromTheFront) {
   AddSwitch(User, "Pn000", {Direction, NoDigit, Method, NoDigit});
   const Document document = Compose();
   EXPECT_EQ(PrintedOf(document, "txtPos0").size(), 1U);
-  ASSERT_EQ(PrintedOf(document, "txtPos1").size(), 1U) << "two groups are counted, so the empty second one shows";
+  ASSERT_EQ(PrintedOf(document, "txtPos1").size(), 1U)
+      << "two groups are counted, so the empty second one shows";
   EXPECT_THAT(PrintedOf(document, "txtPos1")[0].Texts, IsEmpty());
   EXPECT_THAT(PrintedOf(document, "txtPos2"), IsEmpty());
 }

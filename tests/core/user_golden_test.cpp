@@ -16,7 +16,9 @@ std::string SampleFile() {
   };
   add("Pn000", "Basic Function Selection", "0x0011,0x0000,-");
   add("Pn100", "Speed Loop Gain", "62.0,40.0,Hz");
-  add("Pn101", "A name that tells all about the parameter, with its commas, and takes three lines of its column for that",
+  add("Pn101",
+      "A name that tells all about the parameter, with its commas, and takes three lines of its column for "
+      "that",
       "15.00,20.00,ms");
   add("Pn102", "Position Loop Gain", "64.0,40.0,1/s");
   add("Pn103", "Moment of Inertia Ratio", "340,100,%");
@@ -42,7 +44,9 @@ struct ParameterPages : testing::Test {
   ReportRun Report;
 };
 
-TEST_F(ParameterPages, WithAllColumns) { ExpectGolden("user_all_columns", Print()); }
+TEST_F(ParameterPages, WithAllColumns) {
+  ExpectGolden("user_all_columns", Print());
+}
 
 TEST_F(ParameterPages, WithoutNames) {
   Report.Run.Options.UserOption = {0, 1, 1, 1, 0};

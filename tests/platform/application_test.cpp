@@ -39,7 +39,8 @@ class TellingDesktop : public QtDesktop {
   RunApplication([](TellingDesktop&) {
     auto* button = new QPushButton("Go");
     QObject::connect(button, &QPushButton::clicked, [] {
-      throw RunTimeFailure("not a whole number", {.File = "User.tmp", .Line = 3, .Key = "UserNum", .Text = "x"});
+      throw RunTimeFailure("not a whole number",
+                           {.File = "User.tmp", .Line = 3, .Key = "UserNum", .Text = "x"});
     });
     button->show();
     QTest::mouseClick(button, Qt::LeftButton);
@@ -48,12 +49,14 @@ class TellingDesktop : public QtDesktop {
 
 TEST(ApplicationDeathTest, FailureInAnEventHandlerIsShownWithItsPlaceAndEndsWithStatus1) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
-  EXPECT_EXIT(FailInAClick(), testing::ExitedWithCode(1), "box 'Run-time error': User.tmp:3: UserNum: not a whole number: 'x'");
+  EXPECT_EXIT(FailInAClick(), testing::ExitedWithCode(1),
+              "box 'Run-time error': User.tmp:3: UserNum: not a whole number: 'x'");
 }
 
 TEST(ApplicationDeathTest, FailureIsOneLineOnStandardError) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
-  EXPECT_EXIT(FailInAClick(), testing::ExitedWithCode(1), "tarvis: run-time error: User.tmp:3: UserNum: not a whole number: 'x'\n");
+  EXPECT_EXIT(FailInAClick(), testing::ExitedWithCode(1),
+              "tarvis: run-time error: User.tmp:3: UserNum: not a whole number: 'x'\n");
 }
 
 TEST(ApplicationDeathTest, FailureAtTheStartEndsAsOneInAHandlerDoes) {

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QTemporaryDir>
 #include <QDir>
+#include <QTemporaryDir>
 #include <cstdlib>
 #include <fstream>
 #include <map>
@@ -15,7 +15,9 @@ namespace {
 
 class Configuration : public testing::Test {
  protected:
-  std::string Path(const std::string& name = "tarvis.ini") const { return folder_.filePath(QString::fromStdString(name)).toStdString(); }
+  std::string Path(const std::string& name = "tarvis.ini") const {
+    return folder_.filePath(QString::fromStdString(name)).toStdString();
+  }
   ConfigurationRegistry Holding(const std::string& text) const {
     std::ofstream(Path(), std::ios::binary) << text;
     return ConfigurationRegistry(Path());
@@ -98,8 +100,10 @@ class ConfigurationPlace : public testing::Test {
   }
   void TearDown() override {
     for (const auto& [name, value] : before_) {
-      if (value.empty()) unsetenv(name.c_str());
-      else setenv(name.c_str(), value.c_str(), 1);
+      if (value.empty())
+        unsetenv(name.c_str());
+      else
+        setenv(name.c_str(), value.c_str(), 1);
     }
   }
   // Makes a configuration file below `home` and returns its path.

@@ -36,7 +36,8 @@ struct ReportRun {
       return time;
     };
     Run.Header.FileSpec = 3;
-    Run.Session.ShowPrmName = Run.Session.ShowPrmUnit = Run.Session.ShowPrmDefault = Run.Session.ShowPrmSwitches = 1;
+    Run.Session.ShowPrmName = Run.Session.ShowPrmUnit = Run.Session.ShowPrmDefault =
+        Run.Session.ShowPrmSwitches = 1;
   }
 
   ReportContext Context() { return {Run, Pictures}; }

@@ -1,10 +1,9 @@
 #include "functions/tables/IdxTblReport.h"
 
-#include "functions/tables/table_cells.h"
-
 #include <cmath>
 #include <limits>
 
+#include "functions/tables/table_cells.h"
 #include "printfiles/numbers.h"
 #include "printfiles/text.h"
 

@@ -1,4 +1,5 @@
-// The base of all report definitions: sections in layout order, report events, and the contract of the engine.
+// The base of all report definitions: sections in layout order, report events, and the contract of the
+// engine.
 #pragma once
 
 #include <functional>

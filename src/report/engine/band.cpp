@@ -5,7 +5,9 @@
 namespace tarvis {
 namespace {
 
-bool CanBeCut(const Item& item) { return item.Kind == ItemKind::Box || item.Kind == ItemKind::Line; }
+bool CanBeCut(const Item& item) {
+  return item.Kind == ItemKind::Box || item.Kind == ItemKind::Line;
+}
 
 // The lowest cut at or above `available` that crosses nothing that must stay whole.
 float CutPlace(const Band& band, float available) {

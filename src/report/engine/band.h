@@ -13,13 +13,13 @@ struct OpenGroup;
 struct Band {
   bool IsHeader = false;
   float Height = 0;
-  std::vector<Item> Items;       // relative to the band's top and the paper's left edge
-  int Landing = -1;              // where its contents entries land; -1 without entries
-  OpenGroup* Group = nullptr;    // innermost group whose headers repeat above this band
+  std::vector<Item> Items;     // relative to the band's top and the paper's left edge
+  int Landing = -1;            // where its contents entries land; -1 without entries
+  OpenGroup* Group = nullptr;  // innermost group whose headers repeat above this band
 };
 
-// The first part of `band` that is at most `available` twips high; `band` keeps the rest. Cuts between lines of
-// text and never through pictures. The first part is empty if nothing fits.
+// The first part of `band` that is at most `available` twips high; `band` keeps the rest. Cuts between lines
+// of text and never through pictures. The first part is empty if nothing fits.
 Band CutBand(Band& band, float available);
 
 // Shrinks the pictures and ticks at the top of a band that can't be cut to `available` twips.

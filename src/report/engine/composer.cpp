@@ -16,7 +16,9 @@ Section* FindSection(const ActiveReport& report, SectionKind kind) {
   return nullptr;
 }
 
-float HeightOf(const Section* section) { return section == nullptr ? 0 : section->Height; }
+float HeightOf(const Section* section) {
+  return section == nullptr ? 0 : section->Height;
+}
 
 // One composing from the first event of the outermost report to its finished document.
 class Composing : private PageBands {
@@ -113,7 +115,8 @@ class Composing : private PageBands {
   }
 
   // The section itself is no block: its own controls stand at its top, the inner bands flow below one by one.
-  void PrintFlowSection(ActiveReport& report, Section& section, float left, OpenGroup* group, OpenGroup* begins) {
+  void PrintFlowSection(ActiveReport& report, Section& section, float left, OpenGroup* group,
+                        OpenGroup* begins) {
     FlowRow& row = rows_.emplace_back();
     Band band;
     bool rowBegun = false;

@@ -7,8 +7,8 @@
 
 namespace tarvis {
 
-// Runs `report` with all its sub-reports and places its bands on pages. No widget, printer or screen is asked.
-// Exceptions of handlers (RunTimeFailure above all) pass through.
+// Runs `report` with all its sub-reports and places its bands on pages. No widget, printer or screen is
+// asked. Exceptions of handlers (RunTimeFailure above all) pass through.
 Document Compose(ActiveReport& report, const PageSetup& setup, const TextMeasurer& measurer);
 
 }  // namespace tarvis

@@ -39,9 +39,13 @@ void ContentsTree::Pass(int page, float top, float height) {
   waiting_.clear();
 }
 
-void ContentsTree::Drop(int landing) { landings_[static_cast<std::size_t>(landing)].Dropped = true; }
+void ContentsTree::Drop(int landing) {
+  landings_[static_cast<std::size_t>(landing)].Dropped = true;
+}
 
-void ContentsTree::Add(const std::string& path, int landing) { added_.push_back({path, landing}); }
+void ContentsTree::Add(const std::string& path, int landing) {
+  added_.push_back({path, landing});
+}
 
 std::vector<ContentsEntry> ContentsTree::Finish() {
   for (const int landing : waiting_) landings_[static_cast<std::size_t>(landing)] = last_;

@@ -65,10 +65,10 @@ struct Page {
 // An entry of the contents; a child follows its parent in the list.
 struct ContentsEntry {
   std::string Text;
-  int Level = 0;      // 0 or 1
-  int Page = 0;       // index of Pages
-  float Top = 0;      // twips from the top of the paper
-  float Height = 0;   // of the band that it belongs to
+  int Level = 0;     // 0 or 1
+  int Page = 0;      // index of Pages
+  float Top = 0;     // twips from the top of the paper
+  float Height = 0;  // of the band that it belongs to
 };
 
 struct PageSetup {

@@ -60,8 +60,9 @@ std::string Dump(const Document& document) {
     }
   }
   for (const ContentsEntry& entry : document.Contents) {
-    dump += "contents " + std::string(static_cast<std::size_t>(entry.Level) * 2, ' ') + "'" + entry.Text + "' page " +
-            std::to_string(entry.Page + 1) + " at " + Number(entry.Top) + " high " + Number(entry.Height) + "\n";
+    dump += "contents " + std::string(static_cast<std::size_t>(entry.Level) * 2, ' ') + "'" + entry.Text +
+            "' page " + std::to_string(entry.Page + 1) + " at " + Number(entry.Top) + " high " +
+            Number(entry.Height) + "\n";
   }
   return dump;
 }

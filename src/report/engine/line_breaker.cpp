@@ -27,7 +27,8 @@ const std::vector<int>& LineBreaker::Opportunities(std::string_view text) {
   iterator_->Breaks->setText(utf8, status);
   if (U_SUCCESS(status)) {
     iterator_->Breaks->first();
-    for (int offset = iterator_->Breaks->next(); offset != icu::BreakIterator::DONE; offset = iterator_->Breaks->next()) {
+    for (int offset = iterator_->Breaks->next(); offset != icu::BreakIterator::DONE;
+         offset = iterator_->Breaks->next()) {
       offsets_.push_back(offset);
     }
   }

@@ -12,14 +12,30 @@ constexpr float Rounding = 0.01F;
 
 PageFlow::PageFlow(Document& document, ContentsTree& contents, PageBands& bands, float headerHeight,
                    float footerHeight)
-    : document_(document), contents_(contents), bands_(bands), headerHeight_(headerHeight), footerHeight_(footerHeight) {}
+    : document_(document),
+      contents_(contents),
+      bands_(bands),
+      headerHeight_(headerHeight),
+      footerHeight_(footerHeight) {}
 
-void PageFlow::BeginGroup(OpenGroup& group) { Push({StepKind::BeginGroup, {}, &group, nullptr}); }
-void PageFlow::EndGroup(OpenGroup& group) { Push({StepKind::EndGroup, {}, &group, nullptr}); }
-void PageFlow::Add(Band band) { Push({StepKind::Band, std::move(band), nullptr, nullptr}); }
-void PageFlow::BeginRow(FlowRow& row) { Push({StepKind::BeginRow, {}, nullptr, &row}); }
-void PageFlow::EndRow(FlowRow& row) { Push({StepKind::EndRow, {}, nullptr, &row}); }
-void PageFlow::StartNewPage() { Push({StepKind::NewPage, {}, nullptr, nullptr}); }
+void PageFlow::BeginGroup(OpenGroup& group) {
+  Push({StepKind::BeginGroup, {}, &group, nullptr});
+}
+void PageFlow::EndGroup(OpenGroup& group) {
+  Push({StepKind::EndGroup, {}, &group, nullptr});
+}
+void PageFlow::Add(Band band) {
+  Push({StepKind::Band, std::move(band), nullptr, nullptr});
+}
+void PageFlow::BeginRow(FlowRow& row) {
+  Push({StepKind::BeginRow, {}, nullptr, &row});
+}
+void PageFlow::EndRow(FlowRow& row) {
+  Push({StepKind::EndRow, {}, nullptr, &row});
+}
+void PageFlow::StartNewPage() {
+  Push({StepKind::NewPage, {}, nullptr, nullptr});
+}
 
 void PageFlow::Finish() {
   finishing_ = true;
@@ -43,7 +59,8 @@ void PageFlow::Drain() {
 }
 
 // The front of the queue up to the first band that is no header: headers wait for what follows them. A group
-// that is to be kept is ready when its end is known; one that can't be kept counts by its headers and first row.
+// that is to be kept is ready when its end is known; one that can't be kept counts by its headers and first
+// row.
 std::size_t PageFlow::ReadyUnit(bool& fresh) {
   float height = 0;
   std::size_t headers = 0;
@@ -77,8 +94,8 @@ std::size_t PageFlow::ReadyUnit(bool& fresh) {
   return finishing_ ? queue_.size() : 0;
 }
 
-// False: wait for the rest of the group that begins at `begin` under `above` twips of waiting headers. True with
-// `end` above 0: it can be kept, and ends before `end`. True with `end` 0: it can't be kept.
+// False: wait for the rest of the group that begins at `begin` under `above` twips of waiting headers. True
+// with `end` above 0: it can be kept, and ends before `end`. True with `end` 0: it can't be kept.
 bool PageFlow::GroupIsReady(std::size_t begin, float above, std::size_t& end, bool& fresh) {
   OpenGroup* const group = queue_[begin].Group;
   const float page = BodyHeight() - RepeatedHeight(group->Parent);
@@ -250,10 +267,13 @@ float PageFlow::RepeatedHeight(const OpenGroup* group) const {
   return RepeatedHeight(group->Parent) + (group->Repeats && group->Begun ? group->HeaderHeight : 0);
 }
 
-bool PageFlow::Fits(float height) const { return y_ + height <= BodyHeight() + Rounding; }
+bool PageFlow::Fits(float height) const {
+  return y_ + height <= BodyHeight() + Rounding;
+}
 
 float PageFlow::BodyHeight() const {
-  return document_.Setup.Height - document_.Setup.Top - document_.Setup.Bottom - headerHeight_ - footerHeight_;
+  return document_.Setup.Height - document_.Setup.Top - document_.Setup.Bottom - headerHeight_ -
+         footerHeight_;
 }
 
 }  // namespace tarvis

@@ -2,8 +2,8 @@
 //
 //   composer ──bands, groups, rows──> queue ──when nothing can change it any more──> pages of the document
 //
-// The queue holds back headers until something follows them, and a group that is to stay on one page until its
-// end is known or it has become longer than a page. Bands are moved, never composed again.
+// The queue holds back headers until something follows them, and a group that is to stay on one page until
+// its end is known or it has become longer than a page. Bands are moved, never composed again.
 #pragma once
 
 #include <deque>
@@ -50,8 +50,10 @@ class PageBands {
 
 class PageFlow {
  public:
-  // The heights are those of the page header and footer sections, in twips. All references must outlive the flow.
-  PageFlow(Document& document, ContentsTree& contents, PageBands& bands, float headerHeight, float footerHeight);
+  // The heights are those of the page header and footer sections, in twips. All references must outlive the
+  // flow.
+  PageFlow(Document& document, ContentsTree& contents, PageBands& bands, float headerHeight,
+           float footerHeight);
 
   void BeginGroup(OpenGroup& group);
   void EndGroup(OpenGroup& group);

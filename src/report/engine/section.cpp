@@ -18,7 +18,9 @@ Label& Section::AddLabel(const char* name, const Rect& place, const char* captio
   return Add<Label>(name, place, style, caption);
 }
 
-Image& Section::AddImage(const char* name, const Rect& place, Fit fit) { return Add<Image>(name, place, fit); }
+Image& Section::AddImage(const char* name, const Rect& place, Fit fit) {
+  return Add<Image>(name, place, fit);
+}
 
 Line& Section::AddLine(const char* name, float x1, float y1, float x2, float y2, int weight) {
   return Add<Line>(name, Rect{x1, y1, x2 - x1, y2 - y1}, weight);
@@ -28,7 +30,9 @@ Shape& Section::AddShape(const char* name, const Rect& place, bool filled, Color
   return Add<Shape>(name, place, filled, fill);
 }
 
-CheckBox& Section::AddCheckBox(const char* name, const Rect& place) { return Add<CheckBox>(name, place); }
+CheckBox& Section::AddCheckBox(const char* name, const Rect& place) {
+  return Add<CheckBox>(name, place);
+}
 
 SubReport& Section::AddSubReport(const char* name, const Rect& place) {
   holdsSubReport_ = true;

@@ -25,7 +25,8 @@ float LinePitch(float size) {
 }
 
 std::size_t TextCache::KeyHash::operator()(const Key& key) const {
-  return std::hash<std::string_view>{}(key.Text) ^ (static_cast<std::size_t>(key.Style) * 0x9E3779B97F4A7C15U);
+  return std::hash<std::string_view>{}(key.Text) ^
+         (static_cast<std::size_t>(key.Style) * 0x9E3779B97F4A7C15U);
 }
 
 TextCache::TextCache(Document& document, const TextMeasurer& measurer)
@@ -166,7 +167,8 @@ void TextCache::EndLine(std::string_view line, std::uint16_t style) {
 
 float TextCache::Advance(std::string_view text, std::uint16_t style) const {
   float advance = 0;
-  for (std::size_t offset = 0; offset < text.size();) advance += CharacterAdvance(NextCharacter(text, offset), style);
+  for (std::size_t offset = 0; offset < text.size();)
+    advance += CharacterAdvance(NextCharacter(text, offset), style);
   return advance;
 }
 
