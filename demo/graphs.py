@@ -1,72 +1,42 @@
 """Graphs as the host renders them: axes, grid, curves and legends, in colour and in black and white."""
 import math
+import subprocess
 
-from metafile import CENTRE, DASHED, DOTTED, RIGHT, SOLID, Metafile
+from metafile import DASHED, DOTTED, SOLID, Metafile
 
 COLOURS = (0xC00000, 0x0040C0, 0x008040)
-GREY = 0xC8C8C8
+DASH_TYPES = {SOLID: 1, DASHED: 2, DOTTED: 3}  # as gnuplot counts them
 
 
 class Graph:
-    """A plot on a sheet of 1550 by 1000 tenths of a millimetre."""
-
-    WIDTH, HEIGHT = 1550, 1000
-    LEFT, TOP, RIGHT_EDGE, BOTTOM = 150, 60, 1510, 880
+    """A plot that gnuplot draws into an enhanced metafile."""
 
     def __init__(self, coloured, x_range, y_range, x_title, y_title):
         self._coloured = coloured
-        self._x, self._y = x_range, y_range
-        self.sheet = Metafile(self.WIDTH, self.HEIGHT)
-        self._paper()
-        self._titles(x_title, y_title)
-        self._curves = 0
-
-    def place(self, x, y):
-        """From values to the sheet; values beyond the axes stop at the frame."""
-        across = (x - self._x[0]) / (self._x[1] - self._x[0])
-        up = min(max((y - self._y[0]) / (self._y[1] - self._y[0]), 0), 1)
-        return (self.LEFT + across * (self.RIGHT_EDGE - self.LEFT), self.BOTTOM - up * (self.BOTTOM - self.TOP))
-
-    def _paper(self):
-        self.sheet.pen(0x000000, 3)
-        self.sheet.brush(0xFFFFF4 if self._coloured else 0xFFFFFF)
-        self.sheet.rectangle(self.LEFT, self.TOP, self.RIGHT_EDGE, self.BOTTOM)
-        self.sheet.font(28)
-        for k in range(11):
-            x = self._x[0] + k * (self._x[1] - self._x[0]) / 10
-            across = self.place(x, self._y[0])[0]
-            self._grid_line((across, self.TOP), (across, self.BOTTOM), 0 < k < 10)
-            self.sheet.text(across, self.BOTTOM + 40, f"{x:g}", CENTRE)
-        for k in range(9):
-            y = self._y[0] + k * (self._y[1] - self._y[0]) / 8
-            down = self.place(self._x[0], y)[1]
-            self._grid_line((self.LEFT, down), (self.RIGHT_EDGE, down), 0 < k < 8)
-            self.sheet.text(self.LEFT - 12, down + 10, f"{y:g}", RIGHT)
-
-    def _grid_line(self, start, end, wanted):
-        if wanted:
-            self.sheet.pen(GREY, 1, DOTTED)
-            self.sheet.polyline([start, end])
-
-    def _titles(self, x_title, y_title):
-        self.sheet.font(32, bold=True)
-        self.sheet.text((self.LEFT + self.RIGHT_EDGE) / 2, self.HEIGHT - 20, x_title, CENTRE)
-        self.sheet.font(32, bold=True, degrees=90)
-        self.sheet.text(40, (self.TOP + self.BOTTOM) / 2, y_title, CENTRE)
+        self._x = x_range
+        self._script = [
+            f"set terminal emf {'color' if coloured else 'monochrome'} size 1240,800 font 'Arial,16'",
+            f"set xrange [{x_range[0]}:{x_range[1]}]", f"set yrange [{y_range[0]}:{y_range[1]}]",
+            f"set xlabel '{x_title}'", f"set ylabel '{y_title}'", "set grid lc rgb '#C8C8C8'", "set key off",
+        ]
+        self._curves = []
 
     def curve(self, function, points=400):
         step = (self._x[1] - self._x[0]) / points
         xs = [self._x[0] + i * step for i in range(points + 1)]
-        self.sheet.pen(*pen_of(self._curves, self._coloured))
-        self.sheet.polyline([self.place(x, function(x)) for x in xs])
-        self._curves += 1
+        name = f"$curve{len(self._curves)}"
+        self._script += [f"{name} << END", *(f"{x} {function(x)}" for x in xs), "END"]
+        colour, width, dash = pen_of(len(self._curves), self._coloured)
+        self._curves.append(f"{name} with lines lw {width / 2} lc rgb '#{colour:06X}' dt {DASH_TYPES[dash]}")
 
     def cursor(self, x, name):
-        across = self.place(x, self._y[0])[0]
-        self.sheet.pen(0x808000 if self._coloured else 0, 2, DASHED)
-        self.sheet.polyline([(across, self.TOP), (across, self.BOTTOM)])
-        self.sheet.font(28)
-        self.sheet.text(across, self.TOP - 12, name, CENTRE)
+        colour = "#808000" if self._coloured else "#000000"
+        self._script += [f"set arrow from {x}, graph 0 to {x}, graph 1 nohead lc rgb '{colour}' dt 2",
+                         f"set label '{name}' at {x}, graph 1.03 center"]
+
+    def save(self, path):
+        script = [*self._script, f"set output '{path}'", "plot " + ", ".join(self._curves)]
+        subprocess.run(["gnuplot"], input="\n".join(script), text=True, check=True)
 
 
 def pen_of(curve, coloured):
@@ -112,7 +82,7 @@ def motion(coloured, shift, path):
     graph.curve(lambda t: (reference(t + 1) - reference(t - 1)) * 12 + 90 * math.sin(t / 2.4) * (20 < t < 175))
     graph.cursor(58, "A")
     graph.cursor(134, "B")
-    graph.sheet.save(path)
+    graph.save(path)
 
 
 def gain(coloured, path):
@@ -120,11 +90,11 @@ def gain(coloured, path):
     graph.curve(lambda x: 10 - 18 * (x - 1) + 24 * math.exp(-((x - 2.93) / 0.05) ** 2)
                 - 16 * math.exp(-((x - 2.8) / 0.04) ** 2))
     graph.cursor(2.93, "A")
-    graph.sheet.save(path)
+    graph.save(path)
 
 
 def phase(coloured, path):
     graph = Graph(coloured, (1, 4), (-360, 40), "Frequency [10^x Hz]", "Phase [deg]")
     graph.curve(lambda x: -90 - 40 * (x - 1) - 80 / (1 + math.exp(-(x - 2.93) * 60)) + 70 / (1 + math.exp(-(x - 2.8) * 60)))
     graph.cursor(2.93, "A")
-    graph.sheet.save(path)
+    graph.save(path)

@@ -25,7 +25,7 @@ EDITIONS = {number: Edition(number, rf"SOFTWARE\Korvane\Tessaline\Brenmark\{name
             for number, name, base in ((1, "Quillon", "SystemPath"), (2, "Rotavon", "SystemPath"), (4, "Quillex", "SavePath"))}
 
 OVERLAPPING = ("Trace", "Sim", "SimEx")  # modes whose data sets can lie over one another
-OVERLAPPED_SETS = 3
+OVERLAPPED_SETS = {"Trace": 3, "Sim": 3, "SimEx": 11}
 
 # For each mode an edition that accepts it, and what writes its data files.
 MODES = {

@@ -18,7 +18,7 @@ def prepared_host(told):
     shutil.rmtree(folder, ignore_errors=True)
     host = Host(folder / "host")
     host.prepare()
-    host.write_data(told.mode, OVERLAPPED_SETS if told.overlap else 0)
+    host.write_data(told.mode, OVERLAPPED_SETS[told.mode] if told.overlap or told.mode == "SimEx" else 0)
     if told.cover:
         host.write_cover()
     return host

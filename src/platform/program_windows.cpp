@@ -21,18 +21,21 @@ class BusyPointer {
   ~BusyPointer() { QApplication::restoreOverrideCursor(); }
 };
 
-std::shared_ptr<const Document> ComposeForDesk(ActiveReport& report) {
+// `title` names the document where it is saved or printed.
+std::shared_ptr<const Document> ComposeForDesk(ActiveReport& report, const std::string& title) {
   const BusyPointer busy;
   const QtTextMeasurer measurer;
-  return std::make_shared<const Document>(Compose(report, PaperOfTheDesk(), measurer));
+  auto document = std::make_shared<Document>(Compose(report, PaperOfTheDesk(), measurer));
+  if (!title.empty()) document->Title = title;
+  return document;
 }
 
-PreviewSetup SetupOf(const ActiveReport& report, const PrintOptions& options) {
+PreviewSetup SetupOf(const ActiveReport& report, const FileHeader& data) {
   return {.Caption = QString::fromStdString(report.Caption),
           .Tools = report.Tools,
           .ContentsVisible = report.TOCVisible,
           .ContentsWidth = report.TOCWidth,
-          .Author = QString::fromStdString(options.DrowCorp)};
+          .Author = QString::fromStdString(data.MadeBy)};
 }
 
 }  // namespace
@@ -56,8 +59,10 @@ void QtProgramWindows::ShowPrintSetting() {
 void QtProgramWindows::ShowMasterReport() {
   report_ = std::make_unique<rptTarvis>(ReportContext{run_, pictures_}, CreateFunctionReport, *this);
   run_.Session.MasterReport = report_.get();
-  const std::shared_ptr<const Document> document = ComposeForDesk(*report_);  // fills caption and tools, too
-  preview_ = std::make_unique<PreviewWindow>(document, SetupOf(*report_, run_.Options));
+  const std::string title = run_.Session.ActiveHeader.TitleText;  // before overlapped data sets add to it
+  const std::shared_ptr<const Document> document =
+      ComposeForDesk(*report_, title);  // fills caption and tools, too
+  preview_ = std::make_unique<PreviewWindow>(document, SetupOf(*report_, run_.Header));
   ShowPreview();
 }
 
