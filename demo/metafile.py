@@ -38,9 +38,6 @@ class Metafile:
     def pen(self, rgb, width=1, style=SOLID):
         self._select_new(38, struct.pack("<IiiI", style, width, 0, _colour(rgb)))
 
-    def brush(self, rgb):
-        self._select_new(39, struct.pack("<III", 0, _colour(rgb), 0))
-
     def font(self, height, bold=False, degrees=0):
         log_font = struct.pack("<5i8B", -height, 0, degrees * 10, degrees * 10, 700 if bold else 400, 0, 0, 0, 0, 0, 0, 0, 0)
         face = "Arial".encode("utf-16-le").ljust(64, b"\0")
@@ -50,9 +47,6 @@ class Metafile:
     def polyline(self, points):
         body = b"".join(struct.pack("<hh", round(x), round(y)) for x, y in points)
         self._add(87, struct.pack("<4iI", 0, 0, *self._size, len(points)) + body)
-
-    def rectangle(self, left, top, right, bottom):
-        self._add(43, struct.pack("<4i", left, top, right, bottom))
 
     def text(self, x, y, words, align=LEFT, rgb=0):
         self._add(22, struct.pack("<I", align | BASELINE))

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "support/golden.h"
 #include "support/report_run.h"
 
 namespace tarvis {
@@ -51,6 +52,12 @@ TEST_F(SwitchList, TwoDigitGroupsMakeAParameterLineAndTwoRows) {
   EXPECT_EQ(BoxOf(document, "txtPos1"), (Rect{990, Row + 293 + 570, 855, 570}));
   EXPECT_THAT(PrintedOf(document, "txtPos1")[0].Texts, ElementsAre("2, 3"));
   EXPECT_THAT(PrintedOf(document, "txtPos2"), IsEmpty());
+}
+
+TEST_F(SwitchList, ReadsAsAPage) {
+  Add("Pn000", {Digit("0", "1", "Direction\r\n1:Clockwise"), Digit("1", "2", "Control Method"), NoDigit, NoDigit});
+  Add("Pn001", {NoDigit, NoDigit, NoDigit, NoDigit});
+  ExpectGolden("user_switch", Dump(Compose()));
 }
 
 TEST_F(SwitchList, PrintsDescriptionsWhole) {

@@ -6,6 +6,9 @@
 
 namespace tarvis {
 
+// The oldest file layout whose switches tell their digits.
+inline constexpr int SpecWithDigits = 3;
+
 // "1, 2" for First 1 and Count 2; empty for Count 0. A First or Count that is no number throws RunTimeFailure
 // and leaves the field as it was; a position above the 16-bit range throws and leaves the part before it.
 void SetDigitList(const SwitchDigit& digit, Field& field);

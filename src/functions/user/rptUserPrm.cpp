@@ -10,8 +10,6 @@ namespace tarvis {
 namespace {
 
 constexpr float RowTop = 10;
-// The oldest file layout whose switches tell their digits.
-constexpr int SpecWithDigits = 3;
 
 // Geometry enters the running x and y as whole twips, halves to the even one.
 std::int32_t Whole(float twips) {

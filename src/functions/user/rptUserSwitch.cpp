@@ -6,8 +6,6 @@ namespace tarvis {
 namespace {
 
 constexpr float RowTop = 8;
-// The oldest file layout whose switches tell their digits.
-constexpr int SpecWithDigits = 3;
 
 }  // namespace
 
