@@ -46,7 +46,7 @@ struct FileKind {
   std::string (*Contents)(const PrintRun& run);
 };
 
-constexpr std::array kKinds = {
+constexpr std::array Kinds = {
     FileKind{"PrintOption", ".ToT", false, ReadPrintOptionsFile, OptionsContents},
     FileKind{"User", ".tmp", false, ReadUserFile, UserContents},
     FileKind{"UPWizard", ".tmp", false, ReadUPWizardFile, UPWizardContents},
@@ -73,8 +73,8 @@ bool IsOfKind(std::string_view name, const FileKind& kind) {
 
 FileCheck CheckFile(std::string_view path, CodePage page) {
   const std::string name(path.substr(path.find_last_of("\\/") + 1));
-  const auto* kind = std::ranges::find_if(kKinds, [&](const FileKind& each) { return IsOfKind(name, each); });
-  if (kind == kKinds.end()) return {.IsGood = false, .Line = name + ": not the name of a host file"};
+  const auto* kind = std::ranges::find_if(Kinds, [&](const FileKind& each) { return IsOfKind(name, each); });
+  if (kind == Kinds.end()) return {.IsGood = false, .Line = name + ": not the name of a host file"};
   NoDesktop desktop;
   PrintRun run(desktop);
   run.Page = std::move(page);

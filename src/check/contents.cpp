@@ -31,8 +31,9 @@ std::string CursorRows(int count) {
 }
 
 // A channel without a name isn't used.
-std::string Channels(std::initializer_list<const TraceItem*> items) {
-  const auto used = std::ranges::count_if(items, [](const TraceItem* item) { return !item->Name.empty(); });
+std::string Channels(const Recording& recording) {
+  const auto used =
+      std::ranges::count_if(recording.Channels(), [](const TraceItem* item) { return !item->Name.empty(); });
   return Counted(static_cast<int>(used), "channel", "channels");
 }
 
@@ -72,10 +73,8 @@ std::string UPWizardContents(const PrintRun& run) {
 
 std::string TraceContents(const PrintRun& run) {
   const TraceData& trace = run.Trace;
-  return Graph(trace.TraceGraph) + ", " + CursorRows(trace.CursolSelect) + ", " +
-         Channels({&trace.DataTrace1, &trace.DataTrace2, &trace.DataTrace3, &trace.IOTrace1, &trace.IOTrace2,
-                   &trace.IOTrace3}) +
-         ", " + Overlap(trace.OverlapMode, trace.OverlapNum) + ", " + Parameters(run);
+  return Graph(trace.TraceGraph) + ", " + CursorRows(trace.CursolSelect) + ", " + Channels(trace) + ", " +
+         Overlap(trace.OverlapMode, trace.OverlapNum) + ", " + Parameters(run);
 }
 
 std::string RealTraceContents(const PrintRun& run) {
@@ -91,10 +90,8 @@ std::string MechaContents(const PrintRun& run) {
 
 std::string SimContents(const PrintRun& run) {
   const SimData& sim = run.Sim;
-  return Graph(sim.SimGraph) + ", " + CursorRows(sim.CursolSelect) + ", " +
-         Channels({&sim.DataTrace1, &sim.DataTrace2, &sim.DataTrace3, &sim.IOTrace1, &sim.IOTrace2,
-                   &sim.IOTrace3}) +
-         ", pattern '" + Excerpt(sim.PatternSetting.PatternName) + "' of " +
+  return Graph(sim.SimGraph) + ", " + CursorRows(sim.CursolSelect) + ", " + Channels(sim) + ", pattern '" +
+         Excerpt(sim.PatternSetting.PatternName) + "' of " +
          Counted(sim.PatternSetting.PatternCount, "value", "values") + ", " +
          Overlap(sim.OverlapMode, sim.OverlapNum) + ", " +
          Counted(sim.CmpUserNum, "compared parameter", "compared parameters") + ", " + Parameters(run);

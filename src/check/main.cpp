@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr const char* kUsage =
+constexpr const char* Usage =
     "Usage: tarvis-check [--code-page NUMBER] FILE...\n"
     "Reads files that the host wrote for printing and tells in one line for each what it holds or what is "
     "wrong.\n"
@@ -39,7 +39,7 @@ int main(int argc, char** argv) {
       first += 2;
     }
     if (first >= end || std::strncmp(*first, "--", 2) == 0) {
-      std::cerr << kUsage;
+      std::cerr << Usage;
       return 1;
     }
     return CheckFiles(codePage, first, end);

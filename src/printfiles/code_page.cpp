@@ -10,7 +10,7 @@
 namespace tarvis {
 namespace {
 
-constexpr UChar32 kReplacement = 0xFFFD;
+constexpr UChar32 Replacement = 0xFFFD;
 
 void Expect(UErrorCode error) {
   if (U_FAILURE(error))
@@ -28,7 +28,7 @@ std::u16string Utf8ToUnits(std::string_view text) {
   std::int32_t length = 0;
   UErrorCode error = U_ZERO_ERROR;
   u_strFromUTF8WithSub(units.data(), Length(units.size()), &length, text.data(), Length(text.size()),
-                       kReplacement, nullptr, &error);
+                       Replacement, nullptr, &error);
   Expect(error);
   units.resize(static_cast<std::size_t>(length));
   return units;
@@ -39,7 +39,7 @@ std::string UnitsToUtf8(std::u16string_view units) {
   std::int32_t length = 0;
   UErrorCode error = U_ZERO_ERROR;
   u_strToUTF8WithSub(text.data(), Length(text.size()), &length, units.data(), Length(units.size()),
-                     kReplacement, nullptr, &error);
+                     Replacement, nullptr, &error);
   Expect(error);
   text.resize(static_cast<std::size_t>(length));
   return text;

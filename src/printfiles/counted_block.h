@@ -27,7 +27,7 @@ class CountedBlock {
       value.FieldsAndRest(state->Number);
       state->Rows.Resize(state->Number);
       state->CountSeen = true;
-      return kAccepted;
+      return Accepted;
     };
   }
 
@@ -62,7 +62,7 @@ class CountedBlock {
     Refusal Refuse() const {
       if (!CountSeen) return "stands before '" + CountKey + "'";
       if (Index > Rows.HighestIndex() - 1) return "one more than '" + CountKey + "' announces";
-      return kAccepted;
+      return Accepted;
     }
   };
 
@@ -80,7 +80,7 @@ class CountedBlock {
       }
       fill(state->Rows[state->Index], value);
       if (rules.Moves) ++state->Index;
-      return kAccepted;
+      return Accepted;
     };
   }
 

@@ -5,8 +5,8 @@
 namespace tarvis {
 namespace {
 
-constexpr std::array kMonths = {"January", "February", "March",     "April",   "May",      "June",
-                                "July",    "August",   "September", "October", "November", "December"};
+constexpr std::array Months = {"January", "February", "March",     "April",   "May",      "June",
+                               "July",    "August",   "September", "October", "November", "December"};
 
 std::string Padded(int number, std::size_t width) {
   const std::string digits = std::to_string(number);
@@ -21,7 +21,7 @@ std::string DateTimeText(const std::tm& time) {
 }
 
 std::string LongDateText(const std::tm& time) {
-  return std::string(kMonths.at(static_cast<std::size_t>(time.tm_mon))) + " " + Padded(time.tm_mday, 2) +
+  return std::string(Months.at(static_cast<std::size_t>(time.tm_mon))) + " " + Padded(time.tm_mday, 2) +
          ", " + Padded(time.tm_year + 1900, 4);
 }
 

@@ -5,7 +5,7 @@
 namespace tarvis {
 namespace {
 
-constexpr std::size_t kLongest = 60;
+constexpr std::size_t Longest = 60;
 
 bool IsContinuation(char c) {
   return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
@@ -17,13 +17,13 @@ bool IsControl(char c) {
 }  // namespace
 
 std::string Excerpt(std::string_view text) {
-  const bool isLong = text.size() > kLongest;
+  const bool isLong = text.size() > Longest;
   if (isLong) {
-    std::size_t end = kLongest;
+    std::size_t end = Longest;
     while (end > 0 && IsContinuation(text[end])) --end;
     text = text.substr(0, end);
   }
-  constexpr std::string_view kHexDigits = "0123456789ABCDEF";
+  constexpr std::string_view HexDigits = "0123456789ABCDEF";
   std::string shown;
   for (const char c : text) {
     if (!IsControl(c)) {
@@ -31,7 +31,7 @@ std::string Excerpt(std::string_view text) {
       continue;
     }
     const auto code = static_cast<unsigned char>(c);
-    shown += {'\\', 'x', kHexDigits[code >> 4], kHexDigits[code & 15]};
+    shown += {'\\', 'x', HexDigits[code >> 4], HexDigits[code & 15]};
   }
   return isLong ? shown + "..." : shown;
 }

@@ -5,7 +5,7 @@
 namespace tarvis {
 namespace {
 
-constexpr std::int16_t kOldestFileSpec = 3;
+constexpr std::int16_t OldestFileSpec = 3;
 
 KeyTable OtherHeaderKeys(FileHeader& header) {
   return {
@@ -24,8 +24,8 @@ KeyTable HeaderKeys(FileHeader& header) {
 KeyTable HeaderKeysOfNewFiles(FileHeader& header) {
   const LineHandler newFileSpec = [&header](LineValue& value) -> Refusal {
     value.FieldsAndRest(header.FileSpec);
-    if (header.FileSpec < kOldestFileSpec) return "below " + std::to_string(kOldestFileSpec);
-    return kAccepted;
+    if (header.FileSpec < OldestFileSpec) return "below " + std::to_string(OldestFileSpec);
+    return Accepted;
   };
   return OtherHeaderKeys(header) + KeyTable{{"File-Spec", newFileSpec}};
 }

@@ -10,7 +10,7 @@
 namespace tarvis {
 namespace {
 
-constexpr std::int32_t kLoadFailed = -1;
+constexpr std::int32_t LoadFailed = -1;
 
 std::optional<std::string> ReadBytes(std::string_view path) {
   if (!FileExists(path)) return std::nullopt;
@@ -74,7 +74,7 @@ std::int32_t LoadLines(PrintRun& run, std::string_view path) {
   PrintSession& session = run.Session;
   LoadBytes(run, path, {});
   session.Lines.Clear();
-  session.LineCount = kLoadFailed;
+  session.LineCount = LoadFailed;
   session.Diagnosis = session.LinesFile + ": can't be read";
   return session.LineCount;
 }

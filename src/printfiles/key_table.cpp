@@ -7,14 +7,14 @@
 namespace tarvis {
 namespace {
 
-constexpr std::int32_t kMostLines = 32768;  // the readers count lines in 16 bits
+constexpr std::int32_t MostLines = 32768;  // the readers count lines in 16 bits
 
 Refusal TakeLine(const KeyTable& keys, std::string_view key, LineValue value) {
   const LineHandler* handler = keys.Find(key);
   if (handler == nullptr) return "unknown key '" + Excerpt(key) + "'";
   Refusal refusal = (*handler)(value);
   if (refusal) return std::string(key) + ": " + *refusal;
-  return kAccepted;
+  return Accepted;
 }
 
 }  // namespace
@@ -31,9 +31,9 @@ KeyTable operator+(KeyTable left, KeyTable right) {
 
 bool ReadLines(PrintRun& run, const KeyTable& keys) {
   PrintSession& session = run.Session;
-  if (session.LineCount > kMostLines) {
+  if (session.LineCount > MostLines) {
     throw RunTimeFailure("overflow: more than 32768 lines",
-                         {.File = session.LinesFile, .Line = kMostLines + 1, .Key = {}, .Text = {}});
+                         {.File = session.LinesFile, .Line = MostLines + 1, .Key = {}, .Text = {}});
   }
   for (std::int32_t index = 0; index < session.LineCount; ++index) {
     std::string_view value = session.Lines[index];
@@ -53,7 +53,7 @@ bool ReadLines(PrintRun& run, const KeyTable& keys) {
 
 LineHandler OnlyAbove(std::int16_t bound, const std::int16_t& number, LineHandler line) {
   return [bound, &number, line = std::move(line)](LineValue& value) -> Refusal {
-    return number > bound ? line(value) : kAccepted;
+    return number > bound ? line(value) : Accepted;
   };
 }
 

@@ -19,7 +19,7 @@ struct PrintRun;
 
 // Why a line is refused, in words; nothing if it is accepted.
 using Refusal = std::optional<std::string>;
-inline constexpr std::nullopt_t kAccepted = std::nullopt;
+inline constexpr std::nullopt_t Accepted = std::nullopt;
 
 using LineHandler = std::function<Refusal(LineValue&)>;
 
@@ -52,7 +52,7 @@ template <typename... Parts>
 LineHandler Fields(Parts&&... parts) {
   return [kept = std::tuple<Parts...>(std::forward<Parts>(parts)...)](LineValue& value) -> Refusal {
     std::apply([&value](auto&&... each) { value.Fields(each...); }, kept);
-    return kAccepted;
+    return Accepted;
   };
 }
 
@@ -61,7 +61,7 @@ template <typename... Parts>
 LineHandler FieldsAndRest(Parts&&... parts) {
   return [kept = std::tuple<Parts...>(std::forward<Parts>(parts)...)](LineValue& value) -> Refusal {
     std::apply([&value](auto&&... each) { value.FieldsAndRest(each...); }, kept);
-    return kAccepted;
+    return Accepted;
   };
 }
 

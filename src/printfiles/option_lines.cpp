@@ -7,8 +7,8 @@ namespace tarvis {
 namespace {
 
 // File versions: 3 added the last element of TraceOption, 4 the last three of SimOption.
-constexpr std::int16_t kNoTraceDetail = 2;
-constexpr std::int16_t kNoSimComparison = 3;
+constexpr std::int16_t NoTraceDetail = 2;
+constexpr std::int16_t NoSimComparison = 3;
 
 std::string Written(const std::string& text) {
   return text;
@@ -53,7 +53,7 @@ OptionLine Header(std::string_view key, HeaderOptions& header) {
 }
 
 OptionLine AcceptedOnly(std::string_view key) {
-  return {key, [](LineValue&) { return kAccepted; }, [] { return std::string(); }};
+  return {key, [](LineValue&) { return Accepted; }, [] { return std::string(); }};
 }
 
 // Reads the elements of `numbers` from `first` to `last`, counted from 1.
@@ -70,20 +70,20 @@ std::pair<OptionLine, OptionLine> TraceAndSimOption(PrintOptions& options) {
   OptionLine trace = List("TraceOption", options.TraceOption);
   trace.Read = [&options, element9](LineValue& value) -> Refusal {
     ReadElements(options.TraceOption, 1, 8, value);
-    if (options.FileSpec <= kNoTraceDetail) return kAccepted;
+    if (options.FileSpec <= NoTraceDetail) return Accepted;
     *element9 = value.Field();
     if (!element9->empty()) options.TraceOption[8] = StrictInteger(*element9);
-    return kAccepted;
+    return Accepted;
   };
   OptionLine sim = List("SimOption", options.SimOption);
   sim.Read = [&options, element9](LineValue& value) -> Refusal {
     ReadElements(options.SimOption, 1, 10, value);
-    if (options.FileSpec <= kNoSimComparison) {
+    if (options.FileSpec <= NoSimComparison) {
       options.SimOption[10] = options.SimOption[11] = options.SimOption[12] = 1;
     } else if (!element9->empty()) {
       ReadElements(options.SimOption, 11, 13, value);
     }
-    return kAccepted;
+    return Accepted;
   };
   return {trace, sim};
 }
@@ -108,7 +108,7 @@ struct AddresseeKeys {
   std::string_view Adr;
 };
 
-constexpr std::array<AddresseeKeys, 3> kAddresseeKeys = {{
+constexpr std::array<AddresseeKeys, 3> KeysOfAddressees = {{
     {"User1Title", "User1Corp", "User1Sect", "User1Name", "User1Adr"},
     {"User2Title", "User2Corp", "User2Sect", "User2Name", "User2Adr"},
     {"User3Title", "User3Corp", "User3Sect", "User3Name", "User3Adr"},
@@ -157,7 +157,7 @@ std::vector<OptionLine> OptionLines(PrintOptions& options) {
   };
   AddSender(lines, options);
   for (std::size_t block = 0; block < options.User.size(); ++block) {
-    AddAddressee(lines, kAddresseeKeys[block], options.User[block]);
+    AddAddressee(lines, KeysOfAddressees[block], options.User[block]);
   }
   lines.push_back(Whole("GreetingCnt", options.GreetingCnt));
   lines.push_back(Whole("Greeting", Escaped{options.Greeting}));

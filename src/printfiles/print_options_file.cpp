@@ -11,7 +11,7 @@
 namespace tarvis {
 namespace {
 
-constexpr std::int16_t kFileSpec = 4;
+constexpr std::int16_t FileSpec = 4;
 
 HeaderOptions DefaultHeader(const char* title) {
   return {.Title = 1, .ModelsInfo = 1, .PrintDate = 1, .FileName = 1, .Pages = 1, .TitleText = title};
@@ -40,7 +40,7 @@ bool ReadPrintOptionsFile(PrintRun& run) {
 
 void DefaultPrintOptions(PrintRun& run) {
   PrintOptions options;
-  options.FileSpec = kFileSpec;
+  options.FileSpec = FileSpec;
   options.FileType = "PrintOption TmpFile For Print";
   options.MadeBy = "Quillex Ver2.00";
   options.DateTime = DateTimeText(run.Now());
@@ -60,7 +60,7 @@ bool WritePrintOptionsFile(PrintRun& run, std::string_view path) {
   std::error_code ignored;  // a file that can't be removed can't be opened below
   if (FileExists(run.Session.SystemFolder + "PrintOption.ToT"))
     std::filesystem::remove(NativePath(path), ignored);
-  run.Options.FileSpec = kFileSpec;
+  run.Options.FileSpec = FileSpec;
   std::ofstream file(NativePath(path), std::ios::binary | std::ios::trunc);
   for (const OptionLine& line : OptionLines(run.Options)) {
     file << line.Key << ',' << run.Page.FromUtf8(line.Write()) << "\r\n";

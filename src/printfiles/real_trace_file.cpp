@@ -15,9 +15,6 @@ KeyTable RealTraceKeys(RealTraceData& trace) {
       {"RealTraceGraph", Rest(trace.RealTraceGraph)},
       {"RealTraceNoteC", Rest(trace.RealTraceNoteC)},
       {"RealTraceNote", Rest(trace.RealTraceNote)},
-      {"CursolSelect", Rest(trace.CursolSelect)},
-      {"CursolInfo1", OnlyAbove(0, trace.CursolSelect, CursorLine(trace.CursolInfo1))},
-      {"CursolInfo2", OnlyAbove(1, trace.CursolSelect, CursorLine(trace.CursolInfo2))},
       {"StartTime", FieldsAndRest(trace.StartTime.Name, trace.StartTime.Value)},
       {"SamplingCycle", FieldsAndRest(trace.SamplingCycle.Name, trace.SamplingCycle.Value)},
       {"DispData", Fields(trace.DispData.Name, trace.DispData.Value)},
@@ -27,8 +24,8 @@ KeyTable RealTraceKeys(RealTraceData& trace) {
 }  // namespace
 
 bool ReadRealTraceFile(PrintRun& run) {
-  return ReadLines(run,
-                   HeaderKeysOfNewFiles(run.Header) + RealTraceKeys(run.RealTrace) + UserBlockKeys(run.User));
+  return ReadLines(run, HeaderKeysOfNewFiles(run.Header) + RealTraceKeys(run.RealTrace) +
+                            CursorKeys(run.RealTrace) + UserBlockKeys(run.User));
 }
 
 }  // namespace tarvis

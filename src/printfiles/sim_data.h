@@ -53,24 +53,13 @@ struct MechaModel {
 
 // A read empties the record but for MotorType, CmpTime, CmpUserNum, CmpUser and all Values beyond the first
 // of a PatternRow or PointList: these survive from the file before as long as no line overwrites them.
-struct SimData {
+struct SimData : Recording {
   std::string SimGraphC;
   std::string SimGraph;
   std::string SimNoteC;
   std::string SimNote;
   std::string SimIONoteC;
   std::string SimIONote;
-  std::int16_t CursolSelect = 0;  // how many cursor rows print
-  CursorRow CursolInfo1;
-  CursorRow CursolInfo2;
-  std::int16_t OverlapMode = 0;  // the session's field of this name decides, not this one
-  std::int16_t OverlapNum = 0;
-  TraceItem DataTrace1;
-  TraceItem DataTrace2;
-  TraceItem DataTrace3;
-  TraceItem IOTrace1;
-  TraceItem IOTrace2;
-  TraceItem IOTrace3;
   std::int16_t MotorType = 0;  // 1 selects the short motor table
   BoundedArray<CmpTimeRow, 0, 10> CmpTime;
   std::int16_t CmpUserNum = 0;

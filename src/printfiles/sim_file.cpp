@@ -12,10 +12,10 @@
 namespace tarvis {
 namespace {
 
-constexpr std::array kPatternRows = {&SimData::StartTime,    &SimData::AccTime,    &SimData::RunTime,
-                                     &SimData::DecTime,      &SimData::EndRefTime, &SimData::AccOffsetSpd,
-                                     &SimData::DecOffsetSpd, &SimData::MaxSpd};
-constexpr std::array kPointLists = {&SimData::StartPointTime, &SimData::EndTime, &SimData::ArrivalSpeed};
+constexpr std::array PatternRows = {&SimData::StartTime,    &SimData::AccTime,    &SimData::RunTime,
+                                    &SimData::DecTime,      &SimData::EndRefTime, &SimData::AccOffsetSpd,
+                                    &SimData::DecOffsetSpd, &SimData::MaxSpd};
+constexpr std::array PointLists = {&SimData::StartPointTime, &SimData::EndTime, &SimData::ArrivalSpeed};
 
 // Values beyond the first survive a read.
 template <typename List>
@@ -31,8 +31,8 @@ void StartOver(SimData& sim) {
   fresh.CmpTime = std::move(sim.CmpTime);
   fresh.CmpUserNum = sim.CmpUserNum;
   fresh.CmpUser = std::move(sim.CmpUser);
-  for (const auto row : kPatternRows) KeepLaterValues(fresh.*row, sim.*row);
-  for (const auto list : kPointLists) KeepLaterValues(fresh.*list, sim.*list);
+  for (const auto row : PatternRows) KeepLaterValues(fresh.*row, sim.*row);
+  for (const auto list : PointLists) KeepLaterValues(fresh.*list, sim.*list);
   sim = std::move(fresh);
 }
 
@@ -43,7 +43,7 @@ LineHandler ValuesLine(List& list, const std::int16_t& patternCount) {
   return [&list, &patternCount](LineValue& value) -> Refusal {
     value.Fields(list.Name, list.Unit);
     for (int index = 0; index < patternCount; ++index) value.Fields(list.Values[index]);
-    return kAccepted;
+    return Accepted;
   };
 }
 
@@ -51,11 +51,11 @@ LineHandler ValuesLine(List& list, const std::int16_t& patternCount) {
 // over.
 LineHandler CmpTimeLine(SimData& sim, const std::int16_t& overlapNum) {
   return [&sim, &overlapNum, row = std::make_shared<int>(0)](LineValue& value) -> Refusal {
-    if (*row >= overlapNum) return kAccepted;
+    if (*row >= overlapNum) return Accepted;
     CmpTimeRow& data = sim.CmpTime[*row];
     value.Fields(data.FileName, data.SettingTime, data.ControlMode);
     ++*row;
-    return kAccepted;
+    return Accepted;
   };
 }
 
@@ -66,23 +66,9 @@ void FillCmpUser(CmpUserRow& row, LineValue& value) {
 
 KeyTable GraphKeys(SimData& sim) {
   return {
-      {"SimGraphC", Rest(sim.SimGraphC)},
-      {"SimGraph", Rest(sim.SimGraph)},
-      {"SimNoteC", Rest(sim.SimNoteC)},
-      {"SimNote", Rest(sim.SimNote)},
-      {"SimIONoteC", Rest(sim.SimIONoteC)},
-      {"SimIONote", Rest(sim.SimIONote)},
-      {"CursolSelect", Rest(sim.CursolSelect)},
-      {"CursolInfo1", OnlyAbove(0, sim.CursolSelect, CursorLine(sim.CursolInfo1))},
-      {"CursolInfo2", OnlyAbove(1, sim.CursolSelect, CursorLine(sim.CursolInfo2))},
-      {"OverlapMode", Rest(sim.OverlapMode)},
-      {"OverlapNum", Rest(sim.OverlapNum)},
-      {"DataTrace1", ItemLine(sim.DataTrace1)},
-      {"DataTrace2", ItemLine(sim.DataTrace2)},
-      {"DataTrace3", ItemLine(sim.DataTrace3)},
-      {"I/Otrace1", ItemLine(sim.IOTrace1)},
-      {"I/Otrace2", ItemLine(sim.IOTrace2)},
-      {"I/Otrace3", ItemLine(sim.IOTrace3)},
+      {"SimGraphC", Rest(sim.SimGraphC)},   {"SimGraph", Rest(sim.SimGraph)},
+      {"SimNoteC", Rest(sim.SimNoteC)},     {"SimNote", Rest(sim.SimNote)},
+      {"SimIONoteC", Rest(sim.SimIONoteC)}, {"SimIONote", Rest(sim.SimIONote)},
   };
 }
 
@@ -164,8 +150,9 @@ KeyTable MechanicsKeys(SimData& sim) {
 bool ReadSimFile(PrintRun& run) {
   SimData& sim = run.Sim;
   StartOver(sim);
-  return ReadLines(run, HeaderKeys(run.Header) + GraphKeys(sim) + ComparisonKeys(sim, run.Session) +
-                            PatternKeys(sim) + ReferenceKeys(sim) + MotorKeys(sim) + MechanicsKeys(sim) +
+  return ReadLines(run, HeaderKeys(run.Header) + GraphKeys(sim) + RecordingKeys(sim) +
+                            ComparisonKeys(sim, run.Session) + PatternKeys(sim) + ReferenceKeys(sim) +
+                            MotorKeys(sim) + MechanicsKeys(sim) +
                             KeyTable{{"GetDataDate", Rest(run.Session.DataDate)}} + UserBlockKeys(run.User));
 }
 

@@ -11,8 +11,8 @@
 namespace tarvis {
 namespace {
 
-constexpr std::string_view kLineBreak = "\r\n";
-constexpr std::string_view kEscape = "\\r\\n";
+constexpr std::string_view LineBreak = "\r\n";
+constexpr std::string_view Escape = "\\r\\n";
 
 std::string ReplaceAll(std::string_view text, std::string_view what, std::string_view with) {
   std::string result;
@@ -54,13 +54,13 @@ std::string_view NextTextLine(std::string_view& text) {
 }
 
 std::string EscapeNewlines(std::string_view text) {
-  return ReplaceAll(text, kLineBreak, kEscape);
+  return ReplaceAll(text, LineBreak, Escape);
 }
 std::string UnescapeNewlines(std::string_view text) {
-  return ReplaceAll(text, kEscape, kLineBreak);
+  return ReplaceAll(text, Escape, LineBreak);
 }
 std::string NewlinesToBlanks(std::string_view text) {
-  return ReplaceAll(text, kLineBreak, " ");
+  return ReplaceAll(text, LineBreak, " ");
 }
 
 std::int16_t CountLineBreaks(std::string_view text) {

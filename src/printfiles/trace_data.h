@@ -1,6 +1,7 @@
 // One trace measurement, as Trace.tmp and its numbered companions describe it.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 
@@ -27,14 +28,8 @@ struct NameValue {
   std::string Value;
 };
 
-// Emptied by each read. All texts are finished by the host; pictures are full paths.
-struct TraceData {
-  std::string TraceGraphC;
-  std::string TraceGraph;
-  std::string TraceNoteC;
-  std::string TraceNote;
-  std::string TraceIONoteC;
-  std::string TraceIONote;
+// The curves of a trace or a simulation: what its cursors read, and its six channels.
+struct Recording {
   std::int16_t CursolSelect = 0;  // how many cursor rows print; 0 hides the cursor table
   CursorRow CursolInfo1;
   CursorRow CursolInfo2;
@@ -46,6 +41,21 @@ struct TraceData {
   TraceItem IOTrace1;
   TraceItem IOTrace2;
   TraceItem IOTrace3;
+
+  // Data traces 1 to 3, then I/O traces 1 to 3; they belong to this record.
+  std::array<const TraceItem*, 6> Channels() const {
+    return {&DataTrace1, &DataTrace2, &DataTrace3, &IOTrace1, &IOTrace2, &IOTrace3};
+  }
+};
+
+// Emptied by each read. All texts are finished by the host; pictures are full paths.
+struct TraceData : Recording {
+  std::string TraceGraphC;
+  std::string TraceGraph;
+  std::string TraceNoteC;
+  std::string TraceNote;
+  std::string TraceIONoteC;
+  std::string TraceIONote;
   NameValue TriggerType;
   NameValue TriggerLevel;
   NameValue EdgeType;

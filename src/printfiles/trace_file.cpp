@@ -21,23 +21,9 @@ KeyTable TriggerKeys(TraceData& trace) {
 
 KeyTable TraceKeys(TraceData& trace) {
   return {
-      {"TraceGraphC", Rest(trace.TraceGraphC)},
-      {"TraceGraph", Rest(trace.TraceGraph)},
-      {"TraceNoteC", Rest(trace.TraceNoteC)},
-      {"TraceNote", Rest(trace.TraceNote)},
-      {"TraceIONoteC", Rest(trace.TraceIONoteC)},
-      {"TraceIONote", Rest(trace.TraceIONote)},
-      {"CursolSelect", Rest(trace.CursolSelect)},
-      {"CursolInfo1", OnlyAbove(0, trace.CursolSelect, CursorLine(trace.CursolInfo1))},
-      {"CursolInfo2", OnlyAbove(1, trace.CursolSelect, CursorLine(trace.CursolInfo2))},
-      {"OverlapMode", Rest(trace.OverlapMode)},
-      {"OverlapNum", Rest(trace.OverlapNum)},
-      {"DataTrace1", ItemLine(trace.DataTrace1)},
-      {"DataTrace2", ItemLine(trace.DataTrace2)},
-      {"DataTrace3", ItemLine(trace.DataTrace3)},
-      {"I/Otrace1", ItemLine(trace.IOTrace1)},
-      {"I/Otrace2", ItemLine(trace.IOTrace2)},
-      {"I/Otrace3", ItemLine(trace.IOTrace3)},
+      {"TraceGraphC", Rest(trace.TraceGraphC)},   {"TraceGraph", Rest(trace.TraceGraph)},
+      {"TraceNoteC", Rest(trace.TraceNoteC)},     {"TraceNote", Rest(trace.TraceNote)},
+      {"TraceIONoteC", Rest(trace.TraceIONoteC)}, {"TraceIONote", Rest(trace.TraceIONote)},
   };
 }
 
@@ -45,8 +31,9 @@ KeyTable TraceKeys(TraceData& trace) {
 
 bool ReadTraceFile(PrintRun& run) {
   run.Trace = {};
-  return ReadLines(run, HeaderKeysOfNewFiles(run.Header) + TraceKeys(run.Trace) + TriggerKeys(run.Trace) +
-                            KeyTable{{"GetDataDate", Rest(run.Session.DataDate)}} + UserBlockKeys(run.User));
+  return ReadLines(run, HeaderKeysOfNewFiles(run.Header) + TraceKeys(run.Trace) + RecordingKeys(run.Trace) +
+                            TriggerKeys(run.Trace) + KeyTable{{"GetDataDate", Rest(run.Session.DataDate)}} +
+                            UserBlockKeys(run.User));
 }
 
 }  // namespace tarvis

@@ -14,7 +14,7 @@ LineHandler SlotLine(Slots& slots, Fill fill) {
     auto& slot = slots[StrictInteger(number)];
     slot.Slot = number;
     fill(slot, value);
-    return kAccepted;
+    return Accepted;
   };
 }
 

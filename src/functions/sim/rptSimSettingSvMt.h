@@ -18,40 +18,16 @@ class rptSimSettingSvMt : public NameValueTable {
   // rows from the three types.
   static std::vector<TableRow> RowsOf(const SimData& sim) {
     const TableRow blank;
-    if (sim.MotorType == ShortTable) {
-      return {sim.MtRatedTorque,
-              sim.MtPeakTorque,
-              sim.MtRatedCurrent,
-              sim.MtMaxCurrent,
-              sim.MtRatedSpeed,
-              sim.MtMaxSpeed,
-              sim.MtTorqueConstant,
-              sim.MtRoterMoment,
-              sim.MtInertiaTimeConstant,
-              sim.MtInductionTimeConstant,
-              blank,
-              sim.PgType,
-              sim.MtOpType,
-              sim.FcType};
-    }
-    return {sim.MtRatedTorque,
-            sim.MtPeakTorque,
-            sim.MtRatedCurrent,
-            sim.MtMaxCurrent,
-            sim.MtRatedSpeed,
-            sim.MtMaxSpeed,
-            sim.MtTorqueConstant,
-            sim.MtRoterMoment,
-            sim.MtRatedPowerRate,
-            sim.MtRatedAnglulerAcc,
-            sim.MtInertiaTimeConstant,
-            sim.MtInductionTimeConstant,
-            sim.MtBrakeCompensation,
-            sim.MtOilSealCompensation,
-            blank,
-            sim.PgType,
-            sim.MtOpType,
-            sim.FcType};
+    std::vector<TableRow> rows = {sim.MtRatedTorque,    sim.MtPeakTorque, sim.MtRatedCurrent,
+                                  sim.MtMaxCurrent,     sim.MtRatedSpeed, sim.MtMaxSpeed,
+                                  sim.MtTorqueConstant, sim.MtRoterMoment};
+    const auto add = [&rows](std::initializer_list<TableRow> more) { rows.insert(rows.end(), more); };
+    const bool whole = sim.MotorType != ShortTable;
+    if (whole) add({sim.MtRatedPowerRate, sim.MtRatedAnglulerAcc});
+    add({sim.MtInertiaTimeConstant, sim.MtInductionTimeConstant});
+    if (whole) add({sim.MtBrakeCompensation, sim.MtOilSealCompensation});
+    add({blank, sim.PgType, sim.MtOpType, sim.FcType});
+    return rows;
   }
 };
 

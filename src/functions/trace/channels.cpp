@@ -4,22 +4,13 @@
 #include "printfiles/run_time_failure.h"
 
 namespace tarvis {
-namespace {
-
-template <typename Record>
-std::array<const TraceItem*, 6> ChannelsOf(const Record& record) {
-  return {&record.DataTrace1, &record.DataTrace2, &record.DataTrace3,
-          &record.IOTrace1,   &record.IOTrace2,   &record.IOTrace3};
-}
-
-}  // namespace
 
 bool PrintsSimulation(const PrintRun& run) {
   return run.Session.Mode == "Sim";
 }
 
 std::array<const TraceItem*, 6> Channels(const PrintRun& run) {
-  return PrintsSimulation(run) ? ChannelsOf(run.Sim) : ChannelsOf(run.Trace);
+  return PrintsSimulation(run) ? run.Sim.Channels() : run.Trace.Channels();
 }
 
 bool IsDisplayed(const TraceItem& channel) {
