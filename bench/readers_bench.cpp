@@ -21,12 +21,12 @@
 namespace tarvis {
 namespace {
 
-constexpr int kMostLines = 32768;
+constexpr int MostLines = 32768;
 
 // A text of `head` and of the `rows` lines over and over, up to the largest number of lines.
 std::string LargestFile(const std::string& head, int headLines, const std::string& rows, int rowLines) {
   std::string file = head;
-  for (int line = headLines; line + rowLines <= kMostLines; line += rowLines) file += rows;
+  for (int line = headLines; line + rowLines <= MostLines; line += rowLines) file += rows;
   return file;
 }
 
@@ -61,18 +61,18 @@ void ReadLargest(benchmark::State& state, bool (*reader)(PrintRun& run), const s
 #define READS(NAME, READER, FILE) \
   BENCHMARK_CAPTURE(ReadLargest, NAME, READER, FILE)->Unit(benchmark::kMillisecond)
 
-const std::string kCursorRows =
+const std::string CursorRows =
     "CursolSelect,2\r\nCursolInfo1,12.0,85.0,73.0,Torque reference [%]\r\nCursolInfo2,100,1500,1400,Feedback "
     "speed\r\n";
-const std::string kSettings = "SamplingCycle,Sampling time,250,us\r\nGetDataDate,Mar. 05, 2026 16:58:30\r\n";
+const std::string Settings = "SamplingCycle,Sampling time,250,us\r\nGetDataDate,Mar. 05, 2026 16:58:30\r\n";
 
 READS(User, ReadUserFile, ParameterBlock());
-READS(Trace, ReadTraceFile, LargestFile("File-Spec,3\r\n", 1, kCursorRows + kSettings, 5));
-READS(RealTrace, ReadRealTraceFile, LargestFile("File-Spec,3\r\n", 1, kCursorRows, 3));
-READS(Mecha, ReadMechaFile, LargestFile("", 0, kCursorRows + kSettings, 5));
+READS(Trace, ReadTraceFile, LargestFile("File-Spec,3\r\n", 1, CursorRows + Settings, 5));
+READS(RealTrace, ReadRealTraceFile, LargestFile("File-Spec,3\r\n", 1, CursorRows, 3));
+READS(Mecha, ReadMechaFile, LargestFile("", 0, CursorRows + Settings, 5));
 READS(Sim, ReadSimFile,
       LargestFile("PatternSetting,Pattern,0,Trapezoid,10\r\n", 1,
-                  kSettings + "MaxSpd,Speed,r/min,100,200,300,400,500,600,700,800,900,1000\r\n", 3));
+                  Settings + "MaxSpd,Speed,r/min,100,200,300,400,500,600,700,800,900,1000\r\n", 3));
 READS(UPWizard, ReadUPWizardFile,
       LargestFile("", 0, "RY,7,RY7,C:\\Host\\bin\\wizard\\relay.bmp,Main contactor\r\n", 1));
 READS(IdxTbl, ReadIdxTblFile,

@@ -11,7 +11,7 @@ namespace {
 
 using namespace tarvis;
 
-constexpr std::array kPages = {1252, 932, 936, 949, 950};
+constexpr std::array Pages = {1252, 932, 936, 949, 950};
 
 std::string Written(PrintRun& run) {
   run.Options.FileSpec = 4;
@@ -27,7 +27,7 @@ std::string Written(PrintRun& run) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static UnreachableDesktop desktop;
   PrintRun run(desktop);
-  run.Page = CodePage(kPages[size % kPages.size()]);
+  run.Page = CodePage(Pages[size % Pages.size()]);
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
   if (!ReadBytes(run, ReadPrintOptionsFile, "PrintOption.ToT", bytes)) return 0;
   const std::string first = Written(run);

@@ -9,8 +9,8 @@
 namespace tarvis {
 namespace {
 
-constexpr std::array kPages = {1252, 932, 936, 949, 950};
-constexpr std::int16_t kOverlap = 12;  // one more than a simulation has room for
+constexpr std::array Pages = {1252, 932, 936, 949, 950};
+constexpr std::int16_t Overlap = 12;  // one more than a simulation has room for
 
 bool IsOneLine(const std::string& text) {
   return !text.empty() &&
@@ -34,8 +34,8 @@ bool ReadBytes(PrintRun& run, bool (*reader)(PrintRun& run), const char* name, s
 void FuzzReader(bool (*reader)(PrintRun& run), const char* name, const std::uint8_t* data, std::size_t size) {
   static UnreachableDesktop desktop;
   PrintRun run(desktop);
-  run.Page = CodePage(kPages[size % kPages.size()]);
-  run.Session.OverlapNum = kOverlap;
+  run.Page = CodePage(Pages[size % Pages.size()]);
+  run.Session.OverlapNum = Overlap;
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
   ReadBytes(run, reader, name, bytes);
   ReadBytes(run, reader, name, bytes);

@@ -10,11 +10,11 @@
 namespace tarvis {
 namespace {
 
-constexpr int kBeeps = 5;
-constexpr int kExitAfterRun = 0;
-constexpr int kExitAfterRunTimeFailure = 1;
+constexpr int BeepCount = 5;
+constexpr int ExitAfterRun = 0;
+constexpr int ExitAfterRunTimeFailure = 1;
 
-constexpr std::array kMessages = {
+constexpr std::array Messages = {
     "Printing Process is canceled.",
     "Argument is wrong.",
     "Logo Mark File is not found.",
@@ -44,18 +44,18 @@ constexpr std::array kMessages = {
 }  // namespace
 
 const char* FailureMessage(int number) {
-  return kMessages.at(static_cast<std::size_t>(number));
+  return Messages.at(static_cast<std::size_t>(number));
 }
 
 void EndRun(PrintRun& run) {
   DeleteFiles(run.Session.TempFolder, ".tmp");
   DeleteFiles(run.Session.TempFolder, ".emf");
-  EndProcess(run.Desktop, kExitAfterRun);
+  EndProcess(run.Desktop, ExitAfterRun);
 }
 
 void ReportFailure(PrintRun& run, int number) {
   if (!run.Session.Diagnosis.empty()) run.Desktop.Diagnose(run.Session.Diagnosis);
-  for (int beep = 0; beep < kBeeps; ++beep) run.Desktop.Beep();
+  for (int beep = 0; beep < BeepCount; ++beep) run.Desktop.Beep();
   run.Desktop.ShowMessage("Printing Error", std::string(FailureMessage(number)) + "\n" + FailureMessage(0));
   EndRun(run);
 }
@@ -63,7 +63,7 @@ void ReportFailure(PrintRun& run, int number) {
 void ReportRunTimeFailure(Desktop& desktop, const std::exception& failure) {
   desktop.Diagnose(failure.what());
   desktop.ShowMessage("Run-time error", failure.what());
-  EndProcess(desktop, kExitAfterRunTimeFailure);
+  EndProcess(desktop, ExitAfterRunTimeFailure);
 }
 
 }  // namespace tarvis

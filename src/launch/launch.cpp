@@ -10,9 +10,15 @@
 namespace tarvis {
 namespace {
 
-constexpr int kArgumentIsWrong = 1;
+constexpr int ArgumentIsWrong = 1;
 
-enum Argument { kMode = 1, kHelpFile, kHelpContext, kEdition, kArgumentCount = kEdition };
+enum Argument {
+  ModeArgument = 1,
+  HelpFileArgument,
+  HelpContextArgument,
+  EditionArgument,
+  ArgumentCount = EditionArgument
+};
 
 // Settings can be changed without a printer; everything else would print.
 void RequirePrinter(PrintRun& run, Printers& printers) {
@@ -25,13 +31,13 @@ void RequirePrinter(PrintRun& run, Printers& printers) {
 
 void Launch(PrintRun& run, std::string_view commandLine, const LaunchServices& services) {
   PrintSession& session = run.Session;
-  const CheckedArray<std::string> arguments = SplitCommandLine(commandLine, kArgumentCount);
-  if (arguments.HighestIndex() == 0) ReportFailure(run, kArgumentIsWrong);
-  session.HostEdition = StrictInteger(arguments[kEdition]);
+  const CheckedArray<std::string> arguments = SplitCommandLine(commandLine, ArgumentCount);
+  if (arguments.HighestIndex() == 0) ReportFailure(run, ArgumentIsWrong);
+  session.HostEdition = StrictInteger(arguments[EditionArgument]);
   LoadSystemPaths(run, services.Registry);
-  session.Mode = arguments[kMode];
-  session.HelpFile += arguments[kHelpFile];
-  session.HelpContextId = StrictLong(arguments[kHelpContext]);
+  session.Mode = arguments[ModeArgument];
+  session.HelpFile += arguments[HelpFileArgument];
+  session.HelpContextId = StrictLong(arguments[HelpContextArgument]);
   RequirePrinter(run, services.Printers);
   LoadPrintOptions(run);
   services.Windows.ShowPrintSetting();

@@ -10,7 +10,7 @@
 namespace tarvis {
 namespace {
 
-constexpr int kOptionsFileIsWrong = 10;
+constexpr int OptionsFileIsWrong = 10;
 
 }  // namespace
 
@@ -21,7 +21,7 @@ void LoadPrintOptions(PrintRun& run) {
   if (!FileExists(path)) {
     DefaultPrintOptions(run);
   } else if (LoadLines(run, path) < 0 || !ReadPrintOptionsFile(run)) {
-    ReportFailure(run, kOptionsFileIsWrong);
+    ReportFailure(run, OptionsFileIsWrong);
   }
   session.OverlapMode = 0;
   session.OverlapNum = 0;

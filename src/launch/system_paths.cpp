@@ -12,8 +12,8 @@
 namespace tarvis {
 namespace {
 
-constexpr int kArgumentIsWrong = 1;
-constexpr std::size_t kVersionLength = 3;
+constexpr int ArgumentIsWrong = 1;
+constexpr std::size_t VersionLength = 3;
 
 struct EditionKeys {
   std::int16_t Edition;
@@ -24,7 +24,7 @@ struct EditionKeys {
 };
 
 // Edition 4 takes its base folder from another value than its siblings, and must.
-constexpr std::array kEditions = {
+constexpr std::array Editions = {
     EditionKeys{1, R"(SOFTWARE\Korvane\Tessaline\Brenmark\Quillon\Setup)", "SystemPath", "Quillon",
                 "QuillonHelpPath"},
     EditionKeys{2, R"(SOFTWARE\Korvane\Tessaline\Brenmark\Rotavon\Setup)", "SystemPath", "Rotavon",
@@ -43,11 +43,11 @@ std::string Value(HostRegistry& registry, const EditionKeys& keys, const char* v
 
 void LoadSystemPaths(PrintRun& run, HostRegistry& registry) {
   PrintSession& session = run.Session;
-  const auto* keys = std::ranges::find(kEditions, session.HostEdition, &EditionKeys::Edition);
-  if (keys == kEditions.end()) ReportFailure(run, kArgumentIsWrong);
+  const auto* keys = std::ranges::find(Editions, session.HostEdition, &EditionKeys::Edition);
+  if (keys == Editions.end()) ReportFailure(run, ArgumentIsWrong);
   session.SystemFolder = Value(registry, *keys, keys->BaseFolder) + R"(\bin\)";
   session.TempFolder = session.SystemFolder + R"(dat\tmp\)";
-  session.HostVersion = LeftCharacters(Value(registry, *keys, keys->Version), kVersionLength);
+  session.HostVersion = LeftCharacters(Value(registry, *keys, keys->Version), VersionLength);
   session.HelpFile = Value(registry, *keys, keys->HelpFolder) + "\\";
 }
 
