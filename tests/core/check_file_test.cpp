@@ -102,7 +102,7 @@ class CheckFileTest : public testing::Test {
     return check.Line;
   }
 
-  ScratchFolder Folder;
+  TempFolder Folder;
 };
 
 TEST_F(CheckFileTest, TellsFileLineKeyAndReason) {

@@ -23,13 +23,13 @@ class FailuresTest : public testing::Test, protected TestRun {
   int ExitStatusOf(Call call) {
     try {
       call();
-    } catch (const EndedProcess& end) {
+    } catch (const RunEnded& end) {
       return end.ExitStatus;
     }
     return -1;
   }
 
-  ScratchFolder Folder;
+  TempFolder Folder;
 };
 
 TEST_F(FailuresTest, BeepFiveTimesThenShowTwoLinesThenEndTheRun) {

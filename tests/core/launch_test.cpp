@@ -89,13 +89,13 @@ class LaunchTest : public testing::Test, protected TestRun {
   std::vector<std::string> CallsOf(std::string_view commandLine) {
     try {
       Launch(Run, commandLine, Host.Services());
-    } catch (const EndedProcess&) {
+    } catch (const RunEnded&) {
     }
     std::erase_if(Desktop.Calls, [](const std::string& call) { return call.starts_with("registry"); });
     return Desktop.Calls;
   }
 
-  ScratchFolder Folder;
+  TempFolder Folder;
   NotingServices Host{Desktop.Calls};
 };
 
@@ -253,7 +253,7 @@ TEST_F(LaunchTest, ClearsWhatTheSessionKeepsOfOverlapAndProgress) {
 }
 
 TEST(PrintRunTest, HasTheSystemsOwnClockUnlessATestPinsIt) {
-  NotingDesktop desktop;
+  FakeDesktop desktop;
   std::tm time = PrintRun(desktop).Now();
   EXPECT_NEAR(std::difftime(std::time(nullptr), std::mktime(&time)), 0, 60);
 }

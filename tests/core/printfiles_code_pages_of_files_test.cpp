@@ -75,7 +75,7 @@ TEST_P(FilesInCodePage, ReadInEveryKindOfFile) {
 }
 
 TEST_P(FilesInCodePage, KeepTheOptionsThroughWritingAndReading) {
-  const ScratchFolder folder;
+  const TempFolder folder;
   Run.Session.SystemFolder = folder.HostPath();
   const std::string path = folder.HostPath("PrintOption.ToT");
   Run.Options.DrowSect = Text + "\r\n" + Text;

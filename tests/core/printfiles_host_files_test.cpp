@@ -77,7 +77,7 @@ TEST(LoadLines, LoadsMoreLinesThanAReaderTakes) {
 }
 
 TEST(LoadLines, ReadsAFileThroughBackslashes) {
-  const ScratchFolder folder;
+  const TempFolder folder;
   folder.Write("bin/dat/tmp/User.tmp", "File-Spec,3\r\n");
   TestRun test;
   EXPECT_EQ(LoadLines(test.Run, folder.HostPath("bin\\dat\\tmp\\User.tmp")), 1);
@@ -87,7 +87,7 @@ TEST(LoadLines, ReadsAFileThroughBackslashes) {
 }
 
 TEST(LoadLines, FailsOnAMissingFileAndForgetsTheOneBefore) {
-  const ScratchFolder folder;
+  const TempFolder folder;
   TestRun test;
   test.Load("Trace.tmp", {"File-Spec,3"});
   EXPECT_EQ(LoadLines(test.Run, folder.HostPath("User.tmp")), -1);
@@ -97,14 +97,14 @@ TEST(LoadLines, FailsOnAMissingFileAndForgetsTheOneBefore) {
 }
 
 TEST(LoadLines, FailsOnAFolder) {
-  const ScratchFolder folder;
+  const TempFolder folder;
   folder.Write("User.tmp/inside", "");
   TestRun test;
   EXPECT_EQ(LoadLines(test.Run, folder.HostPath("User.tmp")), -1);
 }
 
 TEST(FileExists, AsksForARegularFile) {
-  const ScratchFolder folder;
+  const TempFolder folder;
   folder.Write("sub/logo.bmp", "x");
   EXPECT_TRUE(FileExists(folder.HostPath("sub\\logo.bmp")));
   EXPECT_FALSE(FileExists(""));

@@ -91,7 +91,7 @@ class RandomOptionsFile {
 };
 
 TEST(PrintOptionsProperty, AnyFileOfTheProgramReadsAndWritesBackTheSame) {
-  const ScratchFolder folder;
+  const TempFolder folder;
   TestRun test;
   test.Run.Page = CodePage(932);
   test.Run.Session.SystemFolder = folder.HostPath();

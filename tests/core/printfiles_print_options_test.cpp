@@ -35,7 +35,7 @@ class PrintOptionsFile : public testing::Test, protected TestRun {
     return Folder.Read("PrintOption.ToT");
   }
 
-  ScratchFolder Folder;
+  TempFolder Folder;
 };
 
 // What a first run writes.

@@ -152,7 +152,7 @@ TEST_F(TraceFile, NamesTheLineOfAnUnknownKey) {
 }
 
 TEST_F(TraceFile, ThatIsMissingGivesNoLines) {
-  const ScratchFolder folder;
+  const TempFolder folder;
   EXPECT_EQ(LoadLines(Run, folder.HostPath("Trace3.tmp")), -1);
   EXPECT_EQ(Run.Session.Diagnosis, "Trace3.tmp: can't be read");
 }

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <initializer_list>
 #include <string>
 #include <vector>
@@ -33,7 +34,7 @@ struct HostRun : testing::Test {
     EXPECT_THROW(Report.ComposeAlone(report), RunEnded) << report;
     EXPECT_THAT(Report.Screen.Messages,
                 testing::ElementsAre("Printing Error|" + message + "\nPrinting Process is canceled."));
-    EXPECT_EQ(Report.Screen.Beeps, 5);
+    EXPECT_EQ(std::ranges::count(Report.Screen.Calls, "beep"), 5);
     EXPECT_THAT(Report.Screen.Diagnoses,
                 testing::ElementsAre(testing::StartsWith(report + ": no picture file '")));
     Report.Screen = {};

@@ -6,7 +6,9 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 #include <string>
+#include <string_view>
 
 namespace tarvis {
 
@@ -30,10 +32,20 @@ class TempFolder {
     std::replace(path.begin(), path.end(), '/', '\\');
     return path;
   }
-  void Write(const std::string& name, const std::string& bytes) const {
-    std::ofstream(path_ / name, std::ios::binary) << bytes;
+  // The name of a file in it, as the system forms paths: with a backslash before it.
+  std::string HostPath(std::string_view name = {}) const { return path_.string() + "\\" + std::string(name); }
+  // Makes the folders that the name asks for.
+  void Write(std::string_view name, std::string_view bytes) const {
+    const std::filesystem::path file = path_ / name;
+    std::filesystem::create_directories(file.parent_path());
+    std::ofstream(file, std::ios::binary) << bytes;
   }
-  bool Has(const std::string& name) const { return std::filesystem::exists(path_ / name); }
+  std::string Read(std::string_view name) const {
+    std::ostringstream bytes;
+    bytes << std::ifstream(path_ / name, std::ios::binary).rdbuf();
+    return bytes.str();
+  }
+  bool Has(std::string_view name) const { return std::filesystem::exists(path_ / name); }
 
  private:
   std::filesystem::path path_;

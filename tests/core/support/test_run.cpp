@@ -1,22 +1,9 @@
 #include "core/support/test_run.h"
 
-#include <fstream>
-#include <random>
-#include <sstream>
-
 #include "printfiles/host_files.h"
 
 namespace tarvis {
 namespace {
-
-std::filesystem::path NewFolder() {
-  std::random_device random;
-  for (;;) {
-    std::filesystem::path path =
-        std::filesystem::temp_directory_path() / ("tarvis-test-" + std::to_string(random()));
-    if (std::filesystem::create_directory(path)) return path;
-  }
-}
 
 std::tm PinnedTime() {
   std::tm time{};
@@ -30,33 +17,6 @@ std::tm PinnedTime() {
 }
 
 }  // namespace
-
-ScratchFolder::ScratchFolder() : path_(NewFolder()) {}
-
-ScratchFolder::~ScratchFolder() {
-  std::error_code ignored;
-  std::filesystem::remove_all(path_, ignored);
-}
-
-std::string ScratchFolder::HostPath(std::string_view name) const {
-  return path_.string() + "\\" + std::string(name);
-}
-
-void ScratchFolder::Write(std::string_view name, std::string_view bytes) const {
-  const std::filesystem::path file = path_ / name;
-  std::filesystem::create_directories(file.parent_path());
-  std::ofstream(file, std::ios::binary) << bytes;
-}
-
-std::string ScratchFolder::Read(std::string_view name) const {
-  std::ostringstream bytes;
-  bytes << std::ifstream(path_ / name, std::ios::binary).rdbuf();
-  return bytes.str();
-}
-
-bool ScratchFolder::Has(std::string_view name) const {
-  return std::filesystem::exists(path_ / name);
-}
 
 TestRun::TestRun() {
   Run.Now = PinnedTime;
