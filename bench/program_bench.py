@@ -1,6 +1,8 @@
-"""Measures the whole program and the benchmarks of its parts, and prints one table.
+"""Measures the whole program, its parts, and the plain-toolkit way of doing the same work, and prints one table.
 
-A large parameter file is the largest that the host can write: a file has at most 32,768 lines.
+Three documents: a parameter list of 200 rows, one of 16,000 rows (a file has at most 32,768 lines, so that is the
+largest that the host can write), and a simulation with eleven others over it. The toolkit's way puts the same rows into
+tables of its own text document; it reads no metafiles, so its simulation has no graphs.
 """
 import argparse
 import json
@@ -11,6 +13,7 @@ import subprocess
 import sys
 import tempfile
 import time
+from dataclasses import dataclass
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
@@ -22,22 +25,46 @@ from host import Host  # noqa: E402
 from print_file import PrintFile, write_parameters  # noqa: E402
 from session import DIALOG, PREVIEW, Session  # noqa: E402
 
-PARAMETERS, SWITCHES = 16000, 150
 DIALOG_GREY = b"\xef\xef\xef"  # background of the toolkit's windows, seen as soon as they are painted
 BLACK = b"\0\0\0"              # the rule under a page's title
+START = "start to visible dialog [ms]"
 
 
-def write_large_file(folder):
+@dataclass(frozen=True)
+class Job:
+    title: str
+    mode: str
+    parameters: int = 0  # 0: the demo's data
+    overlapped: int = 0
+
+    @property
+    def record(self):
+        """The name of the data files."""
+        return "Sim" if self.mode == "SimEx" else self.mode
+
+
+JOBS = (Job("200 rows", "User", parameters=200), Job("16,000 rows", "User", parameters=16000),
+        Job("11 simulations", "SimEx", overlapped=11))
+
+
+def write_parameter_file(folder, count):
+    """`count` parameters; one of a hundred is a switch."""
     known = servo_pack.PARAMETERS
     parameters = [servo_pack.Parameter(f"S-{i}", known[i % len(known)].name, str(i * 7 % 9973), "100", "min-1")
-                  for i in range(PARAMETERS)]
+                  for i in range(count)]
     digits = tuple(servo_pack.Digit(k, 1, "1", "0", "Function of the Digit", "Enabled while the axis moves")
                    for k in range(4))
-    step = PARAMETERS // SWITCHES
-    switches = [servo_pack.Switch(parameters[i * step].no, "1", "0", "name", digits) for i in range(SWITCHES)]
+    switches = [servo_pack.Switch(parameter.no, "1", "0", "name", digits) for parameter in parameters[::107]]
     file = PrintFile("Parameter File", servo_pack.MODELS, "large.prm")
     write_parameters(file, parameters, switches, "comment")
     file.write(folder / "User.tmp")
+
+
+def write_job(host, job):
+    if job.parameters:
+        write_parameter_file(host.temp_folder, job.parameters)
+    else:
+        host.write_data(job.mode, job.overlapped)
 
 
 class Screen:
@@ -70,67 +97,124 @@ def peak_memory(pid):
     raise AssertionError("no peak memory told")
 
 
-def measure_run(program, large):
-    """Start, OK to first page, PDF and memory of one run."""
+def measure_program(told, job):
+    """What a user waits for in one run of the program."""
     with tempfile.TemporaryDirectory() as name:
         folder = Path(name)
         host, screen = Host(folder), Screen(folder)
         host.prepare()
-        if large:
-            write_large_file(host.temp_folder)
-        else:
-            host.write_data("User")
+        write_job(host, job)
         display = VirtualDisplay(server_options=screen.options())
         try:
             screen.open()
             user = User(display.environment)
             start = time.monotonic()
-            process = host.start(program, "User", environment={**display.environment, "CUPS_SERVER": "127.0.0.1:1"})
-            told = {"start to visible dialog [ms]": screen.wait_for_run(DIALOG_GREY, 200, start) * 1000}
+            process = host.start(told.build / "src/tarvis", job.mode,
+                                 environment={**display.environment, "CUPS_SERVER": "127.0.0.1:1"},
+                                 stderr=subprocess.DEVNULL)
+            measured = {START: screen.wait_for_run(DIALOG_GREY, 200, start) * 1000}
             session = Session(user, process)
             session.wait_for(DIALOG)
             start = time.monotonic()
             user.press("Return")
-            told["OK to first page on the screen [ms]"] = screen.wait_for_run(BLACK, 400, start) * 1000
+            measured["OK to first page on the screen [ms]"] = screen.wait_for_run(BLACK, 400, start) * 1000
             session.wait_for(PREVIEW)
             start = time.monotonic()
             session.save_pdf(folder / "large.pdf")
-            told["save as PDF, with its dialog [ms]"] = (time.monotonic() - start) * 1000
-            told["peak memory [MB]"] = peak_memory(process.pid)
+            measured["save as PDF, with its dialog [ms]"] = (time.monotonic() - start) * 1000
+            measured["peak memory of the program [MB]"] = peak_memory(process.pid)
             session.close_preview()
-            return told
+            return measured
         finally:
             display.close()
 
 
+def measure_empty_dialog(told, job):
+    """The start of the toolkit itself: an empty dialog."""
+    with tempfile.TemporaryDirectory() as name:
+        screen = Screen(Path(name))
+        display = VirtualDisplay(server_options=screen.options())
+        try:
+            screen.open()
+            start = time.monotonic()
+            process = subprocess.Popen([str(told.build / "bench/document_bench"), "dialog"],
+                                       env={**os.environ, **display.environment}, stderr=subprocess.DEVNULL)
+            try:
+                return {START: screen.wait_for_run(DIALOG_GREY, 200, start) * 1000}
+            finally:
+                process.kill()
+                process.wait()
+        finally:
+            display.close()
+
+
+def measure_document(told, job, way):
+    """The steps of one document in a process of its own."""
+    with tempfile.TemporaryDirectory() as name:
+        host = Host(name)
+        host.prepare()
+        write_job(host, job)
+        command = [str(told.build / "bench/document_bench"), way, job.record, f"{host.temp_folder}\\",
+                   str(job.overlapped)]
+        environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen", "XDG_RUNTIME_DIR": name}
+        return json.loads(subprocess.run(command, env=environment, capture_output=True, text=True, check=True).stdout)
+
+
+def medians(runs, measure, *arguments):
+    rows = [measure(*arguments) for _ in range(runs)]
+    return {name: statistics.median(row[name] for row in rows) for name in rows[0]}
+
+
 def part_benchmarks(folder, bench_folder):
-    """Name and milliseconds of every benchmark of the parts."""
-    environment = {**os.environ, "TARVIS_BENCH_FOLDER": f"{folder}\\", "QT_QPA_PLATFORM": "offscreen"}
-    for program in ("core_bench", "readers_bench", "preview_bench"):
+    """Name and value of every benchmark of the parts."""
+    environment = {**os.environ, "TARVIS_BENCH_FOLDER": f"{folder}\\", "QT_QPA_PLATFORM": "offscreen",
+                   "XDG_RUNTIME_DIR": folder}
+    for program in ("core_bench", "readers_bench", "preview_bench", "pictures_bench"):
         told = subprocess.run([str(bench_folder / program), "--benchmark_format=json"], env=environment,
                               capture_output=True, text=True, check=True)
         for row in json.loads(told.stdout)["benchmarks"]:
             scale = {"ns": 1e-6, "us": 1e-3, "ms": 1, "s": 1e3}[row["time_unit"]]
-            yield f"{program}: {row['name']} [ms]", row["real_time"] * scale
+            yield f"{row['name']} [ms]", row["real_time"] * scale
+            for counter in ("slowest_ms", "peak_megabytes"):
+                if counter in row:
+                    yield f"{row['name']} [{counter}]", row[counter]
+
+
+def shown(value):
+    return f"{value:.1f}" if value < 100 else f"{value:.0f}"
+
+
+def compared(ours, toolkits):
+    """One cell: ours, and how many times as much the toolkit's way takes."""
+    if ours is None:
+        return ""
+    return shown(ours) if toolkits is None else f"{shown(ours)} (x {toolkits / ours:.2f})"
+
+
+def print_table(head, rows):
+    widths = [max(len(row[column]) for row in [head, *rows]) for column in range(len(head))]
+    for row in [head, ["-" * width for width in widths], *rows]:
+        print("| " + " | ".join([row[0].ljust(widths[0])] + [t.rjust(w) for t, w in zip(row[1:], widths[1:])]) + " |")
 
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--build", type=Path, default=ROOT / "build/release")
-    parser.add_argument("--runs", type=int, default=5, help="runs of the whole program; the table holds the median")
+    parser.add_argument("--runs", type=int, default=5, help="runs of each document; the table holds the medians")
     told = parser.parse_args()
-    rows = []
-    for large in (False, True):
-        runs = [measure_run(told.build / "src/tarvis", large) for _ in range(told.runs)]
-        size = f"{PARAMETERS} parameters" if large else f"{len(servo_pack.PARAMETERS)} parameters"
-        rows += [(f"program, {size}: {name}", statistics.median(run[name] for run in runs)) for name in runs[0]]
+    ours, toolkits = [], []
+    for job in JOBS:
+        ours.append(medians(told.runs, measure_program, told, job) |
+                    medians(told.runs, measure_document, told, job, "tarvis"))
+        toolkits.append(medians(told.runs, measure_empty_dialog, told, job) |
+                        medians(told.runs, measure_document, told, job, "toolkit"))
+    names = list(ours[0])
+    print_table(["whole documents (x toolkit's own way)", *(job.title for job in JOBS)],
+                [[name, *(compared(own.get(name), other.get(name)) for own, other in zip(ours, toolkits))] for name in names])
+    print()
     with tempfile.TemporaryDirectory() as folder:
-        write_large_file(Path(folder))
-        rows += part_benchmarks(folder, told.build / "bench")
-    width = max(len(name) for name, _ in rows)
-    print(f"| {'what'.ljust(width)} | {'value':>10} |", f"|{'-' * (width + 2)}|{'-' * 11}:|", sep="\n")
-    for name, value in rows:
-        print(f"| {name.ljust(width)} | {value:10.2f} |")
+        write_parameter_file(Path(folder), JOBS[1].parameters)
+        print_table(["parts", "value"], [[name, f"{value:.2f}"] for name, value in part_benchmarks(folder, told.build / "bench")])
 
 
 if __name__ == "__main__":

@@ -1,0 +1,62 @@
+// The road of one document, step by step and once each as in a real run, by this program's parts and by the
+// toolkit's own text document. Prints a JSON object of milliseconds, and of the peak memory in megabytes.
+//
+//   document_bench tarvis|toolkit MODE FOLDER OVERLAPPED    FOLDER ends in a backslash
+//   document_bench dialog                                   shows an empty dialog until it is killed
+#include <QApplication>
+#include <QDialog>
+#include <QPrinter>
+#include <QTemporaryDir>
+#include <cstdio>
+
+#include "document_roads.h"
+
+namespace tarvis {
+namespace {
+
+constexpr int PagesPainted = 20;  // at most
+
+void Measure(DocumentRoad& road) {
+  Stopwatch watch;
+  road.Read();
+  watch.Told("read [ms]");
+  road.Compose();
+  watch.Told("compose, all data sets [ms]");
+  road.PaintPage(0);
+  watch.Told("first page painted [ms]");
+  const int painted = std::min(PagesPainted, road.PageCount());
+  for (int page = 0; page < painted; ++page) road.PaintPage(page);
+  watch.Told("page painted, 100 % [ms]", painted);
+  const QTemporaryDir folder;
+  road.SavePdf(folder.filePath(QStringLiteral("document.pdf")));
+  watch.Told("PDF [ms]");
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(folder.filePath(QStringLiteral("spool.pdf")));
+  road.Print(printer);
+  watch.Told("print spool [ms]");
+  watch.Note("peak memory of these steps [MB]", PeakMegabytes());
+  watch.Note("pages", road.PageCount());
+  std::puts(watch.Json().c_str());
+}
+
+int ShowDialog() {
+  QDialog dialog;
+  dialog.resize(500, 400);
+  return dialog.exec();
+}
+
+}  // namespace
+}  // namespace tarvis
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  const QStringList arguments = QApplication::arguments();
+  if (arguments.size() == 2 && arguments[1] == QStringLiteral("dialog")) return tarvis::ShowDialog();
+  if (arguments.size() != 5) return std::fputs("usage: document_bench WAY MODE FOLDER OVERLAPPED\n", stderr);
+  const tarvis::BenchJob job{arguments[2].toStdString(), arguments[3].toStdString(), arguments[4].toShort()};
+  const auto road =
+      arguments[1] == QStringLiteral("toolkit") ? tarvis::ToolkitRoad(job) : tarvis::TarvisRoad(job);
+  tarvis::Measure(*road);
+  return 0;
+}
