@@ -159,6 +159,17 @@ QPDFObjectHandle TakeFonts(QPDF& pdf, QPDFPageObjectHelper& page, const PdfGlyph
   return fonts;
 }
 
+// A helper page as a form. Its content is taken as it is compressed.
+QPDFObjectHandle TakeForm(QPDF& pdf, QPDFPageObjectHelper& page) {
+  QPDFObjectHandle form = pdf.copyForeignObject(page.getObjectHandle().getKey("/Contents"));
+  QPDFObjectHandle dictionary = form.getDict();
+  dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/XObject"));
+  dictionary.replaceKey("/Subtype", QPDFObjectHandle::newName("/Form"));
+  dictionary.replaceKey("/BBox", page.getMediaBox().shallowCopy());
+  dictionary.replaceKey("/Resources", pdf.copyForeignObject(page.getAttribute("/Resources", false)));
+  return form;
+}
+
 }  // namespace
 
 QPDFObjectHandle MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPictures& pictures,
@@ -172,8 +183,7 @@ QPDFObjectHandle MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPict
   resources.replaceKey("/Font", TakeFonts(pdf, pages.at(0), glyphs));
   QPDFObjectHandle forms = QPDFObjectHandle::newDictionary();
   for (std::size_t number = 0; number < pictures.All().size(); ++number) {
-    forms.replaceKey("/P" + std::to_string(number),
-                     pdf.copyForeignObject(pages.at(number + 1).getFormXObjectForPage()));
+    forms.replaceKey("/P" + std::to_string(number), TakeForm(pdf, pages.at(number + 1)));
   }
   resources.replaceKey("/XObject", forms);
   return pdf.makeIndirectObject(resources);
