@@ -120,6 +120,28 @@ TEST(EnginePages, AFooterOfInvisibleControlsStillTakesItsHeight) {
   EXPECT_THAT(Places(ComposeSample(report, 900)), ElementsAre("1:row@0", "2:row@0"));
 }
 
+TEST(EnginePages, AHeaderStaysBehindWhenItsRowsAreToStartOnANewPage) {
+  SampleReport report;
+  AddBlock(report.Growing(SectionKind::GroupHeader, "h"), "head", 100);
+  Section& detail = report.Fixed(SectionKind::Detail, "d", 300);
+  detail.NewPageBefore = true;
+  AddBlock(detail, "row", 300);
+  report.Rows(2);
+  EXPECT_THAT(Places(ComposeSample(report, 900)), ElementsAre("1:head@0", "2:row@0", "3:row@0"));
+}
+
+TEST(EnginePages, AnInnerReportBeginsBelowTheRoomAboveItsRegion) {
+  SampleReport outer;
+  SubReport& region = outer.Fixed(SectionKind::Detail, "d", 100).AddSubReport("region", {0, 250, 1000, 10});
+  outer.Rows(2, [&](int) {
+    auto inner = std::make_shared<SampleReport>();
+    AddBlock(inner->Growing(SectionKind::Detail, "d"), "row", 400);
+    region.object = inner;
+  });
+  // The room goes to the next page with the row that it stands above.
+  EXPECT_THAT(Places(ComposeSample(outer, 900)), ElementsAre("1:row@250", "2:row@250"));
+}
+
 TEST(EnginePages, CutsABandTallerThanAPageBetweenLinesOfText) {
   SampleReport report;
   Field& text = report.Growing(SectionKind::Detail, "d").AddField("text", {0, 0, 2000, 100}, Plain);

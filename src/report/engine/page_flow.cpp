@@ -179,11 +179,6 @@ void PageFlow::PlaceBand(Band& band) {
     PutOnPage(band);
     return;
   }
-  if (band.Height <= BodyHeight() - RepeatedHeight(band.Group) + Rounding && rowsOnPage_) {
-    TurnPage(band.Group);
-    PutOnPage(band);
-    return;
-  }
   PlaceTallBand(band);
 }
 
