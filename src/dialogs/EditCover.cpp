@@ -49,7 +49,7 @@ constexpr const char* GreetingHint =
 }  // namespace
 
 EditCover::EditCover(PrintRun& run, QWidget* parent, FileChoice chooseFile)
-    : QDialog(parent), run_(run), chooseFile_(std::move(chooseFile)), tabs_(nullptr) {
+    : QDialog(parent), run_(run), chooseFile_(std::move(chooseFile)) {
   setObjectName(QString::fromLatin1("EditCover"));
   setWindowTitle(QString::fromLatin1("Cover"));
   setFont(DialogFont());

@@ -57,7 +57,7 @@ class EditCover : public QDialog {
 
   PrintRun& run_;
   FileChoice chooseFile_;
-  TabControl* tabs_;
+  TabControl* tabs_ = nullptr;
   std::vector<Field> fields_;  // in the order in which they are checked and stored
   PathBox* logo_ = nullptr;
   LogoPreview* preview_ = nullptr;

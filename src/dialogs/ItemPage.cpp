@@ -43,7 +43,7 @@ void AddRule(const QLabel& heading) {
 }  // namespace
 
 ItemPage::ItemPage(PrintRun& run, const PageFrame& frame, QWidget* parent)
-    : QWidget(parent), run_(run), header_(run.Options.*frame.Header), tabs_(nullptr) {
+    : QWidget(parent), run_(run), header_(run.Options.*frame.Header) {
   NameControl(*this, frame.Name, NoFamily, QString::fromLatin1(frame.Title));
   Place(*this, PageBounds);
   hide();

@@ -87,7 +87,7 @@ class ItemPage : public QWidget {
 
   PrintRun& run_;
   HeaderOptions& header_;
-  TabControl* tabs_;
+  TabControl* tabs_ = nullptr;
   std::vector<TickBox*> chkHeader_;
   LineBox* txtTitle_ = nullptr;
   TickBox* chkFooter_ = nullptr;

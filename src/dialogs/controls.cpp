@@ -169,7 +169,8 @@ void GroupFrame::paintEvent(QPaintEvent*) {
   const QRect titleBox(TitleInset, 0, titleWidth, titleHeight);
   painter.setClipRegion(QRegion(rect()) - QRegion(titleBox.adjusted(-3, 0, 3, 0)));
   painter.setPen(palette().color(QPalette::Mid));
-  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, titleHeight / 2 + 0.5, -0.5, -0.5), 2, 2);
+  const int lineAt = titleHeight / 2;
+  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, lineAt + 0.5, -0.5, -0.5), 2, 2);
   painter.setClipping(false);
   painter.drawItemText(titleBox, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, palette(),
                        isEnabled(), title(), QPalette::WindowText);

@@ -23,7 +23,7 @@ void DropLastCharacter(QString& text) {
 std::string CutToLimit(const PrintRun& run, int limit, const std::string& text) {
   QString cut = QString::fromStdString(text);
   // A character takes a byte at least; a pair of code units may be one character.
-  cut.truncate(2 * limit);
+  cut.truncate(qsizetype{2} * limit);
   if (!cut.isEmpty() && cut.back().isHighSurrogate()) cut.chop(1);
   while (!Fits(run, limit, cut.toStdString())) DropLastCharacter(cut);
   return cut.toStdString();

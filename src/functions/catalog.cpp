@@ -1,5 +1,6 @@
 #include "functions/catalog.h"
 
+#include <array>
 #include <string_view>
 
 #include "functions/mecha/rptMechaGraph.h"
@@ -46,38 +47,38 @@ std::shared_ptr<ActiveReport> Make(ReportContext context) {
   return std::make_shared<Report>(context);
 }
 
-constexpr CatalogEntry Catalog[] = {
-    {"rptCover", Make<rptCover>},
-    {"rptUserPrm", Make<rptUserPrm>},
-    {"rptUserSwitch", Make<rptUserSwitch>},
-    {"rptUPWizard", Make<rptUPWizard>},
-    {"rptUserComment", Make<rptUserComment>},
-    {"rptDataDate", Make<rptDataDate>},
-    {"rptTraceGraph", Make<rptTraceGraph>},
-    {"rptTraceObject", Make<rptTraceObject>},
+constexpr std::array Catalog = {
+    CatalogEntry{"rptCover", Make<rptCover>},
+    CatalogEntry{"rptUserPrm", Make<rptUserPrm>},
+    CatalogEntry{"rptUserSwitch", Make<rptUserSwitch>},
+    CatalogEntry{"rptUPWizard", Make<rptUPWizard>},
+    CatalogEntry{"rptUserComment", Make<rptUserComment>},
+    CatalogEntry{"rptDataDate", Make<rptDataDate>},
+    CatalogEntry{"rptTraceGraph", Make<rptTraceGraph>},
+    CatalogEntry{"rptTraceObject", Make<rptTraceObject>},
     // The module lists spell the name so.
-    {"rptTraceObjrctOverlap", Make<rptTraceObjectOverlap>},
-    {"rptTraceTrigger", Make<rptTraceTrigger>},
-    {"rptRealTraceGraph", Make<rptRealTraceGraph>},
-    {"rptRealTraceInfo", Make<rptRealTraceInfo>},
-    {"rptMechaGraph", Make<rptMechaGraph>},
-    {"rptMechaResonance", Make<rptMechaResonance>},
-    {"rptMechaNotch", Make<rptMechaNotch>},
-    {"rptMechaMeasure", Make<rptMechaMeasure>},
-    {"rptSimGraph", Make<rptSimGraph>},
-    {"rptSimCmpFileList", Make<rptSimCmpFileList>},
-    {"rptSimCmpTime", Make<rptSimCmpTime>},
-    {"rptSimCmpUser", Make<rptSimCmpUser>},
-    {"rptSimCmpUserEx", Make<rptSimCmpUserEx>},
-    {"rptSimInfo", Make<rptSimInfo>},
-    {"rptSimRef1", Make<rptSimRef1>},
-    {"rptSimRef2", Make<rptSimRef2>},
-    {"rptSimSettingMecha", Make<rptSimSettingMecha>},
-    {"rptSimSettingSvMt", Make<rptSimSettingSvMt>},
-    {"rptIdxIdxTblExTable", Make<rptIdxIdxTblExTable>},
-    {"rptIdxIdxTblTable", Make<rptIdxIdxTblTable>},
-    {"rptIdxJogTblTable", Make<rptIdxJogTblTable>},
-    {"rptIdxZoneTblTable", Make<rptIdxZoneTblTable>},
+    CatalogEntry{"rptTraceObjrctOverlap", Make<rptTraceObjectOverlap>},
+    CatalogEntry{"rptTraceTrigger", Make<rptTraceTrigger>},
+    CatalogEntry{"rptRealTraceGraph", Make<rptRealTraceGraph>},
+    CatalogEntry{"rptRealTraceInfo", Make<rptRealTraceInfo>},
+    CatalogEntry{"rptMechaGraph", Make<rptMechaGraph>},
+    CatalogEntry{"rptMechaResonance", Make<rptMechaResonance>},
+    CatalogEntry{"rptMechaNotch", Make<rptMechaNotch>},
+    CatalogEntry{"rptMechaMeasure", Make<rptMechaMeasure>},
+    CatalogEntry{"rptSimGraph", Make<rptSimGraph>},
+    CatalogEntry{"rptSimCmpFileList", Make<rptSimCmpFileList>},
+    CatalogEntry{"rptSimCmpTime", Make<rptSimCmpTime>},
+    CatalogEntry{"rptSimCmpUser", Make<rptSimCmpUser>},
+    CatalogEntry{"rptSimCmpUserEx", Make<rptSimCmpUserEx>},
+    CatalogEntry{"rptSimInfo", Make<rptSimInfo>},
+    CatalogEntry{"rptSimRef1", Make<rptSimRef1>},
+    CatalogEntry{"rptSimRef2", Make<rptSimRef2>},
+    CatalogEntry{"rptSimSettingMecha", Make<rptSimSettingMecha>},
+    CatalogEntry{"rptSimSettingSvMt", Make<rptSimSettingSvMt>},
+    CatalogEntry{"rptIdxIdxTblExTable", Make<rptIdxIdxTblExTable>},
+    CatalogEntry{"rptIdxIdxTblTable", Make<rptIdxIdxTblTable>},
+    CatalogEntry{"rptIdxJogTblTable", Make<rptIdxJogTblTable>},
+    CatalogEntry{"rptIdxZoneTblTable", Make<rptIdxZoneTblTable>},
 };
 
 }  // namespace

@@ -21,7 +21,7 @@ std::string Words() {
 }  // namespace
 
 Application::Application(ToolkitArguments& arguments, Desktop& desktop)
-    : QApplication(arguments.Count, arguments.Values), desktop_(desktop) {
+    : QApplication(arguments.Count, arguments.Values.data()), desktop_(desktop) {
   setApplicationName("tarvis");
   setQuitOnLastWindowClosed(false);  // only the end of the run ends the process
 }

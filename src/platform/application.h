@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QApplication>
+#include <array>
 #include <functional>
 
 #include "launch/desktop.h"
@@ -11,10 +12,10 @@ namespace tarvis {
 
 // What the toolkit is told of the command line: the program's name, and none of the arguments.
 struct ToolkitArguments {
-  explicit ToolkitArguments(char* programName) : Values{programName, nullptr} {}
+  explicit ToolkitArguments(char* programName) : Values{{programName, nullptr}} {}
 
   int Count = 1;
-  char* Values[2];
+  std::array<char*, 2> Values;
 };
 
 class Application : public QApplication {

@@ -69,11 +69,11 @@ bool ConfigurationRegistry::CountsPdfPrinter() const {
 }
 
 std::string ConfigurationPath() {
-  if (const std::string told = Environment("TARVIS_CONFIG"); !told.empty()) return told;
+  if (std::string told = Environment("TARVIS_CONFIG"); !told.empty()) return told;
   std::string folder = Environment("XDG_CONFIG_HOME");
   if (const std::string home = Environment("HOME"); folder.empty() && !home.empty())
     folder = home + "/.config";
-  const std::string own = folder + "/tarvis/tarvis.ini";
+  std::string own = folder + "/tarvis/tarvis.ini";
   std::error_code ignored;  // a folder that can't be looked into holds no file for this user
   if (!folder.empty() && std::filesystem::exists(own, ignored)) return own;
   return "/etc/tarvis/tarvis.ini";

@@ -51,7 +51,7 @@ void FillLines(const CodePage& page, std::string bytes, TextLines& lines) {
 std::filesystem::path NativePath(std::string_view path) {
   std::u8string text(path.begin(), path.end());
   if constexpr (std::filesystem::path::preferred_separator == '/') std::ranges::replace(text, u8'\\', u8'/');
-  return std::filesystem::path(text);
+  return {text};
 }
 
 bool FileExists(std::string_view path) {

@@ -25,7 +25,7 @@ RunTimeFailure RunTimeFailure::At(const FailurePlace& place) const {
   if (merged.Line == 0) merged.Line = place.Line;
   if (merged.Key.empty()) merged.Key = place.Key;
   if (merged.Text.empty()) merged.Text = place.Text;
-  return RunTimeFailure(reason_, merged);
+  return {reason_, merged};
 }
 
 }  // namespace tarvis

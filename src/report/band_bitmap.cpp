@@ -1,6 +1,7 @@
 #include "report/band_bitmap.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 #include "report/engine/document.h"
@@ -62,9 +63,9 @@ void AppendHeaders(std::string& bytes) {
 std::string MakeBandBitmap() {
   std::string bytes;
   AppendHeaders(bytes);
-  for (auto row = Rows.rbegin(); row != Rows.rend(); ++row) {
+  for (std::size_t row = Rows.size(); row-- > 0;) {  // from the bottom up
     for (int pixel = 0; pixel < BandWidth; ++pixel)
-      AppendPixel(bytes, pixel < row->Run ? row->RunColor : row->Rest);
+      AppendPixel(bytes, pixel < Rows[row].Run ? Rows[row].RunColor : Rows[row].Rest);
   }
   return bytes;
 }

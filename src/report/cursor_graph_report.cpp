@@ -1,12 +1,13 @@
 #include "report/cursor_graph_report.h"
 
+#include <utility>
+
 namespace tarvis {
 
 CursorGraphReport::CursorGraphReport(const char* name, ReportContext context, const char* caption,
-                                     Entry entry, const CursorGraphLayout& layout,
-                                     const CursorGraphData& data)
+                                     Entry entry, const CursorGraphLayout& layout, CursorGraphData data)
     : GraphReport(name, 9000, context, caption, 690, entry, Keep::All),
-      data_(data),
+      data_(std::move(data)),
       ghGraph(AddGrowing(SectionKind::GroupHeader, "ghGraph", 8430)),
       imgGraph(ghGraph.AddImage("imgGraph", layout.Graph)),
       Label2(ghGraph.AddLabel("Label2", layout.CursorLabel, "[Cursor Data]", GraphHeading)),

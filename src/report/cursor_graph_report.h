@@ -36,7 +36,7 @@ class CursorGraphReport : public GraphReport {
 
  protected:
   CursorGraphReport(const char* name, ReportContext context, const char* caption, Entry entry,
-                    const CursorGraphLayout& layout, const CursorGraphData& data);
+                    const CursorGraphLayout& layout, CursorGraphData data);
 
  private:
   void HideCursorTable();

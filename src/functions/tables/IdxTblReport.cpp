@@ -116,7 +116,7 @@ void IdxTblReport::FormatDefinedSteps() {
     return;
   }
   if (Row == 0) LeaveOut();
-  std::int16_t next = static_cast<std::int16_t>(Row + 1);
+  auto next = static_cast<std::int16_t>(Row + 1);
   while (next < table.IndexCnt && table.Index[next].Defined != 1) ++next;
   if (next < table.IndexCnt) {
     shown_ = {};

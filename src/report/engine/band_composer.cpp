@@ -157,9 +157,8 @@ const std::string& BandComposer::TextOf(const TextControl& text) const {
   if (text.Kind != ControlKind::Field) return text.Text;
   switch (static_cast<const Field&>(text).Summary) {
     case Summary::PageNumber:
+    case Summary::PageCount:  // the number stands in until the total is known
       return pageNumber_;
-    case Summary::PageCount:
-      return pageNumber_;  // stands in until the total is known
     case Summary::None:
       break;
   }

@@ -1,3 +1,4 @@
+#include <array>
 #include <cstdio>
 #include <string>
 
@@ -8,16 +9,16 @@ namespace {
 
 // Whole twips as they are, fractions with one place.
 std::string Number(float value) {
-  char text[32];
+  std::array<char, 32> text{};
   const bool whole = value == static_cast<float>(static_cast<long>(value));
-  std::snprintf(text, sizeof text, whole ? "%.0f" : "%.1f", static_cast<double>(value));
-  return text;
+  std::snprintf(text.data(), text.size(), whole ? "%.0f" : "%.1f", static_cast<double>(value));
+  return text.data();
 }
 
 std::string HexColor(Color color) {
-  char text[16];
-  std::snprintf(text, sizeof text, "%06X", static_cast<unsigned>(color));
-  return text;
+  std::array<char, 16> text{};
+  std::snprintf(text.data(), text.size(), "%06X", static_cast<unsigned>(color));
+  return text.data();
 }
 
 std::string Place(const Rect& box) {
