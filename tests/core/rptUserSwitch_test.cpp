@@ -55,7 +55,8 @@ TEST_F(SwitchList, TwoDigitGroupsMakeAParameterLineAndTwoRows) {
 }
 
 TEST_F(SwitchList, ReadsAsAPage) {
-  Add("Pn000", {Digit("0", "1", "Direction\r\n1:Clockwise"), Digit("1", "2", "Control Method"), NoDigit, NoDigit});
+  Add("Pn000",
+      {Digit("0", "1", "Direction\r\n1:Clockwise"), Digit("1", "2", "Control Method"), NoDigit, NoDigit});
   Add("Pn001", {NoDigit, NoDigit, NoDigit, NoDigit});
   ExpectGolden("user_switch", Dump(Compose()));
 }
