@@ -17,6 +17,7 @@
 #include "support/arial_measurer.h"
 #include "support/fake_desktop.h"
 #include "support/fake_pictures.h"
+#include "support/fake_windows.h"
 
 namespace tarvis {
 namespace {
@@ -24,20 +25,11 @@ namespace {
 constexpr int Parameters = 16000;
 constexpr int Switches = 1800;
 
-// No window is needed to compose.
-class NoWindows : public ProgramWindows {
- public:
-  void ShowPrintSetting() override {}
-  void ShowMasterReport() override {}
-  void UnloadMasterReport() override {}
-  void SetHelpFile(const std::string&) override {}
-};
-
 struct Bench {
   FakeDesktop Desktop;
   PrintRun Run{Desktop};
   FakePictureLoader Pictures;
-  NoWindows Windows;
+  FakeWindows Windows;
 
   Bench() {
     PrintSession& session = Run.Session;

@@ -16,20 +16,12 @@
 #include "report/engine/composer.h"
 #include "report/rptTarvis.h"
 #include "support/fake_desktop.h"
+#include "support/fake_windows.h"
 
 namespace tarvis {
 namespace {
 
 constexpr int PageWidth = 794;  // A4 at 96 dots to the inch
-
-// A bench opens no window.
-class NoWindows : public ProgramWindows {
- public:
-  void ShowPrintSetting() override {}
-  void ShowMasterReport() override {}
-  void UnloadMasterReport() override {}
-  void SetHelpFile(const std::string&) override {}
-};
 
 bool GoOn(int /*done*/, int /*all*/) {
   return true;
@@ -78,7 +70,7 @@ class OwnRoad : public DocumentRoad {
   FakeDesktop desktop_;
   PrintRun run_{desktop_};
   PictureFileLoader pictures_;
-  NoWindows windows_;
+  FakeWindows windows_;
   Document document_;
 };
 

@@ -47,21 +47,26 @@ def channels(file):
     file.line("I/Otrace3", "", "0", "")
 
 
+def write_recording(file, function, folder, n, suffix, overlapped):
+    """The curves of data set `n` of a trace or a simulation, with their legends, cursors and channels."""
+    picture_keys(file, f"{function}Graph", draw_pair(graphs.motion, folder, f"{function}Graph{suffix}", 4.0 * n))
+    notes = draw_pair(graphs.legend, folder, f"{function}Note{suffix}", ("Speed Reference", "Motor Speed", "Torque"))
+    picture_keys(file, f"{function}Note", notes)
+    levels = folder / f"{function}IONote{suffix}.emf"
+    graphs.io_legend(levels)
+    picture_keys(file, f"{function}IONote", (levels, levels))
+    cursor_rows(file)
+    file.line("OverlapMode", int(overlapped > 0))
+    file.line("OverlapNum", overlapped)
+    channels(file)
+
+
 def write_trace(folder, overlapped=0):
     """`overlapped` data sets lie over one another; 0 for a single trace."""
     names = [""] + [str(n) for n in range(1, overlapped + 1)]
     for n, suffix in enumerate(names):
         file = PrintFile("Trace File", MODELS, f"axis1_run{n}.trc" if suffix else "axis1.trc")
-        picture_keys(file, "TraceGraph", draw_pair(graphs.motion, folder, f"TraceGraph{suffix}", 4.0 * n))
-        notes = draw_pair(graphs.legend, folder, f"TraceNote{suffix}", ("Speed Reference", "Motor Speed", "Torque"))
-        picture_keys(file, "TraceNote", notes)
-        levels = folder / f"TraceIONote{suffix}.emf"
-        graphs.io_legend(levels)
-        picture_keys(file, "TraceIONote", (levels, levels))
-        cursor_rows(file)
-        file.line("OverlapMode", int(overlapped > 0))
-        file.line("OverlapNum", overlapped)
-        channels(file)
+        write_recording(file, "Trace", folder, n, suffix, overlapped)
         file.line("TriggerType", "Trigger Type", "Speed Reference")
         file.line("TriggerLevel", "Trigger Level", "1,200 min-1")
         file.line("EdgeType", "Edge", "Rising")

@@ -1,7 +1,6 @@
 """The data files of a dynamics simulation of the fictional servo pack: one run, or several that overlap."""
-import graphs
 from bitmap import Bitmap
-from modes import DATE, channels, cursor_rows, draw_pair, parameter_block, picture_keys
+from modes import DATE, parameter_block, write_recording
 from print_file import PrintFile
 from servo_pack import MODELS, PARAMETERS
 
@@ -42,16 +41,7 @@ def _model(path):
 
 def _run(folder, n, suffix, overlapped):
     file = PrintFile("Dynamics Simulation File", MODELS, f"axis1_sim{n}.sim" if suffix else "axis1.sim")
-    picture_keys(file, "SimGraph", draw_pair(graphs.motion, folder, f"SimGraph{suffix}", 4.0 * n))
-    notes = draw_pair(graphs.legend, folder, f"SimNote{suffix}", ("Speed Reference", "Motor Speed", "Torque"))
-    picture_keys(file, "SimNote", notes)
-    levels = folder / f"SimIONote{suffix}.emf"
-    graphs.io_legend(levels)
-    picture_keys(file, "SimIONote", (levels, levels))
-    cursor_rows(file)
-    file.line("OverlapMode", int(overlapped > 0))
-    file.line("OverlapNum", overlapped)
-    channels(file)
+    write_recording(file, "Sim", folder, n, suffix, overlapped)
     file.line("MotorType", 0)
     if overlapped and not suffix:
         _comparison(file, overlapped)

@@ -21,9 +21,6 @@ class MechaFile : public testing::Test, protected TestRun {
   static TextLine Setting(const char* key, NameValueUnit& setting) {
     return {key, kField, {setting.Name, setting.Value, setting.Unit}};
   }
-  static TextLine Cursor(const char* key, CursorRow& row) {
-    return {key, kRest, {row.ValueA, row.ValueB, row.ValueDiff, row.NameUnit}};
-  }
 
   MechaData& Mecha = Run.Mecha;
 };
@@ -38,9 +35,9 @@ TEST_F(MechaFile, FillsWhatEachKeyNames) {
                    {"MechaNoteC", kRest, {Mecha.MechaNoteC}},
                    {"MechaNote", kRest, {Mecha.MechaNote}},
                    {"CursolName", kField, {Mecha.CursolName[0], Mecha.CursolName[1], Mecha.CursolName[2]}},
-                   Cursor("CursolInfo1", Mecha.CursolInfo1),
-                   Cursor("CursolInfo2", Mecha.CursolInfo2),
-                   Cursor("CursolInfo3", Mecha.CursolInfo3),
+                   CursorLineOf("CursolInfo1", Mecha.CursolInfo1),
+                   CursorLineOf("CursolInfo2", Mecha.CursolInfo2),
+                   CursorLineOf("CursolInfo3", Mecha.CursolInfo3),
                    Setting("Resonance", Mecha.Resonance),
                    Setting("Resonance1", Mecha.Resonance1),
                    Setting("Resonance2", Mecha.Resonance2),

@@ -24,12 +24,6 @@ class SimFile : public testing::Test, protected TestRun {
   static TextLine Setting(const char* key, NameValueUnit& setting) {
     return {key, kField, {setting.Name, setting.Value, setting.Unit}};
   }
-  static TextLine Item(const char* key, TraceItem& item) {
-    return {key, kField, {item.Name, item.Display, item.Unit}};
-  }
-  static TextLine Cursor(const char* key, CursorRow& row) {
-    return {key, kRest, {row.ValueA, row.ValueB, row.ValueDiff, row.NameUnit}};
-  }
 
   SimData& Sim = Run.Sim;
 };
@@ -58,14 +52,14 @@ TEST_F(SimFile, FillsWhatEachGraphKeyNames) {
                    {"SimNote", kRest, {Sim.SimNote}},
                    {"SimIONoteC", kRest, {Sim.SimIONoteC}},
                    {"SimIONote", kRest, {Sim.SimIONote}},
-                   Cursor("CursolInfo1", Sim.CursolInfo1),
-                   Cursor("CursolInfo2", Sim.CursolInfo2),
-                   Item("DataTrace1", Sim.DataTrace1),
-                   Item("DataTrace2", Sim.DataTrace2),
-                   Item("DataTrace3", Sim.DataTrace3),
-                   Item("I/Otrace1", Sim.IOTrace1),
-                   Item("I/Otrace2", Sim.IOTrace2),
-                   Item("I/Otrace3", Sim.IOTrace3),
+                   CursorLineOf("CursolInfo1", Sim.CursolInfo1),
+                   CursorLineOf("CursolInfo2", Sim.CursolInfo2),
+                   ItemLineOf("DataTrace1", Sim.DataTrace1),
+                   ItemLineOf("DataTrace2", Sim.DataTrace2),
+                   ItemLineOf("DataTrace3", Sim.DataTrace3),
+                   ItemLineOf("I/Otrace1", Sim.IOTrace1),
+                   ItemLineOf("I/Otrace2", Sim.IOTrace2),
+                   ItemLineOf("I/Otrace3", Sim.IOTrace3),
                    {"GetDataDate", kRest, {Run.Session.DataDate}},
                    {"Comment", kRest, {Unescaped(Run.User.Comment)}}});
 }

@@ -18,6 +18,7 @@
 #include "launch/print_run.h"
 #include "printfiles/print_options_file.h"
 #include "support/fake_desktop.h"
+#include "support/pinned_time.h"
 
 namespace tarvis {
 
@@ -26,16 +27,7 @@ class DialogRun : public testing::Test {
   DialogRun() {
     Run.Session.SystemFolder = Folder() + "\\";
     Run.Session.TempFolder = Folder() + "\\";
-    Run.Now = [] {
-      std::tm time{};
-      time.tm_year = 126;
-      time.tm_mon = 2;
-      time.tm_mday = 5;
-      time.tm_hour = 17;
-      time.tm_min = 4;
-      time.tm_sec = 9;
-      return time;
-    };
+    Run.Now = PinnedTime;
     DefaultPrintOptions(Run);
   }
   ~DialogRun() override {

@@ -12,29 +12,15 @@
 #include "support/arial_measurer.h"
 #include "support/fake_desktop.h"
 #include "support/fake_pictures.h"
+#include "support/fake_windows.h"
+#include "support/pinned_time.h"
 
 namespace tarvis {
-
-class FakeWindows : public ProgramWindows {
- public:
-  void ShowPrintSetting() override { Calls.push_back("dialog"); }
-  void ShowMasterReport() override { Calls.push_back("preview"); }
-  void UnloadMasterReport() override { Calls.push_back("unload"); }
-  void SetHelpFile(const std::string& path) override { Calls.push_back("help:" + path); }
-
-  std::vector<std::string> Calls;
-};
 
 // A4 paper with the margins of the master report.
 struct ReportRun {
   ReportRun() {
-    Run.Now = [] {
-      std::tm time{};
-      time.tm_year = 126;
-      time.tm_mon = 2;
-      time.tm_mday = 5;
-      return time;
-    };
+    Run.Now = PinnedTime;
     Run.Header.FileSpec = 3;
     Run.Session.ShowPrmName = Run.Session.ShowPrmUnit = Run.Session.ShowPrmDefault =
         Run.Session.ShowPrmSwitches = 1;

@@ -29,6 +29,14 @@ struct TextLine {
   std::vector<TextPart> Parts;
 };
 
+// The line of a cursor, and of a channel.
+inline TextLine CursorLineOf(const char* key, CursorRow& row) {
+  return {key, LastPart::kRest, {row.ValueA, row.ValueB, row.ValueDiff, row.NameUnit}};
+}
+inline TextLine ItemLineOf(const char* key, TraceItem& item) {
+  return {key, LastPart::kField, {item.Name, item.Display, item.Unit}};
+}
+
 struct NumberLine {
   std::string Key;
   std::int16_t* Number;

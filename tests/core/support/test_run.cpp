@@ -1,23 +1,9 @@
 #include "core/support/test_run.h"
 
 #include "printfiles/host_files.h"
+#include "support/pinned_time.h"
 
 namespace tarvis {
-namespace {
-
-std::tm PinnedTime() {
-  std::tm time{};
-  time.tm_year = 2026 - 1900;
-  time.tm_mon = 2;
-  time.tm_mday = 5;
-  time.tm_hour = 17;
-  time.tm_min = 4;
-  time.tm_sec = 9;
-  return time;
-}
-
-}  // namespace
-
 TestRun::TestRun() {
   Run.Now = PinnedTime;
 }

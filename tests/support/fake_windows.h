@@ -1,0 +1,21 @@
+// Windows that only note when they are asked for.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "launch/desktop.h"
+
+namespace tarvis {
+
+class FakeWindows : public ProgramWindows {
+ public:
+  void ShowPrintSetting() override { Calls.push_back("dialog"); }
+  void ShowMasterReport() override { Calls.push_back("preview"); }
+  void UnloadMasterReport() override { Calls.push_back("unload"); }
+  void SetHelpFile(const std::string& path) override { Calls.push_back("help:" + path); }
+
+  std::vector<std::string> Calls;
+};
+
+}  // namespace tarvis
