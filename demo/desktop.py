@@ -89,5 +89,6 @@ class User:
         """Clicks at pixels from the window's top left corner."""
         self._run("xdotool", "mousemove", "--window", window, str(x), str(y), "click", "1")
 
-    def screenshot(self, path, window="root"):
-        self._run("import", "-window", window, str(path))
+    def screenshot(self, path, window="root", framed=False):
+        """Of a window's inside, or with its title and frame."""
+        self._run("import", *(["-frame"] if framed else []), "-window", window, str(path))

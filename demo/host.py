@@ -73,14 +73,15 @@ class Host:
         else:
             MODES[mode][1](self.temp_folder)
 
-    def write_cover(self, coloured=True):
+    def write_cover(self, coloured=True, named=None):
+        """The options hold the logo's full path, or the one that is `named`."""
         logo = self.folder / "logo.bmp"
         picture = Bitmap(240, 80)
         picture.box(0, 0, 240, 80, rgb=0x003060, inside=0x0058A8)
         for k in range(5):
             picture.fill(20 + 44 * k, 20 + 6 * k, 48 + 44 * k, 60, 0xFFFFFF)
         picture.save(logo)
-        write_options_with_cover(self.options_file, logo, coloured)
+        write_options_with_cover(self.options_file, named or logo, coloured)
 
     def arguments(self, mode, edition=None):
         return [mode, self.help_file.name, str(HELP_CONTEXT), str(edition or MODES[mode][0])]

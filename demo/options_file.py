@@ -1,7 +1,7 @@
 """A print options file with a cover letter, as earlier runs of the dialog would have left it."""
 from print_file import escaped
 
-ADDRESS = "14 Harbour Lane\r\nOld Quay\r\n20459 Northport"
+ADDRESS = "14 Harbour Lane, Old Quay\r\n20459 Northport"
 
 
 def write_options_with_cover(path, logo, coloured):
