@@ -1,0 +1,176 @@
+"""The guide and the description of the files tell all that the program has: keys, boxes, messages, pictures."""
+import os
+import re
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+from documents import ROOT, Document
+
+SRC = ROOT / "src"
+GUIDE = Document(ROOT / "docs/user-guide.md")
+FORMATS = Document(ROOT / "docs/file-formats.md")
+PICTURES = ROOT / "docs/pictures"
+MOST_BYTES_OF_PICTURES = 1_500_000
+
+# Sections of the description of the files, with a file of that kind.
+SECTIONS = {
+    "## Parameter wizard file": "UPWizard.tmp", "## Trace file": "Trace.tmp", "## Real-time trace file": "RealTrace.tmp",
+    "## Mechanical analysis file": "Mecha.tmp", "## Simulation file": "Sim.tmp", "`IdxIdxTbl.tmp`, ": "IdxIdxTbl.tmp",
+    "`IdxZoneTbl.tmp`, ": "IdxZoneTbl.tmp", "`IdxJogTbl.tmp`, ": "IdxJogTbl.tmp",
+    "## Print options file": "PrintOption.ToT", "### Header keys": "User.tmp", "### Comment": "User.tmp",
+    "### Parameter block": "User.tmp",
+}
+
+
+def source(name):
+    return (SRC / name).read_text(encoding="utf-8")
+
+
+def plain(caption):
+    return caption.replace("&", "").strip()
+
+
+class Keys(unittest.TestCase):
+    def commands(self):
+        """Caption and keys of each entry of the preview's command table."""
+        text = source("preview/commands.cpp")
+        entries = re.findall(r'\{(\w+),\s+"(\w+)",\s+"([^"]+)",\s+"([^"]*)",', text)
+        self.assertEqual(len(entries), int(re.search(r"array<CommandEntry, (\d+)>", text)[1]))
+        return {plain(caption): keys.split("; ") for _, _, caption, keys in entries}
+
+    def test_table_of_keys_is_that_of_the_preview(self):
+        told = {row[0]: re.findall(r"`([^`]+)`", row[1]) for row in GUIDE.rows("In the preview:")}
+        self.assertEqual(told, self.commands())
+
+    def test_keys_of_the_page_view_are_told(self):
+        told = {key for row in GUIDE.rows("While the pages have the focus:") for key in re.findall(r"`(\w+)`", row[0])}
+        self.assertEqual(told, set(re.findall(r"case Qt::Key_(\w+):", source("preview/page_view_input.cpp"))))
+
+
+class Captions(unittest.TestCase):
+    def expect_told(self, captions, least):
+        self.assertGreaterEqual(len(captions), least)
+        for caption in sorted(captions):
+            self.assertIn(plain(caption), GUIDE.text)
+
+    def test_every_box_and_choice_of_the_item_pages_is_told(self):
+        found = set()
+        for page in SRC.glob("dialogs/Inf*.cpp"):
+            found |= set(re.findall(r'"(?:chkItem\w+|optRange)", \w+, "([^"]+)"', page.read_text(encoding="utf-8")))
+        self.expect_told(found, 20)
+
+    def test_every_box_of_header_and_footer_is_told(self):
+        text = source("dialogs/ItemPage.cpp")
+        self.expect_told(set(re.findall(r'\{"([^"]+)", &HeaderOptions::', text)) |
+                         set(re.findall(r'"chkFooter", NoFamily, "([^"]+)"', text)), 5)
+
+    def test_every_function_has_a_section(self):
+        functions = set(re.findall(r'\{"([A-Z][\w -]+)", PageId', source("dialogs/function_list.cpp")))
+        self.assertGreaterEqual(len(functions), 9)
+        headings = " ".join(re.findall(r"^### (.+)$", GUIDE.text, re.MULTILINE))
+        for function in functions:
+            self.assertIn(function, headings)
+
+
+class Messages(unittest.TestCase):
+    def test_every_numbered_failure_is_told_with_its_number(self):
+        table = re.search(r"Messages = \{(.*?)\};", source("launch/failures.cpp"), re.DOTALL)[1]
+        messages = re.findall(r'"([^"]+)"', table)
+        self.assertEqual(len(messages), 18)
+        self.assertIn(messages[0], GUIDE.text)
+        told = {row[0]: row[1] for row in GUIDE.rows("confirmed in the dialog is kept.")}
+        self.assertEqual(told, {str(number): text for number, text in enumerate(messages) if number > 0})
+
+    def test_every_other_message_is_told(self):
+        sentence = re.compile(r'(?:tr\(|Box box\([^;]*?)"([A-Z][^"]*\.)"')
+        found = {text for name in ("preview/preview_output.cpp", "platform/system_printers.cpp", "dialogs/InfIdxTbl.cpp")
+                 for text in sentence.findall(source(name))}
+        found |= set(re.findall(r'"(Wrong [^"]+)"', source("dialogs/InfIdxTbl.cpp")))
+        self.assertGreaterEqual(len(found), 5, found)
+        for message in found:
+            self.assertIn(message, GUIDE.text)
+        for part in re.findall(r'"(Try with [^"]+?|[^"]*be Inputted\.)"', source("dialogs/input_limits.cpp")):
+            self.assertIn(part.replace("\\n", " ").strip(), GUIDE.text)
+
+
+class Pictures(unittest.TestCase):
+    def test_every_picture_is_shown_and_every_shown_one_is_there(self):
+        shown = {link for document in (GUIDE, Document(ROOT / "README.md"))
+                 for link in re.findall(r"!\[[^\]]+\]\((?:docs/)?pictures/([^)]+)\)", document.text)}
+        self.assertEqual(shown, {path.name for path in PICTURES.iterdir()})
+
+    def test_every_picture_is_made_by_the_script(self):
+        runs = re.findall(r"^    Run\(.*", (ROOT / "demo/guide_pictures.py").read_text(encoding="utf-8"), re.MULTILINE)
+        made = [name + ".png" for run in runs for name in re.findall(r'"([a-z-]+)"', run)]
+        self.assertEqual(set(made), {path.name for path in PICTURES.iterdir()})
+
+    def test_script_makes_a_picture_like_the_one_that_is_kept(self):
+        with tempfile.TemporaryDirectory() as folder:
+            subprocess.run([sys.executable, ROOT / "demo/guide_pictures.py", "--program", os.environ["TARVIS_PROGRAM"],
+                            "--output", folder, "page-zone-table"], capture_output=True, check=True)
+            self.assertEqual([path.name for path in Path(folder).iterdir()], ["page-zone-table.png"])
+            kept, made = (subprocess.run(["identify", "-format", "%w x %h", where / "page-zone-table.png"],
+                                         capture_output=True, text=True, check=True).stdout
+                          for where in (PICTURES, Path(folder)))
+            self.assertEqual(made, kept)
+
+    def test_pictures_stay_small(self):
+        self.assertLess(sum(path.stat().st_size for path in PICTURES.iterdir()), MOST_BYTES_OF_PICTURES)
+
+
+class FileKeys(unittest.TestCase):
+    def keys(self, text):
+        """The keys that a reader's tables name."""
+        entry = r'\{\s*"([\w/-]+)",\s*(?:Rest|Fields|FieldsAndRest|OnlyAbove|CursorLine|ItemLine|SettingLine|ValuesLine' \
+                r'|CmpTimeLine|SlotLine|UnitLine|newFileSpec|\w+\.(?:Count|Begin|End|Continue|Whole))\b'
+        option = r'(?<![A-Za-z])(?:Whole|List|Header|AcceptedOnly)\("([\w/-]+)"'
+        return set(re.findall(entry, text)) | set(re.findall(option, text))
+
+    def tables(self):
+        """The files that hold key tables, with their text."""
+        for reader in sorted(SRC.glob("printfiles/*")):
+            text = reader.read_text(encoding="utf-8")
+            if re.search(r"KeyTable|OptionLine", text) and reader.stem != "key_table":
+                yield reader, text
+
+    def test_every_key_of_the_readers_is_told(self):
+        told = set(FORMATS.spans)
+        count = 0
+        for reader, text in self.tables():
+            keys = self.keys(text) | set(re.findall(r'"(User\d\w+)"', text))
+            count += len(keys)
+            self.assertEqual(keys - told, set(), reader.name)
+        self.assertGreaterEqual(count, 190)
+
+    def test_no_line_of_a_key_table_is_missed(self):
+        # What stands first in braces and is a text is a key: the pattern above must know its form of line.
+        for reader, text in self.tables():
+            first = set(re.findall(r'\{\s*"([\w/-]+)",', text)) - set(re.findall(r'"(User\d\w+)"', text))
+            self.assertEqual(first - self.keys(text), set(), reader.name)
+
+    def told_keys(self):
+        """Each key of the description, with the name of a file that has it."""
+        for start, name in SECTIONS.items():
+            table = FORMATS.prose.split("\n" + start, 1)[1].split("\n| Key ", 1)[1].split("\n\n", 1)[0]
+            for row in table.splitlines()[2:]:
+                for key in re.findall(r"`([^`]+)`", row.split("|")[1]):
+                    yield key, name
+
+    def test_every_key_that_is_told_is_known(self):
+        keys = list(self.told_keys())
+        self.assertGreaterEqual(len(keys), 170)
+        with tempfile.TemporaryDirectory() as folder:
+            paths = [Path(folder) / str(number) / name for number, (_, name) in enumerate(keys)]
+            for path, (key, _) in zip(paths, keys):
+                path.parent.mkdir()
+                path.write_bytes(key.encode() + b",\r\n")
+            told = subprocess.run([os.environ["TARVIS_CHECK"], *paths], capture_output=True, text=True, check=False).stdout
+        self.assertEqual(len(told.splitlines()), len(keys))
+        self.assertEqual([line for line in told.splitlines() if "unknown key" in line], [])
+
+
+if __name__ == "__main__":
+    unittest.main()
