@@ -75,6 +75,49 @@ class Captions(unittest.TestCase):
             self.assertIn(function, headings)
 
 
+class Limits(unittest.TestCase):
+    def test_limits_of_the_cover_letter_are_those_of_its_fields(self):
+        text = source("dialogs/EditCover.cpp")
+        plans = re.findall(r'\{\d, "([^"]+)", \{[\d, ]+\}, (?:true|false), (\d+), \w+\}', text)
+        self.assertGreaterEqual(len(plans), 13)
+        told = {name: row[1] for row in GUIDE.rows("![The greeting](pictures/cover-greeting.png)") for name in
+                re.split(", ", row[0].replace(" of an addressee", ""))}
+        for caption, limit in plans:
+            name = plain(caption).rstrip(":")
+            if name != "Zip Code":  # never shown
+                self.assertTrue(told[name].startswith(f"{limit} bytes"), f"{name}: {told[name]}")
+        constants = dict(re.findall(r"constexpr \w+ (\w+) = (\d+);", text))
+        self.assertIn("GreetingLimit = GreetingLines * GreetingWidth;", text)
+        lines, width = int(constants["GreetingLines"]), int(constants["GreetingWidth"])
+        self.assertEqual(told["Greeting Sentences"], f"{lines * width} bytes in all, {lines} lines of {width} bytes")
+        self.assertTrue(told["Address"].endswith(f"{constants['AddressLines']} lines of {constants['AddressWidth']} bytes"))
+
+
+class ManualPages(unittest.TestCase):
+    def page(self, name):
+        return (ROOT / "packaging" / name).read_text(encoding="utf-8")
+
+    def test_every_mode_stands_under_its_editions(self):
+        choices = set(re.findall(r'ModeChoice\{(\d), "(\w+)"', source("dialogs/function_list.cpp")))
+        told = set()
+        for edition, modes in re.findall(r"^\.TP\n(\d)(?:, version \d00)?\n(.+)$", self.page("tarvis.1"), re.MULTILINE):
+            told |= {(edition, mode) for mode in modes.replace("the same, ", "").split(", ")}
+        self.assertEqual(told, choices)
+        for _, mode in choices:
+            self.assertIn(f"`{mode}`", (ROOT / "README.md").read_text(encoding="utf-8"))
+
+    def test_every_value_of_the_configuration_is_told(self):
+        page = self.page("tarvis.ini.5").replace(r"\(rs", "\\")
+        keys = re.findall(r'EditionKeys\{\d, R"\(([^)]+)\)", "(\w+)", "(\w+)",\s*"(\w+)"\}', source("launch/system_paths.cpp"))
+        self.assertEqual(len(keys), 3)
+        for key, *values in keys:
+            section = page.split(f"[{key}]", 1)[1].split(".TP", 1)[0]
+            for value in values:
+                self.assertIn(value, section)
+        for entry in re.findall(r'Find\("Tarvis", "(\w+)"\)', source("platform/configuration_registry.cpp")):
+            self.assertIn(entry, page)
+
+
 class Messages(unittest.TestCase):
     def test_every_numbered_failure_is_told_with_its_number(self):
         table = re.search(r"Messages = \{(.*?)\};", source("launch/failures.cpp"), re.DOTALL)[1]

@@ -101,6 +101,7 @@ class Package(unittest.TestCase):
         self.assertTrue(debian.startswith(f"tarvis ({version}) "), debian)
         newest = re.search(r"^## (\S+)", (self.documents / "CHANGELOG.md").read_text(), re.MULTILINE)
         self.assertEqual(newest[1], version)
+        self.assertIn(f"/{package().name}\n", (ROOT / "README.md").read_text())
         metadata = (self.root / "usr/share/metainfo/example.tarvis.tarvis.metainfo.xml").read_text()
         self.assertEqual(re.search(r'release version="([^"]+)"', metadata)[1], version)
 
