@@ -203,6 +203,12 @@ class Paths(unittest.TestCase):
                 if anchor:
                     self.assertIn(anchor, every[target].anchors(), f"{document.name}: {link}")
 
+    def test_every_row_of_a_table_has_as_many_cells_as_its_head(self):
+        for document in documents():
+            for table in re.findall(r"(?:^\|.*\|$\n)+", document.prose, re.MULTILINE):
+                cells = {line.count("|") for line in table.splitlines()}
+                self.assertEqual(len(cells), 1, f"{document.name}: {table}")
+
     def test_every_document_can_be_reached_from_the_first_page(self):
         every = {document.path: document for document in documents()}
         seen, ahead = set(), [ROOT / "README.md"]
