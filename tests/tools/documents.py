@@ -1,10 +1,11 @@
 """Reads the tree's documents: fenced blocks, code spans, links and tables."""
 import re
+import textwrap
 from dataclasses import dataclass
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
-FENCE = re.compile(r"^```(\w*)\n(.*?)^```$", re.MULTILINE | re.DOTALL)
+FENCE = re.compile(r"^ *```(\w*)\n(.*?)^ *```$", re.MULTILINE | re.DOTALL)
 SPAN = re.compile(r"`([^`\n]+)`")
 LINK = re.compile(r"\]\(([^)\s]+)\)")
 HEADING = re.compile(r"^#+ (.+)$", re.MULTILINE)
@@ -21,7 +22,7 @@ class Document:
         self.path = path
         self.name = str(path.relative_to(ROOT))
         self.text = path.read_text(encoding="utf-8")
-        self.blocks = [Block(kind, tuple(body.splitlines())) for kind, body in FENCE.findall(self.text)]
+        self.blocks = [Block(kind, tuple(textwrap.dedent(body).splitlines())) for kind, body in FENCE.findall(self.text)]
         self.prose = FENCE.sub("", self.text)
         self.spans = SPAN.findall(self.prose)
         self.links = LINK.findall(self.prose)

@@ -29,7 +29,7 @@ RUN_BY = {
     "man tarvis": ("tests/tools/package_test.py", "mandoc"),
 }
 
-# Commands of --long, with what is run for each: the same on a display of its own, or for a shorter time.
+# Commands of --long, with what is run for each: the same on a display of its own, for a shorter time, on one file.
 LONG = {
     "tools/build dev-asan core_tests": ["tools/build dev-asan core_tests"],
     "tools/build release": ["tools/build release"],
@@ -45,6 +45,8 @@ LONG = {
     "cmake --preset fuzz -DTARVIS_FUZZ_PICTURES=ON": ["cmake --preset fuzz -DTARVIS_FUZZ_PICTURES=ON",
                                                       "cmake --preset fuzz -DTARVIS_FUZZ_PICTURES=OFF"],
     "./coverage.sh": ["./coverage.sh"],
+    "./lint.sh": ["./lint.sh src/check/main.cpp"],
+    "./lint.sh src/check/main.cpp": ["./lint.sh src/check/main.cpp"],
     "./bench.sh": ["./bench.sh --runs 1"],
     "tools/make_pictures": ["tools/make_pictures --output build/pictures"],
 }
@@ -137,6 +139,7 @@ class Commands(unittest.TestCase):
 
     def test_no_command_hides_in_another_kind_of_block(self):
         for document in documents():
+            self.assertNotIn("```", document.prose, document.name)
             for block in document.blocks:
                 self.assertIn(block.kind, KINDS, document.name)
                 if block.kind not in ("sh", "console"):
