@@ -12,7 +12,6 @@ namespace {
 
 constexpr int BeepCount = 5;
 constexpr int ExitAfterRun = 0;
-constexpr int ExitAfterRunTimeFailure = 1;
 
 constexpr std::array Messages = {
     "Printing Process is canceled.",
@@ -58,12 +57,6 @@ void ReportFailure(PrintRun& run, int number) {
   for (int beep = 0; beep < BeepCount; ++beep) run.Desktop.Beep();
   run.Desktop.ShowMessage("Printing Error", std::string(FailureMessage(number)) + "\n" + FailureMessage(0));
   EndRun(run);
-}
-
-void ReportRunTimeFailure(Desktop& desktop, const std::exception& failure) {
-  desktop.Diagnose(failure.what());
-  desktop.ShowMessage("Run-time error", failure.what());
-  EndProcess(desktop, ExitAfterRunTimeFailure);
 }
 
 }  // namespace tarvis

@@ -4,6 +4,9 @@
 #include <exception>
 #include <string>
 
+#include "launch/failures.h"
+#include "platform/start_watch.h"
+
 namespace tarvis {
 namespace {
 
@@ -51,8 +54,13 @@ void Application::Fail() {
     failing_ = true;
     desktop_.ShowMessage("Run-time error", words);
   }
-  desktop_.EndProcess(1);
+  desktop_.EndProcess(ExitAfterRunTimeFailure);
   std::abort();  // not reached
+}
+
+std::unique_ptr<Application> StartApplication(ToolkitArguments& arguments, Desktop& desktop) {
+  const StartWatch watch(desktop);
+  return std::make_unique<Application>(arguments, desktop);
 }
 
 }  // namespace tarvis

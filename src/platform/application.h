@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <array>
 #include <functional>
+#include <memory>
 
 #include "launch/desktop.h"
 
@@ -33,10 +34,16 @@ class Application : public QApplication {
   // and where, and ends the process with status 1. Deletes no file. The box is left out for a failure while
   // another one is being shown.
   [[noreturn]] void Fail();
+  // While the box of a failure is shown.
+  bool IsFailing() const { return failing_; }
 
  private:
   Desktop& desktop_;
   bool failing_ = false;
 };
+
+// Makes the application. A toolkit that can't start, for want of a display above all, ends the process with
+// status 1 and one line on standard error.
+std::unique_ptr<Application> StartApplication(ToolkitArguments& arguments, Desktop& desktop);
 
 }  // namespace tarvis

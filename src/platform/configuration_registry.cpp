@@ -1,9 +1,12 @@
 #include "platform/configuration_registry.h"
 
+#include <cerrno>
 #include <charconv>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <istream>
+#include <system_error>
 
 #include "printfiles/run_time_failure.h"
 
@@ -30,8 +33,16 @@ std::string CutValue(const std::string& text) {
 
 }  // namespace
 
-ConfigurationRegistry::ConfigurationRegistry(std::string path) : path_(std::move(path)) {
+ConfigurationRegistry::ConfigurationRegistry(std::string path, Desktop& desktop)
+    : path_(std::move(path)), desktop_(desktop) {
+  errno = 0;
   std::ifstream file(path_, std::ios::binary);
+  if (file) ReadLines(file);
+  readable_ = file.eof();
+  if (!readable_) desktop_.Diagnose(path_ + ": can't be read: " + std::generic_category().message(errno));
+}
+
+void ConfigurationRegistry::ReadLines(std::istream& file) {
   std::string section;
   for (std::string line; std::getline(file, line);) {
     if (line.ends_with('\r')) line.pop_back();
@@ -49,6 +60,8 @@ std::string ConfigurationRegistry::Find(const std::string& section, const std::s
 }
 
 std::string ConfigurationRegistry::Value(const std::string& key, const std::string& valueName) {
+  if (readable_ && !values_.contains({key, valueName}))
+    desktop_.Diagnose(path_ + ": there is no " + valueName + " in [" + key + "]");
   return CutValue(Find(key, valueName));
 }
 

@@ -8,6 +8,7 @@
 //   PdfPrinter=yes            counts saving as PDF as a printer
 #pragma once
 
+#include <iosfwd>
 #include <map>
 #include <string>
 #include <utility>
@@ -16,10 +17,12 @@
 
 namespace tarvis {
 
-// The file as it was when the object was made. A missing or unreadable file gives empty values.
+// The file as it was when the object was made. A file or an entry that is missing or can't be read gives
+// empty values, and a diagnosis that names it.
 class ConfigurationRegistry : public HostSettings {
  public:
-  explicit ConfigurationRegistry(std::string path);
+  // `desktop` must outlive the object.
+  ConfigurationRegistry(std::string path, Desktop& desktop);
 
   std::string Value(const std::string& key, const std::string& valueName) override;
 
@@ -27,9 +30,12 @@ class ConfigurationRegistry : public HostSettings {
   bool CountsPdfPrinter() const override;
 
  private:
+  void ReadLines(std::istream& file);
   std::string Find(const std::string& section, const std::string& entry) const;
 
   std::string path_;
+  Desktop& desktop_;
+  bool readable_ = false;
   std::map<std::pair<std::string, std::string>, std::string> values_;
 };
 

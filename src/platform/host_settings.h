@@ -15,7 +15,8 @@ class HostSettings : public HostRegistry {
   virtual bool CountsPdfPrinter() const = 0;
 };
 
-// The registry where there is one, the configuration file elsewhere.
-std::unique_ptr<HostSettings> OpenHostSettings();
+// The registry where there is one, the configuration file elsewhere. `desktop` is told what lacks there and
+// must outlive the settings.
+std::unique_ptr<HostSettings> OpenHostSettings(Desktop& desktop);
 
 }  // namespace tarvis

@@ -3,8 +3,8 @@
 
 namespace tarvis {
 
-std::unique_ptr<HostSettings> OpenHostSettings() {
-  return std::make_unique<ConfigurationRegistry>(ConfigurationPath());
+std::unique_ptr<HostSettings> OpenHostSettings(Desktop& desktop) {
+  return std::make_unique<ConfigurationRegistry>(ConfigurationPath(), desktop);
 }
 
 }  // namespace tarvis

@@ -84,4 +84,8 @@ void QtProgramWindows::SetHelpFile(const std::string& path) {
   help_.SetHelpFile(path);
 }
 
+void QtProgramWindows::StopWork() {
+  if (preview_ != nullptr) preview_->close();
+}
+
 }  // namespace tarvis

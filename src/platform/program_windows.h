@@ -25,6 +25,9 @@ class QtProgramWindows : public QObject, public ProgramWindows {
   void UnloadMasterReport() override;
   void SetHelpFile(const std::string& path) override;
 
+  // Calls off what the preview is saving or printing, so that the process can end without half a file left.
+  void StopWork();
+
  private:
   void ShowPreview();
 

@@ -23,7 +23,7 @@ class WindowsRegistry : public HostSettings {
 
 }  // namespace
 
-std::unique_ptr<HostSettings> OpenHostSettings() {
+std::unique_ptr<HostSettings> OpenHostSettings(Desktop& /*desktop*/) {
   return std::make_unique<WindowsRegistry>();
 }
 

@@ -125,16 +125,5 @@ TEST_F(FailuresTest, EndOfARunEndsAlsoWithoutItsFolder) {
   EXPECT_EQ(ExitStatusOf([&] { EndRun(Run); }), 0);
 }
 
-TEST_F(FailuresTest, AtRunTimeSayWhatAndWhereAndDeleteNothing) {
-  Folder.Write("tmp/User.tmp", "x");
-  const RunTimeFailure failure("not a number",
-                               {.File = "User.tmp", .Line = 7, .Key = "UserNum", .Text = "x"});
-  EXPECT_EQ(ExitStatusOf([&] { ReportRunTimeFailure(Desktop, failure); }), 1);
-  EXPECT_THAT(Desktop.Calls,
-              ElementsAre("diagnose User.tmp:7: UserNum: not a number: 'x'",
-                          "message Run-time error|User.tmp:7: UserNum: not a number: 'x'", "end 1"));
-  EXPECT_TRUE(Folder.Has("tmp/User.tmp"));
-}
-
 }  // namespace
 }  // namespace tarvis

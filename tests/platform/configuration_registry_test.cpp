@@ -1,5 +1,6 @@
 #include "platform/configuration_registry.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -9,22 +10,28 @@
 #include <map>
 
 #include "printfiles/run_time_failure.h"
+#include "support/fake_desktop.h"
 
 namespace tarvis {
 namespace {
+
+using testing::ElementsAre;
 
 class Configuration : public testing::Test {
  protected:
   std::string Path(const std::string& name = "tarvis.ini") const {
     return folder_.filePath(QString::fromStdString(name)).toStdString();
   }
-  ConfigurationRegistry Holding(const std::string& text) const {
+  ConfigurationRegistry Holding(const std::string& text) {
     std::ofstream(Path(), std::ios::binary) << text;
-    return ConfigurationRegistry(Path());
+    return At(Path());
   }
+  ConfigurationRegistry At(const std::string& path) { return {path, desktop_}; }
+  const std::vector<std::string>& Diagnoses() const { return desktop_.Diagnoses; }
 
  private:
   QTemporaryDir folder_;
+  FakeDesktop desktop_;
 };
 
 constexpr const char* HostKey = "SOFTWARE\\Korvane\\Tessaline\\Brenmark\\Quillon\\Setup";
@@ -47,16 +54,30 @@ TEST_F(Configuration, EntryBelongsToItsOwnSectionOnly) {
   EXPECT_EQ(registry.Value("One", "SystemPath"), "/one");
 }
 
-TEST_F(Configuration, MissingFileGivesEmptyValues) {
-  ConfigurationRegistry registry(Path("absent.ini"));
+TEST_F(Configuration, MissingFileGivesEmptyValuesAndIsNamedOnce) {
+  auto registry = At(Path("absent.ini"));
   EXPECT_EQ(registry.Value(HostKey, "SystemPath"), "");
   EXPECT_EQ(registry.CodePageNumber(), 1252);
   EXPECT_FALSE(registry.CountsPdfPrinter());
+  EXPECT_THAT(Diagnoses(), ElementsAre(Path("absent.ini") + ": can't be read: No such file or directory"));
 }
 
-TEST_F(Configuration, FolderInPlaceOfTheFileGivesEmptyValues) {
-  ConfigurationRegistry registry(Path(""));
+TEST_F(Configuration, FolderInPlaceOfTheFileGivesEmptyValuesAndIsNamedOnce) {
+  auto registry = At(Path(""));
   EXPECT_EQ(registry.Value(HostKey, "SystemPath"), "");
+  EXPECT_THAT(Diagnoses(), ElementsAre(Path("") + ": can't be read: Is a directory"));
+}
+
+TEST_F(Configuration, MissingEntryIsNamedWithItsSection) {
+  auto registry = Holding("[One]\nSystemPath=/one\n");
+  EXPECT_EQ(registry.Value("Two", "SystemPath"), "");
+  EXPECT_THAT(Diagnoses(), ElementsAre(Path() + ": there is no SystemPath in [Two]"));
+}
+
+TEST_F(Configuration, EmptyFileAndEmptyValueAreNoFault) {
+  Holding("");
+  Holding("[One]\nSystemPath=\n").Value("One", "SystemPath");
+  EXPECT_THAT(Diagnoses(), ElementsAre());
 }
 
 TEST_F(Configuration, ValueOf1024CharactersIsTakenWholeAndALongerOneIsCut) {
@@ -68,7 +89,7 @@ TEST_F(Configuration, ValueOf1024CharactersIsTakenWholeAndALongerOneIsCut) {
 }
 
 TEST_F(Configuration, NamesCodePageAndPdfPrinter) {
-  const auto registry = Holding("[Tarvis]\nCodePage=932\nPdfPrinter=yes\n");
+  auto registry = Holding("[Tarvis]\nCodePage=932\nPdfPrinter=yes\n");
   EXPECT_EQ(registry.CodePageNumber(), 932);
   EXPECT_TRUE(registry.CountsPdfPrinter());
 }
@@ -78,7 +99,7 @@ TEST_F(Configuration, AnyOtherWordThanYesDoesNotCountThePdfPrinter) {
 }
 
 TEST_F(Configuration, CodePageThatIsNoNumberNamesFileKeyAndText) {
-  const auto registry = Holding("[Tarvis]\nCodePage=12x\n");
+  auto registry = Holding("[Tarvis]\nCodePage=12x\n");
   try {
     registry.CodePageNumber();
     FAIL() << "no failure";

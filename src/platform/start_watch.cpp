@@ -1,0 +1,59 @@
+#include "platform/start_watch.h"
+
+#include <QString>
+#include <utility>
+#include <vector>
+
+#include "launch/failures.h"
+
+namespace tarvis {
+namespace {
+
+struct Told {
+  QtMsgType Type;
+  QString Category;
+  QString Text;
+};
+
+Desktop* watching = nullptr;
+std::vector<Told> told;  // warnings of the start so far
+
+bool IsUnset(const char* variable) {
+  return qEnvironmentVariableIsEmpty(variable);
+}
+
+// The first complaint is the cause, whatever follows from it.
+std::string Cause(const QString& lastWords) {
+  std::string cause =
+      (told.empty() ? lastWords.section(u'\n', 0, 0) : told.front().Text).trimmed().toStdString();
+  if (IsUnset("QT_QPA_PLATFORM") && IsUnset("DISPLAY") && IsUnset("WAYLAND_DISPLAY"))
+    cause += " (DISPLAY is not set)";
+  return cause;
+}
+
+void Listen(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  if (type != QtFatalMsg) {
+    told.push_back({type, QString::fromUtf8(context.category), text});
+    return;
+  }
+  watching->Diagnose("no window can be shown: " + Cause(text));
+  watching->EndProcess(ExitAfterRunTimeFailure);
+}
+
+}  // namespace
+
+StartWatch::StartWatch(Desktop& desktop) : before_(qInstallMessageHandler(Listen)) {
+  watching = &desktop;
+}
+
+StartWatch::~StartWatch() {
+  qInstallMessageHandler(before_);
+  for (const Told& message : std::exchange(told, {})) {
+    const QByteArray category = message.Category.toUtf8();
+    qt_message_output(message.Type, QMessageLogContext(nullptr, 0, nullptr, category.constData()),
+                      message.Text);
+  }
+  watching = nullptr;
+}
+
+}  // namespace tarvis
