@@ -1,5 +1,7 @@
 """A virtual display with a window manager, and a user at it: waits for windows, presses keys, takes screenshots."""
+import ctypes
 import os
+import signal
 import subprocess
 import threading
 import time
@@ -9,7 +11,7 @@ class Timeout(AssertionError):
     """Something that was waited for did not come."""
 
 
-def wait_until(reached, what, seconds=20):
+def wait_until(reached, what, seconds=60):
     """Asks again and again until `reached` gives something true, and returns that."""
     end = time.monotonic() + seconds
     pause = threading.Event()
@@ -22,21 +24,29 @@ def wait_until(reached, what, seconds=20):
         pause.wait(0.02)
 
 
+def end_with_parent():
+    """To be run in a new process: it is killed when the one that started it ends, however that comes about."""
+    PR_SET_PDEATHSIG = 1
+    ctypes.CDLL(None).prctl(PR_SET_PDEATHSIG, signal.SIGKILL)
+
+
 class VirtualDisplay:
-    """An X server of its own, until `close`. `server_options` are passed on to it."""
+    """An X server of its own, until `close`. `server_options` are passed on to it. Keys don't repeat: on a busy machine
+    there would be no telling how often."""
 
     def __init__(self, size="1280x1000", server_options=()):
         self.name = wait_until(lambda: self._start_server(size, server_options), "an X server")
         self.environment = {"DISPLAY": self.name}
-        self._manager = subprocess.Popen(["openbox"], env={**os.environ, **self.environment}, stderr=subprocess.DEVNULL)
+        self._manager = subprocess.Popen(["openbox"], env={**os.environ, **self.environment}, stderr=subprocess.DEVNULL,
+                                         preexec_fn=end_with_parent)
         wait_until(self._managed, "the window manager")
 
     def _start_server(self, size, server_options):
         """The name of the display; nothing if another server that starts at this moment takes it away."""
         read_end, write_end = os.pipe()
         self._server = subprocess.Popen(["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{size}x24",
-                                         "-nolisten", "tcp", *server_options],
-                                        pass_fds=[write_end], stderr=subprocess.DEVNULL)
+                                         "-nolisten", "tcp", "-r", *server_options],
+                                        pass_fds=[write_end], stderr=subprocess.DEVNULL, preexec_fn=end_with_parent)
         os.close(write_end)
         with os.fdopen(read_end) as told:
             number = told.readline().strip()
@@ -74,6 +84,16 @@ class User:
         found = self._run("xdotool", "search", "--onlyvisible", "--name", ".+", check=False).split()
         return sorted({self._run("xdotool", "getwindowname", window, check=False) for window in found})
 
+    def press_until_gone(self, key, title):
+        """Presses a key until no window of this title shows. A list of proposals may take the first one."""
+        for _ in range(20):
+            self.press(key)
+            try:
+                return wait_until(lambda: not self.windows(title), f"the window '{title}' to go", seconds=3)
+            except Timeout:
+                continue
+        raise Timeout(f"the key {key} doesn't close the window '{title}'")
+
     def focused(self, title):
         """The window that has the focus, if its title is exactly this one."""
         window = self._run("xdotool", "getactivewindow", check=False)
@@ -83,7 +103,7 @@ class User:
         self._run("xdotool", "key", "--clearmodifiers", "--delay", "15", *keys)
 
     def write(self, text):
-        self._run("xdotool", "type", "--clearmodifiers", "--delay", "8", text)
+        self._run("xdotool", "type", "--clearmodifiers", "--delay", "2", text)
 
     def click(self, window, x, y):
         """Clicks at pixels from the window's top left corner."""

@@ -84,13 +84,15 @@ class Host:
         write_options_with_cover(self.options_file, named or logo, coloured)
 
     def arguments(self, mode, edition=None):
-        return [mode, self.help_file.name, str(HELP_CONTEXT), str(edition or MODES[mode][0])]
+        return [mode, self.help_file.name, str(HELP_CONTEXT), str(MODES[mode][0] if edition is None else edition)]
 
     def start(self, program, mode, edition=None, environment=None, **popen):
         """Starts the program with the four arguments, as a child process."""
         return self.start_with(program, self.arguments(mode, edition), environment, **popen)
 
-    def start_with(self, program, arguments, environment=None, **popen):
-        """The same with any arguments."""
-        told = {**os.environ, **(environment or {}), "TARVIS_CONFIG": str(self.configuration)}
-        return subprocess.Popen([str(program), *arguments], env=told, **popen)
+    def start_with(self, program, arguments, environment=None, through=(), **popen):
+        """The same with any arguments. A variable that is None is not set; `through` is a command that ends by
+        becoming the program."""
+        told = {**os.environ, "TARVIS_CONFIG": str(self.configuration), **(environment or {})}
+        told = {name: value for name, value in told.items() if value is not None}
+        return subprocess.Popen([*through, str(program), *arguments], env=told, **popen)

@@ -14,7 +14,7 @@ class Session:
         self.process = process
         self._is_ready = is_ready
 
-    def wait_for(self, title, seconds=30):
+    def wait_for(self, title, seconds=60):
         """Until the window has the focus. A program that ends instead is told with its exit status."""
         try:
             return wait_until(lambda: self._focused(title), f"the window '{title}'", seconds)
@@ -24,8 +24,7 @@ class Session:
     def _focused(self, title):
         if self.process.poll() is not None:
             raise Timeout(f"the program has ended with status {self.process.returncode}")
-        window = self.user.focused(title)
-        return window if window and self._is_ready(title) else None
+        return self.user.focused(title) if self._is_ready(title) else None
 
     def confirm_dialog(self):
         self.wait_for(DIALOG)
@@ -35,16 +34,22 @@ class Session:
     def save_pdf(self, path):
         """Saves as PDF by the keyboard."""
         path.unlink(missing_ok=True)
+        self.ask_for_pdf(path)
+        wait_until(lambda: path.exists() and path.read_bytes().rstrip().endswith(b"%%EOF"), f"{path}")
+        self.wait_for(PREVIEW)
+
+    def ask_for_pdf(self, path):
+        """Gives the order to save; what comes of it is not waited for."""
+        self.wait_for(PREVIEW)
         self.user.press("ctrl+s")
         self.wait_for("Save as PDF")
         self.user.press("ctrl+a")
         self.user.write(str(path))
-        self.user.press("Return")
-        wait_until(lambda: path.exists() and path.read_bytes().rstrip().endswith(b"%%EOF"), f"{path}")
-        self.wait_for(PREVIEW)
+        self.user.press_until_gone("Return", "Save as PDF")
 
     def print_all(self, queue, count=1):
         """Prints with the system's dialog as it comes up; returns the number of the print job."""
+        self.wait_for(PREVIEW)
         self.user.press("ctrl+p")
         self.wait_for("Print")
         self.user.press("Return")
@@ -54,5 +59,6 @@ class Session:
 
     def close_preview(self):
         """Closes the window as its own menu does; returns the exit status."""
+        self.wait_for(PREVIEW)
         self.user.press("alt+F4")
-        return self.process.wait(timeout=30)
+        return self.process.wait(timeout=60)

@@ -66,9 +66,15 @@ class AccessibleProgram:
         desktop = Atspi.get_desktop(0)
         for i in range(desktop.get_child_count()):
             application = desktop.get_child_at_index(i)
-            if application is not None and application.get_process_id() == self._pid:
+            if application is not None and self._is_it(application):
                 return [window for window in Widget(application).children() if window.has("showing")]
         return []
+
+    def _is_it(self, application):
+        try:
+            return application.get_process_id() == self._pid
+        except GLib.Error:  # another program that ends at this moment
+            return False
 
     def window(self, title):
         return next((window for window in self.windows() if window.name == title), None)

@@ -3,27 +3,8 @@ import unittest
 
 from program_case import ProgramCase
 
-CANCELED = "Printing Process is canceled."
-
 
 class Failures(ProgramCase):
-    def expect_failure(self, session, words):
-        """The numbered failure, answered with OK; the run ends as every run does."""
-        text, buttons = self.read_message(session, "Printing Error")
-        self.assertEqual(text, f"{words}\n{CANCELED}")
-        self.assertEqual([name.replace("&", "") for name in buttons], ["OK"])
-        self.user.press("Return")
-        self.assertEqual(session.process.wait(timeout=30), 0)
-
-    def expect_run_time_error(self, session, *words):
-        """Told with its place on the screen and on standard error; exit status 1; no file deleted."""
-        text, _ = self.read_message(session, "Run-time error")
-        for word in words:
-            self.assertIn(word, text)
-            self.assertIn(word, self.standard_error())
-        self.user.press("Return")
-        self.assertEqual(session.process.wait(timeout=30), 1)
-
     def test_no_argument_is_failure_1_and_deletes_nothing(self):
         self.host.write_data("User")
         self.expect_failure(self.start(None, arguments=[]), "Argument is wrong.")
@@ -80,8 +61,7 @@ class Failures(ProgramCase):
         session = self.start("User")
         text, _ = self.read_message(session, "Print")
         self.assertIn("No printer is installed.", text)
-        self.user.press("Return")
-        self.assertEqual(session.process.wait(timeout=30), 0)
+        self.answer_and_end(session, 0)
         self.assertEqual(self.files_left(), [])
         self.assertFalse(self.host.options_file.exists())
 
@@ -89,8 +69,7 @@ class Failures(ProgramCase):
         self.host.prepare(pdf_printer=False)
         session = self.start("PrnSetting")
         session.wait_for("Printing Item Setting")
-        self.user.press("Return")
-        self.assertEqual(session.process.wait(timeout=30), 0)
+        self.answer_and_end(session, 0)
         self.assertTrue(self.host.options_file.exists())
 
 

@@ -9,11 +9,12 @@ ROOT = Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(ROOT / "demo"))
 
 from assistive import AccessibleProgram  # noqa: E402
-from desktop import User, VirtualDisplay, wait_until  # noqa: E402
+from desktop import User, VirtualDisplay, end_with_parent, wait_until  # noqa: E402
 from host import Host  # noqa: E402
-from session import Session  # noqa: E402
+from session import DIALOG, PREVIEW, Session  # noqa: E402
 
 PROGRAM = os.environ["TARVIS_PROGRAM"]
+CANCELED = "Printing Process is canceled."
 
 
 class ProgramCase(unittest.TestCase):
@@ -38,14 +39,14 @@ class ProgramCase(unittest.TestCase):
         return {**self.display.environment, "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "LANG": "C.UTF-8",
                 "XDG_RUNTIME_DIR": str(self.folder), "CUPS_SERVER": "127.0.0.1:1"}
 
-    def start(self, mode, edition=None, arguments=None, environment=None):
-        """Starts the program as the host does; it is ended with the test if it still runs."""
+    def start(self, mode, edition=None, arguments=None, environment=None, through=()):
+        """Starts the program as the host does, `through` a command that becomes the program; it is ended with the
+        test if it still runs. A variable of the environment that is None is not set."""
         told = {**self.environment(), **(environment or {})}
         with self.errors.open("wb") as stderr:
-            if arguments is None:
-                process = self.host.start(PROGRAM, mode, edition, environment=told, stderr=stderr)
-            else:
-                process = self.host.start_with(PROGRAM, arguments, environment=told, stderr=stderr)
+            process = self.host.start_with(PROGRAM, arguments if arguments is not None else self.host.arguments(mode, edition),
+                                           environment=told, through=through, stderr=stderr,
+                                           preexec_fn=end_with_parent)
         self.addCleanup(self._end, process)
         self.program = AccessibleProgram(process.pid)
         return Session(self.user, process, self._is_active)
@@ -72,6 +73,57 @@ class ProgramCase(unittest.TestCase):
         box = self.window(session, title)
         words = wait_until(lambda: [w.name for w in box.all() if w.role == "label" and w.name], "the words of the message")
         return "\n".join(words), [w.name for w in box.all() if w.role == "push button"]
+
+    def expect_failure(self, session, words, title="Printing Error"):
+        """The numbered failure, answered with OK; the run ends as every run does."""
+        text, buttons = self.read_message(session, title)
+        self.assertEqual(text, f"{words}\n{CANCELED}")
+        self.assertEqual([name.replace("&", "") for name in buttons], ["OK"])
+        self.answer_and_end(session, 0)
+
+    def expect_run_time_error(self, session, *words):
+        """Told with its place on the screen and on standard error; exit status 1; no file deleted."""
+        text, _ = self.read_message(session, "Run-time error")
+        for word in words:
+            self.assertIn(word, text)
+            self.assertIn(word, self.standard_error())
+        self.answer_and_end(session, 1)
+
+    def answer_and_end(self, session, status):
+        """Answers the window that has the focus with the Enter key, which ends the run with this exit status."""
+        self.user.press("Return")
+        self.assertEqual(session.process.wait(timeout=60), status)
+
+    def widget(self, title, role, name):
+        """Of the window of this title, once it shows."""
+        def found():
+            window = self.program.window(title)
+            return window.find(role, name) if window else None
+        return wait_until(found, f"the {role} '{name}'")
+
+    def press_until_focused(self, session, title, role, name, key="Tab"):
+        """Walks through a window by a key until the widget of this role and name has the focus."""
+        for _ in range(60):
+            widget = self.window(session, title).find(role, name)
+            if widget is not None and widget.has("focused"):
+                return widget
+            before = self.focused_in(title)
+            self.user.press(key)
+            wait_until(lambda before=before: self.focused_in(title) != before, "the focus to move on")
+        self.fail(f"'{name}' can't be reached by {key}")
+
+    def focused_in(self, title):
+        window = self.program.window(title)
+        return [(w.role, w.name) for w in window.all() if w.has("focused")] if window else None
+
+    def edit_items(self, session):
+        """Goes back from the preview to the dialog."""
+        self.press_until_focused(session, PREVIEW, "push button", "Editing of the Printing Items")
+        self.user.press("space")
+        session.wait_for(DIALOG)
+
+    def data_files_left(self):
+        return [name for name in self.files_left() if name.lower().endswith((".tmp", ".emf"))]
 
     def files_left(self):
         return sorted(path.name for path in self.host.temp_folder.iterdir())

@@ -1,34 +1,16 @@
 """One run from the host's start to its end, by keys: dialog, preview, PDF, paper, back to the dialog, close."""
-import re
-import subprocess
 import unittest
 
 from program_case import ProgramCase  # also finds the demo's modules
 from desktop import wait_until
 from print_queue import PrintQueue
-from session import DIALOG, PREVIEW
+from saved_pdf import page_count, text_of, words_of
+from session import DIALOG
 
 TWIPS = 20.0  # to the point
 PAPER_LEFT = 1440
 ROW_PITCH = 295
 DIGIT_WIDTH = 8.5 * 0.556 * TWIPS
-
-
-def words_of(pdf, page):
-    """(word, left, right, top, bottom) of a page, in points."""
-    told = subprocess.run(["pdftotext", "-bbox", "-f", str(page), "-l", str(page), str(pdf), "-"],
-                          capture_output=True, text=True, check=True).stdout
-    found = re.findall(r'<word xMin="([\d.]+)" yMin="([\d.]+)" xMax="([\d.]+)" yMax="([\d.]+)">(.*?)</word>', told)
-    return [(word, float(left), float(right), float(top), float(bottom)) for left, top, right, bottom, word in found]
-
-
-def text_of(pdf):
-    return subprocess.run(["pdftotext", "-layout", str(pdf), "-"], capture_output=True, text=True, check=True).stdout
-
-
-def page_count(pdf):
-    told = subprocess.run(["pdfinfo", str(pdf)], capture_output=True, text=True, check=True).stdout
-    return int(re.search(r"Pages:\s+(\d+)", told)[1])
 
 
 class WholeRun(ProgramCase):
@@ -40,21 +22,6 @@ class WholeRun(ProgramCase):
 
     def environment(self):
         return {**super().environment(), **self.queue.environment}
-
-    def press_until_focused(self, session, title, role, name, key="Tab"):
-        """Walks through a window by a key until the widget of this role and name has the focus."""
-        for _ in range(60):
-            widget = self.window(session, title).find(role, name)
-            if widget is not None and widget.has("focused"):
-                return widget
-            before = self.focused_in(title)
-            self.user.press(key)
-            wait_until(lambda before=before: self.focused_in(title) != before, "the focus to move on")
-        self.fail(f"'{name}' can't be reached by {key}")
-
-    def focused_in(self, title):
-        window = self.program.window(title)
-        return [(w.role, w.name) for w in window.all() if w.has("focused")] if window else None
 
     def test_from_launch_to_exit(self):
         self.host.write_data("User")
@@ -68,8 +35,7 @@ class WholeRun(ProgramCase):
         job = session.print_all(self.queue)
         self.expect_printed(job, first)
 
-        self.press_until_focused(session, PREVIEW, "push button", "Editing of the Printing Items")
-        self.user.press("space")
+        self.edit_items(session)
         self.turn_on_the_unit_column(session)
         second = self.folder / "second.pdf"
         session.confirm_dialog()
@@ -165,9 +131,7 @@ class WholeRun(ProgramCase):
         session = self.start("User")
         for _ in range(3):
             session.confirm_dialog()
-            self.press_until_focused(session, PREVIEW, "push button", "Editing of the Printing Items")
-            self.user.press("space")
-            session.wait_for(DIALOG)
+            self.edit_items(session)
         written = self.host.options_file.read_bytes()
         self.user.press("Escape")
         self.assertEqual(session.process.wait(timeout=30), 0)
