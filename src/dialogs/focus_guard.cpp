@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QMetaObject>
+#include <QShortcutEvent>
 #include <utility>
 
 namespace tarvis {
@@ -43,9 +44,14 @@ bool FocusGuard::eventFilter(QObject* watched, QEvent* event) {
   auto* control = qobject_cast<QWidget*>(watched);
   if (!IsOfWindow(control)) return false;
   if (press) return std::exchange(swallowPress_, false);
-  // A mnemonic presses a push button without giving it the focus.
   auto* button = qobject_cast<QAbstractButton*>(control);
-  return button != nullptr && button->isEnabled() && !Enter(*button);
+  if (button == nullptr || !button->isEnabled()) return false;
+  // A mnemonic presses a push button without giving it the focus.
+  if (!Enter(*button)) return true;
+  if (static_cast<QShortcutEvent*>(event)->isAmbiguous()) return false;
+  // The toolkit would let a tenth of a second pass, and keys that follow would overtake the click.
+  button->click();
+  return true;
 }
 
 }  // namespace tarvis

@@ -10,6 +10,7 @@ namespace tarvis {
 // Asks `refuse` whenever the focus has moved from one control of the window to another one of it; switching
 // to another window or program is no leave. Who refuses returns true and has put the focus back and told the
 // user; the press or the shortcut that moved the focus then does nothing more.
+// Mnemonics of buttons click at once.
 class FocusGuard : public QObject {
   Q_OBJECT
 

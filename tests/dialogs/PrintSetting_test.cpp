@@ -312,6 +312,15 @@ TEST_F(PrintSettingTest, TheMnemonicPressesOk) {
   EXPECT_TRUE(QTest::qWaitFor([this] { return PreviewDialogVisible.size() == 1; }));
 }
 
+TEST_F(PrintSettingTest, AMnemonicCountsBeforeTheKeyThatFollowsAtOnce) {
+  Open(1, "200", "Trace");
+  Key(Qt::Key_C, Qt::AltModifier);
+  Key(Qt::Key_A, Qt::AltModifier);
+  Key(Qt::Key_Return);
+  EXPECT_THAT(OptionsFile(), testing::HasSubstr("\nColorType,1\r"));
+  EXPECT_THAT(OptionsFile(), testing::HasSubstr("\nCover,1\r"));
+}
+
 TEST_F(PrintSettingTest, AnOptionsFileThatCantBeWrittenStopsNobody) {
   Open(4, "100", "User");
   Run.Session.SystemFolder = Folder() + "\\missing\\";
