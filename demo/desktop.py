@@ -84,15 +84,15 @@ class User:
         found = self._run("xdotool", "search", "--onlyvisible", "--name", ".+", check=False).split()
         return sorted({self._run("xdotool", "getwindowname", window, check=False) for window in found})
 
-    def press_until_gone(self, key, title):
-        """Presses a key until no window of this title shows. A list of proposals may take the first one."""
+    def press_until_gone(self, keys, title):
+        """Presses keys until no window of this title shows. A list of proposals may take the first one."""
         for _ in range(20):
-            self.press(key)
+            self.press(*keys)
             try:
                 return wait_until(lambda: not self.windows(title), f"the window '{title}' to go", seconds=3)
             except Timeout:
                 continue
-        raise Timeout(f"the key {key} doesn't close the window '{title}'")
+        raise Timeout(f"the keys {keys} don't close the window '{title}'")
 
     def focused(self, title):
         """The window that has the focus, if its title is exactly this one."""

@@ -38,14 +38,14 @@ class Session:
         wait_until(lambda: path.exists() and path.read_bytes().rstrip().endswith(b"%%EOF"), f"{path}")
         self.wait_for(PREVIEW)
 
-    def ask_for_pdf(self, path):
-        """Gives the order to save; what comes of it is not waited for."""
+    def ask_for_pdf(self, path, replace=False):
+        """Gives the order to save, `replace` of a file that is there; what comes of it is not waited for."""
         self.wait_for(PREVIEW)
         self.user.press("ctrl+s")
         self.wait_for("Save as PDF")
         self.user.press("ctrl+a")
         self.user.write(str(path))
-        self.user.press_until_gone("Return", "Save as PDF")
+        self.user.press_until_gone(("Return", "alt+y") if replace else ("Return",), "Save as PDF")
 
     def print_all(self, queue, count=1):
         """Prints with the system's dialog as it comes up; returns the number of the print job."""

@@ -57,9 +57,10 @@ void DefaultPrintOptions(PrintRun& run) {
 }
 
 bool WritePrintOptionsFile(PrintRun& run, std::string_view path) {
-  std::error_code ignored;  // a file that can't be removed can't be opened below
+  std::error_code error;
   if (FileExists(run.Session.SystemFolder + "PrintOption.ToT"))
-    std::filesystem::remove(NativePath(path), ignored);
+    std::filesystem::remove(NativePath(path), error);
+  if (error) return false;
   run.Options.FileSpec = FileSpec;
   std::ofstream file(NativePath(path), std::ios::binary | std::ios::trunc);
   for (const OptionLine& line : OptionLines(run.Options)) {

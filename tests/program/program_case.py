@@ -16,6 +16,11 @@ from session import DIALOG, PREVIEW, Session  # noqa: E402
 PROGRAM = os.environ["TARVIS_PROGRAM"]
 CANCELED = "Printing Process is canceled."
 
+# Become a program that files and folders without leave are closed to, as to any user, also where the tests run as
+# the system's own; and one that can write no file beyond 512 bytes, as on a disk that is full.
+AS_A_USER = ("setpriv", "--bounding-set=-dac_override,-dac_read_search") if os.geteuid() == 0 else ()
+ON_A_FULL_DISK = ("sh", "-c", 'ulimit -f 1; exec "$@"', "sh")
+
 
 class ProgramCase(unittest.TestCase):
     """Each test has files of its own; the display serves all tests of a module."""
@@ -39,14 +44,14 @@ class ProgramCase(unittest.TestCase):
         return {**self.display.environment, "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "LANG": "C.UTF-8",
                 "XDG_RUNTIME_DIR": str(self.folder), "CUPS_SERVER": "127.0.0.1:1"}
 
-    def start(self, mode, edition=None, arguments=None, environment=None, through=()):
+    def start(self, mode, edition=None, arguments=None, environment=None, through=(), **popen):
         """Starts the program as the host does, `through` a command that becomes the program; it is ended with the
         test if it still runs. A variable of the environment that is None is not set."""
         told = {**self.environment(), **(environment or {})}
         with self.errors.open("wb") as stderr:
             process = self.host.start_with(PROGRAM, arguments if arguments is not None else self.host.arguments(mode, edition),
                                            environment=told, through=through, stderr=stderr,
-                                           preexec_fn=end_with_parent)
+                                           preexec_fn=end_with_parent, **popen)
         self.addCleanup(self._end, process)
         self.program = AccessibleProgram(process.pid)
         return Session(self.user, process, self._is_active)
@@ -89,10 +94,19 @@ class ProgramCase(unittest.TestCase):
             self.assertIn(word, self.standard_error())
         self.answer_and_end(session, 1)
 
+    def expect_end(self, process, status=0):
+        self.assertEqual(process.wait(timeout=60), status)
+
     def answer_and_end(self, session, status):
         """Answers the window that has the focus with the Enter key, which ends the run with this exit status."""
         self.user.press("Return")
-        self.assertEqual(session.process.wait(timeout=60), status)
+        self.expect_end(session.process, status)
+
+    def wait_for_words(self, words):
+        """Until a label of any window holds these words."""
+        def told():
+            return [label for window in self.program.windows() for label in window.all() if words in label.name]
+        wait_until(told, f"the words '{words}'")
 
     def widget(self, title, role, name):
         """Of the window of this title, once it shows."""
@@ -121,6 +135,14 @@ class ProgramCase(unittest.TestCase):
         self.press_until_focused(session, PREVIEW, "push button", "Editing of the Printing Items")
         self.user.press("space")
         session.wait_for(DIALOG)
+
+    def note_opened(self, target):
+        """The environment in which a page that the program has the desktop open is noted in the file `target`."""
+        opener = self.folder / "bin" / "xdg-open"
+        opener.parent.mkdir()
+        opener.write_text(f'#!/bin/sh\nprintf "%s\\n" "$1" >> "{target}"\n')
+        opener.chmod(0o755)
+        return {"PATH": f"{opener.parent}:/usr/bin:/bin"}
 
     def data_files_left(self):
         return [name for name in self.files_left() if name.lower().endswith((".tmp", ".emf"))]

@@ -1,0 +1,266 @@
+"""Files that vanish, change or can't be written while the program runs: told where told, and nothing lost."""
+import shutil
+import unittest
+
+from program_case import AS_A_USER, ON_A_FULL_DISK, ProgramCase
+from desktop import wait_until
+from saved_pdf import words_in_a_row
+from session import DIALOG
+
+OPTIONS_BEFORE = b"File-Spec,4\r\nDrowCorp,Northport Motion Ltd.\r\n"
+
+
+class FileFaults(ProgramCase):
+    def confirm(self, session):
+        session.wait_for(DIALOG)
+        self.user.press("Return")
+
+    def saved_words(self, session):
+        pdf = self.folder / "document.pdf"
+        session.save_pdf(pdf)
+        return words_in_a_row(pdf)
+
+
+class TemporaryFolder(FileFaults):
+    def test_that_never_was_is_a_missing_file_after_ok(self):
+        shutil.rmtree(self.host.temp_folder)
+        session = self.start("User")
+        self.confirm(session)
+        self.expect_failure(session, "Parameter File is wrong.")
+        self.assertTrue(self.host.options_file.exists())
+
+    def test_that_never_was_ends_the_dialog_of_a_program_table(self):
+        shutil.rmtree(self.host.temp_folder)
+        self.expect_failure(self.start("IdxTbl"), "Program Table File is wrong.")
+        self.assertFalse(self.host.options_file.exists())
+
+    def test_that_never_was_is_no_matter_for_settings(self):
+        shutil.rmtree(self.host.temp_folder)
+        session = self.start("PrnSetting")
+        self.confirm(session)
+        self.expect_end(session.process)
+        self.assertTrue(self.host.options_file.exists())
+
+    def test_that_goes_while_the_dialog_stands_is_a_missing_file_after_ok(self):
+        self.host.write_data("Trace")
+        session = self.start("Trace")
+        session.wait_for(DIALOG)
+        shutil.rmtree(self.host.temp_folder)
+        self.confirm(session)
+        self.expect_failure(session, "Tracing File is wrong.")
+
+    def test_that_goes_while_the_preview_stands_takes_nothing_from_the_document(self):
+        self.host.write_data("Mecha")
+        session = self.start("Mecha")
+        session.confirm_dialog()
+        before = self.saved_words(session)
+        shutil.rmtree(self.host.temp_folder)
+        self.assertEqual(self.saved_words(session), before)
+        self.assertEqual(session.close_preview(), 0)
+        self.assertEqual(self.standard_error(), "")
+
+    def test_that_goes_while_the_preview_stands_is_missed_by_the_next_preview(self):
+        self.host.write_data("JogTbl")
+        session = self.start("JogTbl")
+        session.confirm_dialog()
+        shutil.rmtree(self.host.temp_folder)
+        self.edit_items(session)
+        self.confirm(session)
+        self.expect_failure(session, "Jog Speed Table File is wrong.")
+        self.assertTrue(self.host.options_file.exists())
+
+
+class DataFile(FileFaults):
+    def test_written_anew_while_the_preview_stands_shows_after_the_next_ok(self):
+        self.host.write_data("JogTbl")
+        data = self.host.temp_folder / "IdxJogTbl.tmp"
+        session = self.start("JogTbl")
+        session.confirm_dialog()
+        data.write_bytes(data.read_bytes().replace(b"Speeds grow by 40 %", b"Nothing is as it was"))
+        self.assertIn("Speeds grow by 40 %", self.saved_words(session))
+        self.edit_items(session)
+        session.confirm_dialog()
+        text = self.saved_words(session)
+        self.assertIn("Nothing is as it was", text)
+        self.assertNotIn("Speeds grow", text)
+        self.assertEqual(session.close_preview(), 0)
+
+    def test_that_is_a_folder_is_a_file_that_can_not_be_read(self):
+        (self.host.temp_folder / "User.tmp").mkdir()
+        session = self.start("User")
+        self.confirm(session)
+        self.expect_failure(session, "Parameter File is wrong.")
+        self.assertIn("User.tmp", self.standard_error())
+        self.assertEqual(self.files_left(), ["User.tmp"])  # only files are deleted
+
+    def test_that_may_not_be_read_is_wrong(self):
+        self.host.write_data("User")
+        (self.host.temp_folder / "User.tmp").chmod(0)
+        session = self.start("User", through=AS_A_USER)
+        self.confirm(session)
+        self.expect_failure(session, "Parameter File is wrong.")
+        self.assertEqual(self.files_left(), [])
+
+    def test_that_can_not_be_deleted_stays_and_the_run_ends_all_the_same(self):
+        self.host.write_data("User")
+        self.addCleanup(self.host.temp_folder.chmod, 0o755)
+        self.host.temp_folder.chmod(0o555)
+        session = self.start("User", through=AS_A_USER)
+        session.confirm_dialog()
+        self.assertEqual(session.close_preview(), 0)
+        self.assertEqual(self.files_left(), ["User.tmp"])
+        self.assertEqual(self.standard_error(), "")
+
+
+class Picture(FileFaults):
+    # mode, what goes between dialog and preview, what is told; black and white is chosen
+    LOST = [("Trace", "TraceGraph.emf", "Graph File (Black & White) is not found."),
+            ("Trace", "TraceNote.emf", "Explanatory File is not found."),
+            ("RealTrace", "RealTraceGraph.emf", "Graph File (Black & White) is not found."),
+            ("Mecha", "MechaPhase.emf", "Graph File (Black & White) is not found."),
+            ("UPWizard", "schematic.bmp", "Parameter Wizard BMP File is not found.")]
+
+    def lose(self, mode, name):
+        self.host.write_data(mode)
+        session = self.start(mode)
+        session.wait_for(DIALOG)
+        (self.host.temp_folder / name).unlink()
+        return session
+
+    def test_that_goes_while_the_dialog_stands_is_told_by_its_kind(self):
+        for mode, name, words in self.LOST:
+            with self.subTest(mode=mode, name=name):
+                session = self.lose(mode, name)
+                self.confirm(session)
+                self.expect_failure(session, words)
+                self.assertEqual(self.data_files_left(), [])
+
+    def test_in_colour_is_told_as_one_in_colour(self):
+        session = self.lose("Sim", "SimGraphC.emf")
+        self.user.press("alt+c")
+        self.confirm(session)
+        self.expect_failure(session, "Graph File (Color) is not found.")
+
+    def test_that_is_not_chosen_is_not_missed(self):
+        session = self.lose("Sim", "SimGraphC.emf")
+        session.confirm_dialog()
+        self.assertEqual(session.close_preview(), 0)
+
+    def test_of_the_cover_letter_is_told_each_time(self):
+        self.host.write_cover()
+        for _ in range(2):
+            self.host.write_data("JogTbl")
+            session = self.start("JogTbl")
+            session.wait_for(DIALOG)
+            (self.folder / "logo.bmp").unlink(missing_ok=True)
+            self.confirm(session)
+            self.expect_failure(session, "Logo Mark File is not found.")
+            self.assertIn(b"logo.bmp", self.host.options_file.read_bytes())
+
+    def test_that_is_no_picture_is_a_run_time_error_that_names_it(self):
+        self.host.write_data("Mecha")
+        (self.host.temp_folder / "MechaGain.emf").write_bytes(b"no curve")
+        session = self.start("Mecha")
+        self.confirm(session)
+        self.expect_run_time_error(session, "MechaGain.emf")
+        self.assertIn("Mecha.tmp", self.files_left())
+
+
+class OptionsFile(FileFaults):
+    def run_to_the_end(self, through):
+        """Nobody is told, the choice holds for this run, and the preview comes."""
+        self.host.write_data("JogTbl")
+        session = self.start("JogTbl", through=through)
+        session.wait_for(DIALOG)
+        self.user.press("alt+c")
+        wait_until(lambda: self.widget(DIALOG, "radio button", "Color").has("checked"), "the choice")
+        session.confirm_dialog()
+        self.edit_items(session)
+        self.assertTrue(self.widget(DIALOG, "radio button", "Color").has("checked"))
+        session.confirm_dialog()
+        self.assertEqual(session.close_preview(), 0)
+        self.assertEqual(self.standard_error(), "")
+
+    def in_a_folder_without_leave(self):
+        self.addCleanup(self.host.system_folder.chmod, 0o755)
+        self.host.system_folder.chmod(0o555)
+        self.run_to_the_end(AS_A_USER)
+
+    def test_that_can_not_be_made_is_no_matter_for_this_run(self):
+        self.in_a_folder_without_leave()
+        self.assertFalse(self.host.options_file.exists())
+        self.assertEqual(self.data_files_left(), [])
+
+    def test_in_a_folder_without_leave_stays_as_it_is(self):
+        self.host.options_file.write_bytes(OPTIONS_BEFORE)
+        self.in_a_folder_without_leave()
+        self.assertEqual(self.host.options_file.read_bytes(), OPTIONS_BEFORE)
+
+    def test_on_a_full_disk_ends_where_the_disk_does(self):
+        self.run_to_the_end(())
+        whole = self.host.options_file.read_bytes()
+        self.host.options_file.unlink()
+        self.run_to_the_end(ON_A_FULL_DISK)
+        part = self.host.options_file.read_bytes()
+        self.assertTrue(0 < len(part) < len(whole))
+        same_day = len(b"File-Spec,4\r\nFileType,PrintOption TmpFile For Print\r\nMade-by,Quillex Ver2.00\r\nDateTime,")
+        self.assertEqual(part[:same_day], whole[:same_day])
+
+    def test_that_may_not_be_read_is_failure_10_and_stays(self):
+        self.host.options_file.write_bytes(OPTIONS_BEFORE)
+        self.host.options_file.chmod(0)
+        session = self.start("PrnSetting", through=AS_A_USER)
+        self.expect_failure(session, "Printing Items Setting File is wrong.")
+        self.assertEqual(self.host.options_file.read_bytes(), OPTIONS_BEFORE)
+
+    def test_with_a_folder_in_its_place_is_as_good_as_none(self):
+        self.host.options_file.mkdir()
+        self.run_to_the_end(())
+        self.assertTrue(self.host.options_file.is_dir())
+
+
+class SavedPdf(FileFaults):
+    def setUp(self):
+        super().setUp()
+        self.target = self.folder / "target"
+        self.target.mkdir()
+
+    def start_preview(self, through):
+        self.host.write_data("JogTbl")
+        session = self.start("JogTbl", through=through)
+        session.confirm_dialog()
+        return session
+
+    def expect_refusal(self, session):
+        """The preview tells the reason, and stays for another try."""
+        self.wait_for_words("The PDF was not saved.")
+        self.wait_for_words(f"\"{self.target}/document.pdf\" can't be written")
+        self.user.press("Return")
+        wait_until(lambda: len(self.program.windows()) == 1, "the message to go")
+        self.assertEqual(session.close_preview(), 0)
+
+    def test_on_a_full_disk_leaves_nothing(self):
+        session = self.start_preview(ON_A_FULL_DISK)
+        session.ask_for_pdf(self.target / "document.pdf")
+        self.expect_refusal(session)
+        self.assertEqual(list(self.target.iterdir()), [])
+
+    def test_on_a_full_disk_leaves_the_one_before(self):
+        before = self.target / "document.pdf"
+        before.write_bytes(b"the one before")
+        session = self.start_preview(ON_A_FULL_DISK)
+        session.ask_for_pdf(before, replace=True)
+        self.expect_refusal(session)
+        self.assertEqual([(path.name, path.read_bytes()) for path in self.target.iterdir()],
+                         [("document.pdf", b"the one before")])
+
+    def test_in_a_folder_without_leave_is_told_with_its_reason(self):
+        self.target.chmod(0o555)
+        session = self.start_preview(AS_A_USER)
+        session.ask_for_pdf(self.target / "document.pdf")
+        self.expect_refusal(session)
+        self.assertEqual(list(self.target.iterdir()), [])
+
+
+if __name__ == "__main__":
+    unittest.main()
