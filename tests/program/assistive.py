@@ -35,6 +35,10 @@ class Widget:
         kind = getattr(Atspi.StateType, state.upper())
         return self._ask(lambda a: a.get_state_set().contains(kind), False)
 
+    def press(self):
+        """Does what its first action is: a button is pressed."""
+        self._ask(lambda a: Atspi.Action.do_action(a, 0), False)
+
     def children(self):
         count = self._ask(lambda a: a.get_child_count(), 0)
         for i in range(count):

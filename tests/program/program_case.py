@@ -14,6 +14,7 @@ from host import Host  # noqa: E402
 from session import DIALOG, PREVIEW, Session  # noqa: E402
 
 PROGRAM = os.environ["TARVIS_PROGRAM"]
+EDITING = "Editing of the Printing Items"  # the tool of the preview
 CANCELED = "Printing Process is canceled."
 
 # Become a program that files and folders without leave are closed to, as to any user, also where the tests run as
@@ -131,9 +132,8 @@ class ProgramCase(unittest.TestCase):
         return [(w.role, w.name) for w in window.all() if w.has("focused")] if window else None
 
     def edit_items(self, session):
-        """Goes back from the preview to the dialog."""
-        self.press_until_focused(session, PREVIEW, "push button", "Editing of the Printing Items")
-        self.user.press("space")
+        """Goes back from the preview to the dialog, by the tool as an assistive tool presses it."""
+        self.widget(PREVIEW, "push button", EDITING).press()
         session.wait_for(DIALOG)
 
     def note_opened(self, target):

@@ -1,11 +1,11 @@
 """One run from the host's start to its end, by keys: dialog, preview, PDF, paper, back to the dialog, close."""
 import unittest
 
-from program_case import ProgramCase  # also finds the demo's modules
+from program_case import EDITING, ProgramCase  # also finds the demo's modules
 from desktop import wait_until
 from print_queue import PrintQueue
 from saved_pdf import page_count, text_of, words_of
-from session import DIALOG
+from session import DIALOG, PREVIEW
 
 TWIPS = 20.0  # to the point
 PAPER_LEFT = 1440
@@ -35,7 +35,8 @@ class WholeRun(ProgramCase):
         job = session.print_all(self.queue)
         self.expect_printed(job, first)
 
-        self.edit_items(session)
+        self.press_until_focused(session, PREVIEW, "push button", EDITING)
+        self.user.press("space")
         self.turn_on_the_unit_column(session)
         second = self.folder / "second.pdf"
         session.confirm_dialog()
