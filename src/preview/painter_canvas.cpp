@@ -99,9 +99,13 @@ void PainterCanvas::Picture(const tarvis::Picture& picture, const Rect& box) {
 
 PixelCanvas::Pen PixelCanvas::PenFor(float width) const {
   const double pixels = static_cast<double>(width) * toDevice_.m11();
-  QColor ink(Qt::black);
-  if (pixels < 1) ink.setAlphaF(static_cast<float>(std::max(pixels, 0.15)));
-  return {std::max(1, static_cast<int>(std::lround(pixels))), ink};
+  const int grey = 255 - static_cast<int>(std::lround(255 * std::clamp(pixels, 0.15, 1.0)));
+  return {std::max(1, static_cast<int>(std::lround(pixels))), QColor(grey, grey, grey)};
+}
+
+void PixelCanvas::StartPixels(const Pen& pen) {
+  painter_.setWorldMatrixEnabled(false);
+  if (pen.Ink != Qt::black) painter_.setCompositionMode(QPainter::CompositionMode_Darken);
 }
 
 int PixelCanvas::FirstPixel(double middle, int pixels) {
@@ -125,7 +129,7 @@ void PixelCanvas::Fill(const std::vector<Rect>& boxes, Color color) {
 void PixelCanvas::Frame(const std::vector<Rect>& boxes, float width) {
   const Pen pen = PenFor(width);
   painter_.save();
-  painter_.setWorldMatrixEnabled(false);
+  StartPixels(pen);
   for (const Rect& box : boxes) {
     const QRectF place = toDevice_.mapRect(ToRectF(box));
     const int left = FirstPixel(place.left(), pen.Pixels);
@@ -145,7 +149,7 @@ void PixelCanvas::Strokes(const std::vector<Rect>& lines, float width) {
   const Pen pen = PenFor(width);
   std::vector<Rect> slanted;
   painter_.save();
-  painter_.setWorldMatrixEnabled(false);
+  StartPixels(pen);
   for (const Rect& line : lines) {
     const QRectF place = toDevice_.mapRect(ToRectF(line).normalized());
     const int left = static_cast<int>(std::lround(place.left()));

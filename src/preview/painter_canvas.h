@@ -39,12 +39,14 @@ class PixelCanvas : public PainterCanvas {
   void Strokes(const std::vector<Rect>& lines, float width) override;
 
  private:
-  // A line's width in pixels, at least one; thinner ones are paler instead.
+  // A line's width in pixels, at least one; thinner ones are grey instead, as grey as they are wide.
   struct Pen {
     int Pixels;
     QColor Ink;
   };
   Pen PenFor(float width) const;
+  // Until the painter is restored it fills whole pixels; where grey lines meet or cross, the darker one stays.
+  void StartPixels(const Pen& pen);
   // First pixel of a line whose middle is at `middle`.
   static int FirstPixel(double middle, int pixels);
 

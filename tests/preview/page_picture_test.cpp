@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 #include <cmath>
 #include <cstdlib>
+#include <set>
 
 #include "preview/document_builder.h"
 #include "preview/page_pictures.h"
@@ -144,6 +145,25 @@ TEST(PagePicture, borders_are_one_sharp_pixel_at_full_size) {
     dark += grey == 0;
   }
   EXPECT_EQ(dark, 1);
+}
+
+TEST(PagePicture, pieces_of_a_thin_line_that_meet_are_one_even_line) {
+  DocumentBuilder builder;
+  builder.Page();
+  for (float top = 1000; top < 4000; top += 283) builder.Line({2000, top, 0, 283});
+  builder.Line({2000, 1500, 0, 1500});
+  const auto document = builder.Build();
+  const int width = 400;  // half size: a line is thinner than a pixel
+  const QImage page = RenderPage(*document, 0, width, 0, PagePixelHeight(*document, width));
+  const double toPixels = width / static_cast<double>(document->Setup.Width);
+  const int x = static_cast<int>(2000 * toPixels);
+  std::set<int> greys;
+  for (int y = static_cast<int>(1100 * toPixels); y < static_cast<int>(3900 * toPixels); ++y) {
+    greys.insert(std::min(qGray(page.pixel(x, y)), qGray(page.pixel(x - 1, y))));
+  }
+  ASSERT_EQ(greys.size(), 1U);
+  EXPECT_LT(*greys.begin(), 200);
+  EXPECT_GT(*greys.begin(), 50);
 }
 
 TEST(PagePicture, clipped_text_ends_at_its_box) {
