@@ -91,9 +91,10 @@ class EmfPlayer {
     std::size_t records = 1;
     while (PlayNext()) ++records;
     if (!ended_ && (records < header_.Records || reader_.Position() < header_.Bytes)) throw OutOfBytes();
-    if (skipped_ > 0 && list_.Commands().empty()) throw BadMetafile("none of its records can be shown");
+    if (!counts_.Skipped.empty() && list_.Commands().empty())
+      throw BadMetafile("none of its records can be shown");
     return std::make_shared<MetafilePicture>(std::move(list_), header_.DeviceFrame(), header_.NaturalTwips(),
-                                             skipped_);
+                                             std::move(counts_));
   }
 
  private:
@@ -118,14 +119,14 @@ class EmfPlayer {
     reader.Skip(RecordHeadSize);
     const Bytes data = reader.Take(reader.U32());
     if (data.size() < 4 || ByteReader(data).U32() != PlusSignature) return;
-    skipped_ += plus_.Play(data.subspan(4));
+    plus_.Play(data.subspan(4), counts_);
   }
 
   void PlayRecord(std::uint32_t type, Bytes record) {
     if (type == EmfCommentRecord) return PlayComment(record);
     if (plus_.Rules()) return;
     if (type >= table_.Play.size() || !table_.Known[type]) {
-      ++skipped_;
+      ++counts_.Skipped[type];
       return;
     }
     if (table_.Play[type] == nullptr) return;
@@ -133,8 +134,9 @@ class EmfPlayer {
     reader.Skip(RecordHeadSize);
     try {
       table_.Play[type](playback_, reader);
+      ++counts_.Played;
     } catch (const SkipRecord&) {
-      ++skipped_;
+      ++counts_.Skipped[type];
     }
   }
 
@@ -144,7 +146,7 @@ class EmfPlayer {
   EmfPlayback playback_;
   EmfPlusPlayer plus_{playback_.Draw};
   RecordTable table_;
-  int skipped_ = 0;
+  RecordCounts counts_;
   bool ended_ = false;
 };
 

@@ -18,8 +18,7 @@ bool IsQuiet(std::uint32_t type) {
 
 }  // namespace
 
-int EmfPlusPlayer::Play(Bytes records) {
-  int skipped = 0;
+void EmfPlusPlayer::Play(Bytes records, RecordCounts& counts) {
   ByteReader reader(records);
   givesContext_ = false;
   while (reader.Left() >= 12) {
@@ -35,11 +34,11 @@ int EmfPlusPlayer::Play(Bytes records) {
     if (type != HeaderRecord && (dual_ || !active_)) continue;
     try {
       PlayRecord(type, flags, data);
+      ++counts.Played;
     } catch (const SkipRecord&) {
-      ++skipped;
+      ++counts.Skipped[type];
     }
   }
-  return skipped;
 }
 
 void EmfPlusPlayer::PlayRecord(std::uint32_t type, std::uint32_t flags, ByteReader& r) {

@@ -6,6 +6,7 @@
 #include <map>
 
 #include "pictures/metafile/emf_plus_objects.h"
+#include "pictures/metafile/record_counts.h"
 
 namespace tarvis {
 
@@ -13,8 +14,8 @@ class EmfPlusPlayer {
  public:
   explicit EmfPlusPlayer(Drawing& draw) : draw_(draw) {}
 
-  // The records in one comment; returns how many could not be played.
-  int Play(Bytes records);
+  // The records in one comment; counts them.
+  void Play(Bytes records, RecordCounts& counts);
   // Whether plain records are to be left alone at this moment.
   bool Rules() const { return active_ && !givesContext_; }
 

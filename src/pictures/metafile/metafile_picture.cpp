@@ -7,8 +7,8 @@
 namespace tarvis {
 
 MetafilePicture::MetafilePicture(DrawList list, const QRectF& frame, const QSizeF& natural,
-                                 int skippedRecords)
-    : list_(std::move(list)), frame_(frame), natural_(natural), skippedRecords_(skippedRecords) {
+                                 RecordCounts records)
+    : list_(std::move(list)), frame_(frame), natural_(natural), records_(std::move(records)) {
   const auto usable = [](double size) { return std::isfinite(size) && size > 0; };
   if (!usable(frame.width()) || !usable(frame.height()) || !usable(natural.width()) ||
       !usable(natural.height()))

@@ -103,7 +103,8 @@ class WmfPlayer {
     if (!ended && (words_ * 2 > records_.size() + HeaderSize || records_.empty())) throw OutOfBytes();
     if (list_.Commands().empty()) throw BadMetafile("it shows nothing");
     const QRectF frame = frame_.isEmpty() ? list_.Bounds() : frame_;
-    return std::make_shared<MetafilePicture>(std::move(list_), frame, NaturalTwips(frame), skipped_);
+    return std::make_shared<MetafilePicture>(std::move(list_), frame, NaturalTwips(frame),
+                                             std::move(counts_));
   }
 
  private:
@@ -137,20 +138,21 @@ class WmfPlayer {
   void PlayRecord(std::uint16_t function, Bytes parameters) {
     const auto found = table_.find(function);
     if (found == table_.end()) {
-      ++skipped_;
+      ++counts_.Skipped[function];
       return;
     }
     if (found->second == nullptr) return;
     ByteReader reader(parameters);
     try {
       found->second(playback_, reader);
+      ++counts_.Played;
     } catch (const SkipRecord&) {
       Skip(function);
     }
   }
 
   void Skip(std::uint16_t function) {
-    ++skipped_;
+    ++counts_.Skipped[function];
     // Objects that can't be played take their number all the same.
     const bool creates = (function & 0xF0) == 0xF0 && function != 0x01F0;
     if (creates || function == 0x0142) playback_.Add({});
@@ -163,7 +165,7 @@ class WmfPlayer {
   WmfPlayback playback_;
   std::unordered_map<std::uint16_t, WmfRecordFunction> table_;
   QRectF frame_;
-  int skipped_ = 0;
+  RecordCounts counts_;
 };
 
 }  // namespace
