@@ -122,6 +122,19 @@ TEST(EmfPaths, AreFilledStrokedOrBoth) {
   EXPECT_EQ(shown(63).pixelColor(50, 50), Blue);  // the closing side
 }
 
+TEST(EmfPaths, AFigureOfCurvesClosesToItsOwnStart) {
+  EmfWriter emf;
+  emf.Pen(RedInk, 2).NoBrush().Add(59);
+  for (const int y : {10, 60}) {
+    ByteWriter curve = Box32(0, 0, 0, 0).U32(3).I32(20).I32(y).I32(60).I32(y).I32(90).I32(y);
+    emf.Pair(27, 10, y).Add(5, curve).Pair(54, 90, y + 20).Add(61);
+  }
+  const QImage shown = emf.Add(60).Add(64, Box32(0, 0, 99, 99)).Show();
+  EXPECT_EQ(shown.pixelColor(50, 60), Red);
+  EXPECT_EQ(InkedPixels(shown, QRect(0, 35, 100, 20)), 0);  // nothing from figure to figure
+  EXPECT_GT(InkedPixels(shown, QRect(45, 65, 10, 10)), 0);  // the closing line
+}
+
 TEST(EmfClips, APathClips) {
   const QImage shown = EmfWriter()
                            .Add(59)

@@ -63,6 +63,11 @@ TEST(EmfPlus, ADualFilePlaysItsPlainRecords) {
   EXPECT_EQ(emf.Show().pixelColor(70, 70), White);
 }
 
+TEST(EmfPlus, ADualFileWhosePlainRecordsDrawNothingPlaysItsExtendedOnes) {
+  EmfWriter emf = PlusWriter(true).FillRect(RedInk, 10, 10, 30, 30).Emf();
+  EXPECT_EQ(emf.Add(33).Set(34, 0xFFFFFFFF).Show().pixelColor(20, 20), Red);
+}
+
 TEST(EmfPlus, PlainRecordsAreLeftAloneUnlessTheContextIsGiven) {
   EmfWriter emf = PlusWriter().FillRect(RedInk, 0, 0, 100, 100).Emf();
   emf.Brush(Rgb(0, 255, 0)).NoPen().Rectangle(0, 0, 50, 50);

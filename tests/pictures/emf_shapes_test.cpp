@@ -168,6 +168,23 @@ TEST(EmfPens, ThinLinesStaySeen) {
   EXPECT_GT(InkedPixels(EmfWriter().Pen(0, 1).Pair(27, 0, 50).Pair(54, 1000, 50).Show({10, 10})), 5);
 }
 
+TEST(EmfPens, WithAWidthShrinkToALineThatIsAsDark) {
+  const auto darkest = [](const QImage& image) {
+    int dark = 255;
+    for (int y = 0; y < image.height(); ++y) dark = std::min(dark, qGray(image.pixel(50, y)));
+    return dark;
+  };
+  EmfWriter emf;
+  emf.Set(17, 8).Pair(9, 10000, 10000).Pair(11, 100, 100).Pen(0, 1).Pair(27, 0, 5050).Pair(54, 10000, 5050);
+  EXPECT_LT(darkest(emf.Show()), 20);
+}
+
+TEST(EmfPens, CosmeticOnesThatTellAWidthHaveIt) {
+  EmfWriter emf;
+  emf.WidePen(RedInk, 10, 0).Pair(27, 10, 50).Pair(54, 90, 50);
+  EXPECT_EQ(emf.Show().pixelColor(50, 47), Red);
+}
+
 TEST(EmfPens, ANullPenDrawsNothing) {
   EXPECT_EQ(
       InkedPixels(
@@ -231,6 +248,11 @@ TEST(EmfBrushes, HatchesShowLinesAndTheBackground) {
     EXPECT_GT(red, 500) << hatch;
     EXPECT_GT(green, 3000) << hatch;
   }
+}
+
+TEST(EmfBrushes, HatchesBeyondThePatternsAreSolid) {
+  for (std::uint32_t hatch = 6; hatch < 12; ++hatch)
+    EXPECT_EQ(EmfWriter().Brush(RedInk, 2, hatch).Rectangle(0, 0, 100, 100).Show().pixelColor(50, 50), Red);
 }
 
 TEST(EmfBrushes, ATransparentBackgroundLeavesThePaperBetweenHatchLines) {

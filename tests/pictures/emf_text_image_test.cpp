@@ -98,6 +98,57 @@ TEST(EmfText, MovesThePositionWhenTold) {
   EXPECT_GT(InkedPixels(shown, QRect(58, 10, 20, 30)), 0);
 }
 
+TEST(EmfText, TurnsTheOtherWayWhereOneAxisIsTurnedRound) {
+  const auto shown = [](int escapement) {
+    EmfWriter emf;
+    emf.Set(17, 8).Pair(9, 100, -100).Pair(11, 100, 100).Pair(12, 0, 100).Set(18, 1).Set(22, 24);
+    return emf.Font(-20, "Arial", escapement).Text(50, 10, "HHL").Show();
+  };
+  EXPECT_LT(Ink(shown(2700)).bottom(), 92);  // upwards from its point, as a title beside an axis
+  EXPECT_GT(Ink(shown(900)).top(), 85);
+}
+
+TEST(EmfText, TurnsAsTheFontSaysWhereBothExtentsAreTurnedRound) {
+  EmfWriter emf;
+  emf.Set(17, 8).Pair(9, 100, -100).Pair(11, 100, -100).Set(18, 1).Set(22, 24);
+  EXPECT_LT(Ink(emf.Font(-20, "Arial", 900).Text(50, 90, "HHL").Show()).bottom(), 92);
+}
+
+TEST(EmfText, RisesMoveThePositionToo) {
+  ByteWriter pairs = Box32(0, 0, 0, 0).U32(1).F32(1).F32(1).I32(0).I32(0).U32(1).U32(76).U32(0x2000);
+  pairs.Add(Box32(0, 0, 0, 0)).U32(80).U16('A').U16(0).I32(30).I32(40);
+  EmfWriter emf = TextEmf(-20);
+  emf.Set(22, 1 | 24).Pair(27, 10, 90).Add(84, pairs).Text(0, 0, "A", {10});
+  EXPECT_EQ(InkedPixels(emf.Show(), QRect(36, 60, 64, 40)), 0);
+  EXPECT_GT(InkedPixels(emf.Show(), QRect(36, 30, 64, 25)), 0);
+}
+
+TEST(EmfText, AWidthThatRepeatsTheHeightLeavesLettersAsTheyAre) {
+  const auto shown = [](int width) {
+    ByteWriter font;
+    font.U32(1).I32(-40).I32(width).I32(0).I32(0).I32(400).U32(0).U32(0).Text(
+        std::string("A\0r\0i\0a\0l\0", 10));
+    EmfWriter emf;
+    return emf.Set(18, 1).Add(82, font.Zeros(54)).Select(1).Text(5, 20, "H", {40}).Show();
+  };
+  EXPECT_EQ(shown(40), shown(0));
+  EXPECT_NE(shown(30), shown(0));
+}
+
+TEST(EmfText, OfAPictureFontWithoutKnownCharactersIsCountedNotShownAsLetters) {
+  for (const char* face : {"Webdings", "Wingdings 3", "MT Extra"}) {
+    const std::string bytes = TextEmf().Font(-40, face, 0, 2).Text(10, 20, "A").Rectangle(0, 0, 9, 9).Bytes();
+    EXPECT_EQ(Play(bytes)->SkippedRecords(), 1) << face;
+    EXPECT_EQ(InkedPixels(Shown(bytes, {100, 100}), QRect(10, 10, 90, 90)), 0) << face;
+  }
+}
+
+TEST(EmfText, OfAPictureFontIsFoundHoweverItsNameIsWritten) {
+  EXPECT_EQ(TextEmf().Font(-40, "WingDings", 0, 2).Text(10, 20, "l").Show(),
+            TextEmf().Font(-40, "Wingdings", 0, 2).Text(10, 20, "l").Show());
+  EXPECT_GT(InkedPixels(TextEmf().Font(-40, "Wingdings 2", 0, 2).Text(10, 20, "P").Show()), 20);
+}
+
 TEST(EmfText, HasItsColor) {
   const QImage shown = TextEmf(-60).Set(24, RedInk).Text(10, 10, "I").Show();
   const QPoint middle = Ink(shown).center();
@@ -206,6 +257,19 @@ TEST(EmfImages, MaskAndPictureShowThePictureOnly) {
                            .Rectangle(-1, -1, 101, 101)
                            .Add(77, BitBlock(mask, 0x008800C6, true))
                            .Add(77, BitBlock(picture, 0x00EE0086, true))
+                           .Show();
+  EXPECT_EQ(shown.pixelColor(10, 50), Red);
+  EXPECT_EQ(shown.pixelColor(90, 50), Green);
+}
+
+TEST(EmfImages, AnIconOfMaskAndXoredPictureShowsThePictureOnly) {
+  const auto mask = Dib24(4, 4, [](int x, int) { return x < 2 ? Black : White; });
+  const auto picture = Dib24(4, 4, [](int x, int) { return x < 2 ? Red : Black; });
+  const QImage shown = EmfWriter()
+                           .Brush(GreenInk)
+                           .Rectangle(-1, -1, 101, 101)
+                           .Add(77, BitBlock(mask, 0x008800C6, true))
+                           .Add(77, BitBlock(picture, 0x00660046, true))
                            .Show();
   EXPECT_EQ(shown.pixelColor(10, 50), Red);
   EXPECT_EQ(shown.pixelColor(90, 50), Green);

@@ -142,6 +142,37 @@ TEST(Wmf, TextKeepsItsWidths) {
   EXPECT_GT(InkedPixels(shown, QRect(70, 0, 10, 100)), 0);
 }
 
+TEST(Wmf, TextMayRiseFromCharacterToCharacter) {
+  const QImage shown =
+      Plain()
+          .Words(0x0102, {1})
+          .Words(0x012E, {24})
+          .Font(-20, "Arial")
+          .Add(0x0A32,
+               ByteWriter().I16(90).I16(5).U16(2).U16(0x2000).Text("HH").I16(40).I16(50).I16(0).I16(0))
+          .Show();
+  EXPECT_GT(InkedPixels(shown, QRect(0, 70, 30, 25)), 0);
+  EXPECT_EQ(InkedPixels(shown, QRect(40, 60, 60, 40)), 0);
+  EXPECT_GT(InkedPixels(shown, QRect(40, 20, 60, 25)), 0);
+}
+
+TEST(Wmf, OldBitmapsOfTrueColorsShow) {
+  ByteWriter bitmap;  // two pixels: red and blue, in 32 bits
+  bitmap.U16(0).I16(2).I16(1).U16(8).U8(1).U8(32).U32(0xFFFF0000).U32(0xFF0000FF);
+  ByteWriter block = ByteWriter().U32(0x00CC0020).I16(1).I16(2).I16(0).I16(0).I16(100).I16(100).I16(0).I16(0);
+  const QImage shown = Plain().Add(0x0B23, block.Add(bitmap)).Show();
+  EXPECT_EQ(shown.pixelColor(20, 50), Red);
+  EXPECT_EQ(shown.pixelColor(80, 50), Blue);
+}
+
+TEST(Wmf, OldBitmapsThatAreCutAreSkippedAndCounted) {
+  ByteWriter block = ByteWriter().U32(0x00CC0020).I16(8).I16(8).I16(0).I16(0).I16(100).I16(100).I16(0).I16(0);
+  block.U16(0).I16(8).I16(8).U16(2).U8(1).U8(1).Zeros(4);
+  WmfWriter wmf = Plain();
+  wmf.Words(0x041B, {50, 50, 10, 10}).Add(0x0B23, block);
+  EXPECT_EQ(Play(wmf.Bytes())->SkippedRecords(), 1);
+}
+
 TEST(Wmf, WidthsOfDoubleByteTextCountByBytes) {
   WmfWriter wmf = Plain();
   wmf.Words(0x0102, {1}).Font(-20, "Arial", 128);

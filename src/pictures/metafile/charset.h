@@ -22,8 +22,14 @@ std::vector<TextCharacter> DecodeText(Bytes bytes, std::uint8_t charset);
 // 16-bit text, little-endian.
 std::vector<TextCharacter> DecodeUnits(Bytes bytes);
 
+// What the codes of a font show. `Letters` are those of text fonts that claim to be symbol fonts, `Unknown`
+// are pictures of which no character is known.
+enum class SymbolSet { None, Letters, Greek, Dingbats, MoreDingbats, Unknown };
+
+SymbolSet FindSymbolSet(const std::u16string& face, std::uint8_t charset);
+
 // The character that a symbol font shows for `code` (0x20 to 0xFF, or the same in the private area at
 // 0xF000); 0 if it is not known. Codes of fonts that are no symbol fonts come back unchanged.
-char32_t SymbolCharacter(const std::u16string& face, std::uint8_t charset, char32_t code);
+char32_t SymbolCharacter(SymbolSet set, char32_t code);
 
 }  // namespace tarvis

@@ -12,7 +12,6 @@ namespace tarvis {
 namespace {
 
 constexpr double HairlineInches = 0.005;
-constexpr double ThinnestOfHairline = 0.6;  // pens with a width fade when they shrink, to this width
 constexpr double ScreenDotsPerInch = 96;
 constexpr double HatchDots = 8;
 constexpr double MostDashes = 20000;  // in one line; beyond, a dash is no longer seen as one
@@ -115,7 +114,7 @@ QPolygonF DrawListPainter::MakeLine(const Outline& outline) const {
 QPen DrawListPainter::MakePen(const ListPen& listPen, double length) const {
   QPen pen = listPen.Pen;
   const double width = listPen.Hairline ? 0 : std::min(listPen.Width * penScale_, WidestPen);
-  const double shown = listPen.Hairline ? hairline_ : std::max(width, hairline_ * ThinnestOfHairline);
+  const double shown = listPen.Hairline ? hairline_ : std::max(width, hairline_);
   pen.setWidthF(shown);
   if (pen.style() != Qt::CustomDashLine) return pen;
   // Dashes count in widths of the pen; those of hairlines in dots of a screen.

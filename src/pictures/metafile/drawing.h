@@ -111,6 +111,7 @@ class Drawing {
   void Emit(const QPainterPath& device, bool fill, bool stroke);
   void EmitFill(const QPainterPath& device, const MetaBrush& brush);
   void JoinPath(QPointF device);
+  void ContinuePath(const QPainterPath& device);
   bool MakePen(ListPen& pen) const;
   bool MakeBrush(const MetaBrush& brush, ListBrush& list) const;
   void SetDashes(QPen& pen, double width) const;

@@ -43,18 +43,18 @@ QImage Masked(const QImage& image, const QImage& mask) {
 
 }  // namespace
 
-// A picture XORed, its mask ANDed and the picture XORed again at one place show the picture where the mask is
-// black.
+// A mask ANDed and a picture XORed at one place show the picture where the mask is black, whether the picture
+// was XORed before the mask too or not.
 bool Drawing::MergeMask(const LastBlock& block) {
-  const bool merges = block.Rop == SourceInvert && blocks_.size() == 2 && blocks_[0].Rop == SourceInvert &&
-                      blocks_[1].Rop == SourceAnd && Near(blocks_[0].Box, block.Box) &&
-                      Near(blocks_[1].Box, block.Box);
-  if (!merges || !list_.DropLastImages(2)) {
+  const bool masked = block.Rop == SourceInvert && !blocks_.empty() && blocks_.back().Rop == SourceAnd &&
+                      Near(blocks_.back().Box, block.Box);
+  const bool twice = blocks_.size() == 2 && blocks_[0].Rop == SourceInvert && Near(blocks_[0].Box, block.Box);
+  if (!masked || !list_.DropLastImages(twice ? 2 : 1)) {
     blocks_.push_back(block);
     if (blocks_.size() > 2) blocks_.erase(blocks_.begin());
     return false;
   }
-  const QImage mask = blocks_[1].Image;
+  const QImage mask = blocks_.back().Image;
   blocks_.clear();
   PlaceImage(Masked(block.Image, mask), block.Place);
   return true;

@@ -81,7 +81,9 @@ bool Drawing::MakePen(ListPen& list) const {
   const std::optional<QColor> color = ColorOnWhite(State().Rop2, meta.Ink.Color);
   if (!color) return false;
   const bool geometric = (meta.Style & penstyle::Geometric) != 0;
-  const double width = meta.Extended && !geometric ? 0 : std::abs(meta.Width) * dc_.Scale();
+  // Cosmetic pens are one dot wide; some writers tell a width all the same, and mean it.
+  const bool thin = meta.Extended && !geometric && meta.Width <= 1;
+  const double width = thin ? 0 : std::abs(meta.Width) * dc_.Scale();
   list.Hairline = width == 0;
   list.Pen = QPen(*color);
   list.Width = std::isfinite(width) ? std::min(width, 1e9) : 0;

@@ -57,6 +57,13 @@ void Drawing::JoinPath(QPointF device) {
   if (path_.elementCount() == 0 || path_.currentPosition() != device) path_.moveTo(device);
 }
 
+// Adds the curves of `device` to the open figure, so that the figure still closes to its own start.
+void Drawing::ContinuePath(const QPainterPath& device) {
+  JoinPath(device.elementAt(0));
+  for (int i = 1; i + 2 < device.elementCount(); i += 3)
+    path_.cubicTo(device.elementAt(i), device.elementAt(i + 1), device.elementAt(i + 2));
+}
+
 void Drawing::MoveTo(QPointF point) {
   State().Position = point;
   if (inPath_) path_.moveTo(ToDevice().map(point));
@@ -105,8 +112,7 @@ void Drawing::Bezier(const Points& points, bool fromPosition) {
   if (!inPath_) {
     Emit(device, false, true);
   } else if (fromPosition) {
-    JoinPath(device.elementAt(0));
-    path_.connectPath(device);
+    ContinuePath(device);
   } else {
     path_.addPath(device);
   }
@@ -163,7 +169,7 @@ void Drawing::Arc(const ArcShape& arc, ArcKind kind, bool to) {
   LineTo(path.elementAt(0));
   const QPainterPath device = ToDevice().map(path);
   if (inPath_) {
-    path_.connectPath(device);
+    ContinuePath(device);
   } else {
     Emit(device, false, true);
   }

@@ -42,6 +42,7 @@ struct Drawing::TextPlace {
   double Ascent = 0, Descent = 0;  // in units of Down
   double NaturalUnit = 0;          // units of Along to one em of natural advance
   double Width = 0;                // in units of Along
+  double Rise = 0;                 // of the end above the start, in units of Down
 };
 
 Drawing::TextPlace Drawing::PlaceText(const TextRecord& text) {
@@ -55,7 +56,8 @@ Drawing::TextPlace Drawing::PlaceText(const TextRecord& text) {
   const QTransform upright = QTransform::fromScale(signX, signY) * Linear(State().World);
   const QTransform position = upright * Linear(page);
   const QTransform shape = upright * QTransform::fromScale(signX * std::abs(page.m22()), page.m22());
-  const double angle = font.Escapement * std::numbers::pi / 180;
+  // Angles count in logical units: where one axis of the mapping is turned round, so is their direction.
+  const double angle = signX * signY * font.Escapement * std::numbers::pi / 180;
   const QPointF along(std::cos(angle), -std::sin(angle));
   const QPointF down(std::sin(angle), std::cos(angle));
   place.Along = position.map(along);
@@ -65,7 +67,9 @@ Drawing::TextPlace Drawing::PlaceText(const TextRecord& text) {
   if (em == 0) em = DefaultDeviceHeight / std::max(std::abs(page.m22()), 1e-9);
   const double stretch = Size(place.Along) / std::max(Size(shape.map(along)), 1e-9);
   double wide = 1;
-  if (font.Width != 0) wide = std::abs(font.Width) * stretch / std::max(place.Face->AverageWidth * em, 1e-9);
+  const bool told =
+      font.Width != 0 && std::abs(font.Width) != std::abs(font.Height);  // some repeat the height
+  if (told) wide = std::abs(font.Width) * stretch / std::max(place.Face->AverageWidth * em, 1e-9);
   place.GlyphAlong = shape.map(along) * em * wide;
   place.GlyphDown = shape.map(down) * em;
   place.Ascent = place.Face->Ascent * em;
@@ -80,6 +84,7 @@ Drawing::TextPlace Drawing::PlaceText(const TextRecord& text) {
 std::vector<QPointF> Drawing::GlyphPlaces(const TextRecord& text, TextPlace& place) {
   std::vector<QPointF> places;
   places.reserve(text.Text.size());
+  const SymbolSet symbols = FindSymbolSet(State().Font->Face, State().Font->Charset);
   std::size_t unit = 0;
   double along = 0, rise = 0;
   for (const TextCharacter& character : text.Text) {
@@ -89,10 +94,12 @@ std::vector<QPointF> Drawing::GlyphPlaces(const TextRecord& text, TextPlace& pla
       if (unit < text.Rises.size()) rise += text.Rises[unit];
     }
     if (!text.Advances.empty()) continue;
-    along += place.Face->Glyph(character.Code).Advance * place.NaturalUnit + State().CharacterExtra;
+    along += place.Face->Glyph(SymbolCharacter(symbols, character.Code)).Advance * place.NaturalUnit +
+             State().CharacterExtra;
     if (character.Code == U' ') along += State().BreakExtra;
   }
   place.Width = along;
+  place.Rise = rise;
   return places;
 }
 
@@ -102,10 +109,10 @@ void Drawing::DrawGlyphs(const TextRecord& text, const TextPlace& place) {
   QPainterPath path;
   path.setFillRule(Qt::WindingFill);
   bool unknown = false;
-  const MetaFont& font = *State().Font;
+  const SymbolSet symbols = FindSymbolSet(State().Font->Face, State().Font->Charset);
   for (std::size_t i = 0; i < places.size(); ++i) {
-    const char32_t code = SymbolCharacter(font.Face, font.Charset, text.Text[i].Code);
-    unknown = unknown || code == 0;
+    const char32_t code = SymbolCharacter(symbols, text.Text[i].Code);
+    unknown = unknown || (code == 0 && text.Text[i].Code != 0);
     if (code <= U' ') continue;
     const QPointF origin = place.Start + place.Along * places[i].x() - place.Down * places[i].y();
     const QTransform toDevice(place.GlyphAlong.x(), place.GlyphAlong.y(), place.GlyphDown.x(),
@@ -158,7 +165,7 @@ void Drawing::Text(const TextRecord& text) {
                  place.Down * AlignedBaseline(align, place.Ascent, place.Descent);
   if ((align & AlignUpdatesPosition) != 0 && (align & AlignCenter) != AlignCenter) {
     const double moved = (align & AlignRight) != 0 ? -place.Width : place.Width;
-    const QPointF device = ToDevice().map(State().Position) + place.Along * moved;
+    const QPointF device = ToDevice().map(State().Position) + place.Along * moved - place.Down * place.Rise;
     if (ToDevice().isInvertible()) State().Position = ToDevice().inverted().map(device);
   }
   DrawTextLines(place);

@@ -77,7 +77,8 @@ struct RecordTable {
 
 class EmfPlayer {
  public:
-  EmfPlayer(Bytes bytes, GlyphOutlines& glyphs) : reader_(bytes), header_(reader_), playback_(list_, glyphs) {
+  EmfPlayer(Bytes bytes, GlyphOutlines& glyphs, PlusUse plus)
+      : reader_(bytes), header_(reader_), playback_(list_, glyphs), plus_(playback_.Draw, plus) {
     const QRectF frame = header_.DeviceFrame();
     if (header_.Bounds.isEmpty() && header_.Frame.isEmpty()) throw BadMetafile("it has no extent");
     const double far = std::abs(frame.left()) + std::abs(frame.top()) + frame.width() + frame.height();
@@ -86,11 +87,13 @@ class EmfPlayer {
     playback_.Draw.Dc().SetPixelsPerMillimeter(unit.x(), unit.y());
   }
 
+  // Null if it holds both kinds of records and the plain ones draw nothing.
   std::shared_ptr<const MetafilePicture> Play() {
     reader_.Seek(header_.Size);
     std::size_t records = 1;
     while (PlayNext()) ++records;
     if (!ended_ && (records < header_.Records || reader_.Position() < header_.Bytes)) throw OutOfBytes();
+    if (plus_.StoodAside() && list_.Commands().empty()) return nullptr;
     if (!counts_.Skipped.empty() && list_.Commands().empty())
       throw BadMetafile("none of its records can be shown");
     return std::make_shared<MetafilePicture>(std::move(list_), header_.DeviceFrame(), header_.NaturalTwips(),
@@ -144,7 +147,7 @@ class EmfPlayer {
   EmfHeader header_;
   DrawList list_;
   EmfPlayback playback_;
-  EmfPlusPlayer plus_{playback_.Draw};
+  EmfPlusPlayer plus_;
   RecordTable table_;
   RecordCounts counts_;
   bool ended_ = false;
@@ -161,7 +164,8 @@ bool LooksLikeEmf(Bytes bytes) {
 }
 
 std::shared_ptr<const MetafilePicture> LoadEmf(Bytes bytes, GlyphOutlines& glyphs) {
-  return EmfPlayer(bytes, glyphs).Play();
+  const auto plain = EmfPlayer(bytes, glyphs, PlusUse::IfAlone).Play();
+  return plain != nullptr ? plain : EmfPlayer(bytes, glyphs, PlusUse::Always).Play();
 }
 
 }  // namespace tarvis

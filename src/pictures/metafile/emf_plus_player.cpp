@@ -58,7 +58,7 @@ void EmfPlusPlayer::Header(std::uint32_t flags, ByteReader& r) {
   r.Skip(8);
   const double dots = r.U32();
   if (dots > 0 && dots < 1e5) dotsPerInch_ = dots;
-  dual_ = (flags & 1) != 0;
+  dual_ = (flags & 1) != 0 && use_ == PlusUse::IfAlone;
   active_ = !dual_;
   if (active_) draw_.State().BackgroundMode = 1;
 }

@@ -1,5 +1,5 @@
 // Plays the extended records that stand in comments of an enhanced metafile. Files that hold both kinds of
-// records play the plain ones; files that hold extended ones only play those.
+// records play the plain ones, unless these draw nothing; files that hold extended ones only play those.
 #pragma once
 
 #include <array>
@@ -10,14 +10,19 @@
 
 namespace tarvis {
 
+// Whether extended records play that stand beside plain ones.
+enum class PlusUse { IfAlone, Always };
+
 class EmfPlusPlayer {
  public:
-  explicit EmfPlusPlayer(Drawing& draw) : draw_(draw) {}
+  EmfPlusPlayer(Drawing& draw, PlusUse use) : draw_(draw), use_(use) {}
 
   // The records in one comment; counts them.
   void Play(Bytes records, RecordCounts& counts);
   // Whether plain records are to be left alone at this moment.
   bool Rules() const { return active_ && !givesContext_; }
+  // Whether there were extended records that were left to the plain ones beside them.
+  bool StoodAside() const { return dual_; }
 
  private:
   struct Saved {
@@ -51,6 +56,7 @@ class EmfPlusPlayer {
   const T& At(std::uint32_t index) const;
 
   Drawing& draw_;
+  PlusUse use_;
   bool active_ = false;
   bool dual_ = false;
   bool givesContext_ = false;

@@ -47,25 +47,65 @@ char32_t Greek(char32_t code) {
   return code >= 0xA0 && code < 0xA0 + std::size(GreekHigh) ? GreekHigh[code - 0xA0] : 0;
 }
 
+// The same of the second dingbat font.
+char32_t MoreDingbat(char32_t code) {
+  constexpr Sign signs[] = {{0x20, 0x0020}, {0x4F, 0x2717}, {0x50, 0x2713}, {0x51, 0x2612},
+                            {0x52, 0x2611}, {0x53, 0x2612}, {0x69, 0x24EA}, {0x74, 0x24FF},
+                            {0x95, 0x2022}, {0x97, 0x25CF}, {0x98, 0x2B24}};
+  if (code >= 0x6A && code <= 0x73) return U'\u2460' + (code - 0x6A);  // 1 to 10 in circles
+  if (code >= 0x75 && code <= 0x7E) return U'\u2776' + (code - 0x75);  // the same in black ones
+  const auto found = std::ranges::find(signs, code, &Sign::Code);
+  return found == std::end(signs) ? 0 : found->Character;
+}
+
 char32_t Dingbat(char32_t code) {
   const auto found = std::ranges::find(Dingbats, code, &Sign::Code);
   return found == std::end(Dingbats) ? 0 : found->Character;
 }
 
+struct SymbolFace {
+  std::u16string_view Start;  // of the name, in small letters
+  SymbolSet Set;
+};
+
+constexpr SymbolFace Faces[] = {
+    {u"symbol", SymbolSet::Greek},        {u"wingdings 2", SymbolSet::MoreDingbats},
+    {u"wingdings 3", SymbolSet::Unknown}, {u"wingdings", SymbolSet::Dingbats},
+    {u"webdings", SymbolSet::Unknown},    {u"mt extra", SymbolSet::Unknown},
+    {u"marlett", SymbolSet::Unknown},     {u"monotype sorts", SymbolSet::Unknown},
+};
+
+std::u16string InSmallLetters(std::u16string name) {
+  for (char16_t& c : name)
+    if (c >= u'A' && c <= u'Z') c = static_cast<char16_t>(c + (u'a' - u'A'));
+  return name;
+}
+
 }  // namespace
 
-char32_t SymbolCharacter(const std::u16string& face, std::uint8_t charset, char32_t code) {
-  const bool greek =
-      face.starts_with(u"Symbol") || face.starts_with(u"symbol") || face.starts_with(u"SYMBOL");
-  const bool dingbats = face == u"Wingdings" || face == u"wingdings" || face == u"WINGDINGS";
+SymbolSet FindSymbolSet(const std::u16string& face, std::uint8_t charset) {
+  const std::u16string name = InSmallLetters(face);
+  for (const SymbolFace& known : Faces)
+    if (name.starts_with(known.Start)) return known.Set;
+  return charset == static_cast<std::uint8_t>(Charset::Symbol) ? SymbolSet::Letters : SymbolSet::None;
+}
+
+char32_t SymbolCharacter(SymbolSet set, char32_t code) {
   const bool isPrivate = code >= 0xF000 && code <= 0xF0FF;
-  if (!greek && !dingbats) {
-    // Text fonts that claim the symbol set show plain letters for the private codes.
-    return charset == static_cast<std::uint8_t>(Charset::Symbol) && isPrivate ? code - 0xF000 : code;
-  }
   const char32_t low = isPrivate ? code - 0xF000 : code;
-  if (low > 0xFF) return code;  // already the character itself
-  return greek ? Greek(low) : Dingbat(low);
+  if (set == SymbolSet::None || low > 0xFF) return code;  // already the character itself
+  switch (set) {
+    case SymbolSet::Greek:
+      return Greek(low);
+    case SymbolSet::Dingbats:
+      return Dingbat(low);
+    case SymbolSet::MoreDingbats:
+      return MoreDingbat(low);
+    case SymbolSet::Unknown:
+      return low == U' ' ? low : 0;
+    default:
+      return low;
+  }
 }
 
 }  // namespace tarvis

@@ -1,4 +1,5 @@
-#include <cmath>
+#include <algorithm>
+#include <utility>
 
 #include "pictures/metafile/raster_ops.h"
 #include "pictures/metafile/wmf_playback.h"
@@ -85,23 +86,26 @@ void SetDibToDevice(WmfPlayback& p, ByteReader& r) {
       {p.Bitmaps.DecodePacked(dib, usage, p.Palette()), FromBottom(dib, {from, to.size()}), to, SourceCopy});
 }
 
-// A bitmap in the oldest form, of which those of one bit a pixel don't depend on a device.
+// A bitmap in the oldest form, rows from the top. Those with a palette depend on a device.
 QImage ReadOldBitmap(ByteReader& r, const DcState& state) {
+  constexpr std::pair<int, QImage::Format> formats[] = {{1, QImage::Format_Mono},
+                                                        {16, QImage::Format_RGB555},
+                                                        {24, QImage::Format_BGR888},
+                                                        {32, QImage::Format_RGB32}};
   r.Skip(2);
   const int width = r.I16();
   const int height = r.I16();
   const std::size_t rowSize = r.U16();
-  const bool mono = r.U8() == 1 && r.U8() == 1;
-  if (!mono || width < 1 || height < 1) throw SkipRecord();
-  const Bytes bits = r.Take(rowSize * static_cast<std::size_t>(height));
-  if (rowSize * 8 < static_cast<std::size_t>(width)) throw SkipRecord();
-  QImage image(width, height, QImage::Format_Mono);
+  const int planes = r.U8();
+  const int bits = r.U8();
+  const auto format = std::ranges::find(formats, bits, &std::pair<int, QImage::Format>::first);
+  if (planes != 1 || format == std::end(formats) || width < 1 || height < 1) throw SkipRecord();
+  const std::size_t used = static_cast<std::size_t>((width * bits + 7) / 8);
+  if (rowSize < used || r.Left() < rowSize * static_cast<std::size_t>(height)) throw SkipRecord();
+  QImage image(width, height, format->second);
   if (image.isNull()) throw SkipRecord();
-  image.setColorTable({state.TextColor.rgb(), state.BackgroundColor.rgb()});
-  for (int y = 0; y < height; ++y)
-    std::ranges::copy(
-        bits.subspan(static_cast<std::size_t>(y) * rowSize, static_cast<std::size_t>((width + 7) / 8)),
-        image.scanLine(y));
+  if (bits == 1) image.setColorTable({state.TextColor.rgb(), state.BackgroundColor.rgb()});
+  for (int y = 0; y < height; ++y) std::ranges::copy(r.Take(rowSize).first(used), image.scanLine(y));
   return image;
 }
 

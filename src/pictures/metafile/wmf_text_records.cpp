@@ -29,8 +29,13 @@ void ExtTextOut(WmfPlayback& p, ByteReader& r) {
   const Bytes string = r.Take(length);
   r.Skip(std::min<std::size_t>(r.Left(), length % 2));
   text.Text = DecodeText(string, p.Draw.State().Font->Charset);
-  if (r.Left() >= length * 2)
-    for (std::size_t i = 0; i < length; ++i) text.Advances.push_back(r.I16());
+  const bool pairs = (text.Options & TextPairs) != 0;
+  if (r.Left() >= length * (pairs ? 4 : 2)) {
+    for (std::size_t i = 0; i < length; ++i) {
+      text.Advances.push_back(r.I16());
+      if (pairs) text.Rises.push_back(r.I16());
+    }
+  }
   p.Draw.Text(text);
 }
 
