@@ -4,6 +4,7 @@
 #include <QPageLayout>
 #include <QPainter>
 #include <QPrinter>
+#include <QPrinterInfo>
 #include <algorithm>
 
 #include "preview/painter_canvas.h"
@@ -38,6 +39,11 @@ std::vector<int> PageOrder(const QPrinter& printer, int pageCount) {
     for (const int page : pages) order.insert(order.end(), static_cast<std::size_t>(copies), page);
   }
   return order;
+}
+
+// The print system takes a document without a word and drops it if its queue has gone meanwhile.
+bool HasGone(const QPrinter& printer) {
+  return printer.outputFileName().isEmpty() && QPrinterInfo::printerInfo(printer.printerName()).isNull();
 }
 
 }  // namespace
@@ -77,6 +83,7 @@ QString PrintDocument(const Document& document, QPrinter& printer, PrintScale sc
   if (!painter.end() || printer.printerState() == QPrinter::Error) {
     return Text("The printer \"%1\" reports an error.").arg(printer.printerName());
   }
+  if (HasGone(printer)) return Text("The printer \"%1\" is no longer there.").arg(printer.printerName());
   return {};
 }
 
