@@ -88,6 +88,10 @@ class PrintQueue:
         except subprocess.CalledProcessError:
             return False
 
+    def remove(self):
+        """Takes the queue out of the server, as an administrator may do at any moment."""
+        self._run("lpadmin", "-x", QUEUE)
+
     def jobs_done(self):
         """Numbers of the finished jobs, oldest first."""
         lines = self._run("lpstat", "-W", "completed", "-o", QUEUE).splitlines()

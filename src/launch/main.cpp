@@ -18,18 +18,19 @@ int main(int argc, char** argv) {
   QtDesktop desktop;
   ToolkitArguments arguments(argv[0]);
   const std::unique_ptr<Application> application = StartApplication(arguments, desktop);
+  RequireFonts(desktop);
+  // They last as long as the process, which ends without coming back here: no window is taken apart when the
+  // toolkit has lost its display.
+  const std::unique_ptr<HostSettings> settings = OpenHostSettings(desktop);
+  PrintRun run(desktop);
+  QtProgramWindows windows(run);
+  SystemPrinters printers(settings->CountsPdfPrinter());
+  const EndSignals endSignals([&] {
+    if (application->IsFailing()) desktop.EndProcess(ExitAfterRunTimeFailure);
+    windows.StopWork();
+    EndRun(run);
+  });
   application->Run([&] {
-    RequireFonts(desktop);
-    // They last as long as the process, which ends without coming back here.
-    static const std::unique_ptr<HostSettings> settings = OpenHostSettings(desktop);
-    static PrintRun run(desktop);
-    static QtProgramWindows windows(run);
-    static SystemPrinters printers(settings->CountsPdfPrinter());
-    static const EndSignals endSignals([&application, &desktop] {
-      if (application->IsFailing()) desktop.EndProcess(ExitAfterRunTimeFailure);
-      windows.StopWork();
-      EndRun(run);
-    });
     run.Page = CodePage(settings->CodePageNumber());
     Launch(run, CommandLineText(argc, argv), {*settings, printers, windows});
   });

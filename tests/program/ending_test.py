@@ -1,0 +1,149 @@
+"""However a run is made to end, no half file stays, and what the desk takes away meanwhile is told."""
+import signal
+import unittest
+
+from program_case import ProgramCase  # also finds the demo's modules
+import servo_pack
+from desktop import User, VirtualDisplay, wait_until
+from print_file import PrintFile, write_parameters
+from print_queue import QUEUE, PrintQueue
+from saved_pdf import page_count
+from session import DIALOG, PREVIEW
+
+
+class Signals(ProgramCase):
+    """The system asks the program to end: the user logs out, the machine goes down."""
+
+    def start_dialog(self, **told):
+        self.host.write_data("User")
+        session = self.start("User", **told)
+        session.wait_for(DIALOG)
+        return session
+
+    def test_end_the_dialog_as_cancel_does(self):
+        for wish in (signal.SIGTERM, signal.SIGHUP, signal.SIGINT):
+            with self.subTest(wish=wish.name):
+                session = self.start_dialog()
+                session.process.send_signal(wish)
+                self.expect_end(session.process)
+                self.assertEqual(self.files_left(), [])
+                self.assertFalse(self.host.options_file.exists())
+                self.assertEqual(self.standard_error(), "")
+
+    def test_end_the_preview_as_its_closing_does(self):
+        session = self.start_dialog()
+        session.confirm_dialog()
+        written = self.host.options_file.read_bytes()
+        session.process.send_signal(signal.SIGTERM)
+        self.expect_end(session.process)
+        self.assertEqual(self.files_left(), [])
+        self.assertEqual(self.host.options_file.read_bytes(), written)
+
+    def test_end_a_window_above_another(self):
+        session = self.start_dialog()
+        session.confirm_dialog()
+        self.user.press("ctrl+s")
+        session.wait_for("Save as PDF")
+        session.process.send_signal(signal.SIGTERM)
+        self.expect_end(session.process)
+        self.assertEqual(self.files_left(), [])
+
+    def test_end_a_numbered_failure_as_its_answer_does(self):
+        self.host.write_data("User")
+        session = self.start("user", edition=1)
+        session.wait_for("Printing Error")
+        session.process.send_signal(signal.SIGTERM)
+        self.expect_end(session.process)
+        self.assertEqual(self.files_left(), [])
+
+    def test_end_a_run_time_failure_as_its_answer_does(self):
+        self.host.write_data("User")
+        session = self.start(None, arguments=["User"])
+        session.wait_for("Run-time error")
+        session.process.send_signal(signal.SIGTERM)
+        self.expect_end(session.process, 1)
+        self.assertEqual(self.files_left(), ["User.tmp"])
+
+    def test_that_the_caller_told_to_ignore_are_ignored(self):
+        session = self.start_dialog(through=("sh", "-c", 'trap "" HUP; exec "$@"', "sh"))
+        session.process.send_signal(signal.SIGHUP)
+        session.confirm_dialog()
+        self.assertEqual(session.close_preview(), 0)
+
+    def test_leave_no_half_pdf(self):
+        file = PrintFile("Parameter File", servo_pack.MODELS, "long.prm")
+        write_parameters(file, list(servo_pack.PARAMETERS) * 100, servo_pack.SWITCHES, "")
+        file.write(self.host.temp_folder / "User.tmp")
+        target = self.folder / "target"
+        target.mkdir()
+        session = self.start("User")
+        session.confirm_dialog()
+        session.ask_for_pdf(target / "document.pdf")
+        session.process.send_signal(signal.SIGTERM)
+        self.expect_end(session.process)
+        self.assertEqual(self.files_left(), [])
+        for path in target.iterdir():  # it may have been in time
+            self.assertEqual(path.name, "document.pdf")
+            self.assertGreater(page_count(path), 100)
+
+
+class LostDisplay(ProgramCase):
+    def lose(self, through_preview):
+        display = VirtualDisplay()
+        self.addCleanup(display.close)
+        self.user = User(display.environment)
+        self.host.write_data("User")
+        session = self.start("User", environment=display.environment)
+        session.wait_for(DIALOG)
+        if through_preview:
+            session.confirm_dialog()
+        display.close()
+        self.expect_end(session.process, 1)
+        self.assertEqual(self.standard_error(), "The X11 connection broke (error 1). Did the X11 server die?\n")
+        self.assertEqual(self.files_left(), ["User.tmp"])
+
+    def test_ends_the_dialog_with_a_word_and_touches_no_file(self):
+        self.lose(through_preview=False)
+        self.assertFalse(self.host.options_file.exists())
+
+    def test_ends_the_preview_with_a_word_and_touches_no_file(self):
+        self.lose(through_preview=True)
+        self.assertTrue(self.host.options_file.exists())
+
+
+class LostPrinter(ProgramCase):
+    def setUp(self):
+        super().setUp()
+        self.queue = PrintQueue()
+        self.addCleanup(self.queue.close)
+
+    def environment(self):
+        return {**super().environment(), **self.queue.environment}
+
+    def test_while_its_dialog_stands_is_told_and_the_preview_stays(self):
+        self.host.write_data("User")
+        session = self.start("User")
+        session.confirm_dialog()
+        self.user.press("ctrl+p")
+        session.wait_for("Print")
+        self.queue.remove()
+        self.user.press("Return")
+        self.wait_for_words("The document was not printed.")
+        self.wait_for_words(f'The printer "{QUEUE}" is no longer there.')
+        self.user.press("Return")
+        wait_until(lambda: [window.name for window in self.program.windows()] == [PREVIEW], "the message to go")
+        session.save_pdf(self.folder / "document.pdf")
+        self.assertEqual(session.close_preview(), 0)
+        self.assertEqual(self.files_left(), [])
+
+    def test_after_the_start_leaves_the_pdf(self):
+        self.host.write_data("User")
+        session = self.start("User")
+        session.confirm_dialog()
+        self.queue.remove()
+        session.save_pdf(self.folder / "document.pdf")
+        self.assertEqual(session.close_preview(), 0)
+
+
+if __name__ == "__main__":
+    unittest.main()
