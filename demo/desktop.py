@@ -37,8 +37,7 @@ class VirtualDisplay:
     def __init__(self, size="1280x1000", server_options=()):
         self.name = wait_until(lambda: self._start_server(size, server_options), "an X server")
         self.environment = {"DISPLAY": self.name}
-        self._manager = subprocess.Popen(["openbox"], env={**os.environ, **self.environment}, stderr=subprocess.DEVNULL,
-                                         preexec_fn=end_with_parent)
+        self._manager = self._start_manager()
         wait_until(self._managed, "the window manager")
 
     def _start_server(self, size, server_options):
@@ -55,7 +54,13 @@ class VirtualDisplay:
         self._server.wait()
         return None
 
+    def _start_manager(self):
+        return subprocess.Popen(["openbox"], env={**os.environ, **self.environment}, stderr=subprocess.DEVNULL,
+                                preexec_fn=end_with_parent)
+
     def _managed(self):
+        if self._manager.poll() is not None:  # it gives up on a server that is slow to answer
+            self._manager = self._start_manager()
         told = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], env={**os.environ, **self.environment},
                               capture_output=True, text=True, check=False)
         return "window id" in told.stdout
@@ -84,15 +89,17 @@ class User:
         found = self._run("xdotool", "search", "--onlyvisible", "--name", ".+", check=False).split()
         return sorted({self._run("xdotool", "getwindowname", window, check=False) for window in found})
 
-    def press_until_gone(self, keys, title):
-        """Presses keys until no window of this title shows. A list of proposals may take the first one."""
+    def press_until(self, key, title, count):
+        """Presses a key in the window of this title until `count` windows of the title show. A list of proposals may
+        take the first one; no other window is ever given the key, however late the first one works."""
         for _ in range(20):
-            self.press(*keys)
+            if self.focused(title):
+                self.press(key)
             try:
-                return wait_until(lambda: not self.windows(title), f"the window '{title}' to go", seconds=3)
+                return wait_until(lambda: len(self.windows(title)) == count, f"{count} windows '{title}'", seconds=3)
             except Timeout:
                 continue
-        raise Timeout(f"the keys {keys} don't close the window '{title}'")
+        raise Timeout(f"the key {key} doesn't lead to {count} windows '{title}'")
 
     def focused(self, title):
         """The window that has the focus, if its title is exactly this one."""

@@ -45,7 +45,9 @@ class Session:
         self.wait_for("Save as PDF")
         self.user.press("ctrl+a")
         self.user.write(str(path))
-        self.user.press_until_gone(("Return", "alt+y") if replace else ("Return",), "Save as PDF")
+        if replace:
+            self.user.press_until("Return", "Save as PDF", 2)  # the question bears the dialog's title
+        self.user.press_until("alt+y" if replace else "Return", "Save as PDF", 0)
 
     def print_all(self, queue, count=1):
         """Prints with the system's dialog as it comes up; returns the number of the print job."""
