@@ -3,52 +3,13 @@
 
 #include <QBuffer>
 
-#include "metafile_writer.h"
+#include "plus_writer.h"
 
 namespace tarvis {
 namespace {
 
 const QColor Red(255, 0, 0), Green(0, 255, 0), Blue(0, 0, 255), White(255, 255, 255);
 constexpr std::uint32_t RedInk = 0xFFFF0000, BlueInk = 0xFF0000FF;
-constexpr std::uint32_t Version = 0xDBC01002;
-
-// The extended records of one comment.
-class PlusWriter {
- public:
-  explicit PlusWriter(bool dual = false) {
-    Add(0x4001, dual ? 1 : 0, ByteWriter().U32(Version).U32(1).U32(96).U32(96));
-  }
-  PlusWriter& Add(std::uint32_t type, std::uint32_t flags, const ByteWriter& payload = {}) {
-    ByteWriter padded = payload;
-    padded.Align(4);
-    const std::uint32_t size = static_cast<std::uint32_t>(padded.Size());
-    records_.U16(type).U16(flags).U32(size + 12).U32(size).Add(padded);
-    return *this;
-  }
-  PlusWriter& Object(std::uint32_t kind, std::uint32_t index, const ByteWriter& object) {
-    return Add(0x4008, kind << 8 | index, object);
-  }
-  PlusWriter& Pen(std::uint32_t index, std::uint32_t color, float width) {
-    ByteWriter pen;
-    pen.U32(Version).U32(0).U32(0).U32(0).F32(width).U32(Version).U32(0).U32(color);
-    return Object(2, index, pen);
-  }
-  PlusWriter& FillRect(std::uint32_t color, int x, int y, int width, int height) {
-    return Add(0x400A, 0xC000, ByteWriter().U32(color).U32(1).I16(x).I16(y).I16(width).I16(height));
-  }
-  ByteWriter Comment() const {
-    return ByteWriter().U32(static_cast<std::uint32_t>(records_.Size() + 4)).Text("EMF+").Add(records_);
-  }
-  EmfWriter Emf() const {
-    EmfWriter emf;
-    emf.Add(70, Comment());
-    return emf;
-  }
-  QImage Show() const { return Emf().Show(); }
-
- private:
-  ByteWriter records_;
-};
 
 TEST(EmfPlus, FillsRectangles) {
   const QImage shown = PlusWriter().FillRect(RedInk, 10, 10, 30, 30).Show();
@@ -86,7 +47,7 @@ TEST(EmfPlus, DrawsLinesWithItsPen) {
 
 TEST(EmfPlus, FillsAndStrokesPaths) {
   ByteWriter path;
-  path.U32(Version).U32(4).U32(0x4000);
+  path.U32(PlusVersion).U32(4).U32(0x4000);
   path.I16(20).I16(20).I16(80).I16(20).I16(80).I16(80).I16(20).I16(80).U8(0).U8(1).U8(1).U8(0x81);
   PlusWriter plus;
   plus.Object(3, 2, path).Pen(1, BlueInk, 6);
@@ -130,7 +91,17 @@ TEST(EmfPlus, ClipsToRectanglesAndPaths) {
 
 TEST(EmfPlus, GradientsRunFromColorToColor) {
   ByteWriter brush;
-  brush.U32(Version).U32(4).U32(0).U32(4).F32(0).F32(0).F32(100).F32(100).U32(RedInk).U32(BlueInk).Zeros(8);
+  brush.U32(PlusVersion)
+      .U32(4)
+      .U32(0)
+      .U32(4)
+      .F32(0)
+      .F32(0)
+      .F32(100)
+      .F32(100)
+      .U32(RedInk)
+      .U32(BlueInk)
+      .Zeros(8);
   PlusWriter plus;
   plus.Object(1, 3, brush).Add(0x400A, 0x4000, ByteWriter().U32(3).U32(1).I16(0).I16(0).I16(100).I16(100));
   EXPECT_GT(plus.Show().pixelColor(3, 50).red(), 240);
@@ -139,7 +110,7 @@ TEST(EmfPlus, GradientsRunFromColorToColor) {
 
 TEST(EmfPlus, TextShowsInItsBox) {
   ByteWriter font;
-  font.U32(Version).F32(40).U32(2).U32(0).U32(0).U32(5);
+  font.U32(PlusVersion).F32(40).U32(2).U32(0).U32(0).U32(5);
   for (const char c : std::string("Arial")) font.U16(static_cast<unsigned char>(c));
   PlusWriter plus;
   plus.Object(6, 4, font);
@@ -150,7 +121,7 @@ TEST(EmfPlus, TextShowsInItsBox) {
 
 TEST(EmfPlus, TextShowsCharacterByCharacter) {
   ByteWriter font;
-  font.U32(Version).F32(40).U32(2).U32(0).U32(0).U32(0);
+  font.U32(PlusVersion).F32(40).U32(2).U32(0).U32(0).U32(0);
   PlusWriter plus;
   plus.Object(6, 4, font);
   ByteWriter text;
@@ -163,7 +134,7 @@ TEST(EmfPlus, TextShowsCharacterByCharacter) {
 
 TEST(EmfPlus, ImagesShowFromPixelsAndFromFiles) {
   ByteWriter pixels;
-  pixels.U32(Version).U32(1).I32(2).I32(1).I32(8).U32(0x26200A).U32(0).U32(RedInk).U32(BlueInk);
+  pixels.U32(PlusVersion).U32(1).I32(2).I32(1).I32(8).U32(0x26200A).U32(0).U32(RedInk).U32(BlueInk);
   QImage image(2, 1, QImage::Format_RGB32);
   image.setPixel(0, 0, RedInk);
   image.setPixel(1, 0, BlueInk);
@@ -172,7 +143,7 @@ TEST(EmfPlus, ImagesShowFromPixelsAndFromFiles) {
   buffer.open(QIODevice::WriteOnly);
   image.save(&buffer, "PNG");
   ByteWriter file;
-  file.U32(Version).U32(1).I32(0).I32(0).I32(0).U32(0).U32(1).Text(png.toStdString());
+  file.U32(PlusVersion).U32(1).I32(0).I32(0).I32(0).U32(0).U32(1).Text(png.toStdString());
   for (const ByteWriter& object : {pixels, file}) {
     PlusWriter plus;
     plus.Object(5, 0, object);

@@ -13,7 +13,6 @@ namespace {
 
 constexpr double HairlineInches = 0.005;
 constexpr double ScreenDotsPerInch = 96;
-constexpr double HatchDots = 8;
 constexpr double MostDashes = 20000;  // in one line; beyond, a dash is no longer seen as one
 constexpr double MostHatchLines = 4000;
 constexpr double WidestPen = 32000;  // of the toolkit
@@ -116,6 +115,11 @@ QPen DrawListPainter::MakePen(const ListPen& listPen, double length) const {
   const double width = listPen.Hairline ? 0 : std::min(listPen.Width * penScale_, WidestPen);
   const double shown = listPen.Hairline ? hairline_ : std::max(width, hairline_);
   pen.setWidthF(shown);
+  if (pen.brush().gradient() != nullptr) {
+    QBrush brush = pen.brush();
+    brush.setTransform(brush.transform() * toTarget_);
+    pen.setBrush(brush);
+  }
   if (pen.style() != Qt::CustomDashLine) return pen;
   // Dashes count in widths of the pen; those of hairlines in dots of a screen.
   const double unit = listPen.Hairline ? screenDot_ : std::max(width, screenDot_ / 2);
@@ -148,7 +152,9 @@ void DrawListPainter::Shape(const ListCommand& command) {
 void DrawListPainter::Fill(const QPainterPath& path, const ListBrush& listBrush) {
   if (IsHatch(listBrush.Brush.style())) return Hatch(path, listBrush);
   QBrush brush = listBrush.Brush;
-  if (brush.style() == Qt::TexturePattern) {
+  if (brush.style() == Qt::TexturePattern && listBrush.Placed) {
+    brush.setTransform(brush.transform() * toTarget_);
+  } else if (brush.style() == Qt::TexturePattern) {
     brush.setTransform(QTransform::fromScale(screenDot_, screenDot_) *
                        QTransform::fromTranslate(target_.left(), target_.top()));
   } else if (brush.gradient() != nullptr) {
@@ -168,14 +174,15 @@ void DrawListPainter::Hatch(const QPainterPath& path, const ListBrush& brush) {
   if (box.isEmpty()) return;
   painter_.save();
   painter_.setClipPath(path, Qt::IntersectClip);
-  painter_.setPen(QPen(brush.Brush.color(), hairline_));
+  painter_.setPen(QPen(brush.Brush.color(), std::max(hairline_, brush.HatchLine * screenDot_)));
   painter_.setRenderHint(QPainter::Antialiasing, !onScreen_);
-  HatchLines(box, brush.Brush.style());
+  HatchLines(box, brush);
   painter_.restore();
 }
 
-void DrawListPainter::HatchLines(const QRectF& box, Qt::BrushStyle style) {
-  const double step = std::max(HatchDots * screenDot_, (box.width() + box.height()) / MostHatchLines);
+void DrawListPainter::HatchLines(const QRectF& box, const ListBrush& brush) {
+  const Qt::BrushStyle style = brush.Brush.style();
+  const double step = std::max(brush.HatchStep * screenDot_, (box.width() + box.height()) / MostHatchLines);
   const bool across = style == Qt::HorPattern || style == Qt::CrossPattern;
   const bool down = style == Qt::VerPattern || style == Qt::CrossPattern;
   const bool falling = style == Qt::FDiagPattern || style == Qt::DiagCrossPattern;

@@ -22,7 +22,7 @@ class DrawListPainter {
   void Shape(const ListCommand& command);
   void Fill(const QPainterPath& path, const ListBrush& brush);
   void Hatch(const QPainterPath& path, const ListBrush& brush);
-  void HatchLines(const QRectF& box, Qt::BrushStyle style);
+  void HatchLines(const QRectF& box, const ListBrush& brush);
   void Image(const ListImage& image);
   void Clip(const ListClip& clip);
 

@@ -81,6 +81,8 @@ class Drawing {
   void SetMetaClip() { State().MetaClip = State().Clip; }
 
   void Text(const TextRecord& text);
+  // Of the line that it would draw, in logical units.
+  double TextWidth(const TextRecord& text);
 
   // Pictures and fills of areas.
   void Block(BlockRecord block);

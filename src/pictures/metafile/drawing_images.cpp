@@ -121,7 +121,7 @@ void Drawing::GradientBox(const QRectF& box, QColor from, QColor to, bool down) 
   gradient.setColorAt(1, to);
   QPainterPath path;
   path.addRect(box);
-  const ListBrush brush{QBrush(gradient), {}};
+  const ListBrush brush{QBrush(gradient)};
   list_.SetClip(State().Clip);
   list_.AddShape(toDevice.map(path), nullptr, &brush);
 }
@@ -139,7 +139,7 @@ void Drawing::GradientTriangle(const Points& corners, const std::vector<QColor>&
     path.lineTo(at(a, b + step));
     path.closeSubpath();
     const QColor color = Mix(colors, a + step / 3, b + step / 3);
-    const ListBrush brush{QBrush(color), {}};
+    const ListBrush brush{QBrush(color)};
     const ListPen pen{QPen(color), 0, true};  // closes the seam to the next
     list_.AddShape(path, &pen, &brush);
   };

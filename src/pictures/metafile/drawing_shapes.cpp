@@ -192,7 +192,7 @@ void Drawing::FillBox(const QRectF& box, QColor color) {
   QPainterPath path;
   path.addRect(box);
   list_.SetClip(State().Clip);
-  const ListBrush brush{QBrush(color), {}};
+  const ListBrush brush{QBrush(color)};
   list_.AddShape(ToDevice().map(path), nullptr, &brush);
 }
 

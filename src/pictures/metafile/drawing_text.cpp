@@ -123,7 +123,7 @@ void Drawing::DrawGlyphs(const TextRecord& text, const TextPlace& place) {
   if (inPath_) {
     path_.addPath(path);
   } else {
-    const ListBrush brush{QBrush(State().TextColor), {}};
+    const ListBrush brush{QBrush(State().TextColor)};
     list_.SetClip(State().Clip);
     list_.AddShape(path, nullptr, &brush);
   }
@@ -138,7 +138,7 @@ void Drawing::DrawTextLines(const TextPlace& place) {
     const QPointF bottom = place.Start + place.Down * to;
     QPainterPath path;
     path.addPolygon(QPolygonF({top, top + width, bottom + width, bottom, top}));
-    const ListBrush brush{QBrush(color), {}};
+    const ListBrush brush{QBrush(color)};
     list_.SetClip(State().Clip);
     list_.AddShape(path, nullptr, &brush);
   };
@@ -148,6 +148,12 @@ void Drawing::DrawTextLines(const TextPlace& place) {
   if (State().BackgroundMode == Opaque) bar(-place.Ascent, place.Descent, State().BackgroundColor);
   if (font.Underline) bar(em * 0.09, em * 0.155, State().TextColor);
   if (font.StrikeOut) bar(-em * 0.26, -em * 0.2, State().TextColor);
+}
+
+double Drawing::TextWidth(const TextRecord& text) {
+  TextPlace place = PlaceText(text);
+  GlyphPlaces(text, place);
+  return place.Width;
 }
 
 void Drawing::Text(const TextRecord& text) {

@@ -51,7 +51,7 @@ void Drawing::DrawMaskedFills() {
   AddClipPath(xor_.Mask);
   list_.SetClip(State().Clip);
   for (const auto& [path, color] : xor_.Again) {
-    const ListBrush brush{QBrush(color), {}};
+    const ListBrush brush{QBrush(color)};
     list_.AddShape(path, nullptr, &brush);
   }
   State().Clip = clip;

@@ -5,14 +5,11 @@
 namespace tarvis {
 namespace {
 
-constexpr std::uint32_t ColorFlag = 0x8000, CompressedFlag = 0x4000, ClosedFlag = 0x2000,
-                        RelativeFlag = 0x0800;
-constexpr std::uint32_t AlignCenter = 6, AlignRight = 2, AlignBaseline = 24;
+constexpr std::uint32_t ColorFlag = 0x8000, ClosedFlag = 0x2000;
 
 Points ReadCounted(ByteReader& r, std::uint32_t flags) {
   const std::size_t count = r.U32();
-  if ((flags & RelativeFlag) != 0) throw SkipRecord();
-  return ReadPlusPoints(r, count, (flags & CompressedFlag) != 0);
+  return ReadPlusPoints(r, count, flags);
 }
 
 QPainterPath LinePath(const Points& points, bool closed) {
@@ -24,22 +21,31 @@ QPainterPath LinePath(const Points& points, bool closed) {
   return path;
 }
 
-// A cardinal spline through all points.
-QPainterPath CurvePath(const Points& points, double tension, bool closed) {
+// Part of a cardinal spline through all points.
+struct CurveRange {
+  std::size_t First = 0, Segments = 0;
+};
+
+QPainterPath CurvePath(const Points& points, double tension, bool closed, CurveRange range) {
   QPainterPath path;
-  if (points.size() < 2) return path;
   const std::size_t count = points.size();
+  const std::size_t most = closed ? count : std::max<std::size_t>(count, 1) - 1;
+  if (count < 2 || range.First > most || range.Segments > most - range.First) return path;
   const auto at = [&](std::ptrdiff_t i) {
     const std::ptrdiff_t n = static_cast<std::ptrdiff_t>(count);
     return points[static_cast<std::size_t>(closed ? (i + n) % n : std::clamp<std::ptrdiff_t>(i, 0, n - 1))];
   };
-  path.moveTo(points[0]);
-  for (std::size_t k = 0; k + (closed ? 0 : 1) < count; ++k) {
-    const auto i = static_cast<std::ptrdiff_t>(k);
+  path.moveTo(points[range.First]);
+  for (std::size_t k = 0; k < range.Segments; ++k) {
+    const auto i = static_cast<std::ptrdiff_t>(range.First + k);
     path.cubicTo(at(i) + (at(i + 1) - at(i - 1)) * tension / 3, at(i + 1) - (at(i + 2) - at(i)) * tension / 3,
                  at(i + 1));
   }
   return path;
+}
+
+QPainterPath ClosedCurve(const Points& points, double tension) {
+  return CurvePath(points, tension, true, {0, points.size()});
 }
 
 double ReadAngle(ByteReader& r) {
@@ -49,27 +55,6 @@ double ReadAngle(ByteReader& r) {
 }
 
 }  // namespace
-
-ListBrush EmfPlusPlayer::BrushOf(std::uint32_t flags, std::uint32_t brush) const {
-  if ((flags & ColorFlag) != 0) return {QBrush(PlusColor(brush)), {}};
-  ListBrush list = At<ListBrush>(brush);
-  if (list.Brush.gradient() != nullptr)
-    list.Brush.setTransform(list.Brush.transform() * draw_.Dc().ToDevice());
-  return list;
-}
-
-void EmfPlusPlayer::Fill(const QPainterPath& path, std::uint32_t flags, std::uint32_t brush) {
-  const ListBrush list = BrushOf(flags, brush);
-  draw_.Paint(path, nullptr, &list);
-}
-
-void EmfPlusPlayer::Stroke(const QPainterPath& path, std::uint32_t pen) {
-  const PlusPen& plus = At<PlusPen>(pen & 0xFF);
-  ListPen list = plus.Pen;
-  list.Width = plus.InPixels ? plus.Width : plus.Width * draw_.Dc().Scale();
-  list.Hairline = list.Width == 0;
-  draw_.Paint(path, &list, nullptr);
-}
 
 bool EmfPlusPlayer::PlayFill(std::uint32_t type, std::uint32_t flags, ByteReader& r) {
   QPainterPath path;
@@ -105,7 +90,7 @@ bool EmfPlusPlayer::PlayFill(std::uint32_t type, std::uint32_t flags, ByteReader
     }
     case 0x4016: {
       const double tension = ReadAngle(r);
-      path = CurvePath(ReadCounted(r, flags), tension, true);
+      path = ClosedCurve(ReadCounted(r, flags), tension);
       break;
     }
     default:
@@ -147,7 +132,7 @@ bool EmfPlusPlayer::PlayLine(std::uint32_t type, std::uint32_t flags, ByteReader
       break;
     case 0x4017: {
       const double tension = ReadAngle(r);
-      path = CurvePath(ReadCounted(r, flags), tension, true);
+      path = ClosedCurve(ReadCounted(r, flags), tension);
       break;
     }
     case 0x4018: {
@@ -155,8 +140,8 @@ bool EmfPlusPlayer::PlayLine(std::uint32_t type, std::uint32_t flags, ByteReader
       const std::size_t first = r.U32();
       const std::size_t segments = r.U32();
       const Points points = ReadCounted(r, flags);
-      if (first != 0 || segments + 1 != points.size()) throw SkipRecord();
-      path = CurvePath(points, tension, false);
+      if (points.empty() || first + segments > points.size() - 1) throw SkipRecord();
+      path = CurvePath(points, tension, false, {first, segments});
       break;
     }
     case 0x4019: {
@@ -172,70 +157,6 @@ bool EmfPlusPlayer::PlayLine(std::uint32_t type, std::uint32_t flags, ByteReader
   }
   Stroke(path, pen);
   return true;
-}
-
-bool EmfPlusPlayer::PlayText(std::uint32_t type, std::uint32_t flags, ByteReader& r) {
-  if (type == 0x401C) String(flags, r);
-  if (type == 0x4036) DriverString(flags, r);
-  return type == 0x401C || type == 0x4036;
-}
-
-void EmfPlusPlayer::SetFont(std::uint32_t flags, std::uint32_t brush) {
-  draw_.State().Font = std::make_shared<MetaFont>(At<PlusFont>(flags & 0xFF).Font);
-  const QBrush ink = BrushOf(flags, brush).Brush;
-  draw_.State().TextColor = ink.gradient() != nullptr ? ink.gradient()->stops().first().second : ink.color();
-}
-
-void EmfPlusPlayer::String(std::uint32_t flags, ByteReader& r) {
-  constexpr double paddingEms = 1.0 / 6;
-  const std::uint32_t brush = r.U32();
-  const std::uint32_t formatIndex = r.U32();
-  const std::size_t length = r.U32();
-  const QRectF box = ReadRectF(r);
-  const std::vector<TextCharacter> text = DecodeUnits(r.Take(length * 2));
-  SetFont(flags, brush);
-  PlusFormat format;
-  if (formatIndex < objects_.size() && std::holds_alternative<PlusFormat>(objects_[formatIndex]))
-    format = std::get<PlusFormat>(objects_[formatIndex]);
-  std::vector<TextRecord> lines(1);
-  for (const TextCharacter& character : text) {
-    if (character.Code == U'\n') lines.emplace_back();
-    if (character.Code >= U' ') lines.back().Text.push_back(character);
-  }
-  const double em = -draw_.State().Font->Height;
-  const double pitch = em * 1.15;
-  const double spare = box.height() - pitch * static_cast<double>(lines.size());
-  double y = box.top() + (format.LineAlign == 1 ? spare / 2 : format.LineAlign == 2 ? spare : 0);
-  draw_.State().TextAlign = format.Align == 1 ? AlignCenter : format.Align == 2 ? AlignRight : 0;
-  const double x = format.Align == 1   ? box.center().x()
-                   : format.Align == 2 ? box.right() - em * paddingEms
-                                       : box.left() + em * paddingEms;
-  for (TextRecord& line : lines) {
-    line.Reference = {x, y};
-    line.Options = TextNoBox;
-    draw_.Text(line);
-    y += pitch;
-  }
-}
-
-void EmfPlusPlayer::DriverString(std::uint32_t flags, ByteReader& r) {
-  enum : std::uint32_t { Characters = 1, Vertical = 2 };
-  const std::uint32_t brush = r.U32();
-  const std::uint32_t options = r.U32();
-  const bool hasMatrix = r.U32() != 0;
-  const std::size_t count = r.U32();
-  if (count > r.Left() / 10) throw OutOfBytes();
-  if ((options & Characters) == 0 || (options & Vertical) != 0 || hasMatrix) throw SkipRecord();
-  const Bytes codes = r.Take(count * 2);
-  SetFont(flags, brush);
-  draw_.State().TextAlign = AlignBaseline;
-  for (std::size_t i = 0; i < count; ++i) {
-    TextRecord text;
-    text.Text = DecodeUnits(codes.subspan(i * 2, 2));
-    text.Reference = ReadPointF(r);
-    text.Options = TextNoBox;
-    draw_.Text(text);
-  }
 }
 
 bool EmfPlusPlayer::PlayImage(std::uint32_t type, std::uint32_t flags, ByteReader& r) {

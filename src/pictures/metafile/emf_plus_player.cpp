@@ -6,7 +6,7 @@ namespace tarvis {
 namespace {
 
 constexpr std::uint32_t HeaderRecord = 0x4001, ContextRecord = 0x4004, ObjectRecord = 0x4008;
-constexpr std::uint32_t AppendFlag = 0x2000, CompressedFlag = 0x4000, ContinuedFlag = 0x8000;
+constexpr std::uint32_t AppendFlag = 0x2000, ContinuedFlag = 0x8000;
 constexpr std::size_t MostObjectBytes = 48 << 20;
 constexpr std::size_t MostSaved = 512;
 constexpr qsizetype MostImageBytes = 96 << 20;  // in the whole file
@@ -86,7 +86,7 @@ void EmfPlusPlayer::Keep(std::uint32_t flags, Bytes bytes) {
 }
 
 QRectF EmfPlusPlayer::Rect(ByteReader& r, std::uint32_t flags) const {
-  if ((flags & CompressedFlag) == 0) return ReadRectF(r);
+  if ((flags & PlusCompressedFlag) == 0) return ReadRectF(r);
   const QPointF at = ReadPoint16(r);
   const QPointF size = ReadPoint16(r);
   return {at.x(), at.y(), size.x(), size.y()};
@@ -166,7 +166,8 @@ bool EmfPlusPlayer::PlayState(std::uint32_t type, std::uint32_t flags, ByteReade
     case 0x4030: {
       const double units[] = {
           1, 1, 1, dotsPerInch_ / 72, dotsPerInch_, dotsPerInch_ / 300, dotsPerInch_ / 25.4};
-      const double scale = static_cast<double>(r.F32());
+      // Some writers leave a scale of 1 out.
+      const double scale = r.Left() >= 4 ? static_cast<double>(r.F32()) : 1;
       const std::size_t unit = flags & 0xFF;
       if (unit >= std::size(units) || !std::isfinite(scale) || scale <= 0) throw SkipRecord();
       pageScale_ = units[unit] * scale;

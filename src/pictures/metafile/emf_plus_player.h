@@ -42,6 +42,10 @@ class EmfPlusPlayer {
   void Object(std::uint32_t flags, ByteReader& r);
   void Keep(std::uint32_t flags, Bytes bytes);
   void Fill(const QPainterPath& path, std::uint32_t flags, std::uint32_t brush);
+  void FillPathGradient(const QPainterPath& path, const PathGradient& gradient);
+  void Rings(const PathGradient& gradient);
+  void Wedges(const PathGradient& gradient);
+  void Caps(const QPainterPath& path, const PlusPen& pen, double width);
   void Stroke(const QPainterPath& path, std::uint32_t pen);
   void String(std::uint32_t flags, ByteReader& r);
   void DriverString(std::uint32_t flags, ByteReader& r);
@@ -51,12 +55,14 @@ class EmfPlusPlayer {
   void Save(std::uint32_t index);
   void Restore(std::uint32_t index);
   QRectF Rect(ByteReader& r, std::uint32_t flags) const;
-  ListBrush BrushOf(std::uint32_t flags, std::uint32_t brush) const;
+  PlusBrush BrushOf(std::uint32_t flags, std::uint32_t brush) const;
+  std::vector<TextRecord> Lines(const std::vector<TextCharacter>& text, double width);
   template <typename T>
   const T& At(std::uint32_t index) const;
 
   Drawing& draw_;
   PlusUse use_;
+  int rings_ = 0;  // drawn in all
   bool active_ = false;
   bool dual_ = false;
   bool givesContext_ = false;

@@ -1,0 +1,11 @@
+// Any bytes as a picture file.
+#include "fuzz_picture.h"
+#include "pictures/picture_file_loader.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const auto load = [](tarvis::Bytes bytes, tarvis::GlyphOutlines& glyphs) {
+    return tarvis::DecodePicture("fuzz", bytes, glyphs);
+  };
+  tarvis::FuzzPicture(load, {data, size});
+  return 0;
+}
