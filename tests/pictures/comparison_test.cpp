@@ -1,4 +1,5 @@
-// Metafiles of independent writers, beside what an independent renderer made of them.
+// Metafiles of independent writers, beside what an independent renderer made of them, or, for `lo_page`, of the
+// writer's own page as it printed it.
 #include <gtest/gtest.h>
 
 #include <QFile>
@@ -58,10 +59,10 @@ INSTANTIATE_TEST_SUITE_P(Samples, MetafileOfAnotherWriter,
                          testing::Values(Sample{"fig_plot.emf", 0.03}, Sample{"gp_lines.emf", 0.04},
                                          Sample{"gp_points.emf", 0.045}, Sample{"gp_surface.emf", 0.03},
                                          Sample{"ink_image.emf", 0.01}, Sample{"ink_image.wmf", 0.01},
-                                         Sample{"ink_plot.emf", 0.03}, Sample{"ink_shapes.emf", 0.01},
-                                         Sample{"ink_shapes.wmf", 0.01}, Sample{"lo_image.emf", 0.025},
-                                         Sample{"lo_image.wmf", 0.01}, Sample{"lo_shapes.emf", 0.02},
-                                         Sample{"lo_shapes.wmf", 0.01}));
+                                         Sample{"ink_shapes.emf", 0.01}, Sample{"ink_shapes.wmf", 0.01},
+                                         Sample{"lo_image.emf", 0.025}, Sample{"lo_image.wmf", 0.01},
+                                         Sample{"lo_page.emf", 0.015}, Sample{"lo_page.wmf", 0.015},
+                                         Sample{"lo_shapes.emf", 0.02}, Sample{"lo_shapes.wmf", 0.01}));
 
 TEST(MetafileOfAnotherWriter, AGradientCutToAShapeKeepsItsColorsAndStaysInside) {
   const QImage shown = Shown(ReadData("lo_deck.emf"), {480, 360});

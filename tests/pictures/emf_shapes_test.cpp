@@ -34,6 +34,14 @@ TEST(EmfShapes, WithoutAFrameTheBoundsFillTheTarget) {
   EXPECT_EQ(shown.pixelColor(52, 50), White);
 }
 
+TEST(EmfShapes, BoxesThinnerThanADotLeaveNoPaperBetweenThem) {
+  EmfWriter emf;
+  emf.Set(17, 8).Pair(9, 100, 1000).Pair(11, 100, 100).Brush(RedInk).NoPen();
+  for (int y = 100; y < 900; y += 3) emf.Rectangle(10, y, 90, y + 3);
+  const QImage shown = emf.Show();
+  for (int y = 11; y < 89; ++y) EXPECT_EQ(shown.pixelColor(50, y), Red) << y;
+}
+
 TEST(EmfShapes, NothingIsPaintedOutsideTheTarget) {
   const std::string bytes = EmfWriter().Brush(RedInk).Rectangle(-500, -500, 500, 500).Bytes();
   QImage paper(100, 100, QImage::Format_RGB32);

@@ -160,12 +160,26 @@ void DrawListPainter::Fill(const QPainterPath& path, const ListBrush& listBrush)
   } else if (brush.gradient() != nullptr) {
     brush.setTransform(brush.transform() * toTarget_);
   }
-  // Boxes that touch must leave no seam between them on a screen.
-  const QRectF box = onScreen_ ? AsBox(path) : QRectF();
-  const bool sharp = box.width() > 1.5 * pixel_ && box.height() > 1.5 * pixel_;
-  if (sharp) painter_.setRenderHint(QPainter::Antialiasing, false);
-  painter_.fillPath(path, brush);
-  if (sharp) painter_.setRenderHint(QPainter::Antialiasing, true);
+  const QRectF box =
+      onScreen_ && painter_.deviceTransform().type() <= QTransform::TxScale ? AsBox(path) : QRectF();
+  if (box.isEmpty()) {
+    painter_.fillPath(path, brush);
+    return;
+  }
+  painter_.setRenderHint(QPainter::Antialiasing, false);
+  painter_.fillRect(OnPixels(box), brush);
+  painter_.setRenderHint(QPainter::Antialiasing, true);
+}
+
+// Boxes that touch must leave no seam between them on a screen, however thin they are; so each takes whole
+// pixels, one at least.
+QRectF DrawListPainter::OnPixels(const QRectF& box) const {
+  const QTransform& toDevice = painter_.deviceTransform();
+  const QRectF device = toDevice.mapRect(box);
+  const double left = std::round(device.left()), top = std::round(device.top());
+  const QPointF corner(std::max(std::round(device.right()), left + 1),
+                       std::max(std::round(device.bottom()), top + 1));
+  return toDevice.inverted().mapRect(QRectF(QPointF(left, top), corner));
 }
 
 void DrawListPainter::Hatch(const QPainterPath& path, const ListBrush& brush) {

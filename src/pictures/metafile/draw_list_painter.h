@@ -21,6 +21,7 @@ class DrawListPainter {
   QPen MakePen(const ListPen& pen, double length) const;
   void Shape(const ListCommand& command);
   void Fill(const QPainterPath& path, const ListBrush& brush);
+  QRectF OnPixels(const QRectF& box) const;
   void Hatch(const QPainterPath& path, const ListBrush& brush);
   void HatchLines(const QRectF& box, const ListBrush& brush);
   void Image(const ListImage& image);
