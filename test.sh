@@ -1,10 +1,10 @@
 #!/bin/sh
-# Installs what is missing, builds with sanitizers, runs each fuzzer for a second, and runs the checks and every test
-# without a display.
+# Installs what is missing, builds with sanitizers, and runs the checks and every test without a display, and each fuzzer
+# for a second.
 set -eu
 cd "$(dirname "$0")"
 
 tools/install_packages
 tools/build dev-asan
-./fuzz.sh 1
+tools/build fuzz fuzzers
 exec ctest --preset dev-asan </dev/null

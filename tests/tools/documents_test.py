@@ -42,8 +42,6 @@ LONG = {
     "./fuzz.sh 600": ["./fuzz.sh 1"],
     "./fuzz.sh 600 sim trace": ["./fuzz.sh 1 sim trace"],
     "./fuzz.sh 3600 sim": ["./fuzz.sh 1 sim"],
-    "cmake --preset fuzz -DTARVIS_FUZZ_PICTURES=ON": ["cmake --preset fuzz -DTARVIS_FUZZ_PICTURES=ON",
-                                                      "cmake --preset fuzz -DTARVIS_FUZZ_PICTURES=OFF"],
     "./coverage.sh": ["./coverage.sh"],
     "./lint.sh": ["./lint.sh src/check/main.cpp"],
     "./lint.sh src/check/main.cpp": ["./lint.sh src/check/main.cpp"],
