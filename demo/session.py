@@ -26,9 +26,9 @@ class Session:
             raise Timeout(f"the program has ended with status {self.process.returncode}")
         return self.user.focused(title) if self._is_ready(title) else None
 
-    def confirm_dialog(self):
+    def confirm_dialog(self, key="Return"):
         self.wait_for(DIALOG)
-        self.user.press("Return")
+        self.user.press(key)
         return self.wait_for(PREVIEW)
 
     def save_pdf(self, path):
