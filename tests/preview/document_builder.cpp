@@ -13,6 +13,12 @@ DocumentBuilder::DocumentBuilder(const std::string& title) {
   }
 }
 
+DocumentBuilder& DocumentBuilder::Paper(float width, float height) {
+  document_->Setup.Width = width;
+  document_->Setup.Height = height;
+  return *this;
+}
+
 DocumentBuilder& DocumentBuilder::Page() {
   document_->Pages.push_back({static_cast<std::uint32_t>(document_->Items.size()), 0});
   return *this;

@@ -13,6 +13,8 @@ class DocumentBuilder {
  public:
   explicit DocumentBuilder(const std::string& title = "Parameter List");
 
+  // A4 unless told otherwise.
+  DocumentBuilder& Paper(float width, float height);
   DocumentBuilder& Page();
   // A table row: bordered cells of equal width, one text each. A new band.
   DocumentBuilder& Row(const std::vector<std::string>& cells, float top, float height = 283,
