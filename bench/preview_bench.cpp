@@ -33,24 +33,60 @@ void PaintPageAtZoom(benchmark::State& state) {
 }
 BENCHMARK(PaintPageAtZoom)->Arg(100)->Arg(200)->Unit(benchmark::kMillisecond);
 
-// One wheel notch after the other through 400 pages, each frame painted; the counter tells the slowest frame.
-void ScrollFrame(benchmark::State& state) {
-  PageView view(Table(400));
+double ThreadMilliseconds() {
+  timespec now{};
+  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+  return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
+}
+
+// Shows frame after frame of `step` and tells the slowest: by the clock, which other programs slow down, and
+// by the time that the window's thread worked.
+template <typename Step>
+void ShowFrames(benchmark::State& state, PageView& view, Step step) {
   view.resize(913, 600);
   view.show();
   QCoreApplication::processEvents();
   double slowest = 0;
+  double slowestWork = 0;
   for (auto _ : state) {
+    const double workBefore = ThreadMilliseconds();
     QElapsedTimer frame;
     frame.start();
-    QScrollBar* bar = view.verticalScrollBar();
-    bar->setValue(bar->value() + 144 > bar->maximum() ? 0 : bar->value() + 144);
+    step();
     QCoreApplication::processEvents();
     slowest = std::max(slowest, static_cast<double>(frame.nsecsElapsed()) / 1e6);
+    slowestWork = std::max(slowestWork, ThreadMilliseconds() - workBefore);
   }
   state.counters["slowest_ms"] = slowest;
+  state.counters["slowest_work_ms"] = slowestWork;
+}
+
+// One wheel notch after the other through 400 pages.
+void ScrollFrame(benchmark::State& state) {
+  PageView view(Table(400));
+  ShowFrames(state, view, [&view] {
+    QScrollBar* bar = view.verticalScrollBar();
+    bar->setValue(bar->value() + 144 > bar->maximum() ? 0 : bar->value() + 144);
+  });
 }
 BENCHMARK(ScrollFrame)->Unit(benchmark::kMillisecond)->Iterations(3000);
+
+// From page to page that was not seen before.
+void JumpFrame(benchmark::State& state) {
+  PageView view(Table(400));
+  int page = 0;
+  ShowFrames(state, view, [&] { view.GoTo({page = (page + 37) % 400, 0}); });
+}
+BENCHMARK(JumpFrame)->Unit(benchmark::kMillisecond)->Iterations(400);
+
+// One zoom step after the other, in and out.
+void ZoomFrame(benchmark::State& state) {
+  PageView view(Table(40));
+  view.GoTo({20, 0});
+  int step = 0;
+  ShowFrames(state, view, [&] { view.ZoomStep(step++ % 12 < 6 ? 1 : -1); });
+}
+BENCHMARK(ZoomFrame)->Unit(benchmark::kMillisecond)->Iterations(240);
 
 void SavePdf(benchmark::State& state) {
   const auto document = Table(334);

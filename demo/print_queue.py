@@ -10,7 +10,7 @@ from pathlib import Path
 from desktop import wait_until
 
 QUEUE = "DemoPDF"
-PPD = "/usr/share/ppd/cups-pdf/CUPS-PDF_noopt.ppd"
+PPD = Path("/usr/share/ppd/cups-pdf/CUPS-PDF_noopt.ppd")
 ANONYMOUS = Path("/var/spool/cups-pdf/ANONYMOUS")  # where the PDF back end leaves what unknown users print
 UNKNOWN_USER = "demo-printer-user"
 
@@ -33,6 +33,7 @@ Browsing Off
 DefaultAuthType None
 WebInterface No
 LogLevel info
+DirtyCleanInterval 0
 PreserveJobHistory Yes
 PreserveJobFiles Yes
 <Location />
@@ -57,10 +58,33 @@ def _free_port():
         return probe.getsockname()[1]
 
 
+def _attributes(request):
+    """Names and values of an encoded print request: a tag, then name and value with two bytes of length each."""
+    place, name = 8, ""
+    while request[place] != 3:  # the end of all attributes
+        tag, place = request[place], place + 1
+        if tag < 16:  # starts a group
+            continue
+        pair = []
+        for _ in range(2):
+            length = int.from_bytes(request[place:place + 2], "big")
+            pair.append(request[place + 2:place + 2 + length])
+            place += 2 + length
+        name = pair[0].decode() or name
+        if tag in (0x21, 0x23):  # integers
+            value = str(int.from_bytes(pair[1], "big"))
+        elif tag == 0x22:  # a truth
+            value = "true" if pair[1][0] else "false"
+        else:
+            value = pair[1].decode("utf-8", "replace")
+        yield name, value
+
+
 class PrintQueue:
     """The PDF back end works for the system's own user only, so elsewhere the server is started through sudo."""
 
-    def __init__(self):
+    def __init__(self, more_options=""):
+        """`more_options` are options that the queue's printer has besides paper, as a printer description tells them."""
         self._as_root = [] if os.getuid() == 0 else ["sudo", "-n"]
         self.folder = Path(tempfile.mkdtemp(prefix="print-queue-"))
         self.folder.chmod(0o755)
@@ -70,12 +94,27 @@ class PrintQueue:
         (self.folder / "cupsd.conf").write_text(SERVER_CONF.format(port=port))
         (self.folder / "cups-files.conf").write_text(FILES_CONF.format(folder=self.folder, group="root"))
         self.environment = {"CUPS_SERVER": f"127.0.0.1:{port}", "CUPS_USER": UNKNOWN_USER}
+        description = PPD.read_text(encoding="latin-1").replace("*CloseGroup: General", more_options + "*CloseGroup: General")
+        (self.folder / "printer.ppd").write_text(description, encoding="latin-1")
+        self.start_server()
+        self.add_queue()
+        self._started = time.time()
+
+    def start_server(self):
         self._server = subprocess.Popen([*self._as_root, "/usr/sbin/cupsd", "-f", "-c", self.folder / "cupsd.conf",
                                          "-s", self.folder / "cups-files.conf"], stderr=subprocess.DEVNULL)
         wait_until(self._answers, "the print server")
-        self._run("lpadmin", "-p", QUEUE, "-E", "-v", "cups-pdf:/", "-P", PPD)
+
+    def stop_server(self):
+        subprocess.run([*self._as_root, "kill", str(self._server.pid)], check=False)
+        self._server.wait()
+
+    def add_queue(self):
+        self._run("lpadmin", "-p", QUEUE, "-E", "-v", "cups-pdf:/", "-P", self.folder / "printer.ppd")
         self._run("lpadmin", "-d", QUEUE)
-        self._started = time.time()
+
+    def remove_queue(self):
+        self._run("lpadmin", "-x", QUEUE)
 
     def _run(self, *command):
         told = {**os.environ, "CUPS_SERVER": self.environment["CUPS_SERVER"],
@@ -100,6 +139,12 @@ class PrintQueue:
     def wait_for_job(self, count=1, seconds=60):
         return wait_until(lambda: self.jobs_done()[count - 1:count], f"print job {count}", seconds)[0]
 
+    def options(self, job):
+        """What the program asked for along with the document: each attribute of the job with its last value, as text."""
+        control = subprocess.run([*self._as_root, "cat", self.folder / "spool" / f"c{job:05d}"],
+                                 capture_output=True, check=True).stdout
+        return dict(_attributes(control))
+
     def received(self, job, target):
         """Copies the document as the program handed it over to `target`."""
         source = self.folder / "spool" / f"d{job:05d}-001"
@@ -114,6 +159,5 @@ class PrintQueue:
         subprocess.run([*self._as_root, "mv", wait_until(newest, "the printed file"), target], check=True)
 
     def close(self):
-        subprocess.run([*self._as_root, "kill", str(self._server.pid)], check=False)
-        self._server.wait()
+        self.stop_server()
         subprocess.run([*self._as_root, "rm", "-rf", str(self.folder)], check=False)

@@ -60,7 +60,8 @@ void PreviewWindow::Print() {
     printer->setFromTo(view_->CurrentPage() + 1, view_->CurrentPage() + 1);
   }
   PrintScale scale = PrintScale::AsComposed;
-  if (MissingWidth(*document_, *printer) > 0 && !AskForScale(scale)) return;
+  const QSizeF missing = MissingRoom(*document_, *printer);
+  if (!missing.isNull() && !AskForScale(missing, scale)) return;
   StartJob(tr("Printing…"), tr("The document was not printed."),
            [document = document_, printer, scale](const Progress& progress) {
              return PrintDocument(*document, *printer, scale, progress);
@@ -68,11 +69,13 @@ void PreviewWindow::Print() {
 }
 
 // False if the user would rather not print.
-bool PreviewWindow::AskForScale(PrintScale& scale) {
+bool PreviewWindow::AskForScale(const QSizeF& missing, PrintScale& scale) {
   QMessageBox box(QMessageBox::Question, windowTitle(),
-                  tr("The paper is too narrow for the pages: their right edge would be cut off."),
+                  missing.width() > 0
+                      ? tr("The paper is too narrow for the pages: their right edge would be cut off.")
+                      : tr("The paper is too short for the pages: their lower edge would be cut off."),
                   QMessageBox::NoButton, this);
-  box.setObjectName(QStringLiteral("narrowPaper"));
+  box.setObjectName(QStringLiteral("smallPaper"));
   const QAbstractButton* shrink = box.addButton(tr("&Scale to fit"), QMessageBox::AcceptRole);
   box.addButton(tr("&Print as it is"), QMessageBox::DestructiveRole);
   const QAbstractButton* cancel = box.addButton(QMessageBox::Cancel);

@@ -82,7 +82,7 @@ class PreviewWindow : public QMainWindow {
   void SelectionChanged();
   void Print();
   void SavePdf();
-  bool AskForScale(PrintScale& scale);
+  bool AskForScale(const QSizeF& missing, PrintScale& scale);
   // `failure` is told with the error text if `work` fails.
   void StartJob(const QString& caption, const QString& failure, BackgroundJob::Work work);
 

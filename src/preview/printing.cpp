@@ -4,10 +4,10 @@
 #include <QPageLayout>
 #include <QPainter>
 #include <QPrinter>
-#include <QPrinterInfo>
 #include <algorithm>
 
 #include "preview/painter_canvas.h"
+#include "preview/print_system.h"
 
 namespace tarvis {
 namespace {
@@ -16,11 +16,37 @@ QString Text(const char* text) {
   return QCoreApplication::translate("Printing", text);
 }
 
-// Right edge of what the pages show, in twips.
-double PrintedRight(const Document& document) {
-  float right = 0;
-  for (const Item& item : document.Items) right = std::max(right, item.Box.Right());
-  return static_cast<double>(right);
+// Right and lower edge of what the pages show, in twips.
+QSizeF PrintedSize(const Document& document) {
+  QSizeF size;
+  for (const Item& item : document.Items) {
+    size = size.expandedTo(
+        QSizeF(static_cast<double>(item.Box.Right()), static_cast<double>(item.Box.Bottom())));
+  }
+  return size;
+}
+
+QSizeF PaperSize(const QPrinter& printer) {
+  return printer.pageLayout().fullRect(QPageLayout::Point).size() * static_cast<double>(TwipsPerPoint);
+}
+
+double ScaleToFit(const Document& document, const QPrinter& printer) {
+  const QSizeF paper = PaperSize(printer);
+  return std::min({1.0, paper.width() / static_cast<double>(document.Setup.Width),
+                   paper.height() / static_cast<double>(document.Setup.Height)});
+}
+
+QString Drop(QPrinter& printer) {
+  printer.abort();
+  DropJobsOfThisThread();
+  return {};
+}
+
+QString RefusalBy(const QPrinter& printer) {
+  // Printing into a file asks no print system.
+  const QString refusal = printer.outputFileName().isEmpty() ? RefusalOfLastJob() : QString();
+  if (refusal.isEmpty()) return {};
+  return Text("The printer \"%1\" did not take the document: %2").arg(printer.printerName(), refusal);
 }
 
 // Pages in the order in which they leave the printer; copies that the printer can't make itself are repeated
@@ -41,18 +67,14 @@ std::vector<int> PageOrder(const QPrinter& printer, int pageCount) {
   return order;
 }
 
-// The print system takes a document without a word and drops it if its queue has gone meanwhile.
-bool HasGone(const QPrinter& printer) {
-  return printer.outputFileName().isEmpty() && QPrinterInfo::printerInfo(printer.printerName()).isNull();
-}
-
 }  // namespace
 
-double MissingWidth(const Document& document, const QPrinter& printer) {
+QSizeF MissingRoom(const Document& document, const QPrinter& printer) {
   QPageLayout layout = printer.pageLayout();
   layout.setUnits(QPageLayout::Point);
-  const double end = layout.fullRect().width() - layout.minimumMargins().right();
-  return std::max(0.0, PrintedRight(document) - end * static_cast<double>(TwipsPerPoint));
+  const QMarginsF margins = layout.minimumMargins() * static_cast<double>(TwipsPerPoint);
+  const QSizeF end = PaperSize(printer) - QSizeF(margins.right(), margins.bottom());
+  return (PrintedSize(document) - end).expandedTo(QSizeF(0, 0));
 }
 
 QString PrintDocument(const Document& document, QPrinter& printer, PrintScale scale,
@@ -63,28 +85,22 @@ QString PrintDocument(const Document& document, QPrinter& printer, PrintScale sc
     return Text("The printer \"%1\" can't be used.").arg(printer.printerName());
   }
   const double toDevice = printer.resolution() / static_cast<double>(TwipsPerInch);
-  const double paper =
-      printer.pageLayout().fullRect(QPageLayout::Point).width() * static_cast<double>(TwipsPerPoint);
-  const double shrink = scale == PrintScale::FitToPaper
-                            ? std::min(1.0, paper / static_cast<double>(document.Setup.Width))
-                            : 1.0;
+  const double shrink = scale == PrintScale::FitToPaper ? ScaleToFit(document, printer) : 1.0;
   painter.scale(toDevice * shrink, toDevice * shrink);
   const std::vector<int> order = PageOrder(printer, static_cast<int>(document.Pages.size()));
+  const int count = static_cast<int>(order.size());
   for (std::size_t index = 0; index < order.size(); ++index) {
-    if (!progress(static_cast<int>(index), static_cast<int>(order.size()))) {
-      printer.abort();
-      return {};
-    }
+    if (!progress(static_cast<int>(index), count)) return Drop(printer);
     if (index > 0 && !printer.newPage())
       return Text("The printer \"%1\" took no further page.").arg(printer.printerName());
     PainterCanvas canvas(painter);
     PaintPage(document, static_cast<std::size_t>(order[index]), canvas);
   }
+  if (!progress(count, count)) return Drop(printer);
   if (!painter.end() || printer.printerState() == QPrinter::Error) {
     return Text("The printer \"%1\" reports an error.").arg(printer.printerName());
   }
-  if (HasGone(printer)) return Text("The printer \"%1\" is no longer there.").arg(printer.printerName());
-  return {};
+  return RefusalBy(printer);
 }
 
 }  // namespace tarvis

@@ -1,6 +1,7 @@
 // A composed document on paper. Pages come from the document alone: the report is never run again.
 #pragma once
 
+#include <QSizeF>
 #include <QString>
 
 #include "preview/background_job.h"
@@ -10,12 +11,12 @@ class QPrinter;
 
 namespace tarvis {
 
-// Whether the document's pages are shrunk to the printable width of the paper.
+// Whether the document's pages are shrunk to the size of the paper.
 enum class PrintScale { AsComposed, FitToPaper };
 
-// Width that the printable area of the printer's paper lacks for what the document prints, in twips; 0 if all
-// fits.
-double MissingWidth(const Document& document, const QPrinter& printer);
+// Width and height that the printable area of the printer's paper lacks for what the document prints, in
+// twips; 0 where all fits.
+QSizeF MissingRoom(const Document& document, const QPrinter& printer);
 
 // Prints the page range of `printer`. Returns an error text for the user, empty if all is well or cancelled.
 QString PrintDocument(const Document& document, QPrinter& printer, PrintScale scale,

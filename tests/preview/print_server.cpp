@@ -1,6 +1,7 @@
 #include "preview/print_server.h"
 
 #include <QElapsedTimer>
+#include <QJsonDocument>
 
 namespace tarvis {
 
@@ -23,8 +24,13 @@ void PrintServer::Stop() {
   process_.waitForFinished();
 }
 
-bool PrintServer::WaitForJob(const QString& received, const QString& printed) {
-  process_.write(QStringLiteral("%1 %2 %3\n").arg(++jobs_).arg(received, printed).toUtf8());
+QJsonObject PrintServer::NextJob(const QString& received, const QString& printed) {
+  process_.write(QStringLiteral("job %1 %2\n").arg(received, printed).toUtf8());
+  return QJsonDocument::fromJson(ReadLine().toUtf8()).object();
+}
+
+bool PrintServer::Tell(const char* command) {
+  process_.write(command + QByteArray("\n"));
   return ReadLine().trimmed() == QLatin1String("done");
 }
 

@@ -1,6 +1,7 @@
 // A print server on the loopback address with one queue, shared by all tests of the program.
 #pragma once
 
+#include <QJsonObject>
 #include <QProcess>
 #include <QString>
 
@@ -14,15 +15,21 @@ class PrintServer {
   void Start();
   void Stop();
 
-  // Waits until one more job is done. `received` gets the document as this process handed it over, `printed`
-  // what came out of the queue.
-  bool WaitForJob(const QString& received, const QString& printed);
+  // Waits for the next job. `received` gets the document as this process handed it over, `printed` what came
+  // out of the queue. Returns what was asked for along with the document, empty if no job came.
+  QJsonObject NextJob(const QString& received, const QString& printed);
+
+  // The queue is taken away and set up again; so is the whole server. True if that worked.
+  bool RemoveQueue() { return Tell("remove"); }
+  bool RestoreQueue() { return Tell("restore"); }
+  bool StopServer() { return Tell("stop"); }
+  bool StartServer() { return Tell("start"); }
 
  private:
+  bool Tell(const char* command);
   QString ReadLine();
 
   QProcess process_;
-  int jobs_ = 0;
 };
 
 }  // namespace tarvis

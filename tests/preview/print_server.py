@@ -1,22 +1,69 @@
 """Runs a print server for a test program until its input ends.
 
-First line written: the address of the server and the user to print as. Each line read is "NUMBER RECEIVED PRINTED":
-once that many jobs are done, the document that the server received and the file that came out of the last one are put
-in those two places, and "done" is written.
+First line written: the address of the server and the user to print as. Each line read is a command, answered by one
+line:
+  job RECEIVED PRINTED  waits for the next job; the document that the server received and the file that came out are
+                        put in those two places, and what was asked for along with it is answered as JSON
+  remove, restore       takes the queue away and sets it up again
+  stop, start           the server
 """
+import json
 import sys
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "demo"))
+from desktop import wait_until  # noqa: E402
 from print_queue import PrintQueue  # noqa: E402
 
-queue = PrintQueue()
+OPTIONS = """\
+*OpenUI *Duplex/Two Sides: PickOne
+*OrderDependency: 20 AnySetup *Duplex
+*DefaultDuplex: None
+*Duplex None/Off: ""
+*Duplex DuplexNoTumble/Long Edge: ""
+*Duplex DuplexTumble/Short Edge: ""
+*CloseUI: *Duplex
+
+*OpenUI *ColorModel/Colour: PickOne
+*OrderDependency: 20 AnySetup *ColorModel
+*DefaultColorModel: RGB
+*ColorModel Gray/Grey: ""
+*ColorModel RGB/Colour: ""
+*CloseUI: *ColorModel
+
+"""
+
+
+class Server:
+    def __init__(self):
+        self.queue = PrintQueue(OPTIONS)
+        self._last_job = 0
+
+    def job(self, received, printed):
+        jobs = wait_until(lambda: [job for job in self.queue.jobs_done() if job > self._last_job], "a print job", 60)
+        self._last_job = jobs[-1]
+        self.queue.received(self._last_job, received)
+        self.queue.printed(printed)
+        return json.dumps(self.queue.options(self._last_job))
+
+    def remove(self):
+        self.queue.remove_queue()
+
+    def restore(self):
+        self.queue.add_queue()
+
+    def stop(self):
+        self.queue.stop_server()
+
+    def start(self):
+        self.queue.start_server()
+
+
+server = Server()
 try:
-    print(queue.environment["CUPS_SERVER"], queue.environment["CUPS_USER"], flush=True)
+    print(server.queue.environment["CUPS_SERVER"], server.queue.environment["CUPS_USER"], flush=True)
     for line in sys.stdin:
-        number, received, printed = line.split()
-        queue.received(queue.wait_for_job(int(number)), received)
-        queue.printed(printed)
-        print("done", flush=True)
+        command, *arguments = line.split()
+        print(getattr(server, command)(*arguments) or "done", flush=True)
 finally:
-    queue.close()
+    server.queue.close()

@@ -1,0 +1,53 @@
+#include "preview/background_job.h"
+
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <atomic>
+#include <thread>
+
+namespace tarvis {
+namespace {
+
+TEST(BackgroundJob, a_long_job_shows_its_progress_and_can_be_cancelled) {
+  QWidget window;
+  window.show();
+  std::atomic<bool> stopped = false;
+  BackgroundJob job(
+      QStringLiteral("Saving"),
+      [&](const Progress& progress) {
+        while (progress(1, 4)) std::this_thread::yield();
+        stopped = true;
+        return QString();
+      },
+      &window);
+  const QSignalSpy finished(&job, &BackgroundJob::Finished);
+  QElapsedTimer time;
+  time.start();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return window.findChild<QProgressDialog*>() != nullptr; }));
+  EXPECT_GE(time.elapsed(), 450);
+  auto* dialog = window.findChild<QProgressDialog*>();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog));
+  QTest::mouseClick(dialog->findChild<QPushButton*>(), Qt::LeftButton);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return finished.count() == 1; }));
+  EXPECT_TRUE(stopped);
+  EXPECT_EQ(window.findChild<QProgressDialog*>(), nullptr);
+}
+
+TEST(BackgroundJob, a_short_job_shows_no_progress) {
+  QWidget window;
+  window.show();
+  BackgroundJob job(
+      QStringLiteral("Saving"), [](const Progress&) { return QStringLiteral("bad"); }, &window);
+  const QSignalSpy finished(&job, &BackgroundJob::Finished);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return finished.count() == 1; }));
+  EXPECT_EQ(finished.at(0).at(0).toString(), QStringLiteral("bad"));
+  EXPECT_EQ(window.findChild<QProgressDialog*>(), nullptr);
+}
+
+}  // namespace
+}  // namespace tarvis

@@ -1,0 +1,130 @@
+// Saving as PDF from the preview.
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+
+#include "preview/full_disk.h"
+#include "preview/pdf_file.h"
+#include "preview/window_fixture.h"
+
+namespace tarvis {
+namespace {
+
+class SavePdf : public WindowTest {
+ protected:
+  QString Path(const char* name) const { return folder_.filePath(QString::fromLatin1(name)); }
+  static void EnterPath(QFileDialog& dialog, const QString& path) {
+    dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path);
+    QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save), Qt::LeftButton);
+  }
+  // Enters a path into the dialog for saving and confirms.
+  void SaveTo(const QString& path) {
+    OnDialog<QFileDialog>([path](QFileDialog& dialog) { EnterPath(dialog, path); });
+    Press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_TRUE(answered_);
+  }
+  void WriteOldFile() const {
+    QFile file(Path("old.pdf"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("old");
+  }
+  QByteArray OldFile() const {
+    QFile file(Path("old.pdf"));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  }
+  // What the message about the failure tells.
+  QString WaitForFailure() {
+    const auto box = [this] { return window_->findChild<QMessageBox*>(QStringLiteral("outputFailure")); };
+    return QTest::qWaitFor([&] { return box() != nullptr; }) ? box()->informativeText() : QString();
+  }
+
+  QTemporaryDir folder_;
+};
+
+TEST_F(SavePdf, ctrl_s_proposes_the_title_and_writes_the_pdf) {
+  OpenTable(3);
+  QString proposed;
+  OnDialog<QFileDialog>([&](QFileDialog& dialog) {
+    proposed = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text();
+    dialog.reject();
+  });
+  Press(Qt::Key_S, Qt::ControlModifier);
+  EXPECT_EQ(proposed, QStringLiteral("Parameter List.pdf"));
+  Return();
+  SaveTo(Path("list.pdf"));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(Path("list.pdf")); }));
+  EXPECT_EQ(PdfFact(Path("list.pdf"), "Pages"), QStringLiteral("3"));
+  EXPECT_EQ(PdfFact(Path("list.pdf"), "Author"), QStringLiteral("Korvane"));
+}
+
+TEST_F(SavePdf, a_title_that_is_no_file_name_is_made_one) {
+  Open(DocumentBuilder("a/b:c").TablePages(1).Build());
+  QString proposed;
+  OnDialog<QFileDialog>([&](QFileDialog& dialog) {
+    proposed = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text();
+    dialog.reject();
+  });
+  Click("savePdfButton");
+  EXPECT_EQ(proposed, QStringLiteral("a_b_c.pdf"));
+}
+
+TEST_F(SavePdf, overwriting_is_asked_for_first) {
+  OpenTable(1);
+  WriteOldFile();
+  bool asked = false;
+  OnDialog<QFileDialog>([&](QFileDialog& dialog) {
+    OnDialog<QMessageBox>([&](QMessageBox& box) {
+      asked = true;
+      box.button(QMessageBox::No)->click();
+    });
+    EnterPath(dialog, Path("old.pdf"));
+    dialog.reject();
+  });
+  Press(Qt::Key_S, Qt::ControlModifier);
+  EXPECT_TRUE(asked);
+  EXPECT_EQ(OldFile(), QByteArray("old"));
+}
+
+TEST_F(SavePdf, a_failed_save_is_told_and_the_preview_stays) {
+  OpenTable(3);
+  const FullDisk full;
+  SaveTo(Path("list.pdf"));
+  EXPECT_TRUE(WaitForFailure().contains(Path("list.pdf")));
+  EXPECT_TRUE(window_->isVisible());
+  EXPECT_FALSE(QFile::exists(Path("list.pdf")));
+}
+
+TEST_F(SavePdf, an_old_file_that_could_not_be_overwritten_is_still_there) {
+  OpenTable(3);
+  WriteOldFile();
+  const FullDisk full;
+  OnDialog<QFileDialog>([this](QFileDialog& dialog) {
+    OnDialog<QMessageBox>(
+        [](QMessageBox& box) { QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton); });
+    EnterPath(dialog, Path("old.pdf"));
+  });
+  Press(Qt::Key_S, Qt::ControlModifier);
+  EXPECT_TRUE(WaitForFailure().contains(Path("old.pdf")));
+  EXPECT_EQ(OldFile(), QByteArray("old"));
+}
+
+TEST_F(SavePdf, a_folder_that_takes_no_files_is_told) {
+  OpenTable(3);
+  SaveTo(QStringLiteral("/proc/list.pdf"));  // a folder where not even the administrator can write
+  EXPECT_TRUE(WaitForFailure().contains(QStringLiteral("/proc/list.pdf")));
+  EXPECT_TRUE(window_->isVisible());
+}
+
+TEST_F(SavePdf, closing_the_window_while_an_export_runs_is_safe) {
+  OpenTable(700);
+  SaveTo(Path("long.pdf"));
+  EXPECT_TRUE(window_->IsBusy());
+  window_.reset();
+  EXPECT_FALSE(QFile::exists(Path("long.pdf")));
+}
+
+}  // namespace
+}  // namespace tarvis
