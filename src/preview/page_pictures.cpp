@@ -2,7 +2,9 @@
 
 #include <QPainter>
 #include <algorithm>
+#include <chrono>
 #include <cmath>
+#include <utility>
 
 #include "preview/painter_canvas.h"
 
@@ -59,16 +61,26 @@ const QImage* PagePictures::Find(const Strip& strip) {
   return &found->second.Picture;
 }
 
-const QImage& PagePictures::Make(const Strip& strip) {
-  if (Find(strip) == nullptr) Keep(strip, RenderStrip(*document_, strip));
-  return entries_.at(strip).Picture;
+void PagePictures::WaitFor(const std::vector<Strip>& strips, int milliseconds) {
+  const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
+  wanted_.insert(wanted_.begin(), strips.begin(), strips.end());
+  const auto isMissing = [this](const Strip& strip) { return !entries_.contains(strip); };
+  while (std::any_of(strips.begin(), strips.end(), isMissing)) {
+    StartNext();
+    std::unique_lock lock(mutex_);
+    if (!arrived_.wait_until(lock, deadline, [this] { return rendered_.has_value(); })) return;
+    lock.unlock();
+    TakeRendered();
+  }
 }
 
 std::vector<Strip> PagePictures::StandIns(int page, int pageWidth) const {
   std::vector<int> widths;
   const auto first = entries_.lower_bound(Strip{page, 0, 0});
   const auto end = entries_.lower_bound(Strip{page + 1, 0, 0});
-  for (auto entry = first; entry != end; ++entry) widths.push_back(entry->first.Width);
+  for (auto entry = first; entry != end; ++entry) {
+    if (entry->first.Width != pageWidth) widths.push_back(entry->first.Width);
+  }
   const int best = StandIn(widths, pageWidth);
   std::vector<Strip> strips;
   for (auto entry = first; entry != end; ++entry) {
@@ -91,17 +103,31 @@ void PagePictures::StartNext() {
   if (next == wanted_.end()) return;
   busy_ = true;
   worker_.start([this, document = document_, strip = *next] {
-    QImage picture = RenderStrip(*document, strip);
+    Rendered rendered{strip, RenderStrip(*document, strip)};
+    {
+      const std::scoped_lock lock(mutex_);
+      rendered_ = std::move(rendered);
+    }
+    arrived_.notify_one();
     QMetaObject::invokeMethod(
         this,
-        [this, strip, picture = std::move(picture)] {
-          busy_ = false;
-          Keep(strip, picture);
-          emit PageReady(strip.Page);
+        [this] {
+          const std::optional<int> page = TakeRendered();
           StartNext();
+          if (page) emit PageReady(*page);
         },
         Qt::QueuedConnection);
   });
+}
+
+std::optional<int> PagePictures::TakeRendered() {
+  std::unique_lock lock(mutex_);
+  if (!rendered_) return {};  // taken by someone who waited for it
+  const Rendered rendered = *std::exchange(rendered_, std::nullopt);
+  lock.unlock();
+  busy_ = false;
+  Keep(rendered.Key, rendered.Picture);
+  return rendered.Key.Page;
 }
 
 void PagePictures::Keep(const Strip& strip, QImage picture) {

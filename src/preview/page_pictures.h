@@ -4,8 +4,11 @@
 #include <QImage>
 #include <QObject>
 #include <QThreadPool>
+#include <condition_variable>
 #include <map>
 #include <memory>
+#include <mutex>
+#include <optional>
 #include <vector>
 
 #include "preview/render_policy.h"
@@ -32,9 +35,9 @@ class PagePictures : public QObject {
   void Want(std::vector<Strip> strips);
   // Null if it isn't rendered.
   const QImage* Find(const Strip& strip);
-  // The same, rendered on the spot if needed.
-  const QImage& Make(const Strip& strip);
-  // Strips of the page in the size that best stands in for `pageWidth`, which may be that size itself.
+  // Has these strips rendered next and waits until they are, no longer than `milliseconds`.
+  void WaitFor(const std::vector<Strip>& strips, int milliseconds);
+  // Strips of the page in the other size that best stands in for `pageWidth`.
   std::vector<Strip> StandIns(int page, int pageWidth) const;
   std::int64_t Bytes() const;
 
@@ -47,7 +50,14 @@ class PagePictures : public QObject {
     std::int64_t LastUse = 0;
   };
 
+  struct Rendered {
+    Strip Key;
+    QImage Picture;
+  };
+
   void StartNext();
+  // Takes in what the worker has done; tells which page that was.
+  std::optional<int> TakeRendered();
   void Keep(const Strip& strip, QImage picture);
 
   std::shared_ptr<const Document> document_;
@@ -56,6 +66,9 @@ class PagePictures : public QObject {
   std::vector<Strip> wanted_;
   std::int64_t uses_ = 0;
   bool busy_ = false;
+  std::mutex mutex_;  // guards rendered_, which the worker fills
+  std::condition_variable arrived_;
+  std::optional<Rendered> rendered_;
   QThreadPool worker_;
 };
 

@@ -10,7 +10,8 @@
 namespace tarvis {
 namespace {
 
-constexpr std::int64_t PictureBudget = 64 * 1024 * 1024;  // bytes
+constexpr std::int64_t PictureBudget = 48 * 1024 * 1024;  // bytes
+constexpr int Patience = 8;                               // milliseconds, half a frame
 
 constexpr std::array ZoomSteps{0.1,  0.125, 0.25, 0.33, 0.5, 0.67, 0.75, 0.9, 1.0, 1.1,
                                1.25, 1.5,   1.75, 2.0,  2.5, 3.0,  4.0,  5.0, 6.0, 8.0};
@@ -222,12 +223,10 @@ void PageView::PaintPictures(QPainter& painter, int page, const QRectF& place, c
   }
   if (!whole) {
     const std::vector<Strip> standIns = pictures_.StandIns(page, width);
-    if (standIns.empty()) {
-      for (const Strip& strip : sharp) pictures_.Make(strip);
-    } else {
-      painter.fillRect(place, Qt::white);
-      for (const Strip& strip : standIns) PaintStrip(painter, strip, place);
-    }
+    // Most pages are there within a few milliseconds; one that isn't must not hold up the window.
+    if (standIns.empty()) pictures_.WaitFor(sharp, Patience);
+    painter.fillRect(place, Qt::white);
+    for (const Strip& strip : standIns) PaintStrip(painter, strip, place);
   }
   for (const Strip& strip : sharp) PaintStrip(painter, strip, place);
 }

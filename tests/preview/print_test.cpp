@@ -11,7 +11,6 @@
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTemporaryDir>
-#include <atomic>
 #include <thread>
 
 #include "preview/pdf_file.h"
@@ -21,23 +20,6 @@
 
 namespace tarvis {
 namespace {
-
-// Holds up whoever paints it, once it is told to, until it is released.
-class HoldingPicture : public SamplePicture {
- public:
-  void Paint(QPainter& painter, const QRectF& target) const override {
-    if (holding_) held_ = true;
-    while (holding_) std::this_thread::yield();
-    SamplePicture::Paint(painter, target);
-  }
-  void Hold() { holding_ = true; }
-  void Release() { holding_ = false; }
-  bool Holds() const { return held_; }
-
- private:
-  std::atomic<bool> holding_ = false;
-  mutable std::atomic<bool> held_ = false;
-};
 
 constexpr double UnitLeft = (1440 + 3 * 1700 + 30) / 20.0;  // points, on paper of the document's own size
 
