@@ -25,8 +25,13 @@ def words_of(pdf, page):
     return [(word, float(left), float(right), float(top), float(bottom)) for left, top, right, bottom, word in found]
 
 
+def fact_of(pdf, name):
+    """What the file tells of itself, such as "Title"."""
+    return re.search(rf"^{name}:\s+(.*)$", _told("pdfinfo", pdf).decode(), re.MULTILINE)[1]
+
+
 def page_count(pdf):
-    return int(re.search(r"Pages:\s+(\d+)", _told("pdfinfo", pdf).decode())[1])
+    return int(fact_of(pdf, "Pages"))
 
 
 def outline_of(pdf):

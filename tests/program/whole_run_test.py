@@ -4,7 +4,7 @@ import unittest
 from program_case import EDITING, ProgramCase  # also finds the demo's modules
 from desktop import wait_until
 from print_queue import PrintQueue
-from saved_pdf import page_count, text_of, words_of
+from saved_pdf import fact_of, page_count, text_of, words_of
 from session import DIALOG, PREVIEW
 
 TWIPS = 20.0  # to the point
@@ -70,6 +70,8 @@ class WholeRun(ProgramCase):
         wait_until(lambda: unit.has("checked"), "the mark")
 
     def expect_document(self, pdf, with_units):
+        self.assertEqual(fact_of(pdf, "Title"), "Parameters")  # the function's title in the options
+        self.assertEqual(fact_of(pdf, "Author"), "Demo Host Ver.2.00")  # who made the data file
         words = words_of(pdf, 1)
         table_top = next(top for word, _, _, top, _ in words if word == "No.")
         places = {}
