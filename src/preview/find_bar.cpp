@@ -35,6 +35,7 @@ FindBar::FindBar(QWidget* parent)
   text_->setAccessibleName(tr("Text to find"));
   text_->setPlaceholderText(tr("Find"));
   text_->setClearButtonEnabled(true);
+  text_->setMinimumWidth(140);
   text_->setMaximumWidth(320);
   caseMatters_->setObjectName(QStringLiteral("findCase"));
   wholeWords_->setObjectName(QStringLiteral("findWords"));

@@ -10,8 +10,8 @@
 namespace tarvis {
 namespace {
 
-constexpr std::int64_t PictureBudget = 48 * 1024 * 1024;  // bytes
-constexpr int Patience = 8;                               // milliseconds, half a frame
+constexpr std::int64_t PictureBudget = 48LL * 1024 * 1024;  // bytes
+constexpr int Patience = 8;                                 // milliseconds, half a frame
 
 constexpr std::array ZoomSteps{0.1,  0.125, 0.25, 0.33, 0.5, 0.67, 0.75, 0.9, 1.0, 1.1,
                                1.25, 1.5,   1.75, 2.0,  2.5, 3.0,  4.0,  5.0, 6.0, 8.0};
@@ -41,7 +41,8 @@ PageView::PageView(std::shared_ptr<const Document> document, QWidget* parent)
 }
 
 QPointF PageView::Offset() const {
-  return QPointF(horizontalScrollBar()->value(), verticalScrollBar()->value());
+  return {static_cast<double>(horizontalScrollBar()->value()),
+          static_cast<double>(verticalScrollBar()->value())};
 }
 
 int PageView::CurrentPage() const {

@@ -142,6 +142,9 @@ void PreviewWindow::MakeToolbar(const std::vector<Tool>& tools) {
     if (entry.Id == Command::PreviousPage) bar->addWidget(MakePageBox());
     if (entry.Id == Command::ZoomOut) bar->addWidget(MakeZoomBox());
   }
+  // The style's own sign for further tools can't be seen on a dark desktop.
+  if (auto* more = bar->findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button")))
+    more->setIcon(OutlineIcon("M3.5 4 L7.5 8 L3.5 12 M8.5 4 L12.5 8 L8.5 12"));
   for (QAction* action : bar->actions()) {
     auto* button = qobject_cast<QToolButton*>(bar->widgetForAction(action));
     if (button == nullptr) continue;

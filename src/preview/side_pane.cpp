@@ -34,6 +34,7 @@ SidePane::SidePane(std::shared_ptr<const Document> document, QWidget* parent)
 }
 
 void SidePane::FillContents() {
+  bool hasChildren = false;
   for (std::size_t index = 0; index < document_->Contents.size(); ++index) {
     const ContentsEntry& entry = document_->Contents[index];
     QTreeWidgetItem* above = nullptr;
@@ -45,8 +46,10 @@ void SidePane::FillContents() {
     item->setToolTip(0, tr("%1, page %2").arg(item->text(0)).arg(entry.Page + 1));
     item->setData(0, EntryRole, static_cast<int>(index));
     items_.push_back(item);
+    hasChildren = hasChildren || above != nullptr;
   }
   contents_->expandAll();
+  contents_->setRootIsDecorated(hasChildren);
 }
 
 void SidePane::Choose(const QTreeWidgetItem* item) {

@@ -99,5 +99,15 @@ TEST(SearchTest, japanese_is_found_with_its_place) {
   EXPECT_NEAR(hits[0].Boxes[0].width(), 600, 1);
 }
 
+TEST(SearchTest, characters_beyond_16_bits_are_found_with_their_place) {
+  const auto document = DocumentBuilder().Page().Text("𠮷𠮷 Gain", 1440, 720, 10).Build();
+  DocumentText text(*document);
+  const std::vector<SearchHit> hits = Search(text, QStringLiteral("𠮷"), {});
+  ASSERT_EQ(hits.size(), 2U);
+  EXPECT_NEAR(hits[1].Boxes[0].left(), 1440 + 200, 1);
+  EXPECT_NEAR(hits[1].Boxes[0].width(), 200, 1);
+  EXPECT_NEAR(Search(text, QStringLiteral("gain"), {}).at(0).Boxes[0].left(), 1440 + 400 + 55.6, 1);
+}
+
 }  // namespace
 }  // namespace tarvis

@@ -91,6 +91,16 @@ TEST_F(PdfExport, japanese_keeps_its_characters) {
   EXPECT_EQ(PdfText(Path()).simplified(), QStringLiteral("サーボ一覧 日本語 日付"));
 }
 
+TEST_F(PdfExport, characters_beyond_16_bits_and_combining_marks_are_copied_as_they_were_written) {
+  Export(*DocumentBuilder()
+              .Page()
+              .Text("𠮷野 𠮷", 1440, 720)
+              .Text("Re\xCC\x81sume\xCC\x81", 1440, 1720, 12, true)
+              .Build());
+  EXPECT_EQ(PdfText(Path()).simplified().normalized(QString::NormalizationForm_C),
+            QStringLiteral("𠮷野 𠮷 Résumé"));
+}
+
 TEST_F(PdfExport, tools_find_nothing_to_complain_about) {
   Export(*DocumentBuilder()
               .TablePages(3)
@@ -101,6 +111,12 @@ TEST_F(PdfExport, tools_find_nothing_to_complain_about) {
   EXPECT_TRUE(RunTool("qpdf", {QStringLiteral("--check"), Path()})
                   .contains(QStringLiteral("No syntax or stream encoding errors")));
   EXPECT_EQ(RunTool("pdftocairo", {QStringLiteral("-svg"), Path(), QStringLiteral("/dev/null")}), QString());
+  for (const char* tool : {"pdfinfo", "pdffonts", "pdftotext"}) {
+    const QString told =
+        RunTool(tool, tool == std::string("pdftotext") ? QStringList{Path(), QStringLiteral("/dev/null")}
+                                                       : QStringList{Path()});
+    EXPECT_FALSE(told.contains(QStringLiteral("Warning")) || told.contains(QStringLiteral("Error"))) << tool;
+  }
   QString drawn = RunTool("mutool", {QStringLiteral("draw"), QStringLiteral("-F"), QStringLiteral("stext"),
                                      QStringLiteral("-o"), QStringLiteral("/dev/null"), Path()});
   drawn.remove(QStringLiteral("warning: ICC support is not available"));  // tells how the tool was built

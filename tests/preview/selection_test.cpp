@@ -54,6 +54,12 @@ TEST_F(Selection, a_double_click_selects_the_word) {
   EXPECT_EQ(Copied(), QStringLiteral("Loop"));
 }
 
+TEST_F(Selection, characters_beyond_16_bits_and_combining_marks_are_copied_whole) {
+  Open(DocumentBuilder().Page().Row({"𠮷野", "Re\xCC\x81sume\xCC\x81"}, 720).Build());
+  Press(Qt::Key_A, Qt::ControlModifier);
+  EXPECT_EQ(Copied(), QStringLiteral("𠮷野\tRe\u0301sume\u0301"));
+}
+
 TEST_F(Selection, a_click_takes_the_selection_away) {
   Open(DocumentBuilder().Page().Text("Speed", 1440, 1000, 12).Build());
   Press(Qt::Key_A, Qt::ControlModifier);
