@@ -175,7 +175,7 @@ def part_benchmarks(folder, bench_folder):
         for row in json.loads(told.stdout)["benchmarks"]:
             scale = {"ns": 1e-6, "us": 1e-3, "ms": 1, "s": 1e3}[row["time_unit"]]
             yield f"{row['name']} [ms]", row["real_time"] * scale
-            for counter in ("slowest_ms", "peak_megabytes"):
+            for counter in ("slowest_ms", "slowest_work_ms", "peak_megabytes"):
                 if counter in row:
                     yield f"{row['name']} [{counter}]", row[counter]
 

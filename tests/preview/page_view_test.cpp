@@ -30,7 +30,8 @@ TEST_F(PaintedPages, a_page_that_takes_long_is_white_paper_until_it_is_there) {
   picture->Hold();
   View().GoTo({8, 0});
   EXPECT_EQ(Shown(), QColor(Qt::white));
-  EXPECT_TRUE(picture->Holds());
+  ASSERT_TRUE(QTest::qWaitFor([&] { return picture->Holds(); }));
+  EXPECT_EQ(Shown(), QColor(Qt::white));
   picture->Release();
   EXPECT_TRUE(QTest::qWaitFor([this] { return Shown().lightness() == PictureGrey; }));
 }

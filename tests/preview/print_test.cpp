@@ -129,6 +129,17 @@ class Print : public WindowTest {
     EXPECT_EQ(PdfFact(Path("printed.pdf"), "Pages"), PdfFact(Path("received.pdf"), "Pages"));
   }
 
+  // Has the printer vanish in the midst of a print and expects that to be told.
+  void LoseWhilePrinting(const std::function<bool(PrintServer&)>& lose) {
+    const auto picture = StartAndHold();
+    EXPECT_TRUE(lose(PrintServer::Instance()));
+    picture->Release();
+    const QString failure = ReadFailure();
+    EXPECT_TRUE(failure.contains(QStringLiteral("\"DemoPDF\" did not take the document")))
+        << failure.toStdString();
+    EXPECT_TRUE(window_->isVisible());
+  }
+
   QTemporaryDir folder_;
   QJsonObject job_;
   QString question_;
@@ -238,25 +249,13 @@ TEST_F(Print, paper_that_lies_across_is_too_short_and_told) {
 }
 
 TEST_F(Print, a_queue_that_is_removed_while_printing_is_told_and_the_preview_can_print_again) {
-  const auto picture = StartAndHold();
-  ASSERT_TRUE(PrintServer::Instance().RemoveQueue());
-  picture->Release();
-  const QString failure = ReadFailure();
-  EXPECT_TRUE(failure.contains(QStringLiteral("\"DemoPDF\" did not take the document")))
-      << failure.toStdString();
-  EXPECT_TRUE(window_->isVisible());
+  LoseWhilePrinting([](PrintServer& server) { return server.RemoveQueue(); });
   ASSERT_TRUE(PrintServer::Instance().RestoreQueue());
   ExpectPrinting();
 }
 
 TEST_F(Print, a_server_that_stops_while_printing_is_told_and_the_preview_can_print_again) {
-  const auto picture = StartAndHold();
-  ASSERT_TRUE(PrintServer::Instance().StopServer());
-  picture->Release();
-  const QString failure = ReadFailure();
-  EXPECT_TRUE(failure.contains(QStringLiteral("\"DemoPDF\" did not take the document")))
-      << failure.toStdString();
-  EXPECT_TRUE(window_->isVisible());
+  LoseWhilePrinting([](PrintServer& server) { return server.StopServer(); });
   ASSERT_TRUE(PrintServer::Instance().StartServer());
   ExpectPrinting();
 }
