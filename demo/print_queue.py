@@ -1,4 +1,5 @@
 """A print server of its own on the loopback address, with one queue that ends in PDF files."""
+import fcntl
 import os
 import pwd
 import socket
@@ -58,6 +59,14 @@ def _free_port():
         return probe.getsockname()[1]
 
 
+def _take_turn():
+    """Waits until no other queue of this user is open: the PDF back end of all queues writes to one folder. Closing what
+    is returned, or the end of the process, gives the turn back."""
+    turn = open(Path(tempfile.gettempdir()) / f"tarvis-print-queue-{os.getuid()}.lock", "w", encoding="ascii")
+    fcntl.flock(turn, fcntl.LOCK_EX)
+    return turn
+
+
 def _attributes(request):
     """Names and values of an encoded print request: a tag, then name and value with two bytes of length each."""
     place, name = 8, ""
@@ -86,6 +95,7 @@ class PrintQueue:
     def __init__(self, more_options=""):
         """`more_options` are options that the queue's printer has besides paper, as a printer description tells them."""
         self._as_root = [] if os.getuid() == 0 else ["sudo", "-n"]
+        self._turn = _take_turn()
         self.folder = Path(tempfile.mkdtemp(prefix="print-queue-"))
         self.folder.chmod(0o755)
         for name in ("etc", "spool/tmp", "cache", "run"):
@@ -114,6 +124,7 @@ class PrintQueue:
         self._run("lpadmin", "-d", QUEUE)
 
     def remove_queue(self):
+        """As an administrator may do at any moment."""
         self._run("lpadmin", "-x", QUEUE)
 
     def _run(self, *command):
@@ -126,10 +137,6 @@ class PrintQueue:
             return "is running" in self._run("lpstat", "-r")
         except subprocess.CalledProcessError:
             return False
-
-    def remove(self):
-        """Takes the queue out of the server, as an administrator may do at any moment."""
-        self._run("lpadmin", "-x", QUEUE)
 
     def jobs_done(self):
         """Numbers of the finished jobs, oldest first."""
@@ -161,3 +168,4 @@ class PrintQueue:
     def close(self):
         self.stop_server()
         subprocess.run([*self._as_root, "rm", "-rf", str(self.folder)], check=False)
+        self._turn.close()

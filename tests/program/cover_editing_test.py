@@ -36,17 +36,17 @@ class CoverEditing(ProgramCase):
     def logo_text(self):
         return self.widget(EDITOR, "text", LOGO_LABEL).text
 
-    def choose(self, session, name, keys):
-        """Opens the file dialog by its button's key, writes a name, and answers by keys."""
+    def choose(self, session, name, key):
+        """Opens the file dialog by its button's key, writes a name, and answers by a key."""
         self.user.press("alt+r")
         session.wait_for(FILE_CHOICE)
         self.user.write(str(name))
-        self.user.press_until_gone(keys, FILE_CHOICE)
+        self.user.press_until(key, FILE_CHOICE, 0)
         session.wait_for(EDITOR)
 
     def test_chooses_a_logo_that_stands_on_the_letter(self):
         session = self.open_editor()
-        self.choose(session, self.logo, ["Return"])
+        self.choose(session, self.logo, "Return")
         self.assertEqual(self.logo_text(), str(self.logo))
         self.user.press("alt+m")
         self.user.write("Northport Motion Ltd.")
@@ -69,7 +69,7 @@ class CoverEditing(ProgramCase):
         session.wait_for(EDITOR)
         before = self.logo_text()
         self.assertEqual(before, str(self.folder / "logo.bmp"))
-        self.choose(session, self.logo, ["Escape"])
+        self.choose(session, self.logo, "Escape")
         self.assertEqual(self.logo_text(), before)
 
     def test_the_file_dialog_shows_pictures_only_and_all_kinds_of_them(self):
@@ -88,8 +88,8 @@ class CoverEditing(ProgramCase):
 
     def test_cancel_forgets_what_was_chosen(self):
         session = self.open_editor()
-        self.choose(session, self.logo, ["Return"])
-        self.user.press_until_gone(["Escape"], EDITOR)
+        self.choose(session, self.logo, "Return")
+        self.user.press_until("Escape", EDITOR, 0)
         session.confirm_dialog(OK)
         self.assertEqual(session.close_preview(), 0)
         self.assertIn(b"\r\nDrowLogo,\r\n", self.host.options_file.read_bytes())
@@ -104,7 +104,7 @@ class CoverEditing(ProgramCase):
         session = self.open_editor(environment=self.note_opened(opened))
         self.user.press("F1")
         wait_for_pages(1)
-        self.user.press_until_gone(["Escape"], EDITOR)
+        self.user.press_until("Escape", EDITOR, 0)
         session.wait_for(DIALOG)
         self.user.press("F1")
         wait_for_pages(2)
