@@ -9,7 +9,8 @@ namespace {
 
 void Append(std::vector<std::uint8_t>& bytes, std::initializer_list<std::uint32_t> values) {
   for (const std::uint32_t value : values)
-    for (const unsigned shift : {0u, 8u, 16u, 24u}) bytes.push_back(static_cast<std::uint8_t>(value >> shift));
+    for (const unsigned shift : {0u, 8u, 16u, 24u})
+      bytes.push_back(static_cast<std::uint8_t>(value >> shift));
 }
 
 // The records behind a header of their own, so that they are played whatever they are.

@@ -60,7 +60,7 @@ QImage MakeImage(const DibHeader& header, QImage::Format format) {
 
 // The bytes of row `y` of the picture, counted from its top. The padding of the last row may be missing.
 Bytes Row(const DibHeader& header, Bytes bits, int y) {
-  const std::size_t row = static_cast<std::size_t>(header.TopDown ? y : header.Height - 1 - y);
+  const auto row = static_cast<std::size_t>(header.TopDown ? y : header.Height - 1 - y);
   const std::size_t used =
       (static_cast<std::size_t>(header.Width) * static_cast<std::size_t>(header.BitCount) + 7) / 8;
   return Slice(bits, row * header.Stride(), used);
@@ -86,7 +86,7 @@ QImage Decode24(const DibHeader& header, Bytes bits) {
   QImage image = MakeImage(header, QImage::Format_RGB32);
   for (int y = 0; y < header.Height; ++y) {
     const Bytes row = Row(header, bits, y);
-    QRgb* to = reinterpret_cast<QRgb*>(image.scanLine(y));
+    auto* to = reinterpret_cast<QRgb*>(image.scanLine(y));
     for (std::size_t i = 0; i + 2 < row.size(); i += 3) *to++ = qRgb(row[i + 2], row[i + 1], row[i]);
   }
   return image;
@@ -98,7 +98,7 @@ QImage DecodeMasked(const DibHeader& header, Bytes bits, bool alphaByte) {
   bool seen = false;
   for (int y = 0; y < header.Height; ++y) {
     ByteReader row(Row(header, bits, y));
-    QRgb* to = reinterpret_cast<QRgb*>(image.scanLine(y));
+    auto* to = reinterpret_cast<QRgb*>(image.scanLine(y));
     for (int x = 0; x < header.Width; ++x) {
       to[x] = pixels.Color(header.BitCount == 16 ? row.U16() : row.U32());
       seen = seen || qAlpha(to[x]) != 0;
@@ -109,8 +109,7 @@ QImage DecodeMasked(const DibHeader& header, Bytes bits, bool alphaByte) {
 }
 
 QImage DecodeCompressedFile(Bytes bits) {
-  const QImage image =
-      QImage::fromData(bits.data(), static_cast<int>(std::min<std::size_t>(bits.size(), 1 << 28)));
+  QImage image = QImage::fromData(bits.data(), static_cast<int>(std::min<std::size_t>(bits.size(), 1 << 28)));
   if (image.isNull()) throw BadDib("the picture inside it can't be read");
   return image;
 }

@@ -56,7 +56,7 @@ void ReadColors(ByteReader& reader, bool core, std::size_t used, DibColors color
   const std::size_t entrySize = core ? 3 : colors == DibColors::PaletteIndexes ? 2 : 4;
   if (colors == DibColors::ForegroundBackground) {
     for (std::size_t i = 0; i < whole; ++i) {
-      const int gray = static_cast<int>(i * 255 / (whole - 1));
+      const auto gray = static_cast<int>(i * 255 / (whole - 1));
       header.Colors.push_back(qRgb(gray, gray, gray));
     }
     return;

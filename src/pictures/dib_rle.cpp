@@ -57,10 +57,10 @@ class RleDecoder {
   }
 
   void Literal(int count) {
-    const std::size_t size = static_cast<std::size_t>(Four() ? (count + 1) / 2 : count);
+    const auto size = static_cast<std::size_t>(Four() ? (count + 1) / 2 : count);
     const Bytes values = reader_.Take(size);
     for (int i = 0; i < count; ++i) {
-      const std::size_t at = static_cast<std::size_t>(Four() ? i / 2 : i);
+      const auto at = static_cast<std::size_t>(Four() ? i / 2 : i);
       Four() ? PutNibble(values[at], i) : Put(values[at]);
     }
     if (size % 2 == 1 && reader_.Left() > 0) reader_.Skip(1);

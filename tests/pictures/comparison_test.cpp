@@ -1,5 +1,5 @@
-// Metafiles of independent writers, beside what an independent renderer made of them, or, for `lo_page`, of the
-// writer's own page as it printed it.
+// Metafiles of independent writers, beside what an independent renderer made of them, or, for `lo_page`, of
+// the writer's own page as it printed it.
 #include <gtest/gtest.h>
 
 #include <QFile>

@@ -1,7 +1,7 @@
 // Broken and hostile metafiles: they end in a failure that names the file, in bounded time and memory.
 #include <gtest/gtest.h>
 
-#include "metafile_writer.h"
+#include "plus_writer.h"
 #include "printfiles/run_time_failure.h"
 
 namespace tarvis {
@@ -102,6 +102,44 @@ TEST(HostileMetafile, AMillionRecordsLoad) {
   emf.NoPen();
   for (int i = 0; i < 1000000; ++i) emf.Rectangle(i % 90, i / 90 % 90, i % 90 + 1, i / 90 % 90 + 1);
   EXPECT_EQ(Play(emf.Bytes())->List().Commands().size(), 1000000u);
+}
+
+TEST(HostileMetafile, APictureOf60000By60000TakesNoMemoryForItsSize) {
+  EmfWriter emf;
+  emf.Frame(0, 0, 6000000, 6000000).Bounds(0, 0, 59999, 59999).Brush(RedInk).Rectangle(0, 0, 60000, 60000);
+  EXPECT_EQ(emf.Show().pixelColor(50, 50), QColor(255, 0, 0));
+  WmfWriter wmf;
+  wmf.Placeable(-30000, -30000, 30000, 30000, 1).Brush(RedInk).Words(0x041B, {30000, 30000, -30000, -30000});
+  EXPECT_EQ(wmf.Show().pixelColor(50, 50), QColor(255, 0, 0));
+  ByteWriter dib;  // a bitmap that says that it is that large
+  dib.I32(40).I32(60000).I32(60000).U16(1).U16(24).Zeros(24);
+  ByteWriter record = Box32(0, 0, 0, 0).I32(0).I32(0).Add(Box32(0, 0, 60000, 60000)).U32(80).U32(40).U32(120);
+  record.U32(0).U32(0).U32(0x00CC0020).I32(100).I32(100).Add(dib);
+  EXPECT_EQ(Play(EmfWriter().Add(81, record).Rectangle(0, 0, 9, 9).Bytes())->SkippedRecords(), 1);
+}
+
+TEST(HostileMetafile, GradientsInRingsAreLimitedInNumber) {
+  PlusWriter plus;
+  ByteWriter brush =
+      ByteWriter().U32(PlusVersion).U32(3).U32(0).U32(4).U32(0xFFFFFFFF).F32(50).F32(50).U32(1);
+  brush.U32(0xFF0000FF).U32(4).F32(0).F32(0).F32(100).F32(0).F32(100).F32(100).F32(0).F32(100);
+  plus.Object(1, 0, brush);
+  ByteWriter fill = ByteWriter().U32(0).U32(1).F32(0).F32(0).F32(100).F32(100);
+  for (int i = 0; i < 2000; ++i) plus.Add(0x400A, 0, fill);
+  EXPECT_LT(Play(plus.Emf().Bytes())->List().Commands().size(), 20000u);
+}
+
+TEST(HostileMetafile, ExtendedRecordsCutAnywhereAreNotDrawn) {
+  const std::string whole = PlusWriter().FillRect(0xFFFF0000, 0, 0, 9, 9).Comment().Bytes();
+  for (std::size_t size = 8; size < whole.size(); ++size) {
+    const ByteWriter cut =
+        ByteWriter().U32(static_cast<std::uint32_t>(size - 4)).Text(whole.substr(4, size - 4));
+    try {
+      EXPECT_NE(EmfWriter().Add(70, cut).Show().pixelColor(5, 5), QColor(255, 0, 0)) << size;
+    } catch (const RunTimeFailure& failure) {
+      EXPECT_FALSE(failure.Place().Text.empty());
+    }
+  }
 }
 
 TEST(HostileMetafile, HugeCoordinatesAndDashesPaintInTime) {

@@ -42,7 +42,7 @@ std::vector<TextCharacter> DecodeText(Bytes bytes, std::uint8_t charset) {
       ucnv_open(ConverterName(charset), &error), ucnv_close);
   if (U_FAILURE(error)) return BytesAsCodes(bytes);
   std::vector<TextCharacter> text;
-  const char* at = reinterpret_cast<const char*>(bytes.data());
+  const auto* at = reinterpret_cast<const char*>(bytes.data());
   const char* end = at + bytes.size();
   while (at < end) {
     const char* start = at;

@@ -61,7 +61,7 @@ std::int32_t DrawList::BrushIndex(const ListBrush* brush) {
 
 void DrawList::AddShape(const QPainterPath& path, const ListPen* pen, const ListBrush* brush) {
   if (path.isEmpty() || (pen == nullptr && brush == nullptr)) return;
-  const std::size_t elements = static_cast<std::size_t>(path.elementCount());
+  const auto elements = static_cast<std::size_t>(path.elementCount());
   Account(sizeof(Outline) + elements * (sizeof(ListPoint) + sizeof(Verb)));
   Outline outline{Count(points_.size()), 0, Count(verbs_.size()), 0};
   for (int i = 0; i < path.elementCount(); ++i) {

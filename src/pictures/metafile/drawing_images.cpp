@@ -33,8 +33,8 @@ QImage Masked(const QImage& image, const QImage& mask) {
   const QImage fitting = mask.size() == image.size() ? mask : mask.scaled(image.size());
   const QImage holes = fitting.convertToFormat(QImage::Format_RGB32);
   for (int y = 0; y < shown.height(); ++y) {
-    QRgb* row = reinterpret_cast<QRgb*>(shown.scanLine(y));
-    const QRgb* hole = reinterpret_cast<const QRgb*>(holes.constScanLine(y));
+    auto* row = reinterpret_cast<QRgb*>(shown.scanLine(y));
+    const auto* hole = reinterpret_cast<const QRgb*>(holes.constScanLine(y));
     for (int x = 0; x < shown.width(); ++x)
       if (qGray(hole[x]) > 127) row[x] = 0;
   }

@@ -88,7 +88,7 @@ std::vector<QPointF> Drawing::GlyphPlaces(const TextRecord& text, TextPlace& pla
   std::size_t unit = 0;
   double along = 0, rise = 0;
   for (const TextCharacter& character : text.Text) {
-    places.push_back({along, rise});
+    places.emplace_back(along, rise);
     for (std::size_t i = 0; i < character.Units; ++i, ++unit) {
       if (unit < text.Advances.size()) along += text.Advances[unit];
       if (unit < text.Rises.size()) rise += text.Rises[unit];

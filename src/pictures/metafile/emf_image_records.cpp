@@ -144,7 +144,7 @@ void ParallelogramBlock(EmfPlayback& p, ByteReader& r) {
 void AlphaBlend(EmfPlayback& p, ByteReader& r) {
   const BlockHead head(r);
   const QPointF size = ReadPoint32(r);
-  const int opacity = static_cast<int>(head.Operation >> 16 & 0xFF);
+  const auto opacity = static_cast<int>(head.Operation >> 16 & 0xFF);
   const bool hasAlpha = head.Operation >> 24 == 1;
   QImage image = head.Bitmap.Decode(p, r, hasAlpha);
   if (hasAlpha && image.format() == QImage::Format_ARGB32)
@@ -152,7 +152,7 @@ void AlphaBlend(EmfPlayback& p, ByteReader& r) {
   if (opacity < 255) {
     image = image.convertToFormat(QImage::Format_ARGB32);
     for (int y = 0; y < image.height(); ++y) {
-      QRgb* row = reinterpret_cast<QRgb*>(image.scanLine(y));
+      auto* row = reinterpret_cast<QRgb*>(image.scanLine(y));
       for (int x = 0; x < image.width(); ++x)
         row[x] = qRgba(qRed(row[x]), qGreen(row[x]), qBlue(row[x]), qAlpha(row[x]) * opacity / 255);
     }
@@ -167,7 +167,7 @@ void TransparentBlock(EmfPlayback& p, ByteReader& r) {
                         static_cast<int>(head.Operation >> 16 & 0xFF));
   QImage image = head.Bitmap.Decode(p, r).convertToFormat(QImage::Format_ARGB32);
   for (int y = 0; y < image.height(); ++y) {
-    QRgb* row = reinterpret_cast<QRgb*>(image.scanLine(y));
+    auto* row = reinterpret_cast<QRgb*>(image.scanLine(y));
     for (int x = 0; x < image.width(); ++x)
       if ((row[x] & 0xFFFFFF) == (key & 0xFFFFFF)) row[x] = 0;
   }

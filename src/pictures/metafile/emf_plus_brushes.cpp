@@ -20,7 +20,7 @@ void SetStops(QGradient& gradient, ByteReader& r, std::uint32_t flags, QColor fr
       gradient.setColorAt(place, PlusColor(r.U32()));
       continue;
     }
-    const float part = static_cast<float>(std::clamp(ReadF(r), 0.0, 1.0));
+    const auto part = static_cast<float>(std::clamp(ReadF(r), 0.0, 1.0));
     const auto mix = [part](float a, float b) { return a + (b - a) * part; };
     gradient.setColorAt(place,
                         QColor::fromRgbF(mix(from.redF(), to.redF()), mix(from.greenF(), to.greenF()),

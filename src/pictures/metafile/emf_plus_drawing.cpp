@@ -32,7 +32,7 @@ QPainterPath CurvePath(const Points& points, double tension, bool closed, CurveR
   const std::size_t most = closed ? count : std::max<std::size_t>(count, 1) - 1;
   if (count < 2 || range.First > most || range.Segments > most - range.First) return path;
   const auto at = [&](std::ptrdiff_t i) {
-    const std::ptrdiff_t n = static_cast<std::ptrdiff_t>(count);
+    const auto n = static_cast<std::ptrdiff_t>(count);
     return points[static_cast<std::size_t>(closed ? (i + n) % n : std::clamp<std::ptrdiff_t>(i, 0, n - 1))];
   };
   path.moveTo(points[range.First]);
@@ -49,7 +49,7 @@ QPainterPath ClosedCurve(const Points& points, double tension) {
 }
 
 double ReadAngle(ByteReader& r) {
-  const double degrees = static_cast<double>(r.F32());
+  const auto degrees = static_cast<double>(r.F32());
   if (!std::isfinite(degrees) || std::abs(degrees) > 1e6) throw SkipRecord();
   return degrees;
 }

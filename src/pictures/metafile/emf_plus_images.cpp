@@ -20,7 +20,7 @@ QImage FromPixels(ByteReader& r, int width, int height, std::size_t stride, std:
     const Bytes pixels = r.Take(stride * static_cast<std::size_t>(height));
     QImage image(width, height, kind);
     if (image.isNull() || stride < static_cast<std::size_t>(width * image.depth() / 8)) throw SkipRecord();
-    const std::size_t used = static_cast<std::size_t>(width * image.depth() / 8);
+    const auto used = static_cast<std::size_t>(width * image.depth() / 8);
     for (int y = 0; y < height; ++y)
       std::ranges::copy(pixels.subspan(static_cast<std::size_t>(y) * stride, used), image.scanLine(y));
     return image;
@@ -73,7 +73,7 @@ QImage ReadPlusImage(ByteReader& r) {
   QImageReader reader(&buffer);
   const QSize size = reader.size();
   if (qint64{size.width()} * size.height() > MostImagePixels) throw SkipRecord();
-  const QImage image = reader.read();
+  QImage image = reader.read();
   if (image.isNull()) throw SkipRecord();
   return image;
 }

@@ -15,7 +15,7 @@ QColor ColorAt(const QGradientStops& stops, double place) {
   for (qsizetype i = 1; i < stops.size(); ++i) {
     if (stops[i].first < place) continue;
     const double span = std::max(stops[i].first - stops[i - 1].first, 1e-9);
-    const float part = static_cast<float>(std::clamp((place - stops[i - 1].first) / span, 0.0, 1.0));
+    const auto part = static_cast<float>(std::clamp((place - stops[i - 1].first) / span, 0.0, 1.0));
     const QColor &a = stops[i - 1].second, &b = stops[i].second;
     const auto mix = [part](float from, float to) { return from + (to - from) * part; };
     return QColor::fromRgbF(mix(a.redF(), b.redF()), mix(a.greenF(), b.greenF()), mix(a.blueF(), b.blueF()),
@@ -70,7 +70,7 @@ QPainterPath Shortened(const QPainterPath& path, double startInset, double endIn
 
 PlusBrush EmfPlusPlayer::BrushOf(std::uint32_t flags, std::uint32_t brush) const {
   if ((flags & ColorFlag) != 0) return {ListBrush{QBrush(PlusColor(brush))}, nullptr};
-  PlusBrush plus = At<PlusBrush>(brush);
+  auto plus = At<PlusBrush>(brush);
   QBrush& list = plus.List.Brush;
   if (list.gradient() != nullptr || plus.List.Placed)
     list.setTransform(list.transform() * draw_.Dc().ToDevice());
@@ -102,7 +102,7 @@ void EmfPlusPlayer::FillPathGradient(const QPainterPath& path, const PathGradien
 void EmfPlusPlayer::Rings(const PathGradient& gradient) {
   const int rings = (rings_ += RingsOfOne) <= MostRings ? RingsOfOne : 4;
   for (int i = 0; i < rings; ++i) {
-    const double place = static_cast<double>(i) / rings;
+    const auto place = static_cast<double>(i) / rings;
     const ListBrush brush{QBrush(ColorAt(gradient.Stops, place + 0.5 / rings))};
     const QPointF center = gradient.Center;
     const QTransform shrink = QTransform::fromTranslate(-center.x(), -center.y()) *
@@ -116,7 +116,7 @@ void EmfPlusPlayer::Rings(const PathGradient& gradient) {
 void EmfPlusPlayer::Wedges(const PathGradient& gradient) {
   const std::vector<QColor>& around = gradient.Around;
   const auto color = [&](std::size_t i) { return around[std::min(i, around.size() - 1)]; };
-  const std::size_t sides = static_cast<std::size_t>(gradient.Outline.elementCount()) - 1;
+  const auto sides = static_cast<std::size_t>(gradient.Outline.elementCount()) - 1;
   for (std::size_t i = 0; i < sides; ++i) {
     const std::size_t next = i + 1 == sides ? 0 : i + 1;
     const auto corner = [&](std::size_t k) {
@@ -128,7 +128,7 @@ void EmfPlusPlayer::Wedges(const PathGradient& gradient) {
 }
 
 void EmfPlusPlayer::Stroke(const QPainterPath& path, std::uint32_t pen) {
-  const PlusPen& plus = At<PlusPen>(pen & 0xFF);
+  const auto& plus = At<PlusPen>(pen & 0xFF);
   ListPen list = plus.Pen;
   const double scale = draw_.Dc().Scale();
   list.Width = plus.InPixels ? plus.Width : plus.Width * scale;

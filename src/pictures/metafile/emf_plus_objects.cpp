@@ -66,7 +66,7 @@ QColor PlusColor(std::uint32_t argb) {
 }
 
 double ReadF(ByteReader& r) {
-  const double value = static_cast<double>(r.F32());
+  const auto value = static_cast<double>(r.F32());
   if (!std::isfinite(value) || std::abs(value) > 1e9) throw SkipRecord();
   return value;
 }

@@ -1,7 +1,5 @@
 #include "pictures/metafile/emf_plus_player.h"
 
-#include <cmath>
-
 namespace tarvis {
 namespace {
 
@@ -136,6 +134,13 @@ bool EmfPlusPlayer::PlayState(std::uint32_t type, std::uint32_t flags, ByteReade
                   0);
       return true;
     }
+    default:
+      return PlayTransform(type, flags, r);
+  }
+}
+
+bool EmfPlusPlayer::PlayTransform(std::uint32_t type, std::uint32_t flags, ByteReader& r) {
+  switch (type) {
     case 0x402A:
       world_ = ReadTransformF(r);
       UpdateTransform();
@@ -157,26 +162,23 @@ bool EmfPlusPlayer::PlayState(std::uint32_t type, std::uint32_t flags, ByteReade
       ModifyWorld(QTransform::fromScale(by.x(), by.y()), flags);
       return true;
     }
-    case 0x402F: {
-      const double degrees = static_cast<double>(r.F32());
-      if (!std::isfinite(degrees)) throw SkipRecord();
-      ModifyWorld(QTransform().rotate(degrees), flags);
+    case 0x402F:
+      ModifyWorld(QTransform().rotate(ReadF(r)), flags);
       return true;
-    }
-    case 0x4030: {
-      const double units[] = {
-          1, 1, 1, dotsPerInch_ / 72, dotsPerInch_, dotsPerInch_ / 300, dotsPerInch_ / 25.4};
-      // Some writers leave a scale of 1 out.
-      const double scale = r.Left() >= 4 ? static_cast<double>(r.F32()) : 1;
-      const std::size_t unit = flags & 0xFF;
-      if (unit >= std::size(units) || !std::isfinite(scale) || scale <= 0) throw SkipRecord();
-      pageScale_ = units[unit] * scale;
-      UpdateTransform();
+    case 0x4030:
+      SetPage(flags & 0xFF, r);
       return true;
-    }
     default:
       return false;
   }
+}
+
+void EmfPlusPlayer::SetPage(std::uint32_t unit, ByteReader& r) {
+  const double units[] = {1, 1, 1, dotsPerInch_ / 72, dotsPerInch_, dotsPerInch_ / 300, dotsPerInch_ / 25.4};
+  const double scale = r.Left() >= 4 ? ReadF(r) : 1;  // some writers leave a scale of 1 out
+  if (unit >= std::size(units) || scale <= 0) throw SkipRecord();
+  pageScale_ = units[unit] * scale;
+  UpdateTransform();
 }
 
 bool EmfPlusPlayer::PlayClip(std::uint32_t type, std::uint32_t flags, ByteReader& r) {

@@ -33,6 +33,7 @@ class EmfPlusPlayer {
 
   void PlayRecord(std::uint32_t type, std::uint32_t flags, ByteReader& r);
   bool PlayState(std::uint32_t type, std::uint32_t flags, ByteReader& r);
+  bool PlayTransform(std::uint32_t type, std::uint32_t flags, ByteReader& r);
   bool PlayClip(std::uint32_t type, std::uint32_t flags, ByteReader& r);
   bool PlayFill(std::uint32_t type, std::uint32_t flags, ByteReader& r);
   bool PlayLine(std::uint32_t type, std::uint32_t flags, ByteReader& r);
@@ -51,6 +52,7 @@ class EmfPlusPlayer {
   void DriverString(std::uint32_t flags, ByteReader& r);
   void SetFont(std::uint32_t flags, std::uint32_t brush);
   void ModifyWorld(const QTransform& by, std::uint32_t flags);
+  void SetPage(std::uint32_t unit, ByteReader& r);
   void UpdateTransform();
   void Save(std::uint32_t index);
   void Restore(std::uint32_t index);

@@ -84,8 +84,8 @@ ArcShape ReadArc(EmfPlayback& p, ByteReader& r) {
 void AngleArc(EmfPlayback& p, ByteReader& r) {
   const QPointF center = ReadPoint32(r);
   const double radius = r.U32();
-  const double start = static_cast<double>(r.F32());
-  const double sweep = static_cast<double>(r.F32());
+  const auto start = static_cast<double>(r.F32());
+  const auto sweep = static_cast<double>(r.F32());
   if (!std::isfinite(start) || !std::isfinite(sweep) || std::abs(start) > 1e6) throw SkipRecord();
   QPainterPath arc(p.Draw.State().Position);
   AddArc(arc, {center.x() - radius, center.y() - radius, 2 * radius, 2 * radius}, -start, -sweep, true);

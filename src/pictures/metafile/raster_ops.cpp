@@ -75,7 +75,7 @@ QImage SourceOnWhite(std::uint32_t rop3, const QImage& source, QColor pattern) {
   const unsigned paper = code == SourcePaint >> 16 || code == MergePaint >> 16 ? 0 : 1;
   QImage seen = source.convertToFormat(QImage::Format_ARGB32);
   for (int y = 0; y < seen.height(); ++y) {
-    QRgb* row = reinterpret_cast<QRgb*>(seen.scanLine(y));
+    auto* row = reinterpret_cast<QRgb*>(seen.scanLine(y));
     for (int x = 0; x < seen.width(); ++x) {
       const bool alone = truth.LeavesAlone(brush, row[x]);
       row[x] = alone ? 0 : 0xFF000000 | truth.Result(brush, row[x], paper);

@@ -100,7 +100,7 @@ QImage ReadOldBitmap(ByteReader& r, const DcState& state) {
   const int bits = r.U8();
   const auto format = std::ranges::find(formats, bits, &std::pair<int, QImage::Format>::first);
   if (planes != 1 || format == std::end(formats) || width < 1 || height < 1) throw SkipRecord();
-  const std::size_t used = static_cast<std::size_t>((width * bits + 7) / 8);
+  const auto used = static_cast<std::size_t>((width * bits + 7) / 8);
   if (rowSize < used || r.Left() < rowSize * static_cast<std::size_t>(height)) throw SkipRecord();
   QImage image(width, height, format->second);
   if (image.isNull()) throw SkipRecord();

@@ -180,7 +180,7 @@ constexpr WmfRecord Records[] = {
 }  // namespace
 
 void WmfPlayback::Add(MetaObject object) {
-  const std::size_t index = static_cast<std::size_t>(std::ranges::find(Taken, false) - Taken.begin());
+  const auto index = static_cast<std::size_t>(std::ranges::find(Taken, false) - Taken.begin());
   if (index >= MostObjects) throw BadMetafile("it has too many objects");
   if (index == Objects.size()) {
     Objects.emplace_back();
