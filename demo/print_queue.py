@@ -158,11 +158,17 @@ class PrintQueue:
         subprocess.run([*self._as_root, "cp", source, target], check=True)
         subprocess.run([*self._as_root, "chmod", "a+r", target], check=True)
 
+    def _is_whole(self, file):
+        """The back end goes on writing for a while after its job is done."""
+        end = subprocess.run([*self._as_root, "tail", "-c", "64", file], capture_output=True, check=True).stdout
+        return end.rstrip().endswith(b"%%EOF")
+
     def printed(self, target):
         """Moves the newest file that the PDF back end made since the server started to `target`."""
         def newest():
             files = [f for f in ANONYMOUS.glob("*.pdf") if f.stat().st_mtime >= self._started - 1]
-            return max(files, key=lambda f: f.stat().st_mtime, default=None)
+            file = max(files, key=lambda f: f.stat().st_mtime, default=None)
+            return file if file and self._is_whole(file) else None
         subprocess.run([*self._as_root, "mv", wait_until(newest, "the printed file"), target], check=True)
 
     def close(self):
