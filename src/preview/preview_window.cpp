@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QMenu>
 #include <QScreen>
+#include <QShortcut>
 #include <QSplitter>
 #include <QToolBar>
 #include <QToolButton>
@@ -127,15 +128,7 @@ void PreviewWindow::MakeToolbar(const std::vector<Tool>& tools) {
     if (entry.Where != Shown::Toolbar) continue;
     if (entry.StartsGroup) bar->addSeparator();
     if (entry.Id == Command::Close) {
-      for (const Tool& tool : tools) {
-        QAction* action = bar->addAction(QString::fromStdString(tool.Caption));
-        action->setObjectName(QStringLiteral("tool%1").arg(tool.ID));
-        action->setData(tool.ID);
-        action->setToolTip(action->text());
-        connect(action, &QAction::triggered, this, [this, id = tool.ID] { emit toolUsed(id); });
-        addAction(action);
-        toolActions_.push_back(action);
-      }
+      for (const Tool& tool : tools) AddTool(tool, *bar);
       bar->addSeparator();
     }
     bar->addAction(ActionOf(entry.Id));
@@ -154,7 +147,24 @@ void PreviewWindow::MakeToolbar(const std::vector<Tool>& tools) {
   }
 }
 
+// The report's own tools show their text, too.
+void PreviewWindow::AddTool(const Tool& tool, QToolBar& bar) {
+  QAction* action = bar.addAction(OutlineIcon(ReportToolIcon), QString::fromStdString(tool.Caption));
+  action->setObjectName(QStringLiteral("tool%1").arg(tool.ID));
+  action->setData(tool.ID);
+  if (toolActions_.empty()) action->setShortcut(QKeySequence(QString::fromUtf8(ReportToolKey)));
+  action->setToolTip(ToolTipOf(*action));
+  connect(action, &QAction::triggered, this, [this, id = tool.ID] { emit toolUsed(id); });
+  qobject_cast<QToolButton*>(bar.widgetForAction(action))->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  addAction(action);
+  toolActions_.push_back(action);
+}
+
 void PreviewWindow::Connect() {
+  // The desktop turns the menu key into a wish for the menu, but not everywhere its twin.
+  connect(new QShortcut(Qt::SHIFT | Qt::Key_F10, this), &QShortcut::activated, this,
+          [this] { ShowMenu(view_->mapToGlobal(view_->rect().center())); });
+
   connect(view_, &PageView::PlaceChanged, this, &PreviewWindow::ShowPlace);
   connect(view_, &PageView::ZoomChanged, this, &PreviewWindow::ShowZoom);
   connect(pane_, &SidePane::PlaceChosen, this, &PreviewWindow::Jump);
@@ -260,6 +270,10 @@ void PreviewWindow::closeEvent(QCloseEvent* event) {
 }
 
 void PreviewWindow::contextMenuEvent(QContextMenuEvent* event) {
+  ShowMenu(event->globalPos());
+}
+
+void PreviewWindow::ShowMenu(const QPoint& place) {
   QMenu menu(this);
   menu.setObjectName(QStringLiteral("contextMenu"));
   for (const CommandEntry& entry : CommandTable()) {
@@ -269,7 +283,7 @@ void PreviewWindow::contextMenuEvent(QContextMenuEvent* event) {
     }
     menu.addAction(ActionOf(entry.Id));
   }
-  menu.exec(event->globalPos());
+  menu.exec(place);
 }
 
 }  // namespace tarvis

@@ -64,8 +64,10 @@ class PreviewWindow : public QMainWindow {
   void PlaceOnScreen();
   void MakeActions();
   void MakeToolbar(const std::vector<Tool>& tools);
+  void AddTool(const Tool& tool, QToolBar& bar);
   QWidget* MakePageBox();
   QWidget* MakeZoomBox();
+  void ShowMenu(const QPoint& place);  // on the screen
   void Connect();
   void ConnectSelection();
   void Run(Command command, bool checked);

@@ -49,6 +49,32 @@ TEST_F(Window, the_added_tool_shows_its_text_and_tells_its_number) {
   EXPECT_EQ(used.at(0).at(0).toInt(), 999);
 }
 
+TEST_F(Window, the_added_tool_has_an_icon_and_a_key_that_its_tip_tells) {
+  OpenTable(1);
+  const auto& button = Find<QToolButton>("tool999Button");
+  EXPECT_FALSE(button.icon().isNull());
+  EXPECT_EQ(button.toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
+  EXPECT_EQ(button.toolTip(), QStringLiteral("Editing of the Printing Items (Ctrl+E)"));
+  const QSignalSpy used(window_.get(), &PreviewWindow::toolUsed);
+  Press(Qt::Key_E, Qt::ControlModifier);
+  ASSERT_EQ(used.count(), 1);
+  EXPECT_EQ(used.at(0).at(0).toInt(), 999);
+}
+
+TEST_F(Window, shift_f10_opens_the_menu_of_all_commands) {
+  OpenTable(1);
+  QStringList shown;
+  QTimer::singleShot(0, window_.get(), [&] {
+    auto* menu = window_->findChild<QMenu*>(QStringLiteral("contextMenu"));
+    ASSERT_NE(menu, nullptr);
+    for (const QAction* action : menu->actions()) shown += action->text();
+    menu->close();
+  });
+  Press(Qt::Key_F10, Qt::ShiftModifier);
+  EXPECT_TRUE(shown.contains(QStringLiteral("Editing of the Printing Items")));
+  EXPECT_TRUE(shown.contains(QStringLiteral("&Print…")));
+}
+
 TEST_F(Window, close_tells_5113_by_tool_and_by_key) {
   OpenTable(1);
   const QSignalSpy used(window_.get(), &PreviewWindow::toolUsed);
