@@ -152,12 +152,10 @@ void DrawListPainter::Shape(const ListCommand& command) {
 void DrawListPainter::Fill(const QPainterPath& path, const ListBrush& listBrush) {
   if (IsHatch(listBrush.Brush.style())) return Hatch(path, listBrush);
   QBrush brush = listBrush.Brush;
-  if (brush.style() == Qt::TexturePattern && listBrush.Placed) {
-    brush.setTransform(brush.transform() * toTarget_);
-  } else if (brush.style() == Qt::TexturePattern) {
+  if (brush.style() == Qt::TexturePattern && !listBrush.Placed) {
     brush.setTransform(QTransform::fromScale(screenDot_, screenDot_) *
                        QTransform::fromTranslate(target_.left(), target_.top()));
-  } else if (brush.gradient() != nullptr) {
+  } else if (brush.style() == Qt::TexturePattern || brush.gradient() != nullptr) {
     brush.setTransform(brush.transform() * toTarget_);
   }
   const QRectF box =
@@ -202,19 +200,21 @@ void DrawListPainter::HatchLines(const QRectF& box, const ListBrush& brush) {
   const bool falling = style == Qt::FDiagPattern || style == Qt::DiagCrossPattern;
   const bool rising = style == Qt::BDiagPattern || style == Qt::DiagCrossPattern;
   QList<QLineF> lines;
-  const auto first = [step](double from) { return std::ceil(from / step) * step; };
+  // Where lines at whole steps fall between two places.
+  const auto each = [step](double from, double to, const auto& add) {
+    const auto last = static_cast<std::int64_t>(std::ceil(to / step));
+    for (auto i = static_cast<std::int64_t>(std::ceil(from / step)); i < last; ++i)
+      add(static_cast<double>(i) * step);
+  };
   if (across)
-    for (double y = first(box.top()); y < box.bottom(); y += step)
-      lines << QLineF(box.left(), y, box.right(), y);
-  if (down)
-    for (double x = first(box.left()); x < box.right(); x += step)
-      lines << QLineF(x, box.top(), x, box.bottom());
+    each(box.top(), box.bottom(), [&](double y) { lines << QLineF(box.left(), y, box.right(), y); });
+  if (down) each(box.left(), box.right(), [&](double x) { lines << QLineF(x, box.top(), x, box.bottom()); });
   if (falling)  // x - y is the same all along
-    for (double c = first(box.left() - box.bottom()); c < box.right() - box.top(); c += step)
-      lines << QLineF(c + box.top(), box.top(), c + box.bottom(), box.bottom());
+    each(box.left() - box.bottom(), box.right() - box.top(),
+         [&](double c) { lines << QLineF(c + box.top(), box.top(), c + box.bottom(), box.bottom()); });
   if (rising)  // x + y is the same all along
-    for (double c = first(box.left() + box.top()); c < box.right() + box.bottom(); c += step)
-      lines << QLineF(c - box.top(), box.top(), c - box.bottom(), box.bottom());
+    each(box.left() + box.top(), box.right() + box.bottom(),
+         [&](double c) { lines << QLineF(c - box.top(), box.top(), c - box.bottom(), box.bottom()); });
   painter_.drawLines(lines);
 }
 

@@ -114,7 +114,7 @@ class Drawing {
   void EmitFill(const QPainterPath& device, const MetaBrush& brush);
   void JoinPath(QPointF device);
   void ContinuePath(const QPainterPath& device);
-  bool MakePen(ListPen& pen) const;
+  bool MakePen(ListPen& list) const;
   bool MakeBrush(const MetaBrush& brush, ListBrush& list) const;
   void SetDashes(QPen& pen, double width) const;
   std::shared_ptr<ListClip> CopyOfClip() const;

@@ -188,7 +188,7 @@ void GradientFill(EmfPlayback& p, ByteReader& r) {
     points.push_back(ReadPoint32(vertexes));
     const int red = vertexes.U16() >> 8, green = vertexes.U16() >> 8, blue = vertexes.U16() >> 8;
     vertexes.Skip(2);
-    colors.push_back(QColor(red, green, blue));
+    colors.emplace_back(red, green, blue);
   }
   const auto vertex = [&](ByteReader& mesh) {
     const std::size_t index = mesh.U32();
