@@ -50,6 +50,14 @@ TEST(EmfPlusBrushes, APathGradientStaysInsideWhatItFills) {
   EXPECT_EQ(InkedPixels(shown, QRect(42, 0, 58, 100)), 0);
 }
 
+TEST(EmfPlusBrushes, APathGradientWithoutAnOutlineIsCounted) {
+  ByteWriter brush = ByteWriter().U32(PlusVersion).U32(3).U32(0).U32(4).U32(WhiteInk).F32(50).F32(50);
+  brush.U32(2).U32(RedInk).U32(BlueInk).U32(0);
+  PlusWriter plus;
+  FillWith(plus, brush, Rect(0, 0, 9, 9));
+  EXPECT_EQ(Play(plus.FillRect(RedInk, 0, 0, 9, 9).Emf().Bytes())->SkippedRecords(), 1);
+}
+
 TEST(EmfPlusBrushes, ATextureIsMappedByItsTransform) {
   ByteWriter brush = ByteWriter().U32(PlusVersion).U32(2).U32(2).U32(0);
   brush.F32(50).F32(0).F32(0).F32(50).F32(0).F32(0);

@@ -173,6 +173,15 @@ TEST(Wmf, OldBitmapsThatAreCutAreSkippedAndCounted) {
   EXPECT_EQ(Play(wmf.Bytes())->SkippedRecords(), 1);
 }
 
+TEST(Wmf, ARegionThatIsMiscountedIsCountedAndKeepsItsNumber) {
+  WmfWriter wmf = Plain();
+  wmf.Add(0x06FF, ByteWriter().Zeros(10).U16(9).Zeros(10).U16(2).I16(0))
+      .Add(0x02FC, ByteWriter().U16(0).U32(RedInk).U16(0));
+  wmf.Words(0x012D, {1}).Words(0x041B, {90, 90, 10, 10});
+  EXPECT_EQ(Play(wmf.Bytes())->SkippedRecords(), 1);
+  EXPECT_EQ(wmf.Show().pixelColor(50, 50), Red);
+}
+
 TEST(Wmf, WidthsOfDoubleByteTextCountByBytes) {
   WmfWriter wmf = Plain();
   wmf.Words(0x0102, {1}).Font(-20, "Arial", 128);

@@ -84,6 +84,7 @@ void EmfPlusPlayer::Fill(const QPainterPath& path, std::uint32_t flags, std::uin
 }
 
 void EmfPlusPlayer::FillPathGradient(const QPainterPath& path, const PathGradient& gradient) {
+  if (gradient.Outline.elementCount() < 2) throw SkipRecord();
   const auto clip = draw_.State().Clip;
   const QTransform world = draw_.State().World;
   draw_.SelectClip(draw_.Dc().ToDevice().map(path), ClipMode::And);

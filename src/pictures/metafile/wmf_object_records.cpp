@@ -174,7 +174,13 @@ constexpr WmfRecord Records[] = {
     {0x0429, FrameRegion},
     {0x0436, SetPaletteEntries},
     {0x06FF,
-     [](WmfPlayback& p, ByteReader& r) { p.Add(RegionPtr(std::make_shared<MetaRegion>(ReadRegion(r)))); }},
+     [](WmfPlayback& p, ByteReader& r) {
+       try {
+         p.Add(RegionPtr(std::make_shared<MetaRegion>(ReadRegion(r))));
+       } catch (const OutOfBytes&) {
+         throw SkipRecord();  // some writers miscount the lines; the drawing goes on without it
+       }
+     }},
 };
 
 }  // namespace
