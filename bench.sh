@@ -4,5 +4,5 @@ set -eu
 cd "$(dirname "$0")"
 
 tools/install_packages
-tools/build release
+tools/build release >&2  # so that the table can be kept by itself
 exec python3 bench/program_bench.py "$@"

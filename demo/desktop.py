@@ -55,8 +55,8 @@ class VirtualDisplay:
         return None
 
     def _start_manager(self):
-        return subprocess.Popen(["openbox"], env={**os.environ, **self.environment}, stderr=subprocess.DEVNULL,
-                                preexec_fn=end_with_parent)
+        return subprocess.Popen(["openbox"], env={**os.environ, **self.environment}, stdout=subprocess.DEVNULL,
+                                stderr=subprocess.DEVNULL, preexec_fn=end_with_parent)
 
     def _managed(self):
         if self._manager.poll() is not None:  # it gives up on a server that is slow to answer
