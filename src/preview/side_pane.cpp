@@ -8,6 +8,7 @@
 namespace tarvis {
 namespace {
 
+constexpr int Indentation = 14;  // pixels; the pane is narrow
 constexpr int EntryRole = Qt::UserRole;
 
 }  // namespace
@@ -24,7 +25,8 @@ SidePane::SidePane(std::shared_ptr<const Document> document, QWidget* parent)
   contents_->setHeaderHidden(true);
   contents_->setFrameShape(QFrame::NoFrame);
   contents_->setUniformRowHeights(true);
-  contents_->setTextElideMode(Qt::ElideRight);
+  contents_->setIndentation(Indentation);
+  contents_->setTextElideMode(Qt::ElideMiddle);  // numbered entries differ in their ends
   FillContents();
   addTab(contents_, tr("Contents"));
   addTab(thumbnails_, tr("Pages"));
