@@ -37,7 +37,7 @@ void DeviceContext::Save() {
 }
 
 void DeviceContext::Restore(int which) {
-  const std::int64_t count = static_cast<std::int64_t>(saved_.size());
+  const auto count = static_cast<std::int64_t>(saved_.size());
   const std::int64_t index = which < 0 ? count + which : std::int64_t{which} - 1;
   if (index < 0 || index >= count) throw SkipRecord();
   state_ = saved_[static_cast<std::size_t>(index)];
