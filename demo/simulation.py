@@ -46,7 +46,7 @@ def _run(folder, n, suffix, overlapped):
     if overlapped and not suffix:
         _comparison(file, overlapped)
     file.line("Control", "Control Method", "Position control", "")
-    file.line("Ref", "Speed Reference", "Trapezoid", "")
+    file.line("Ref", "Reference", "Trapezoid", "")
     file.line("SettingTime", "Settling Time", f"{12.4 + n:.1f}", "ms")
     file.line("SamplingCycle", "Sampling", "0.25", "ms")
     file.line("PatternSetting", "Pattern", 0, "Trapezoid of three moves", 3)
