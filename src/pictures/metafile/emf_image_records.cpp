@@ -72,33 +72,43 @@ QRectF SourceFromBottom(const Bytes info, QRectF source) {
   return source;
 }
 
+// Head of the records that bring a bitmap of their own along, up to its usage.
+struct DibHead {
+  QPointF To;
+  QRectF Source;
+  SourceBitmap Bitmap;
+
+  explicit DibHead(ByteReader& r) {
+    r.Skip(BoundsSize);
+    To = ReadPoint32(r);
+    Source = ReadPlacedBox(r);
+    Bitmap.ReadPlace(r);
+    Bitmap.Usage = r.U32();
+  }
+  // The image, and which part of it is meant; where it goes is up to the caller.
+  BlockRecord Block(EmfPlayback& p, ByteReader& r) const {
+    BlockRecord block;
+    block.Image = Bitmap.Decode(p, r);
+    block.Source = SourceFromBottom(Bitmap.Info(r), Source);
+    return block;
+  }
+};
+
 void StretchDibBits(EmfPlayback& p, ByteReader& r) {
-  r.Skip(BoundsSize);
-  BlockRecord block;
-  const QPointF to = ReadPoint32(r);
-  block.Source = ReadPlacedBox(r);
-  SourceBitmap bitmap;
-  bitmap.ReadPlace(r);
-  bitmap.Usage = r.U32();
-  block.Rop = r.U32();
+  const DibHead head(r);
+  const std::uint32_t operation = r.U32();
   const QPointF size = ReadPoint32(r);
-  block.Destination = {to.x(), to.y(), size.x(), size.y()};
-  if (!UsesSource(block.Rop)) return p.Draw.PatternBlock(block.Destination, block.Rop);
-  block.Image = bitmap.Decode(p, r);
-  block.Source = SourceFromBottom(bitmap.Info(r), block.Source);
+  const QRectF destination(head.To, QSizeF(size.x(), size.y()));
+  if (!UsesSource(operation)) return p.Draw.PatternBlock(destination, operation);
+  BlockRecord block = head.Block(p, r);
+  block.Rop = operation;
+  block.Destination = destination;
   p.Draw.Block(std::move(block));
 }
 
 void SetDibBitsToDevice(EmfPlayback& p, ByteReader& r) {
-  r.Skip(BoundsSize);
-  BlockRecord block;
-  const QPointF to = ReadPoint32(r);
-  block.Source = ReadPlacedBox(r);
-  SourceBitmap bitmap;
-  bitmap.ReadPlace(r);
-  bitmap.Usage = r.U32();
-  block.Image = bitmap.Decode(p, r);
-  block.Source = SourceFromBottom(bitmap.Info(r), block.Source);
+  const DibHead head(r);
+  BlockRecord block = head.Block(p, r);
   block.Rop = SourceCopy;
   // Its size counts in pixels of the device.
   const QTransform toDevice = p.Draw.Dc().ToDevice();
@@ -106,7 +116,8 @@ void SetDibBitsToDevice(EmfPlayback& p, ByteReader& r) {
   const double down = std::hypot(toDevice.m21(), toDevice.m22());
   if (across == 0 || down == 0) throw SkipRecord();
   const double up = toDevice.m22() < 0 ? -1 : 1;
-  block.Destination = {to.x(), to.y(), block.Source.width() / across, up * block.Source.height() / down};
+  block.Destination = {head.To.x(), head.To.y(), block.Source.width() / across,
+                       up * block.Source.height() / down};
   p.Draw.Block(std::move(block));
 }
 
