@@ -12,8 +12,8 @@ constexpr int LookInterval = 50;  // milliseconds
 
 }  // namespace
 
-BackgroundJob::BackgroundJob(const QString& caption, Work work, QWidget* parent)
-    : QObject(parent), caption_(caption) {
+BackgroundJob::BackgroundJob(QString caption, Work work, QWidget* parent)
+    : QObject(parent), caption_(std::move(caption)) {
   QTimer::singleShot(ProgressDelay, this, &BackgroundJob::ShowProgress);
   thread_ = std::thread([this, work = std::move(work)] {
     QString error;

@@ -24,7 +24,7 @@ class BackgroundJob : public QObject {
   using Work = std::function<QString(const Progress& progress)>;
 
   // `caption` tells the user what is being done.
-  BackgroundJob(const QString& caption, Work work, QWidget* parent);
+  BackgroundJob(QString caption, Work work, QWidget* parent);
   // Cancels the work and waits for its end.
   ~BackgroundJob() override;
 

@@ -17,9 +17,9 @@ struct Cell {
 };
 
 Cell& CellOf(std::vector<Cell>& cells, const Item& item) {
-  // A control's items follow each other.
-  for (auto cell = cells.rbegin(); cell != cells.rend(); ++cell) {
-    if (cell->Control == item.Control) return *cell;
+  // A control's items follow each other, so the last cells are asked first.
+  for (std::size_t index = cells.size(); index-- > 0;) {
+    if (cells[index].Control == item.Control) return cells[index];
   }
   cells.push_back({item.Control, false, item.Box, {}});
   return cells.back();

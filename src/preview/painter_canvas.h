@@ -45,7 +45,8 @@ class PixelCanvas : public PainterCanvas {
     QColor Ink;
   };
   Pen PenFor(float width) const;
-  // Until the painter is restored it fills whole pixels; where grey lines meet or cross, the darker one stays.
+  // Until the painter is restored it fills whole pixels; where grey lines meet or cross, the darker one
+  // stays.
   void StartPixels(const Pen& pen);
   // First pixel of a line whose middle is at `middle`.
   static int FirstPixel(double middle, int pixels);

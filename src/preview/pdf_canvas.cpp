@@ -21,7 +21,7 @@ std::size_t PdfPictures::Number(const Picture& picture, float width, float heigh
 
 PdfCanvas::PdfCanvas(float height, PdfGlyphs& glyphs, PdfPictures& pictures)
     : glyphs_(glyphs), pictures_(pictures) {
-  content_.reserve(32 * 1024);
+  content_.reserve(std::size_t{32} * 1024);
   Add(".05 0 0 -.05 0 ");
   AppendNumber(content_, D(height) / D(TwipsPerPoint));
   Add("cm\n");

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QSaveFile>
 #include <QTimeZone>
+#include <qpdf/JSON.hh>
 #include <qpdf/Pl_Buffer.hh>
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
@@ -25,13 +26,13 @@ QPDFObjectHandle Points(float twips) {
   return QPDFObjectHandle::newReal(static_cast<double>(twips / TwipsPerPoint), 2);
 }
 
-QPDFObjectHandle MakePage(QPDF& pdf, const Document& document, std::string content) {
+QPDFObjectHandle MakePage(QPDF& pdf, const Document& document, const std::string& content) {
   QPDFObjectHandle page = QPDFObjectHandle::newDictionary();
   page.replaceKey("/Type", Name("/Page"));
   const QPDFObjectHandle zero = QPDFObjectHandle::newInteger(0);
   page.replaceKey("/MediaBox", QPDFObjectHandle::newArray({zero, zero, Points(document.Setup.Width),
                                                            Points(document.Setup.Height)}));
-  page.replaceKey("/Contents", pdf.newStream(std::move(content)));
+  page.replaceKey("/Contents", pdf.newStream(content));
   return pdf.makeIndirectObject(page);
 }
 

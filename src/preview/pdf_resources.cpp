@@ -131,7 +131,8 @@ void NameAsSubset(QPDFObjectHandle font, std::uint16_t number) {
   descendant.getKey("/FontDescriptor").replaceKey("/FontName", name);
 }
 
-QPDFObjectHandle TakeFont(QPDF& pdf, QPDFObjectHandle foreign, const PdfFace& face, std::uint16_t number) {
+QPDFObjectHandle TakeFont(QPDF& pdf, const QPDFObjectHandle& foreign, const PdfFace& face,
+                          std::uint16_t number) {
   QPDFObjectHandle font = pdf.copyForeignObject(foreign);
   NameAsSubset(font, number);
   font.replaceKey("/ToUnicode", pdf.newStream(ToUnicode(face)));

@@ -17,8 +17,8 @@ QList<uint> CharactersOf(const Document& document, std::uint32_t item) {
 // How far `point` is from `box`; beside its line counts as nearer than above or below.
 double Distance(const Rect& box, QPointF point) {
   constexpr double LineWeight = 4;
-  const double left = static_cast<double>(box.Left);
-  const double top = static_cast<double>(box.Top);
+  const auto left = static_cast<double>(box.Left);
+  const auto top = static_cast<double>(box.Top);
   const double across = std::max({left - point.x(), point.x() - static_cast<double>(box.Right()), 0.0});
   const double down = std::max({top - point.y(), point.y() - static_cast<double>(box.Bottom()), 0.0});
   return across + LineWeight * down;

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int Gap = 10;  // logical pixels
 constexpr int GreatestWidth = 140;
-constexpr std::int64_t PictureBudget = 16 * 1024 * 1024;  // bytes
+constexpr std::int64_t PictureBudget = std::int64_t{16} * 1024 * 1024;  // bytes
 
 }  // namespace
 
