@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QSaveFile>
 #include <QTimeZone>
-#include <qpdf/JSON.hh>
 #include <qpdf/Pl_Buffer.hh>
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>

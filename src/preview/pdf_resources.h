@@ -2,7 +2,6 @@
 // helper file in memory; its objects are then taken over.
 #pragma once
 
-#include <qpdf/JSON.hh>  // some compilers want it ahead of the next header
 #include <qpdf/QPDF.hh>
 
 #include "preview/pdf_canvas.h"
