@@ -99,7 +99,8 @@ class LostDisplay(ProgramCase):
             session.confirm_dialog()
         display.close()
         self.expect_end(session.process, 1)
-        self.assertEqual(self.standard_error(), "The X11 connection broke (error 1). Did the X11 server die?\n")
+        # The toolkit has two wordings, by which of its threads sees the end first.
+        self.assertRegex(self.standard_error(), r"^The X11 connection broke(: I/O error| \(error 1\))")
         self.assertEqual(self.files_left(), ["User.tmp"])
 
     def test_ends_the_dialog_with_a_word_and_touches_no_file(self):
