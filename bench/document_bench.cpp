@@ -10,6 +10,7 @@
 #include <cstdio>
 
 #include "document_roads.h"
+#include "memory.h"
 
 namespace tarvis {
 namespace {

@@ -54,7 +54,4 @@ class Stopwatch {
   std::string json_;
 };
 
-// The most memory that the process has held, in megabytes.
-double PeakMegabytes();
-
 }  // namespace tarvis

@@ -2,7 +2,6 @@
 // play_pictures [-o FOLDER] FILE...; with -o, what each shows is written there as FILE.png.
 // One line a file: name, KB, ms of computing to load and to paint, MB beyond those of an empty process,
 // records played, records skipped as KIND:COUNT; or the reason why it is refused.
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -14,6 +13,7 @@
 #include <cstdio>
 #include <ctime>
 
+#include "memory.h"
 #include "pictures/metafile/glyph_outlines.h"
 #include "pictures/metafile/metafile_picture.h"
 #include "pictures/picture_file_loader.h"
@@ -23,13 +23,6 @@ namespace tarvis {
 namespace {
 
 constexpr int LongSide = 900;  // pixels
-constexpr double KilobytesToMegabyte = 1024;
-
-double PeakMegabytes() {
-  rusage usage{};
-  getrusage(RUSAGE_SELF, &usage);
-  return static_cast<double>(usage.ru_maxrss) / KilobytesToMegabyte;
-}
 
 double MillisecondsComputed() {
   return static_cast<double>(std::clock()) * 1000 / CLOCKS_PER_SEC;

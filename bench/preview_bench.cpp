@@ -9,8 +9,8 @@
 #include <QScrollBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
-#include <fstream>
 
+#include "memory.h"
 #include "preview/document_builder.h"
 #include "preview/page_view.h"
 #include "preview/painter_canvas.h"
@@ -24,15 +24,6 @@ namespace {
 // 240 bordered cells a page: a list of 16,000 parameters has 334 pages of them.
 std::shared_ptr<const Document> Table(int pages) {
   return DocumentBuilder().TablePages(pages).Build();
-}
-
-double ResidentMegabytes(const std::string& key) {
-  std::ifstream status("/proc/self/status");
-  for (std::string word; status >> word;) {
-    double kilobytes = 0;
-    if (word == key && status >> kilobytes) return kilobytes / 1024;
-  }
-  return 0;
 }
 
 // Peak memory of the process with 700 pages open in the window, its thumbnails shown, a search made, every
@@ -53,7 +44,7 @@ void VisitEveryPage(benchmark::State& state) {
     QCoreApplication::processEvents();
   }
   state.counters["start_megabytes"] = start;
-  state.counters["peak_megabytes"] = ResidentMegabytes("VmHWM:");
+  state.counters["peak_megabytes"] = PeakMegabytes();
 }
 BENCHMARK(VisitEveryPage)->Unit(benchmark::kMillisecond)->Iterations(1);
 

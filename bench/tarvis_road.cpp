@@ -1,5 +1,4 @@
 #include <QImage>
-#include <fstream>
 
 #include "document_roads.h"
 #include "functions/catalog.h"
@@ -78,15 +77,6 @@ class OwnRoad : public DocumentRoad {
 
 std::unique_ptr<DocumentRoad> TarvisRoad(const BenchJob& job) {
   return std::make_unique<OwnRoad>(job);
-}
-
-double PeakMegabytes() {
-  std::ifstream status("/proc/self/status");
-  for (std::string word; status >> word;) {
-    double kilobytes = 0;
-    if (word == "VmHWM:" && status >> kilobytes) return kilobytes / 1024;
-  }
-  return 0;
 }
 
 }  // namespace tarvis

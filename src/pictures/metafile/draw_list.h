@@ -79,8 +79,8 @@ struct ListCommand {
 
 class DrawList {
  public:
-  // Coordinates are cut off this far from the origin.
-  void SetReach(double reach) { reach_ = reach; }
+  // Coordinates are cut off two hundred times as far from the origin as the picture's frame extends.
+  void SetFrameExtent(double extent) { reach_ = extent * ReachInFrames; }
 
   void AddShape(const QPainterPath& path, const ListPen* pen, const ListBrush* brush);
   void AddPolyline(std::span<const QPointF> points, const ListPen& pen);
@@ -109,6 +109,8 @@ class DrawList {
   }
 
  private:
+  static constexpr double ReachInFrames = 200;
+
   void AddPoint(double x, double y);
   void AddCommand(ListCommand command);
   void Account(std::size_t bytes);

@@ -15,7 +15,6 @@ constexpr std::uint32_t Signature = 0x464D4520;
 constexpr std::uint32_t PlusSignature = 0x2B464D45;
 constexpr double HundredthsPerMillimeter = 100;
 constexpr double TwipsPerMillimeter = 1440 / 25.4;
-constexpr double ReachInFrames = 200;
 
 struct EmfHeader {
   std::size_t Size = 0;  // of the header record
@@ -82,7 +81,7 @@ class EmfPlayer {
     const QRectF frame = header_.DeviceFrame();
     if (header_.Bounds.isEmpty() && header_.Frame.isEmpty()) throw BadMetafile("it has no extent");
     const double far = std::abs(frame.left()) + std::abs(frame.top()) + frame.width() + frame.height();
-    list_.SetReach(far * ReachInFrames);
+    list_.SetFrameExtent(far);
     const QPointF unit = header_.PixelsPerMillimeter();
     playback_.Draw.Dc().SetPixelsPerMillimeter(unit.x(), unit.y());
   }

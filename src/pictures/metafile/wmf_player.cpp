@@ -14,7 +14,6 @@ constexpr std::size_t HeaderSize = 18;
 constexpr std::size_t RecordHeadSize = 6;
 constexpr double TwipsPerPixel = 15;
 constexpr double TwipsPerInch = 1440;
-constexpr double ReachInFrames = 200;
 
 // The header in front of a placeable metafile: its box in logical units, and their number to the inch.
 struct Placeable {
@@ -126,7 +125,7 @@ class WmfPlayer {
       const QPointF origin = told.ViewportOrigin.value_or(QPointF());
       frame_ = BoxOf(origin, origin + *told.ViewportExtent);
     }
-    if (!frame_.isEmpty()) list_.SetReach((frame_.width() + frame_.height()) * ReachInFrames);
+    if (!frame_.isEmpty()) list_.SetFrameExtent(frame_.width() + frame_.height());
   }
 
   QSizeF NaturalTwips(const QRectF& frame) const {
