@@ -76,6 +76,7 @@ class User:
 
     def __init__(self, environment):
         self._environment = {**os.environ, **environment}
+        self._clipboard = None
 
     def _run(self, *command, check=True):
         return subprocess.run(command, env=self._environment, capture_output=True, text=True, check=check).stdout.strip()
@@ -111,6 +112,23 @@ class User:
 
     def write(self, text):
         self._run("xdotool", "type", "--clearmodifiers", "--delay", "2", text)
+
+    def fill_in(self, text):
+        """Puts a text in place of what the field holds that has the focus. It comes from the clipboard, in one piece:
+        to single keys a file dialog answers with proposals, which may take some of them."""
+        self._copy(text)
+        self.press("ctrl+a", "ctrl+v")
+
+    def _copy(self, text):
+        if self._clipboard:
+            self._clipboard.kill()
+            self._clipboard.wait()
+        self._clipboard = subprocess.Popen(["xclip", "-quiet", "-selection", "clipboard"], env=self._environment,
+                                           stdin=subprocess.PIPE, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                                           text=True, preexec_fn=end_with_parent)
+        with self._clipboard.stdin as told:
+            told.write(text)
+        wait_until(lambda: self._run("xclip", "-o", "-selection", "clipboard", check=False) == text, "the clipboard")
 
     def click(self, window, x, y):
         """Clicks at pixels from the window's top left corner."""

@@ -43,8 +43,7 @@ class Session:
         self.wait_for(PREVIEW)
         self.user.press("ctrl+s")
         self.wait_for("Save as PDF")
-        self.user.press("ctrl+a")
-        self.user.write(str(path))
+        self.user.fill_in(str(path))
         if replace:
             self.user.press_until("Return", "Save as PDF", 2)  # the question bears the dialog's title
         self.user.press_until("alt+y" if replace else "Return", "Save as PDF", 0)

@@ -10,7 +10,7 @@ from saved_pdf import page_count, words_in_a_row
 
 ROUNDS = 10
 SETTLED = 2  # rounds after which fonts, icons and pictures are all there
-GROWTH = 1024  # kilobytes; a window that stays behind in each round takes more
+GROWTH = 2048  # kilobytes; a dialog or preview that stays behind in each round takes four times as much and more
 
 # Whoever frees memory gives it back at once, so that what the process holds is what the program holds.
 GIVING_BACK = {"MALLOC_ARENA_MAX": "1", "MALLOC_TRIM_THRESHOLD_": "0", "MALLOC_MMAP_THRESHOLD_": "65536",
@@ -35,7 +35,10 @@ class Alternation(ProgramCase):
             self.edit_items(session)
             session.confirm_dialog()
             held.append(self.memory_of(session))
-        self.assertLess(held[-1] - held[SETTLED - 1], GROWTH, f"kilobytes by round: {held}")
+        # a reading that comes ahead of the page's picture is low: the highest ones are those of the whole preview
+        settled = held[SETTLED - 1:]
+        early, late = max(settled[:len(settled) // 2]), max(settled[len(settled) // 2:])
+        self.assertLess(late - early, GROWTH, f"kilobytes by round: {held}")
         self.assertEqual(self.saved_words(session), words)
         self.assertEqual(session.close_preview(), 0)
         self.assertEqual(self.files_left(), [])

@@ -3,7 +3,7 @@ import unittest
 
 from program_case import ProgramCase  # also finds the demo's modules
 from bitmap import Bitmap
-from desktop import Timeout, wait_until
+from desktop import wait_until
 from host import HELP_CONTEXT
 from saved_pdf import is_colourful, words_in_a_row
 from session import DIALOG
@@ -36,20 +36,12 @@ class CoverEditing(ProgramCase):
     def logo_text(self):
         return self.widget(EDITOR, "text", LOGO_LABEL).text
 
-    def is_named(self, name):
-        """Writes a name over the one in the file dialog; whether all of it has arrived."""
-        self.user.press("ctrl+a")
-        self.user.write(name)
-        try:
-            return wait_until(lambda: self.widget(FILE_CHOICE, "text", "File name:").text == name, name, seconds=3)
-        except Timeout:
-            return False
-
     def choose(self, session, name, key):
-        """Opens the file dialog by its button's key, writes a name, and answers by a key."""
+        """Opens the file dialog by its button's key, fills in a name, and answers by a key."""
         self.user.press("alt+r")
         session.wait_for(FILE_CHOICE)
-        wait_until(lambda: self.is_named(str(name)), f"the name {name}")
+        self.user.fill_in(str(name))
+        wait_until(lambda: self.widget(FILE_CHOICE, "text", "File name:").text == str(name), f"the name {name}")
         self.user.press_until(key, FILE_CHOICE, 0)
         session.wait_for(EDITOR)
 
@@ -85,7 +77,7 @@ class CoverEditing(ProgramCase):
         session = self.open_editor()
         self.user.press("alt+r")
         session.wait_for(FILE_CHOICE)
-        self.user.write(f"{self.pictures}/")
+        self.user.fill_in(str(self.pictures))
         self.user.press("Return")
         shown = wait_until(lambda: self.names_in_the_file_dialog() & {"our logo.bmp", "prices.txt"}, "the folder's files")
         self.assertEqual(shown, {"our logo.bmp"})
