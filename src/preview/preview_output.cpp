@@ -1,6 +1,9 @@
 // The preview window's ways out: paper and PDF.
+#include <QAbstractButton>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QPageRanges>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
@@ -24,6 +27,22 @@ QString FileNameOf(const QString& title) {
   }
   name = name.trimmed();
   return (name.isEmpty() ? QStringLiteral("document") : name) + QStringLiteral(".pdf");
+}
+
+// The dialog refuses every text of its field "Pages" until the printer has the page ranges, which it sets
+// only after that.
+void TakeOverPagesAsTyped(QPrintDialog& dialog, QPrinter& printer) {
+  const auto* pages = dialog.findChild<QLineEdit*>(QStringLiteral("pagesLineEdit"));
+  if (pages == nullptr) return;  // the system's own dialog
+  QObject::connect(pages, &QLineEdit::textChanged, &dialog,
+                   [&printer](const QString& text) { printer.setPageRanges(QPageRanges::fromString(text)); });
+}
+
+// Nor does the dialog hand on the choice between colours and greys.
+void TakeOverColours(const QPrintDialog& dialog, QPrinter& printer) {
+  const auto* greys = dialog.findChild<QAbstractButton*>(QStringLiteral("grayscale"));
+  if (greys == nullptr) return;  // the system's own dialog
+  printer.setColorMode(greys->isChecked() ? QPrinter::GrayScale : QPrinter::Color);
 }
 
 }  // namespace
@@ -55,7 +74,9 @@ void PreviewWindow::Print() {
   dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
                     QAbstractPrintDialog::PrintCollateCopies | QAbstractPrintDialog::PrintCurrentPage);
   dialog.setMinMax(1, std::max(1, count));
+  TakeOverPagesAsTyped(dialog, *printer);
   if (dialog.exec() != QDialog::Accepted) return;
+  TakeOverColours(dialog, *printer);
   if (dialog.printRange() == QAbstractPrintDialog::CurrentPage) {
     printer->setFromTo(view_->CurrentPage() + 1, view_->CurrentPage() + 1);
   }

@@ -1,6 +1,9 @@
 #include "preview/print_system.h"
 
 #include <QLibrary>
+#include <QPrintEngine>
+#include <QPrinter>
+#include <QStringList>
 
 namespace tarvis {
 namespace {
@@ -27,6 +30,24 @@ QString RefusalOfLastJob() {
 void DropJobsOfThisThread() {
   auto* const useServer = ClientFunction<void(const char*)>("cupsSetServer");
   if (useServer != nullptr) useServer("/dev/null");  // nobody listens there
+}
+
+PageSet TakeChoiceOfPages(QPrinter& printer) {
+  // Names and values by turns; the number is the toolkit's for what it hands to this print system.
+  constexpr auto JobOptions = static_cast<QPrintEngine::PrintEnginePropertyKey>(0xfe00);
+  const QStringList given = printer.printEngine()->property(JobOptions).toStringList();
+  QStringList kept;
+  PageSet set = PageSet::All;
+  for (qsizetype i = 0; i + 1 < given.size(); i += 2) {
+    const QString& name = given[i];
+    const QString& value = given[i + 1];
+    if (name == QStringLiteral("page-set"))
+      set = value == QStringLiteral("odd") ? PageSet::Odd : PageSet::Even;
+    else if (name != QStringLiteral("page-ranges"))
+      kept << name << value;
+  }
+  printer.printEngine()->setProperty(JobOptions, kept);
+  return set;
 }
 
 }  // namespace tarvis

@@ -1,7 +1,9 @@
-// What the print system says to a job.
+// What the print system says to a job, and what it is told.
 #pragma once
 
 #include <QString>
+
+class QPrinter;
 
 namespace tarvis {
 
@@ -13,5 +15,13 @@ QString RefusalOfLastJob();
 // From now on nothing that this thread prints reaches the print system: there the toolkit hands over what was
 // painted so far even of a job that was aborted.
 void DropJobsOfThisThread();
+
+// Which pages are printed, by their numbers in the document.
+enum class PageSet { All, Odd, Even };
+
+// Has the print system print all pages that it gets. The toolkit leaves the choice of pages and of a page set
+// in part to it, and it would count the pages that it gets, not the document's. Returns the page set that was
+// chosen.
+PageSet TakeChoiceOfPages(QPrinter& printer);
 
 }  // namespace tarvis

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QPageLayout>
+#include <QPageRanges>
 #include <QPainter>
 #include <QPrinter>
 #include <algorithm>
@@ -49,13 +50,26 @@ QString RefusalBy(const QPrinter& printer) {
   return Text("The printer \"%1\" did not take the document: %2").arg(printer.printerName(), refusal);
 }
 
+bool IsIn(PageSet set, int number) {
+  return set == PageSet::All || (set == PageSet::Odd) == (number % 2 != 0);
+}
+
+std::vector<int> ChosenPages(QPrinter& printer, int pageCount) {
+  const PageSet set = TakeChoiceOfPages(printer);
+  QList<QPageRanges::Range> ranges = printer.pageRanges().toRangeList();
+  if (ranges.isEmpty()) ranges.append({1, pageCount});
+  std::vector<int> pages;
+  for (const QPageRanges::Range& range : ranges) {
+    for (int number = range.from; number <= std::min(range.to, pageCount); ++number)
+      if (IsIn(set, number)) pages.push_back(number - 1);
+  }
+  return pages;
+}
+
 // Pages in the order in which they leave the printer; copies that the printer can't make itself are repeated
 // here.
-std::vector<int> PageOrder(const QPrinter& printer, int pageCount) {
-  const int first = printer.fromPage() > 0 ? printer.fromPage() - 1 : 0;
-  const int last = printer.toPage() > 0 ? std::min(printer.toPage(), pageCount) - 1 : pageCount - 1;
-  std::vector<int> pages;
-  for (int page = first; page <= last; ++page) pages.push_back(page);
+std::vector<int> PageOrder(QPrinter& printer, int pageCount) {
+  std::vector<int> pages = ChosenPages(printer, pageCount);
   if (printer.pageOrder() == QPrinter::LastPageFirst) std::reverse(pages.begin(), pages.end());
   const int copies = printer.supportsMultipleCopies() ? 1 : std::max(1, printer.copyCount());
   std::vector<int> order;
@@ -79,6 +93,9 @@ QSizeF MissingRoom(const Document& document, const QPrinter& printer) {
 
 QString PrintDocument(const Document& document, QPrinter& printer, PrintScale scale,
                       const Progress& progress) {
+  const std::vector<int> order = PageOrder(printer, static_cast<int>(document.Pages.size()));
+  if (order.empty()) return Text("The document has none of the chosen pages.");
+  const int count = static_cast<int>(order.size());
   printer.setFullPage(true);
   QPainter painter;
   if (!painter.begin(&printer)) {
@@ -87,8 +104,6 @@ QString PrintDocument(const Document& document, QPrinter& printer, PrintScale sc
   const double toDevice = printer.resolution() / static_cast<double>(TwipsPerInch);
   const double shrink = scale == PrintScale::FitToPaper ? ScaleToFit(document, printer) : 1.0;
   painter.scale(toDevice * shrink, toDevice * shrink);
-  const std::vector<int> order = PageOrder(printer, static_cast<int>(document.Pages.size()));
-  const int count = static_cast<int>(order.size());
   for (std::size_t index = 0; index < order.size(); ++index) {
     if (!progress(static_cast<int>(index), count)) return Drop(printer);
     if (index > 0 && !printer.newPage())

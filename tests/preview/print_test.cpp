@@ -2,6 +2,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QImage>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPrintDialog>
@@ -42,6 +43,17 @@ class Print : public WindowTest {
     box.selectAll();
     QTest::keyClicks(&box, QString::number(number));
   }
+  // The second page of what the dialog shows on demand.
+  static void OpenOptions(QDialog& dialog) {
+    for (QPushButton* button : dialog.findChildren<QPushButton*>()) {
+      if (button->text().contains(QStringLiteral("Options"))) QTest::mouseClick(button, Qt::LeftButton);
+    }
+    In<QTabWidget>(dialog, "tabs").setCurrentIndex(1);
+  }
+  static void EnterPages(QDialog& dialog, const char* pages) {
+    Choose(dialog, "pagesRadioButton");
+    QTest::keyClicks(&In<QLineEdit>(dialog, "pagesLineEdit"), QString::fromLatin1(pages));
+  }
   static void Confirm(QDialog& dialog) {
     QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok), Qt::LeftButton);
   }
@@ -68,6 +80,14 @@ class Print : public WindowTest {
     for (auto found = foot.globalMatch(PdfText(Path(file))); found.hasNext();)
       numbers.append(found.next().captured(1));
     return numbers;
+  }
+  // Whether any dot of the first page in a file is no grey.
+  bool IsColourful(const char* file) const {
+    RunTool("pdftoppm", {QStringLiteral("-singlefile"), QStringLiteral("-png"), QStringLiteral("-r"),
+                         QStringLiteral("40"), Path(file), Path("page")});
+    const QImage page(Path("page.png"));
+    if (page.isNull()) throw std::runtime_error("no picture of the page");
+    return !page.allGray();
   }
   // Sets the paper in the printer's properties.
   void UsePaper(QPrintDialog& dialog, const std::function<void(QDialog&)>& set) {
@@ -160,6 +180,53 @@ TEST_F(Print, a_page_range_in_two_copies_arrives_at_the_queue) {
   EXPECT_EQ(Asked("job-name"), QStringLiteral("Parameter List"));
 }
 
+TEST_F(Print, pages_and_ranges_of_them_arrive_at_the_queue) {
+  OpenTable(6);
+  PrintWith([](QPrintDialog& dialog) { EnterPages(dialog, "5,1-2"); });
+  TakeJob();
+  EXPECT_EQ(Pages("received.pdf"), QStringList({"1", "2", "5"}));
+  EXPECT_EQ(PdfFact(Path("printed.pdf"), "Pages"), QStringLiteral("3")) << "nobody chooses a second time";
+}
+
+TEST_F(Print, chosen_pages_can_come_last_one_first) {
+  OpenTable(6);
+  PrintWith([](QPrintDialog& dialog) {
+    EnterPages(dialog, "1-2,5");
+    Choose(dialog, "reverse");
+  });
+  TakeJob();
+  EXPECT_EQ(Pages("received.pdf"), QStringList({"5", "2", "1"}));
+}
+
+TEST_F(Print, even_pages_are_those_with_even_numbers) {
+  OpenTable(6);
+  PrintWith([](QPrintDialog& dialog) {
+    EnterPages(dialog, "3-6");
+    Choose(dialog, "reverse");
+    OpenOptions(dialog);
+    In<QComboBox>(dialog, "pageSetCombo").setCurrentText(QStringLiteral("Even Pages"));
+  });
+  TakeJob();
+  EXPECT_EQ(Pages("received.pdf"), QStringList({"6", "4"}));
+  EXPECT_EQ(PdfFact(Path("printed.pdf"), "Pages"), QStringLiteral("2"));
+}
+
+TEST_F(Print, pages_that_were_typed_count_for_nothing_when_all_are_chosen_after_that) {
+  OpenTable(3);
+  PrintWith([](QPrintDialog& dialog) {
+    EnterPages(dialog, "2");
+    Choose(dialog, "printAll");
+  });
+  TakeJob();
+  EXPECT_EQ(Pages("received.pdf"), QStringList({"1", "2", "3"}));
+}
+
+TEST_F(Print, pages_that_are_not_in_the_document_are_told) {
+  OpenTable(3);
+  PrintWith([](QPrintDialog& dialog) { EnterPages(dialog, "7-9"); });
+  EXPECT_EQ(ReadFailure(), QStringLiteral("The document has none of the chosen pages."));
+}
+
 TEST_F(Print, copies_are_collated_unless_told_otherwise) {
   OpenTable(2);
   PrintWith([](QPrintDialog& dialog) {
@@ -197,14 +264,26 @@ TEST_F(Print, the_last_page_can_come_first) {
 TEST_F(Print, both_sides_are_asked_for) {
   OpenTable(2);
   PrintWith([](QPrintDialog& dialog) {
-    for (QPushButton* button : dialog.findChildren<QPushButton*>()) {
-      if (button->text().contains(QStringLiteral("Options"))) QTest::mouseClick(button, Qt::LeftButton);
-    }
-    In<QTabWidget>(dialog, "tabs").setCurrentIndex(1);
+    OpenOptions(dialog);
     Choose(dialog, "duplexLong");
   });
   TakeJob();
   EXPECT_EQ(Asked("sides"), QStringLiteral("two-sided-long-edge"));
+}
+
+TEST_F(Print, colours_arrive_as_greys_if_that_is_chosen) {
+  Open(DocumentBuilder().TablePages(1).Box({1440, 9000, 600, 600}, 0xFF0000).Build());
+  const auto choose = [this](const char* mode) {
+    PrintWith([mode](QPrintDialog& dialog) {
+      OpenOptions(dialog);
+      Choose(dialog, mode);
+    });
+    TakeJob();
+    return IsColourful("received.pdf");
+  };
+  EXPECT_FALSE(choose("grayscale"));
+  Return();
+  EXPECT_TRUE(choose("color"));
 }
 
 TEST_F(Print, the_printers_own_paper_is_used_unless_another_one_is_chosen) {
