@@ -74,6 +74,8 @@ void PreviewWindow::Print() {
   dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
                     QAbstractPrintDialog::PrintCollateCopies | QAbstractPrintDialog::PrintCurrentPage);
   dialog.setMinMax(1, std::max(1, count));
+  dialog.setFromTo(1, std::max(1, count));  // what the range starts from when it is chosen
+  dialog.setPrintRange(QAbstractPrintDialog::AllPages);
   TakeOverPagesAsTyped(dialog, *printer);
   if (dialog.exec() != QDialog::Accepted) return;
   TakeOverColours(dialog, *printer);

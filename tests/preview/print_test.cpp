@@ -180,6 +180,17 @@ TEST_F(Print, a_page_range_in_two_copies_arrives_at_the_queue) {
   EXPECT_EQ(Asked("job-name"), QStringLiteral("Parameter List"));
 }
 
+TEST_F(Print, a_range_starts_with_all_pages) {
+  OpenTable(5);
+  PrintWith([](QPrintDialog& dialog) {
+    EXPECT_TRUE(In<QAbstractButton>(dialog, "printAll").isChecked());
+    Choose(dialog, "printRange");
+    EnterNumber(dialog, "from", 4);
+  });
+  TakeJob();
+  EXPECT_EQ(Pages("received.pdf"), QStringList({"4", "5"}));
+}
+
 TEST_F(Print, pages_and_ranges_of_them_arrive_at_the_queue) {
   OpenTable(6);
   PrintWith([](QPrintDialog& dialog) { EnterPages(dialog, "5,1-2"); });
