@@ -350,6 +350,17 @@ TEST_F(Print, a_server_that_stops_while_printing_is_told_and_the_preview_can_pri
   ExpectPrinting();
 }
 
+TEST_F(Print, a_file_can_be_printed_into) {
+  Open(DocumentBuilder().TablePages(1).Box({1440, 9000, 600, 600}, 0xFF0000).Build());
+  PrintWith([this](QPrintDialog& dialog) {
+    auto& printers = In<QComboBox>(dialog, "printers");
+    printers.setCurrentIndex(printers.count() - 1);
+    In<QLineEdit>(dialog, "filename").setText(Path("printed.pdf"));
+  });
+  EXPECT_EQ(Pages("printed.pdf"), QStringList({"1"}));
+  EXPECT_TRUE(IsColourful("printed.pdf"));
+}
+
 TEST_F(Print, a_file_that_cannot_be_written_is_told) {
   QPrinter printer;
   printer.setOutputFileName(Path("gone/printed.pdf"));
