@@ -1,6 +1,7 @@
 #!/bin/sh
-# Checks layout and habits of the code: ./lint.sh [FILE...], all of src/ if not told. clang-format and clang-tidy must
-# find nothing; what they look at stands in .clang-format and .clang-tidy. Takes many minutes for all files.
+# Checks layout and habits of the code: ./lint.sh [FILE...], all of src/ and tests/ if not told. clang-format and
+# clang-tidy must find nothing; what they look at stands in .clang-format and .clang-tidy. Takes many minutes for all
+# files.
 set -eu
 cd "$(dirname "$0")"
 
@@ -17,5 +18,5 @@ if [ $# -gt 0 ]; then
 fi
 # With this linter the headers of the PDF library are right in the language of their time only.
 of_its_time='preview/pdf_(export|resources)\.cpp'
-lint "^$PWD/src/(?!$of_its_time)"
+lint "^$PWD/(src|tests)/(?!$of_its_time)"
 lint -extra-arg=-std=c++17 "^$PWD/src/$of_its_time"

@@ -58,10 +58,10 @@ class NotingServices : public HostRegistry, public Printers, public ProgramWindo
     return Values[valueName];
   }
   int NDevices() override { return PrinterCount; }
-  void PrintDialog() override { calls_.push_back("no printer"); }
-  void ShowPrintSetting() override { calls_.push_back("dialog"); }
-  void ShowMasterReport() override { calls_.push_back("report"); }
-  void UnloadMasterReport() override { calls_.push_back("unload"); }
+  void PrintDialog() override { calls_.emplace_back("no printer"); }
+  void ShowPrintSetting() override { calls_.emplace_back("dialog"); }
+  void ShowMasterReport() override { calls_.emplace_back("report"); }
+  void UnloadMasterReport() override { calls_.emplace_back("unload"); }
   void SetHelpFile(const std::string& path) override { calls_.push_back("help " + path); }
 
   LaunchServices Services() { return {*this, *this, *this}; }
@@ -210,7 +210,7 @@ TEST_P(Editions, ReadTheirOwnThreeValues) {
   Run.Session.HostEdition = static_cast<std::int16_t>(GetParam().Number);
   LoadSystemPaths(Run, Host);
   const std::string key =
-      "registry SOFTWARE\\Korvane\\Tessaline\\Brenmark\\" + std::string(GetParam().Key) + "\\Setup|";
+      R"(registry SOFTWARE\Korvane\Tessaline\Brenmark\)" + std::string(GetParam().Key) + "\\Setup|";
   EXPECT_THAT(Desktop.Calls,
               testing::UnorderedElementsAre(key + GetParam().BaseFolder, key + GetParam().Version,
                                             key + GetParam().HelpFolder));

@@ -223,7 +223,7 @@ TEST_F(SimFile, StopsAtATwelfthComparisonTime) {
   Run.Session.OverlapNum = 12;
   EXPECT_TRUE(Read(eleven));
   std::vector<std::string> twelve = eleven;
-  twelve.push_back("CmpTime,f,t,c");
+  twelve.emplace_back("CmpTime,f,t,c");
   EXPECT_EQ(Stopped(twelve), "Sim.tmp:12: CmpTime: subscript out of range: '11'");
 }
 

@@ -11,7 +11,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr SwitchDigit NoDigit{"0", "0", "", "", ""};
+const SwitchDigit NoDigit{"0", "0", "", "", ""};
 
 void AddParameter(UserData& user, const std::string& number, const std::string& name = "Speed loop gain") {
   const int index = user.UserNum++;
@@ -19,7 +19,7 @@ void AddParameter(UserData& user, const std::string& number, const std::string& 
   user.Prm[index] = {number, name, "40.0", "40.0", "Hz"};
 }
 
-void AddSwitch(UserData& user, const std::string& number, std::array<SwitchDigit, 4> digits) {
+void AddSwitch(UserData& user, const std::string& number, const std::array<SwitchDigit, 4>& digits) {
   const int index = user.SwitchNum++;
   user.Switches.ResizeKeeping(user.SwitchNum);
   user.Switches[index] = {number, "0011", "0011", "Basic function", digits};

@@ -16,7 +16,7 @@ constexpr float Row = 630 + 515;  // title band, guide whose "Digit Position" ta
 const SwitchDigit NoDigit{"0", "0", "", "", ""};
 
 struct SwitchList : testing::Test {
-  void Add(const std::string& number, std::array<SwitchDigit, 4> digits) {
+  void Add(const std::string& number, const std::array<SwitchDigit, 4>& digits) {
     const int index = User.SwitchNum++;
     User.Switches.ResizeKeeping(User.SwitchNum);
     User.Switches[index] = {number, "0011", "0010", "Basic function", digits};

@@ -228,7 +228,7 @@ TEST_F(ProgramTablePage, ABadRangeHoldsTheUserWhoTurnsTheWheelOverTheFunctionLis
   OpenSettings();
   Click(Find("optRange_2"));
   TypeRange("9", "5");
-  QComboBox& list = Find<QComboBox>("cmbFunc");
+  auto& list = Find<QComboBox>("cmbFunc");
   QWheelEvent wheel(QPointF(5, 5), list.mapToGlobal(QPointF(5, 5)), {}, QPoint(0, -120), Qt::NoButton, {},
                     Qt::NoScrollPhase, false);
   QApplication::sendEvent(&list, &wheel);

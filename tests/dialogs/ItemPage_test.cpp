@@ -73,7 +73,7 @@ TEST_F(ItemPageTest, TheTitleBoxFollowsItsCheckBox) {
 
 TEST_F(ItemPageTest, TypingStoresTheTitleAtEachKey) {
   Open(2, "", "User");
-  LineBox& title = Find<LineBox>("txtTitle", "InfUser");
+  auto& title = Find<LineBox>("txtTitle", "InfUser");
   title.setFocus();
   title.selectAll();
   QTest::keyClicks(&title, "Axis");
@@ -84,7 +84,7 @@ TEST_F(ItemPageTest, TypingStoresTheTitleAtEachKey) {
 
 TEST_F(ItemPageTest, TypingInTheMiddleStaysThereAndCanBeUndone) {
   Open(2, "", "User");
-  LineBox& title = Find<LineBox>("txtTitle", "InfUser");
+  auto& title = Find<LineBox>("txtTitle", "InfUser");
   title.setFocus();
   Key(Qt::Key_Home);
   QTest::keyClicks(&title, "My ");
@@ -123,7 +123,7 @@ TEST_F(ItemPageTest, TheCutTitleIsStoredBeforeTheUserIsTold) {
 TEST_F(ItemPageTest, TwentyOneDoubleByteCharactersAreRefused) {
   Run.Page = CodePage(932);
   Open(2, "", "User");
-  LineBox& title = Find<LineBox>("txtTitle", "InfUser");
+  auto& title = Find<LineBox>("txtTitle", "InfUser");
   title.setFocus();
   title.selectAll();
   QGuiApplication::clipboard()->setText(QString(21, QChar(0x8A66)));
@@ -139,7 +139,7 @@ TEST_F(ItemPageTest, TwentyOneDoubleByteCharactersAreRefused) {
 
 TEST_F(ItemPageTest, APastedTextOfSixtyCharactersStopsAtTheMaximumLength) {
   Open(2, "", "User");
-  LineBox& title = Find<LineBox>("txtTitle", "InfUser");
+  auto& title = Find<LineBox>("txtTitle", "InfUser");
   title.setFocus();
   title.selectAll();
   QGuiApplication::clipboard()->setText(QString(60, 'a'));
@@ -205,7 +205,7 @@ TEST_F(ItemPageTest, APageKeepsItsTabWhileAnotherIsShown) {
 TEST_F(ItemPageTest, AppearingAppliesTheOptionsAndSelectingTheSameEntryAgainDoesNot) {
   Open(2, "", "PrnSetting");
   Run.Options.UserHeader.TitleText = "changed behind the page";
-  QComboBox& list = Find<QComboBox>("cmbFunc");
+  auto& list = Find<QComboBox>("cmbFunc");
   emit list.activated(0);
   EXPECT_EQ(Find<LineBox>("txtTitle", "InfUser").Text(), "Parameters");
   ChooseFunction(4);

@@ -261,7 +261,7 @@ TEST_F(CoverGroup, AnyOtherCoverNumberCountsAsChecked) {
 TEST_F(CoverGroup, TheGridIsReadOnly) {
   Run.Options.Cover = 1;
   Open(2, "", "User");
-  AddresseeGrid& grid = Find<AddresseeGrid>("Spread");
+  auto& grid = Find<AddresseeGrid>("Spread");
   grid.setCurrentCell(0, 1);
   grid.setFocus();
   Key(Qt::Key_F2);
@@ -362,7 +362,7 @@ TEST_F(PrintSettingTest, TheHelpFileIsSetOnlyIfItExists) {
 
 TEST_F(PrintSettingTest, TheWheelLeavesADisabledListAlone) {
   Open(4, "100", "Trace");
-  QComboBox& list = Find<QComboBox>("cmbFunc");
+  auto& list = Find<QComboBox>("cmbFunc");
   QWheelEvent wheel(QPointF(5, 5), list.mapToGlobal(QPointF(5, 5)), {}, QPoint(0, -120), Qt::NoButton, {},
                     Qt::NoScrollPhase, false);
   QApplication::sendEvent(&list, &wheel);

@@ -168,7 +168,7 @@ TEST(Bitmap, WithTheOldestHeaderHasColorsOfThreeBytes) {
   ByteWriter out;
   out.U32(12).U16(2).U16(2).U16(1).U16(8);
   ByteWriter colors;
-  colors.Text("\0\0\xFF\0\xFF\0\xFF\0\0\xFF\xFF\xFF"s).Zeros(252 * 3);
+  colors.Text("\0\0\xFF\0\xFF\0\xFF\0\0\xFF\xFF\xFF"s).Zeros(std::size_t{252} * 3);
   ExpectFourColors(out.Add(colors).Text("\2\3\0\0\0\1\0\0"s).Bytes());
 }
 

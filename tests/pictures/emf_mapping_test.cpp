@@ -189,7 +189,7 @@ TEST(EmfClips, RegionsAddUp) {
 
 TEST(EmfRegions, AreFilledAndFramed) {
   const ByteWriter region = Region({Box32(20, 20, 80, 80)});
-  const std::uint32_t size = static_cast<std::uint32_t>(region.Size());
+  const auto size = static_cast<std::uint32_t>(region.Size());
   EmfWriter emf;
   emf.Brush(RedInk).Brush(BlueInk);
   emf.Add(71, Box32(0, 0, 0, 0).U32(size).U32(1).Add(region));

@@ -34,7 +34,7 @@ class Configuration : public testing::Test {
   FakeDesktop desktop_;
 };
 
-constexpr const char* HostKey = "SOFTWARE\\Korvane\\Tessaline\\Brenmark\\Quillon\\Setup";
+constexpr const char* HostKey = R"(SOFTWARE\Korvane\Tessaline\Brenmark\Quillon\Setup)";
 
 TEST_F(Configuration, ValueIsTakenRawToTheEndOfTheLine) {
   auto registry = Holding(std::string("[") + HostKey + "]\nSystemPath= C:\\host = \"a\";#b \nQuillon=200\n");
@@ -130,7 +130,7 @@ class ConfigurationPlace : public testing::Test {
   // Makes a configuration file below `home` and returns its path.
   std::string MakeFile(const QString& home) {
     QDir(folder_.path()).mkpath(home + "/tarvis");
-    const std::string path = folder_.filePath(home + "/tarvis/tarvis.ini").toStdString();
+    std::string path = folder_.filePath(home + "/tarvis/tarvis.ini").toStdString();
     std::ofstream{path} << "\n";
     return path;
   }

@@ -17,8 +17,7 @@ class Browser : public QObject {
   ~Browser() override { QDesktopServices::unsetUrlHandler("file"); }
   QStringList Opened;
 
- public slots:
-  void Open(const QUrl& url) { Opened.append(url.toString()); }
+  Q_SLOT void Open(const QUrl& url) { Opened.append(url.toString()); }
 };
 
 class Help : public testing::Test {

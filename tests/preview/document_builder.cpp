@@ -9,7 +9,7 @@ namespace tarvis {
 DocumentBuilder::DocumentBuilder(const std::string& title) {
   document_->Title = title;
   for (const char* name : {"first", "second", "third", "fourth", "fifth", "sixth", "seventh", "eighth"}) {
-    document_->Names.push_back(name);
+    document_->Names.emplace_back(name);
   }
 }
 

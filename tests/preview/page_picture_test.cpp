@@ -31,7 +31,7 @@ TEST(PagePicture, a_later_fill_covers_what_lies_below) {
                             .Box({1400, 1400, 6000, 600}, Grey, 0)
                             .Build();
   const QImage page = Screen(*document, 96);
-  for (double x = 1500; x < 4000; x += 15) EXPECT_EQ(PixelAt(page, x, 1700).rgb(), qRgb(0xE0, 0xE0, 0xE0));
+  for (int x = 1500; x < 4000; x += 15) EXPECT_EQ(PixelAt(page, x, 1700).rgb(), qRgb(0xE0, 0xE0, 0xE0));
 }
 
 TEST(PagePicture, text_over_a_fill_is_seen) {
@@ -42,7 +42,7 @@ TEST(PagePicture, text_over_a_fill_is_seen) {
                             .Build();
   const QImage page = Screen(*document, 96);
   int dark = 0;
-  for (double x = 1500; x < 4000; x += 15) dark += PixelAt(page, x, 1700).lightness() < 100;
+  for (int x = 1500; x < 4000; x += 15) dark += PixelAt(page, x, 1700).lightness() < 100;
   EXPECT_GT(dark, 20);
 }
 
@@ -62,7 +62,7 @@ TEST(PagePicture, borders_are_one_sharp_pixel_at_full_size) {
 TEST(PagePicture, pieces_of_a_thin_line_that_meet_are_one_even_line) {
   DocumentBuilder builder;
   builder.Page();
-  for (float top = 1000; top < 4000; top += 283) builder.Line({2000, top, 0, 283});
+  for (int top = 1000; top < 4000; top += 283) builder.Line({2000, static_cast<float>(top), 0, 283});
   builder.Line({2000, 1500, 0, 1500});
   const auto document = builder.Build();
   const int width = 400;  // half size: a line is thinner than a pixel

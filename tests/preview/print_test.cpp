@@ -119,7 +119,7 @@ class Print : public WindowTest {
   QString ReadFailure() {
     const auto box = [this] { return window_->findChild<QMessageBox*>(QStringLiteral("outputFailure")); };
     if (!QTest::qWaitFor([&] { return box() != nullptr && box()->isVisible(); })) return {};
-    const QString text = box()->informativeText();
+    QString text = box()->informativeText();
     QTest::mouseClick(box()->button(QMessageBox::Ok), Qt::LeftButton);
     EXPECT_TRUE(QTest::qWaitFor([&] { return box() == nullptr; }));
     Return();
