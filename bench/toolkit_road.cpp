@@ -8,6 +8,7 @@
 #include <QTextDocument>
 #include <QTextStream>
 #include <QTextTable>
+#include <utility>
 
 #include "document_roads.h"
 
@@ -39,7 +40,7 @@ std::vector<QStringList> ParameterRows(const std::vector<QStringList>& lines) {
 
 class TextDocumentRoad : public DocumentRoad {
  public:
-  explicit TextDocumentRoad(const BenchJob& job) : job_(job) {}
+  explicit TextDocumentRoad(BenchJob job) : job_(std::move(job)) {}
 
   void Read() override { first_ = ReadRows(Path(QString())); }
   void Compose() override {

@@ -16,7 +16,7 @@ void Append(std::vector<std::uint8_t>& bytes, std::initializer_list<std::uint32_
 // The records behind a header of their own, so that they are played whatever they are.
 std::vector<std::uint8_t> AsMetafile(tarvis::Bytes records) {
   constexpr std::uint32_t headSize = 88, plusHeaderSize = 28, plusSignature = 0x2B464D45;
-  const std::uint32_t size = static_cast<std::uint32_t>(records.size() / 4 * 4);
+  const auto size = static_cast<std::uint32_t>(records.size() / 4 * 4);
   const std::uint32_t comment = 16 + plusHeaderSize + size;
   std::vector<std::uint8_t> bytes;
   Append(bytes, {1, headSize, 0, 0, 99, 99, 0, 0, 10000, 10000, 0x464D4520, 0x10000});

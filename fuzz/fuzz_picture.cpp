@@ -9,6 +9,7 @@
 #include "pictures/metafile/glyph_outlines.h"
 #include "printfiles/run_time_failure.h"
 
+// NOLINTNEXTLINE(readability-non-const-parameter): the fuzzing library's own signature
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("QT_LOGGING_RULES", "*=false");
