@@ -41,10 +41,12 @@ PageSet TakeChoiceOfPages(QPrinter& printer) {
   for (qsizetype i = 0; i + 1 < given.size(); i += 2) {
     const QString& name = given[i];
     const QString& value = given[i + 1];
-    if (name == QStringLiteral("page-set"))
-      set = value == QStringLiteral("odd") ? PageSet::Odd : PageSet::Even;
-    else if (name != QStringLiteral("page-ranges"))
+    if (name == QStringLiteral("page-set")) {
+      if (value == QStringLiteral("odd")) set = PageSet::Odd;
+      if (value == QStringLiteral("even")) set = PageSet::Even;
+    } else if (name != QStringLiteral("page-ranges")) {
       kept << name << value;
+    }
   }
   printer.printEngine()->setProperty(JobOptions, kept);
   return set;

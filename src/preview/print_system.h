@@ -16,7 +16,8 @@ QString RefusalOfLastJob();
 // painted so far even of a job that was aborted.
 void DropJobsOfThisThread();
 
-// Which pages are printed, by their numbers in the document.
+// Which of the chosen pages are printed. The first one is counted as 1: so the toolkit tells it to the print
+// system, to which that is the first page.
 enum class PageSet { All, Odd, Even };
 
 // Has the print system print all pages that it gets. The toolkit leaves the choice of pages and of a page set

@@ -50,18 +50,19 @@ QString RefusalBy(const QPrinter& printer) {
   return Text("The printer \"%1\" did not take the document: %2").arg(printer.printerName(), refusal);
 }
 
-bool IsIn(PageSet set, int number) {
-  return set == PageSet::All || (set == PageSet::Odd) == (number % 2 != 0);
+bool IsIn(PageSet set, int count) {
+  return set == PageSet::All || (set == PageSet::Odd) == (count % 2 != 0);
 }
 
 std::vector<int> ChosenPages(QPrinter& printer, int pageCount) {
   const PageSet set = TakeChoiceOfPages(printer);
   QList<QPageRanges::Range> ranges = printer.pageRanges().toRangeList();
   if (ranges.isEmpty()) ranges.append({1, pageCount});
+  const int first = ranges.first().from;
   std::vector<int> pages;
   for (const QPageRanges::Range& range : ranges) {
     for (int number = range.from; number <= std::min(range.to, pageCount); ++number)
-      if (IsIn(set, number)) pages.push_back(number - 1);
+      if (IsIn(set, number - first + 1)) pages.push_back(number - 1);
   }
   return pages;
 }
