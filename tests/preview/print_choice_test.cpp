@@ -118,6 +118,17 @@ TEST_F(Print, the_current_page_alone_can_be_printed) {
   EXPECT_EQ(Pages("received.pdf"), QStringList({"4"}));
 }
 
+TEST_F(Print, the_current_page_is_printed_whether_odd_or_even_pages_were_chosen_before) {
+  OpenTable(5);
+  View().GoTo({3, 0});
+  PrintWith([](QPrintDialog& dialog) {
+    In<QComboBox>(dialog, "pageSetCombo").setCurrentText(QStringLiteral("Even Pages"));
+    Choose(dialog, "printCurrentPage");
+  });
+  TakeJob();
+  EXPECT_EQ(Pages("received.pdf"), QStringList({"4"}));
+}
+
 TEST_F(Print, the_last_page_can_come_first) {
   OpenTable(3);
   PrintWith([](QPrintDialog& dialog) { Choose(dialog, "reverse"); });
