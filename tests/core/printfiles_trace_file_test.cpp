@@ -139,7 +139,7 @@ TEST_F(TraceFile, HoldsTheParameterBlockByItsRules) {
 
 TEST_F(TraceFile, NamesTheLineOfAnUnknownKey) {
   std::vector<std::string> lines(16, "Comment,x");
-  lines.push_back("Cursolselect,1");
+  lines.emplace_back("Cursolselect,1");
   EXPECT_FALSE(Read(lines));
   EXPECT_EQ(Run.Session.Diagnosis, "Trace.tmp:17: unknown key 'Cursolselect'");
 }

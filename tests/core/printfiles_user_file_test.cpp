@@ -190,7 +190,7 @@ TEST_F(UserFile, PutsASurplusValueIntoTheSpareAndStopsAtTheNext) {
   ASSERT_TRUE(Read(oneTooMany));
   EXPECT_EQ(Run.User.Prm[1].Value, "3");
   Lines twoTooMany = oneTooMany;
-  twoTooMany.push_back("UserValue,5,6,w");
+  twoTooMany.emplace_back("UserValue,5,6,w");
   EXPECT_EQ(Stopped(twoTooMany), "User.tmp:5: UserData.Prm: subscript out of range: '2'");
 }
 
@@ -288,7 +288,7 @@ TEST_F(UserFile, FullOfCountLinesIsReadLikeAnyOther) {
   Lines lines;
   for (int line = 0; line < 16384; ++line) {
     lines.push_back("SwitchNum," + std::string(line % 2 == 0 ? "32767" : "16384"));
-    lines.push_back("Switch3,0,1,,,x");
+    lines.emplace_back("Switch3,0,1,,,x");
   }
   ASSERT_TRUE(Read(lines));
   EXPECT_EQ(Run.User.Switches.HighestIndex(), 16384);

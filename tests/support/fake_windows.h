@@ -10,9 +10,9 @@ namespace tarvis {
 
 class FakeWindows : public ProgramWindows {
  public:
-  void ShowPrintSetting() override { Calls.push_back("dialog"); }
-  void ShowMasterReport() override { Calls.push_back("preview"); }
-  void UnloadMasterReport() override { Calls.push_back("unload"); }
+  void ShowPrintSetting() override { Calls.emplace_back("dialog"); }
+  void ShowMasterReport() override { Calls.emplace_back("preview"); }
+  void UnloadMasterReport() override { Calls.emplace_back("unload"); }
   void SetHelpFile(const std::string& path) override { Calls.push_back("help:" + path); }
 
   std::vector<std::string> Calls;

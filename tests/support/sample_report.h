@@ -37,11 +37,11 @@ class SampleReport : public ActiveReport {
   }
 
   void ActiveReport_ReportStart() override {
-    Log.push_back("start");
+    Log.emplace_back("start");
     if (Start) Start();
   }
   void ActiveReport_FetchData(bool& endOfData) override {
-    Log.push_back("fetch");
+    Log.emplace_back("fetch");
     if (Fetch) {
       endOfData = false;
       Fetch(endOfData);
@@ -49,7 +49,7 @@ class SampleReport : public ActiveReport {
       ActiveReport::ActiveReport_FetchData(endOfData);
     }
   }
-  void ActiveReport_ReportEnd() override { Log.push_back("end"); }
+  void ActiveReport_ReportEnd() override { Log.emplace_back("end"); }
   // Writes the section's three events to the log.
   void Watch(Section& section) {
     const std::string name = section.Name;
