@@ -25,8 +25,13 @@ if [ $# -gt 0 ]; then
     case $file in
       bench/*) lint release "$file" ;;
       fuzz/*) lint fuzz "$file" ;;
-      src/preview/pdf_export.cpp | src/preview/pdf_resources.cpp) lint dev-asan "$file" "$in_its_language" ;;
-      *) lint dev-asan "$file" ;;
+      *)
+        if echo "$file" | grep -Eq "$of_its_time"; then
+          lint dev-asan "$file" "$in_its_language"
+        else
+          lint dev-asan "$file"
+        fi
+        ;;
     esac
   done
   exit

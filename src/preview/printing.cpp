@@ -54,8 +54,7 @@ bool IsIn(PageSet set, int count) {
   return set == PageSet::All || (set == PageSet::Odd) == (count % 2 != 0);
 }
 
-std::vector<int> ChosenPages(QPrinter& printer, int pageCount) {
-  const PageSet set = TakeChoiceOfPages(printer);
+std::vector<int> ChosenPages(const QPrinter& printer, PageSet set, int pageCount) {
   QList<QPageRanges::Range> ranges = printer.pageRanges().toRangeList();
   if (ranges.isEmpty()) ranges.append({1, pageCount});
   const int first = ranges.first().from;
@@ -69,8 +68,8 @@ std::vector<int> ChosenPages(QPrinter& printer, int pageCount) {
 
 // Pages in the order in which they leave the printer; copies that the printer can't make itself are repeated
 // here.
-std::vector<int> PageOrder(QPrinter& printer, int pageCount) {
-  std::vector<int> pages = ChosenPages(printer, pageCount);
+std::vector<int> PageOrder(const QPrinter& printer, PageSet set, int pageCount) {
+  std::vector<int> pages = ChosenPages(printer, set, pageCount);
   if (printer.pageOrder() == QPrinter::LastPageFirst) std::reverse(pages.begin(), pages.end());
   const int copies = printer.supportsMultipleCopies() ? 1 : std::max(1, printer.copyCount());
   std::vector<int> order;
@@ -94,7 +93,8 @@ QSizeF MissingRoom(const Document& document, const QPrinter& printer) {
 
 QString PrintDocument(const Document& document, QPrinter& printer, PrintScale scale,
                       const Progress& progress) {
-  const std::vector<int> order = PageOrder(printer, static_cast<int>(document.Pages.size()));
+  const PageSet set = TakeChoiceOfPages(printer);
+  const std::vector<int> order = PageOrder(printer, set, static_cast<int>(document.Pages.size()));
   if (order.empty()) return Text("The document has none of the chosen pages.");
   const int count = static_cast<int>(order.size());
   printer.setFullPage(true);

@@ -8,14 +8,13 @@ namespace {
 
 TEST_F(Print, a_page_range_in_two_copies_arrives_at_the_queue) {
   OpenTable(5);
-  PrintWith([](QPrintDialog& dialog) {
-    Choose(dialog, "printRange");
-    EnterNumber(dialog, "from", 2);
-    EnterNumber(dialog, "to", 3);
-    EnterNumber(dialog, "copies", 2);
-  });
-  TakeJob();
-  EXPECT_EQ(Pages("received.pdf"), QStringList({"2", "3"}));
+  EXPECT_EQ(PagesPrintedWith([](QPrintDialog& dialog) {
+              Choose(dialog, "printRange");
+              EnterNumber(dialog, "from", 2);
+              EnterNumber(dialog, "to", 3);
+              EnterNumber(dialog, "copies", 2);
+            }),
+            QStringList({"2", "3"}));
   EXPECT_EQ(Asked("copies"), QStringLiteral("2"));
   EXPECT_EQ(PdfFact(Path("printed.pdf"), "Pages"), QStringLiteral("4"));
   EXPECT_EQ(Asked("job-name"), QStringLiteral("Parameter List"));
@@ -23,31 +22,28 @@ TEST_F(Print, a_page_range_in_two_copies_arrives_at_the_queue) {
 
 TEST_F(Print, a_range_starts_with_all_pages) {
   OpenTable(5);
-  PrintWith([](QPrintDialog& dialog) {
-    EXPECT_TRUE(In<QAbstractButton>(dialog, "printAll").isChecked());
-    Choose(dialog, "printRange");
-    EnterNumber(dialog, "from", 4);
-  });
-  TakeJob();
-  EXPECT_EQ(Pages("received.pdf"), QStringList({"4", "5"}));
+  EXPECT_EQ(PagesPrintedWith([](QPrintDialog& dialog) {
+              EXPECT_TRUE(In<QAbstractButton>(dialog, "printAll").isChecked());
+              Choose(dialog, "printRange");
+              EnterNumber(dialog, "from", 4);
+            }),
+            QStringList({"4", "5"}));
 }
 
 TEST_F(Print, pages_and_ranges_of_them_arrive_at_the_queue) {
   OpenTable(6);
-  PrintWith([](QPrintDialog& dialog) { EnterPages(dialog, "5,1-2"); });
-  TakeJob();
-  EXPECT_EQ(Pages("received.pdf"), QStringList({"1", "2", "5"}));
+  EXPECT_EQ(PagesPrintedWith([](QPrintDialog& dialog) { EnterPages(dialog, "5,1-2"); }),
+            QStringList({"1", "2", "5"}));
   EXPECT_EQ(PdfFact(Path("printed.pdf"), "Pages"), QStringLiteral("3")) << "nobody chooses a second time";
 }
 
 TEST_F(Print, chosen_pages_can_come_last_one_first) {
   OpenTable(6);
-  PrintWith([](QPrintDialog& dialog) {
-    EnterPages(dialog, "1-2,5");
-    Choose(dialog, "reverse");
-  });
-  TakeJob();
-  EXPECT_EQ(Pages("received.pdf"), QStringList({"5", "2", "1"}));
+  EXPECT_EQ(PagesPrintedWith([](QPrintDialog& dialog) {
+              EnterPages(dialog, "1-2,5");
+              Choose(dialog, "reverse");
+            }),
+            QStringList({"5", "2", "1"}));
 }
 
 TEST_F(Print, odd_and_even_pages_go_by_their_numbers) {
@@ -58,31 +54,25 @@ TEST_F(Print, odd_and_even_pages_go_by_their_numbers) {
       In<QComboBox>(dialog, "pageSetCombo").setCurrentText(QString::fromLatin1(set));
     };
   };
-  PrintWith(choose("2,4-5", "Even Pages"));
-  TakeJob();
-  EXPECT_EQ(Pages("received.pdf"), QStringList({"2", "4"}));
+  EXPECT_EQ(PagesPrintedWith(choose("2,4-5", "Even Pages")), QStringList({"2", "4"}));
   EXPECT_EQ(PdfFact(Path("printed.pdf"), "Pages"), QStringLiteral("2")) << "nobody chooses a second time";
   Return();
-  PrintWith(choose("2-3,5", "Odd Pages"));
-  TakeJob();
-  EXPECT_EQ(Pages("received.pdf"), QStringList({"3", "5"}));
+  EXPECT_EQ(PagesPrintedWith(choose("2-3,5", "Odd Pages")), QStringList({"3", "5"}));
   Return();
-  PrintWith([](QPrintDialog& dialog) {
-    Choose(dialog, "reverse");
-    In<QComboBox>(dialog, "pageSetCombo").setCurrentText(QStringLiteral("Even Pages"));
-  });
-  TakeJob();
-  EXPECT_EQ(Pages("received.pdf"), QStringList({"6", "4", "2"}));
+  EXPECT_EQ(PagesPrintedWith([](QPrintDialog& dialog) {
+              Choose(dialog, "reverse");
+              In<QComboBox>(dialog, "pageSetCombo").setCurrentText(QStringLiteral("Even Pages"));
+            }),
+            QStringList({"6", "4", "2"}));
 }
 
 TEST_F(Print, pages_that_were_typed_count_for_nothing_when_all_are_chosen_after_that) {
   OpenTable(3);
-  PrintWith([](QPrintDialog& dialog) {
-    EnterPages(dialog, "2");
-    Choose(dialog, "printAll");
-  });
-  TakeJob();
-  EXPECT_EQ(Pages("received.pdf"), QStringList({"1", "2", "3"}));
+  EXPECT_EQ(PagesPrintedWith([](QPrintDialog& dialog) {
+              EnterPages(dialog, "2");
+              Choose(dialog, "printAll");
+            }),
+            QStringList({"1", "2", "3"}));
 }
 
 TEST_F(Print, pages_that_are_not_in_the_document_are_told) {
@@ -113,27 +103,24 @@ TEST_F(Print, copies_are_collated_unless_told_otherwise) {
 TEST_F(Print, the_current_page_alone_can_be_printed) {
   OpenTable(5);
   View().GoTo({3, 0});
-  PrintWith([](QPrintDialog& dialog) { Choose(dialog, "printCurrentPage"); });
-  TakeJob();
-  EXPECT_EQ(Pages("received.pdf"), QStringList({"4"}));
+  EXPECT_EQ(PagesPrintedWith([](QPrintDialog& dialog) { Choose(dialog, "printCurrentPage"); }),
+            QStringList({"4"}));
 }
 
 TEST_F(Print, the_current_page_is_printed_whether_odd_or_even_pages_were_chosen_before) {
   OpenTable(5);
   View().GoTo({3, 0});
-  PrintWith([](QPrintDialog& dialog) {
-    In<QComboBox>(dialog, "pageSetCombo").setCurrentText(QStringLiteral("Even Pages"));
-    Choose(dialog, "printCurrentPage");
-  });
-  TakeJob();
-  EXPECT_EQ(Pages("received.pdf"), QStringList({"4"}));
+  EXPECT_EQ(PagesPrintedWith([](QPrintDialog& dialog) {
+              In<QComboBox>(dialog, "pageSetCombo").setCurrentText(QStringLiteral("Even Pages"));
+              Choose(dialog, "printCurrentPage");
+            }),
+            QStringList({"4"}));
 }
 
 TEST_F(Print, the_last_page_can_come_first) {
   OpenTable(3);
-  PrintWith([](QPrintDialog& dialog) { Choose(dialog, "reverse"); });
-  TakeJob();
-  EXPECT_EQ(Pages("received.pdf"), QStringList({"3", "2", "1"}));
+  EXPECT_EQ(PagesPrintedWith([](QPrintDialog& dialog) { Choose(dialog, "reverse"); }),
+            QStringList({"3", "2", "1"}));
 }
 
 TEST_F(Print, both_sides_are_asked_for) {

@@ -85,6 +85,12 @@ class Print : public WindowTest {
     if (page.isNull()) throw std::runtime_error("no picture of the page");
     return !page.allGray();
   }
+  // The numbers of the pages that arrive when this is set in the dialog.
+  QStringList PagesPrintedWith(const std::function<void(QPrintDialog&)>& set) {
+    PrintWith(set);
+    TakeJob();
+    return Pages("received.pdf");
+  }
   // Sets the paper in the printer's properties.
   void UsePaper(QPrintDialog& dialog, const std::function<void(QDialog&)>& set) {
     OnDialog<QDialog>([&](QDialog& properties) {

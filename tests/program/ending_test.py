@@ -20,13 +20,17 @@ class Signals(ProgramCase):
         session.wait_for(DIALOG)
         return session
 
+    def end(self, session, wish=signal.SIGTERM, status=0, left=()):
+        """Asks the program to end and expects it to, with no file left but these."""
+        session.process.send_signal(wish)
+        self.expect_end(session.process, status)
+        self.assertEqual(self.files_left(), [*left])
+
     def test_end_the_dialog_as_cancel_does(self):
         for wish in (signal.SIGTERM, signal.SIGHUP, signal.SIGINT):
             with self.subTest(wish=wish.name):
                 session = self.start_dialog()
-                session.process.send_signal(wish)
-                self.expect_end(session.process)
-                self.assertEqual(self.files_left(), [])
+                self.end(session, wish)
                 self.assertFalse(self.host.options_file.exists())
                 self.assertEqual(self.standard_error(), "")
 
@@ -34,9 +38,7 @@ class Signals(ProgramCase):
         session = self.start_dialog()
         session.confirm_dialog()
         written = self.host.options_file.read_bytes()
-        session.process.send_signal(signal.SIGTERM)
-        self.expect_end(session.process)
-        self.assertEqual(self.files_left(), [])
+        self.end(session)
         self.assertEqual(self.host.options_file.read_bytes(), written)
 
     def test_end_a_window_above_another(self):
@@ -44,25 +46,19 @@ class Signals(ProgramCase):
         session.confirm_dialog()
         self.user.press("ctrl+s")
         session.wait_for("Save as PDF")
-        session.process.send_signal(signal.SIGTERM)
-        self.expect_end(session.process)
-        self.assertEqual(self.files_left(), [])
+        self.end(session)
 
     def test_end_a_numbered_failure_as_its_answer_does(self):
         self.host.write_data("User")
         session = self.start("user", edition=1)
         session.wait_for("Printing Error")
-        session.process.send_signal(signal.SIGTERM)
-        self.expect_end(session.process)
-        self.assertEqual(self.files_left(), [])
+        self.end(session)
 
     def test_end_a_run_time_failure_as_its_answer_does(self):
         self.host.write_data("User")
         session = self.start(None, arguments=["User"])
         session.wait_for("Run-time error")
-        session.process.send_signal(signal.SIGTERM)
-        self.expect_end(session.process, 1)
-        self.assertEqual(self.files_left(), ["User.tmp"])
+        self.end(session, status=1, left=["User.tmp"])
 
     def test_that_the_caller_told_to_ignore_are_ignored(self):
         session = self.start_dialog(through=("sh", "-c", 'trap "" HUP; exec "$@"', "sh"))
@@ -79,9 +75,7 @@ class Signals(ProgramCase):
         session = self.start("User")
         session.confirm_dialog()
         session.ask_for_pdf(target / "document.pdf")
-        session.process.send_signal(signal.SIGTERM)
-        self.expect_end(session.process)
-        self.assertEqual(self.files_left(), [])
+        self.end(session)
         for path in target.iterdir():  # it may have been in time
             self.assertEqual(path.name, "document.pdf")
             self.assertGreater(page_count(path), 100)

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 
 #include "pictures/metafile/emf_plus_objects.h"
@@ -75,45 +76,23 @@ PlusBrush PathGradientBrush(ByteReader& r) {
   return {ListBrush{QBrush(gradient->Around[0])}, gradient};
 }
 
-// Lines of a hatch: how far apart and how wide, in dots.
-struct HatchForm {
+// A hatch of lines: how far apart and how wide they are, in dots.
+struct LineHatch {
+  std::uint32_t Number;
   Qt::BrushStyle Style;
   double Step = 8;
   double Line = 1;
 };
 
-// By number; those without a style aren't lines.
-constexpr HatchForm LineHatches[] = {
-    {Qt::HorPattern},
-    {Qt::VerPattern},
-    {Qt::FDiagPattern},
-    {Qt::BDiagPattern},
-    {Qt::CrossPattern},
-    {Qt::DiagCrossPattern},
-    {Qt::NoBrush},
-    {Qt::NoBrush},
-    {Qt::NoBrush},
-    {Qt::NoBrush},
-    {Qt::NoBrush},
-    {Qt::NoBrush},
-    {Qt::NoBrush},
-    {Qt::NoBrush},
-    {Qt::NoBrush},
-    {Qt::NoBrush},
-    {Qt::NoBrush},
-    {Qt::NoBrush},
-    {Qt::FDiagPattern, 4, 1},
-    {Qt::BDiagPattern, 4, 1},
-    {Qt::FDiagPattern, 4, 2},
-    {Qt::BDiagPattern, 4, 2},
-    {Qt::FDiagPattern, 8, 3},
-    {Qt::BDiagPattern, 8, 3},
-    {Qt::VerPattern, 4, 1},
-    {Qt::HorPattern, 4, 1},
-    {Qt::VerPattern, 2, 1},
-    {Qt::HorPattern, 2, 1},
-    {Qt::VerPattern, 4, 2},
-    {Qt::HorPattern, 4, 2},
+constexpr LineHatch LineHatches[] = {
+    {0, Qt::HorPattern},          {1, Qt::VerPattern},          {2, Qt::FDiagPattern},
+    {3, Qt::BDiagPattern},        {4, Qt::CrossPattern},        {5, Qt::DiagCrossPattern},
+    {18, Qt::FDiagPattern, 4, 1}, {19, Qt::BDiagPattern, 4, 1}, {20, Qt::FDiagPattern, 4, 2},
+    {21, Qt::BDiagPattern, 4, 2}, {22, Qt::FDiagPattern, 8, 3}, {23, Qt::BDiagPattern, 8, 3},
+    {24, Qt::VerPattern, 4, 1},   {25, Qt::HorPattern, 4, 1},   {26, Qt::VerPattern, 2, 1},
+    {27, Qt::HorPattern, 2, 1},   {28, Qt::VerPattern, 4, 2},   {29, Qt::HorPattern, 4, 2},
+    {48, Qt::CrossPattern, 4, 1},  // the small grid
+    {51, Qt::DiagCrossPattern},    // outlined diamonds
 };
 
 // How much of a fine pattern is ink, in percent; the eye sees an even mixture. 0: not known.
@@ -125,19 +104,15 @@ int InkOf(std::uint32_t hatch) {
 }
 
 PlusBrush HatchBrush(ByteReader& r) {
-  constexpr std::uint32_t smallGrid = 48, outlinedDiamonds = 51;
   const std::uint32_t hatch = r.U32();
   const QColor lines = PlusColor(r.U32());
   const QColor behind = PlusColor(r.U32());
-  HatchForm form{Qt::NoBrush};
-  if (hatch < std::size(LineHatches)) form = LineHatches[hatch];
-  if (hatch == smallGrid) form = {Qt::CrossPattern, 4, 1};
-  if (hatch == outlinedDiamonds) form = {Qt::DiagCrossPattern};
-  if (form.Style != Qt::NoBrush)
-    return {{.Brush = QBrush(lines, form.Style),
+  const auto* const form = std::ranges::find(LineHatches, hatch, &LineHatch::Number);
+  if (form != std::end(LineHatches))
+    return {{.Brush = QBrush(lines, form->Style),
              .Behind = behind,
-             .HatchStep = form.Step,
-             .HatchLine = form.Line},
+             .HatchStep = form->Step,
+             .HatchLine = form->Line},
             nullptr};
   const int part = InkOf(hatch);
   if (part == 0) throw SkipRecord();
