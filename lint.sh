@@ -17,7 +17,7 @@ tools/install_packages
 git ls-files '*.h' '*.cpp' | xargs clang-format --dry-run -Werror
 
 # With this linter the headers of the PDF library are right in the language of their time only.
-of_its_time='preview/pdf_(export|resources)\.cpp'
+of_its_time='preview/output/pdf_(export|resources)\.cpp'
 in_its_language='-extra-arg=-std=c++17'
 
 if [ $# -gt 0 ]; then

@@ -4,7 +4,7 @@
 #include <array>
 #include <string>
 
-#include "printfiles/user_data.h"
+#include "run/user_data.h"
 
 namespace tarvis {
 

@@ -6,7 +6,7 @@
 #include <QImage>
 #include <QPainter>
 
-#include "pictures/metafile/glyph_outlines.h"
+#include "pictures/metafile/fonts/glyph_outlines.h"
 #include "pictures/paintable_picture.h"
 #include "pictures/picture_file_loader.h"
 

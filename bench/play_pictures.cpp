@@ -14,10 +14,10 @@
 #include <ctime>
 
 #include "memory.h"
-#include "pictures/metafile/glyph_outlines.h"
-#include "pictures/metafile/metafile_picture.h"
+#include "pictures/metafile/fonts/glyph_outlines.h"
+#include "pictures/metafile/list/metafile_picture.h"
 #include "pictures/picture_file_loader.h"
-#include "printfiles/run_time_failure.h"
+#include "text/run_time_failure.h"
 
 namespace tarvis {
 namespace {

@@ -12,11 +12,11 @@
 
 #include "memory.h"
 #include "preview/document_builder.h"
-#include "preview/page_view.h"
-#include "preview/painter_canvas.h"
-#include "preview/pdf_export.h"
-#include "preview/preview_window.h"
-#include "preview/text_search.h"
+#include "preview/output/pdf_export.h"
+#include "preview/pages/page_view.h"
+#include "preview/paint/painter_canvas.h"
+#include "preview/text/text_search.h"
+#include "preview/window/preview_window.h"
 
 namespace tarvis {
 namespace {

@@ -4,7 +4,6 @@
 
 #include <string>
 
-#include "launch/print_run.h"
 #include "printfiles/host_files.h"
 #include "printfiles/idx_tbl_file.h"
 #include "printfiles/jog_tbl_file.h"
@@ -16,6 +15,7 @@
 #include "printfiles/upwizard_file.h"
 #include "printfiles/user_file.h"
 #include "printfiles/zone_tbl_file.h"
+#include "run/print_run.h"
 #include "support/fake_desktop.h"
 
 namespace tarvis {

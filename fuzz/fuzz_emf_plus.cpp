@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "fuzz_picture.h"
-#include "pictures/metafile/metafile_picture.h"
+#include "pictures/metafile/list/metafile_picture.h"
 
 namespace {
 

@@ -5,9 +5,9 @@
 #include <QPainter>
 
 #include "pictures/dib_header.h"
-#include "pictures/metafile/draw_list.h"
-#include "pictures/metafile/glyph_outlines.h"
-#include "printfiles/run_time_failure.h"
+#include "pictures/metafile/fonts/glyph_outlines.h"
+#include "pictures/metafile/list/draw_list.h"
+#include "text/run_time_failure.h"
 
 // NOLINTNEXTLINE(readability-non-const-parameter): the fuzzing library's own signature
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {

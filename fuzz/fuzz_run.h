@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "launch/print_run.h"
+#include "run/print_run.h"
 
 namespace tarvis {
 

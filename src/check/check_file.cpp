@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "check/contents.h"
-#include "launch/print_run.h"
 #include "printfiles/host_files.h"
 #include "printfiles/idx_tbl_file.h"
 #include "printfiles/jog_tbl_file.h"
@@ -18,6 +17,7 @@
 #include "printfiles/upwizard_file.h"
 #include "printfiles/user_file.h"
 #include "printfiles/zone_tbl_file.h"
+#include "run/print_run.h"
 
 namespace tarvis {
 namespace {

@@ -4,9 +4,9 @@
 #include <initializer_list>
 #include <string_view>
 
-#include "launch/print_run.h"
-#include "printfiles/excerpt.h"
-#include "printfiles/text.h"
+#include "run/print_run.h"
+#include "text/excerpt.h"
+#include "text/text.h"
 
 namespace tarvis {
 namespace {

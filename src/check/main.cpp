@@ -3,8 +3,8 @@
 #include <iostream>
 
 #include "check/check_file.h"
-#include "printfiles/numbers.h"
-#include "printfiles/run_time_failure.h"
+#include "text/numbers.h"
+#include "text/run_time_failure.h"
 
 namespace {
 

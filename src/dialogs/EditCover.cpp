@@ -3,12 +3,12 @@
 #include <array>
 #include <utility>
 
-#include "dialogs/focus_guard.h"
-#include "dialogs/help_context.h"
-#include "dialogs/input_limits.h"
-#include "dialogs/memo_box.h"
-#include "dialogs/path_box.h"
-#include "launch/print_run.h"
+#include "dialogs/controls/focus_guard.h"
+#include "dialogs/controls/help_context.h"
+#include "dialogs/controls/input_limits.h"
+#include "dialogs/controls/memo_box.h"
+#include "dialogs/controls/path_box.h"
+#include "run/print_run.h"
 
 namespace tarvis {
 

@@ -5,11 +5,11 @@
 #include <string>
 #include <vector>
 
-#include "dialogs/controls.h"
-#include "dialogs/file_choice.h"
-#include "dialogs/logo_preview.h"
-#include "dialogs/tab_control.h"
-#include "dialogs/text_box.h"
+#include "dialogs/controls/controls.h"
+#include "dialogs/controls/file_choice.h"
+#include "dialogs/controls/logo_preview.h"
+#include "dialogs/controls/tab_control.h"
+#include "dialogs/controls/text_box.h"
 
 namespace tarvis {
 

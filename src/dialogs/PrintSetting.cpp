@@ -5,18 +5,19 @@
 #include <utility>
 
 #include "dialogs/EditCover.h"
-#include "dialogs/InfIdxTbl.h"
-#include "dialogs/data_file_scan.h"
-#include "dialogs/focus_guard.h"
-#include "dialogs/help_context.h"
-#include "dialogs/item_pages.h"
-#include "launch/failures.h"
-#include "launch/print_run.h"
-#include "printfiles/date_text.h"
+#include "dialogs/controls/focus_guard.h"
+#include "dialogs/controls/help_context.h"
+#include "dialogs/pages/InfIdxTbl.h"
+#include "dialogs/pages/item_pages.h"
+#include "printfiles/data_file_scan.h"
 #include "printfiles/host_files.h"
-#include "printfiles/numbers.h"
 #include "printfiles/print_options_file.h"
-#include "printfiles/text.h"
+#include "run/failures.h"
+#include "run/print_run.h"
+#include "text/date_text.h"
+#include "text/native_path.h"
+#include "text/numbers.h"
+#include "text/text.h"
 
 namespace tarvis {
 

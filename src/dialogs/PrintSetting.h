@@ -11,10 +11,10 @@
 #include <string>
 #include <vector>
 
-#include "dialogs/ItemPage.h"
-#include "dialogs/addressee_grid.h"
-#include "dialogs/controls.h"
-#include "dialogs/function_list.h"
+#include "dialogs/controls/addressee_grid.h"
+#include "dialogs/controls/controls.h"
+#include "dialogs/pages/ItemPage.h"
+#include "dialogs/pages/function_list.h"
 
 namespace tarvis {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "printfiles/checked_array.h"
+#include "text/checked_array.h"
 
 namespace tarvis {
 

@@ -1,11 +1,11 @@
 #include "launch/launch.h"
 
 #include "launch/command_line.h"
-#include "launch/failures.h"
 #include "launch/load_print_options.h"
-#include "launch/print_run.h"
 #include "launch/system_paths.h"
-#include "printfiles/numbers.h"
+#include "run/failures.h"
+#include "run/print_run.h"
+#include "text/numbers.h"
 
 namespace tarvis {
 namespace {

@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "launch/desktop.h"
+#include "run/desktop.h"
 
 namespace tarvis {
 

@@ -2,10 +2,11 @@
 
 #include <string>
 
-#include "launch/failures.h"
-#include "launch/print_run.h"
 #include "printfiles/host_files.h"
 #include "printfiles/print_options_file.h"
+#include "run/failures.h"
+#include "run/print_run.h"
+#include "text/native_path.h"
 
 namespace tarvis {
 namespace {

@@ -5,9 +5,9 @@
 #include <cstdint>
 #include <string>
 
-#include "launch/failures.h"
-#include "launch/print_run.h"
-#include "printfiles/text.h"
+#include "run/failures.h"
+#include "run/print_run.h"
+#include "text/text.h"
 
 namespace tarvis {
 namespace {

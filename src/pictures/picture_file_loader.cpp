@@ -3,10 +3,10 @@
 #include <QFile>
 
 #include "pictures/image_picture.h"
-#include "pictures/metafile/glyph_outlines.h"
-#include "pictures/metafile/metafile_picture.h"
-#include "printfiles/host_files.h"
-#include "printfiles/run_time_failure.h"
+#include "pictures/metafile/fonts/glyph_outlines.h"
+#include "pictures/metafile/list/metafile_picture.h"
+#include "text/native_path.h"
+#include "text/run_time_failure.h"
 
 namespace tarvis {
 namespace {

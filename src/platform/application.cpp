@@ -4,8 +4,8 @@
 #include <exception>
 #include <string>
 
-#include "launch/failures.h"
 #include "platform/start_watch.h"
+#include "run/failures.h"
 
 namespace tarvis {
 namespace {

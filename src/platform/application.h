@@ -7,7 +7,7 @@
 #include <functional>
 #include <memory>
 
-#include "launch/desktop.h"
+#include "run/desktop.h"
 
 namespace tarvis {
 

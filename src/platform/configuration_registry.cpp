@@ -8,7 +8,7 @@
 #include <istream>
 #include <system_error>
 
-#include "printfiles/run_time_failure.h"
+#include "text/run_time_failure.h"
 
 namespace tarvis {
 namespace {

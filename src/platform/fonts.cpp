@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <array>
 
-#include "launch/failures.h"
+#include "run/failures.h"
 
 namespace tarvis {
 namespace {

@@ -1,7 +1,7 @@
 // The fonts that pages need.
 #pragma once
 
-#include "launch/desktop.h"
+#include "run/desktop.h"
 
 namespace tarvis {
 

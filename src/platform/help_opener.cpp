@@ -5,8 +5,8 @@
 #include <QKeyEvent>
 #include <QUrl>
 
-#include "dialogs/help_context.h"
-#include "printfiles/host_files.h"
+#include "dialogs/controls/help_context.h"
+#include "text/native_path.h"
 
 namespace tarvis {
 

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "launch/desktop.h"
+#include "run/desktop.h"
 
 namespace tarvis {
 

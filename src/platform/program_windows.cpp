@@ -4,12 +4,12 @@
 
 #include "dialogs/PrintSetting.h"
 #include "functions/catalog.h"
-#include "launch/print_run.h"
 #include "platform/paper.h"
 #include "platform/text_measurer.h"
-#include "preview/preview_window.h"
+#include "preview/window/preview_window.h"
 #include "report/engine/composer.h"
 #include "report/rptTarvis.h"
+#include "run/print_run.h"
 
 namespace tarvis {
 namespace {

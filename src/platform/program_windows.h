@@ -4,9 +4,9 @@
 #include <QObject>
 #include <memory>
 
-#include "launch/desktop.h"
 #include "pictures/picture_file_loader.h"
 #include "platform/help_opener.h"
+#include "run/desktop.h"
 
 namespace tarvis {
 

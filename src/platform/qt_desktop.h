@@ -1,7 +1,7 @@
 // The real desktop: message boxes, the system beep, standard error, and the end of the process.
 #pragma once
 
-#include "launch/desktop.h"
+#include "run/desktop.h"
 
 namespace tarvis {
 

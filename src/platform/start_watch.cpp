@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "launch/failures.h"
+#include "run/failures.h"
 
 namespace tarvis {
 namespace {

@@ -3,7 +3,7 @@
 
 #include <QtGlobal>
 
-#include "launch/desktop.h"
+#include "run/desktop.h"
 
 namespace tarvis {
 

@@ -1,7 +1,7 @@
 // The printers that the system knows.
 #pragma once
 
-#include "launch/desktop.h"
+#include "run/desktop.h"
 
 namespace tarvis {
 

@@ -1,6 +1,6 @@
 #include "platform/text_measurer.h"
 
-#include "preview/report_font.h"
+#include "preview/paint/report_font.h"
 
 namespace tarvis {
 

@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "printfiles/checked_array.h"
 #include "printfiles/key_table.h"
+#include "text/checked_array.h"
 
 namespace tarvis {
 

@@ -3,9 +3,9 @@
 
 #include <cstdint>
 
-#include "printfiles/file_header.h"
 #include "printfiles/key_table.h"
-#include "printfiles/user_data.h"
+#include "run/file_header.h"
+#include "run/user_data.h"
 
 namespace tarvis {
 

@@ -5,7 +5,8 @@
 #include <optional>
 #include <string>
 
-#include "launch/print_run.h"
+#include "run/print_run.h"
+#include "text/native_path.h"
 
 namespace tarvis {
 namespace {
@@ -47,18 +48,6 @@ void FillLines(const CodePage& page, std::string bytes, TextLines& lines) {
 }
 
 }  // namespace
-
-std::filesystem::path NativePath(std::string_view path) {
-  std::u8string text(path.begin(), path.end());
-  if constexpr (std::filesystem::path::preferred_separator == '/') std::ranges::replace(text, u8'\\', u8'/');
-  return {text};
-}
-
-bool FileExists(std::string_view path) {
-  if (path.empty() || path.find('\0') != std::string_view::npos) return false;
-  std::error_code ignored;  // what can't be looked at doesn't exist for this program
-  return std::filesystem::is_regular_file(NativePath(path), ignored);
-}
 
 std::int32_t LoadBytes(PrintRun& run, std::string_view path, std::string bytes) {
   PrintSession& session = run.Session;

@@ -1,21 +1,13 @@
-// The file system, as the readers see it. Paths are UTF-8 with backslashes, as the system forms them.
+// Loads a file of the host into the lines of the session. Paths are UTF-8 with backslashes.
 #pragma once
 
 #include <cstdint>
-#include <filesystem>
 #include <string>
 #include <string_view>
 
 namespace tarvis {
 
 struct PrintRun;
-
-// The path that the operating system takes: on POSIX a backslash separates folders. To be called at the
-// moment when a file is touched, and never before.
-std::filesystem::path NativePath(std::string_view path);
-
-// Whether `path` names an existing regular file; * and ? mean nothing. An empty path names none.
-bool FileExists(std::string_view path);
 
 // Loads the lines of a file into `Lines` of the session, and sets `LineCount`, `LinesFile` and `Diagnosis`.
 // Returns the number of lines, or -1, also in `LineCount`, if the file can't be read. A line ends at CR LF or

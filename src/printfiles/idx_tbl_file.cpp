@@ -1,8 +1,8 @@
 #include "printfiles/idx_tbl_file.h"
 
-#include "launch/print_run.h"
 #include "printfiles/counted_block.h"
 #include "printfiles/header_keys.h"
+#include "run/print_run.h"
 
 namespace tarvis {
 namespace {

@@ -1,8 +1,8 @@
 #include "printfiles/key_table.h"
 
-#include "launch/print_run.h"
-#include "printfiles/excerpt.h"
-#include "printfiles/run_time_failure.h"
+#include "run/print_run.h"
+#include "text/excerpt.h"
+#include "text/run_time_failure.h"
 
 namespace tarvis {
 namespace {

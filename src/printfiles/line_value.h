@@ -8,8 +8,8 @@
 #include <string_view>
 #include <utility>
 
-#include "printfiles/numbers.h"
-#include "printfiles/text.h"
+#include "text/numbers.h"
+#include "text/text.h"
 
 namespace tarvis {
 

@@ -1,8 +1,8 @@
 #include "printfiles/mecha_file.h"
 
-#include "launch/print_run.h"
 #include "printfiles/header_keys.h"
 #include "printfiles/record_lines.h"
+#include "run/print_run.h"
 
 namespace tarvis {
 namespace {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "printfiles/key_table.h"
-#include "printfiles/print_options.h"
+#include "run/print_options.h"
 
 namespace tarvis {
 

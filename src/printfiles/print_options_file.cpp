@@ -3,10 +3,10 @@
 #include <filesystem>
 #include <fstream>
 
-#include "launch/print_run.h"
-#include "printfiles/date_text.h"
-#include "printfiles/host_files.h"
 #include "printfiles/option_lines.h"
+#include "run/print_run.h"
+#include "text/date_text.h"
+#include "text/native_path.h"
 
 namespace tarvis {
 namespace {

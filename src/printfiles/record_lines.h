@@ -2,8 +2,8 @@
 #pragma once
 
 #include "printfiles/key_table.h"
-#include "printfiles/mecha_data.h"
-#include "printfiles/trace_data.h"
+#include "run/mecha_data.h"
+#include "run/trace_data.h"
 
 namespace tarvis {
 

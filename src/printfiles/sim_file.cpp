@@ -3,11 +3,11 @@
 #include <array>
 #include <memory>
 
-#include "launch/print_run.h"
 #include "printfiles/counted_block.h"
 #include "printfiles/header_keys.h"
 #include "printfiles/record_lines.h"
 #include "printfiles/user_block.h"
+#include "run/print_run.h"
 
 namespace tarvis {
 namespace {

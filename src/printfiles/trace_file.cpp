@@ -1,9 +1,9 @@
 #include "printfiles/trace_file.h"
 
-#include "launch/print_run.h"
 #include "printfiles/header_keys.h"
 #include "printfiles/record_lines.h"
 #include "printfiles/user_block.h"
+#include "run/print_run.h"
 
 namespace tarvis {
 namespace {

@@ -1,7 +1,7 @@
 #include "printfiles/upwizard_file.h"
 
-#include "launch/print_run.h"
 #include "printfiles/header_keys.h"
+#include "run/print_run.h"
 
 namespace tarvis {
 namespace {

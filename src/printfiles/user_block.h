@@ -2,7 +2,7 @@
 #pragma once
 
 #include "printfiles/key_table.h"
-#include "printfiles/user_data.h"
+#include "run/user_data.h"
 
 namespace tarvis {
 

@@ -1,8 +1,8 @@
 #include "printfiles/user_file.h"
 
-#include "launch/print_run.h"
 #include "printfiles/header_keys.h"
 #include "printfiles/user_block.h"
+#include "run/print_run.h"
 
 namespace tarvis {
 

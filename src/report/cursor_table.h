@@ -1,8 +1,8 @@
 // The table of cursor values below a graph: name and unit, cursor A, cursor B and their difference.
 #pragma once
 
-#include "printfiles/trace_data.h"
 #include "report/engine/section.h"
+#include "run/trace_data.h"
 
 namespace tarvis {
 

@@ -4,19 +4,19 @@
 #include <functional>
 #include <vector>
 
-#include "launch/failures.h"
-#include "launch/print_run.h"
 #include "printfiles/host_files.h"
 #include "printfiles/idx_tbl_file.h"
 #include "printfiles/jog_tbl_file.h"
 #include "printfiles/mecha_file.h"
-#include "printfiles/numbers.h"
 #include "printfiles/real_trace_file.h"
 #include "printfiles/sim_file.h"
 #include "printfiles/trace_file.h"
 #include "printfiles/upwizard_file.h"
 #include "printfiles/user_file.h"
 #include "printfiles/zone_tbl_file.h"
+#include "run/failures.h"
+#include "run/print_run.h"
+#include "text/numbers.h"
 
 namespace tarvis {
 namespace {

@@ -1,8 +1,8 @@
 #include "report/picture_file.h"
 
-#include "launch/failures.h"
-#include "launch/print_run.h"
-#include "printfiles/host_files.h"
+#include "run/failures.h"
+#include "run/print_run.h"
+#include "text/native_path.h"
 
 namespace tarvis {
 

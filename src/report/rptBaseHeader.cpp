@@ -1,7 +1,7 @@
 #include "report/rptBaseHeader.h"
 
-#include "printfiles/date_text.h"
-#include "printfiles/text.h"
+#include "text/date_text.h"
+#include "text/text.h"
 
 namespace tarvis {
 namespace {

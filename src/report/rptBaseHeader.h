@@ -3,8 +3,8 @@
 
 #include <cstdint>
 
-#include "launch/print_run.h"
 #include "report/report_context.h"
+#include "run/print_run.h"
 
 namespace tarvis {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "printfiles/date_text.h"
-#include "printfiles/text.h"
 #include "report/picture_file.h"
+#include "text/date_text.h"
+#include "text/text.h"
 
 namespace tarvis {
 namespace {

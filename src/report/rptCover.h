@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <string>
 
-#include "launch/print_run.h"
 #include "report/report_context.h"
+#include "run/print_run.h"
 
 namespace tarvis {
 

@@ -2,9 +2,9 @@
 
 #include <array>
 
-#include "launch/failures.h"
 #include "report/data_set.h"
 #include "report/rptBaseHeader.h"
+#include "run/failures.h"
 
 namespace tarvis {
 namespace {

@@ -1,4 +1,4 @@
-#include "dialogs/InfIdxTbl.h"
+#include "dialogs/pages/InfIdxTbl.h"
 
 #include <QClipboard>
 #include <QInputMethodEvent>

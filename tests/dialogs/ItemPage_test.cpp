@@ -1,9 +1,9 @@
-#include "dialogs/ItemPage.h"
+#include "dialogs/pages/ItemPage.h"
 
 #include <QClipboard>
 
-#include "dialogs/InfWizard.h"
 #include "dialogs/dialog_run.h"
+#include "dialogs/pages/InfWizard.h"
 
 namespace tarvis {
 namespace {

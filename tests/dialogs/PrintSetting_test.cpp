@@ -4,7 +4,7 @@
 #include <QWheelEvent>
 
 #include "dialogs/dialog_run.h"
-#include "launch/failures.h"
+#include "run/failures.h"
 
 namespace tarvis {
 namespace {

@@ -15,8 +15,8 @@
 
 #include "dialogs/PrintSetting.h"
 #include "dialogs/test_application.h"
-#include "launch/print_run.h"
 #include "printfiles/print_options_file.h"
+#include "run/print_run.h"
 #include "support/fake_desktop.h"
 #include "support/pinned_time.h"
 

@@ -1,4 +1,4 @@
-#include "dialogs/input_limits.h"
+#include "dialogs/controls/input_limits.h"
 
 #include "dialogs/dialog_run.h"
 

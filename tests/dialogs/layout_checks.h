@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "dialogs/controls.h"
+#include "dialogs/controls/controls.h"
 
 namespace tarvis {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "byte_writer.h"
-#include "printfiles/run_time_failure.h"
+#include "text/run_time_failure.h"
 
 namespace tarvis {
 namespace {

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "byte_writer.h"
-#include "pictures/metafile/glyph_outlines.h"
-#include "pictures/metafile/metafile_picture.h"
+#include "pictures/metafile/fonts/glyph_outlines.h"
+#include "pictures/metafile/list/metafile_picture.h"
 
 namespace tarvis {
 

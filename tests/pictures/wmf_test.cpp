@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "metafile_writer.h"
-#include "printfiles/run_time_failure.h"
+#include "text/run_time_failure.h"
 
 namespace tarvis {
 namespace {

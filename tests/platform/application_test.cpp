@@ -10,7 +10,7 @@
 
 #include "platform/message_watch.h"
 #include "platform/qt_desktop.h"
-#include "printfiles/run_time_failure.h"
+#include "text/run_time_failure.h"
 
 // Each test ends a process of its own, started anew, with an application object of its own.
 namespace tarvis {

@@ -9,8 +9,8 @@
 #include <fstream>
 #include <map>
 
-#include "printfiles/run_time_failure.h"
 #include "support/fake_desktop.h"
+#include "text/run_time_failure.h"
 
 namespace tarvis {
 namespace {

@@ -1,4 +1,4 @@
-#include "preview/background_job.h"
+#include "preview/output/background_job.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "preview/text_run.h"
+#include "preview/paint/text_run.h"
 
 namespace tarvis {
 

@@ -2,8 +2,8 @@
 #include <QLabel>
 #include <QLineEdit>
 
-#include "preview/finder.h"
-#include "preview/text_search.h"
+#include "preview/text/text_search.h"
+#include "preview/window/finder.h"
 #include "preview/window_fixture.h"
 
 namespace tarvis {

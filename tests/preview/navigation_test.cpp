@@ -4,7 +4,7 @@
 #include <QTabWidget>
 #include <QTreeWidget>
 
-#include "preview/thumbnails.h"
+#include "preview/pages/thumbnails.h"
 #include "preview/window_fixture.h"
 
 namespace tarvis {

@@ -6,7 +6,7 @@
 #include <set>
 
 #include "preview/document_builder.h"
-#include "preview/page_pictures.h"
+#include "preview/pages/page_pictures.h"
 #include "preview/sample_picture.h"
 
 namespace tarvis {

@@ -1,5 +1,5 @@
 // What the view shows while pages are still being painted.
-#include "preview/page_view.h"
+#include "preview/pages/page_view.h"
 
 #include "preview/sample_picture.h"
 #include "preview/window_fixture.h"

@@ -1,4 +1,4 @@
-#include "preview/pdf_export.h"
+#include "preview/output/pdf_export.h"
 
 #include <gtest/gtest.h>
 

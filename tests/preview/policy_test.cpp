@@ -1,9 +1,9 @@
 // The plain arithmetic of the view: where pages stand, what is rendered and kept, and places visited.
 #include <gtest/gtest.h>
 
-#include "preview/page_layout.h"
-#include "preview/place_history.h"
-#include "preview/render_policy.h"
+#include "preview/pages/page_layout.h"
+#include "preview/pages/place_history.h"
+#include "preview/pages/render_policy.h"
 
 namespace tarvis {
 namespace {

@@ -1,4 +1,4 @@
-#include "preview/preview_window.h"
+#include "preview/window/preview_window.h"
 
 #include <QtTest/qtestspontaneevent.h>
 

@@ -1,8 +1,8 @@
-#include "preview/report_font.h"
+#include "preview/paint/report_font.h"
 
 #include <gtest/gtest.h>
 
-#include "preview/text_run.h"
+#include "preview/paint/text_run.h"
 
 namespace tarvis {
 namespace {

@@ -7,9 +7,9 @@
 
 #include "pictures/picture_file_loader.h"
 #include "preview/document_builder.h"
+#include "preview/output/pdf_export.h"
 #include "preview/page_comparison.h"
-#include "preview/page_pictures.h"
-#include "preview/pdf_export.h"
+#include "preview/pages/page_pictures.h"
 #include "preview/pdf_file.h"
 #include "support/report_run.h"
 

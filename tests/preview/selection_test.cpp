@@ -1,6 +1,6 @@
 #include <QClipboard>
 
-#include "preview/text_selection.h"
+#include "preview/text/text_selection.h"
 #include "preview/window_fixture.h"
 
 namespace tarvis {

@@ -14,8 +14,8 @@
 #include <functional>
 
 #include "preview/document_builder.h"
-#include "preview/page_view.h"
-#include "preview/preview_window.h"
+#include "preview/pages/page_view.h"
+#include "preview/window/preview_window.h"
 
 namespace tarvis {
 

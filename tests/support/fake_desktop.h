@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "launch/desktop.h"
+#include "run/desktop.h"
 
 namespace tarvis {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "launch/desktop.h"
+#include "run/desktop.h"
 
 namespace tarvis {
 

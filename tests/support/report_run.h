@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "functions/catalog.h"
-#include "launch/print_run.h"
 #include "report/engine/composer.h"
 #include "report/rptTarvis.h"
+#include "run/print_run.h"
 #include "support/arial_measurer.h"
 #include "support/fake_desktop.h"
 #include "support/fake_pictures.h"

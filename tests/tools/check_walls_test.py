@@ -29,8 +29,8 @@ class CheckWalls(unittest.TestCase):
         status, output = breaches_of({
             "src/printfiles/a.h": "#include <string>\n",
             "src/report/b.h": '#include "printfiles/a.h"\n',
-            "src/preview/c.h": "#include <QWidget>\n",
-            "src/launch/main.cpp": '#include <QApplication>\n#include "preview/c.h"\n',
+            "src/preview/paint/c.h": "#include <QWidget>\n",
+            "src/main.cpp": '#include <QApplication>\n#include "preview/paint/c.h"\n',
         })
         self.assertEqual(status, 0, output)
 

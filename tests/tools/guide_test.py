@@ -36,7 +36,7 @@ def plain(caption):
 class Keys(unittest.TestCase):
     def commands(self):
         """Caption and keys of each entry of the preview's command table."""
-        text = source("preview/commands.cpp")
+        text = source("preview/window/commands.cpp")
         entries = re.findall(r'\{(\w+),\s+"(\w+)",\s+"([^"]+)",\s+"([^"]*)",', text)
         self.assertEqual(len(entries), int(re.search(r"array<CommandEntry, (\d+)>", text)[1]))
         return {plain(caption): keys.split("; ") for _, _, caption, keys in entries}
@@ -47,7 +47,7 @@ class Keys(unittest.TestCase):
 
     def test_keys_of_the_page_view_are_told(self):
         told = {key for row in GUIDE.rows("While the pages have the focus:") for key in re.findall(r"`(\w+)`", row[0])}
-        self.assertEqual(told, set(re.findall(r"case Qt::Key_(\w+):", source("preview/page_view_input.cpp"))))
+        self.assertEqual(told, set(re.findall(r"case Qt::Key_(\w+):", source("preview/pages/page_view_input.cpp"))))
 
 
 class Captions(unittest.TestCase):
@@ -129,9 +129,9 @@ class Messages(unittest.TestCase):
 
     def test_every_other_message_is_told(self):
         sentence = re.compile(r'(?:tr\(|Box box\([^;]*?)"([A-Z][^"]*\.)"')
-        found = {text for name in ("preview/preview_output.cpp", "platform/system_printers.cpp", "dialogs/InfIdxTbl.cpp")
+        found = {text for name in ("preview/window/preview_output.cpp", "platform/system_printers.cpp", "dialogs/pages/InfIdxTbl.cpp")
                  for text in sentence.findall(source(name))}
-        found |= set(re.findall(r'"(Wrong [^"]+)"', source("dialogs/InfIdxTbl.cpp")))
+        found |= set(re.findall(r'"(Wrong [^"]+)"', source("dialogs/pages/InfIdxTbl.cpp")))
         self.assertGreaterEqual(len(found), 5, found)
         for message in found:
             self.assertIn(message, GUIDE.text)

@@ -4,8 +4,8 @@
 #include <limits>
 
 #include "functions/tables/table_cells.h"
-#include "printfiles/numbers.h"
-#include "printfiles/text.h"
+#include "text/numbers.h"
+#include "text/text.h"
 
 namespace tarvis {
 namespace {

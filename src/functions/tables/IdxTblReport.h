@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "printfiles/table_data.h"
 #include "report/function_report.h"
+#include "run/table_data.h"
 
 namespace tarvis {
 

@@ -1,7 +1,7 @@
 #include "functions/trace/channels.h"
 
-#include "printfiles/numbers.h"
-#include "printfiles/run_time_failure.h"
+#include "text/numbers.h"
+#include "text/run_time_failure.h"
 
 namespace tarvis {
 

@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "launch/print_run.h"
+#include "run/print_run.h"
 
 namespace tarvis {
 

@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <string>
 
-#include "printfiles/numbers.h"
-#include "printfiles/run_time_failure.h"
+#include "text/numbers.h"
+#include "text/run_time_failure.h"
 
 namespace tarvis {
 

@@ -1,8 +1,8 @@
 // The positions of a digit group, as the parameter list and the switch list print them.
 #pragma once
 
-#include "printfiles/user_data.h"
 #include "report/engine/control.h"
+#include "run/user_data.h"
 
 namespace tarvis {
 

@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "functions/user/digit_list.h"
-#include "printfiles/text.h"
+#include "text/text.h"
 
 namespace tarvis {
 namespace {

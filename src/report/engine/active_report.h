@@ -80,7 +80,7 @@ void IgnoreErrors(Statement&& statement);
 
 }  // namespace tarvis
 
-#include "printfiles/run_time_failure.h"
+#include "text/run_time_failure.h"
 
 template <typename Statement>
 void tarvis::IgnoreErrors(Statement&& statement) {

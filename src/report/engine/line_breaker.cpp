@@ -4,7 +4,7 @@
 #include <unicode/locid.h>
 #include <unicode/utext.h>
 
-#include "printfiles/run_time_failure.h"
+#include "text/run_time_failure.h"
 
 namespace tarvis {
 

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "launch/print_run.h"
+#include "run/print_run.h"
 #include "support/fake_desktop.h"
 #include "support/temp_folder.h"
 

@@ -1,0 +1,86 @@
+// The plain controls of the dialogs: what the toolkit's own lack of names, captions and values.
+#pragma once
+
+#include <QCheckBox>
+#include <QFont>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QString>
+#include <cstdint>
+#include <vector>
+
+#include "dialogs/controls/place.h"
+
+namespace tarvis {
+
+// A caption without its mnemonic mark; a doubled ampersand is a literal one.
+QString PlainCaption(const QString& caption);
+
+// Sets the object name, `name` or `name_index` for a member of a family, and the accessible name.
+void NameControl(QWidget& control, const char* name, int index, const QString& accessibleName);
+constexpr int NoFamily = -1;
+
+// Arial in the size for which the dialogs are drawn.
+QFont DialogFont();
+
+// Chains the focusable children of `container` row by row, each row from left to right.
+void SetReadingOrder(QWidget& container);
+
+// A check box with the three values of an option element. `stateChanged` is the click: it comes from the user
+// and from SetValue alike, and only when the value changes.
+class TickBox : public QCheckBox {
+  Q_OBJECT
+
+ public:
+  // `caption` may hold a mnemonic mark. Where the caption doesn't fit into `bounds` it wraps if there is room
+  // for two lines; otherwise the box grows to the right.
+  TickBox(const char* name, int index, const char* caption, const Bounds& bounds, QWidget* parent);
+
+  // 0 unchecked, 1 checked, 2 greyed: a value that only an options file can bring.
+  std::int16_t Value() const;
+  // Any other value throws RunTimeFailure.
+  void SetValue(std::int16_t value);
+  bool IsOn() const { return Value() == 1; }
+
+ protected:
+  void nextCheckState() override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  bool wraps_ = false;
+};
+
+// Its handling belongs to `toggled` with true alone: going off runs nothing.
+class OptionButton : public QRadioButton {
+  Q_OBJECT
+
+ public:
+  OptionButton(const char* name, int index, const char* caption, const Bounds& bounds, QWidget* parent);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  bool wraps_ = false;
+};
+
+// A group whose rule runs at the height of its title, so that controls right below the title stand inside it.
+class GroupFrame : public QGroupBox {
+  Q_OBJECT
+
+ public:
+  GroupFrame(const char* name, const char* caption, const Bounds& bounds, QWidget* parent);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+// Grows to the right and to the height of its font; `wordWrap` keeps the width instead.
+QLabel* MakeLabel(const char* name, int index, const char* caption, const Bounds& bounds, QWidget* parent,
+                  bool wordWrap = false);
+
+QPushButton* MakeButton(const char* name, const char* caption, const Bounds& bounds, QWidget* parent);
+
+}  // namespace tarvis

@@ -1,0 +1,57 @@
+#include "dialogs/controls/focus_guard.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMetaObject>
+#include <QShortcutEvent>
+#include <utility>
+
+namespace tarvis {
+
+FocusGuard::FocusGuard(QWidget& window, Refuse refuse)
+    : QObject(&window), window_(window), refuse_(std::move(refuse)) {
+  connect(qApp, &QApplication::focusChanged, this, &FocusGuard::FocusMoved);
+  qApp->installEventFilter(this);
+}
+
+bool FocusGuard::IsOfWindow(const QWidget* control) const {
+  return control != nullptr && window_.isAncestorOf(control);
+}
+
+void FocusGuard::FocusMoved(QWidget* left, QWidget* entered) {
+  if (asking_ || !IsOfWindow(left) || !IsOfWindow(entered)) return;
+  asking_ = true;
+  const bool refused = refuse_(*left, *entered);
+  asking_ = false;
+  if (!refused) return;
+  refused_ = true;
+  // The toolkit moves the focus just before it delivers the press, so the press comes before any later event.
+  swallowPress_ = true;
+  QMetaObject::invokeMethod(
+      this, [this] { swallowPress_ = false; }, Qt::QueuedConnection);
+}
+
+bool FocusGuard::Enter(QWidget& control) {
+  refused_ = false;
+  if (!control.hasFocus()) control.setFocus(Qt::ShortcutFocusReason);
+  return !refused_;
+}
+
+bool FocusGuard::eventFilter(QObject* watched, QEvent* event) {
+  const bool press =
+      event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+  if (!press && event->type() != QEvent::Shortcut) return false;
+  auto* control = qobject_cast<QWidget*>(watched);
+  if (!IsOfWindow(control)) return false;
+  if (press) return std::exchange(swallowPress_, false);
+  auto* button = qobject_cast<QAbstractButton*>(control);
+  if (button == nullptr || !button->isEnabled()) return false;
+  // A mnemonic presses a push button without giving it the focus.
+  if (!Enter(*button)) return true;
+  if (static_cast<QShortcutEvent*>(event)->isAmbiguous()) return false;
+  // The toolkit would let a tenth of a second pass, and keys that follow would overtake the click.
+  button->click();
+  return true;
+}
+
+}  // namespace tarvis

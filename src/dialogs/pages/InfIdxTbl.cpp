@@ -1,0 +1,207 @@
+#include "dialogs/pages/InfIdxTbl.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <algorithm>
+
+#include "dialogs/controls/input_limits.h"
+#include "run/print_run.h"
+#include "text/numbers.h"
+
+namespace tarvis {
+
+namespace {
+
+constexpr std::int16_t ItemsTab = 1;
+constexpr int StepLength = 3;
+constexpr std::int16_t TypedRange = 2;  // element 1
+constexpr const char* FirstStep = "0";
+constexpr const char* LastStep = "127";
+constexpr std::int16_t Valid = -1;
+constexpr std::int16_t Invalid = 0;
+
+bool IsDigitsOnly(const std::string& text) {
+  return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
+// The code that the key sends, as a signed 16-bit number; a control key with a letter sends 1 to 26.
+std::int16_t KeyCode(const QKeyEvent& event) {
+  const bool letter = event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z;
+  if (letter && event.modifiers().testFlag(Qt::ControlModifier))
+    return static_cast<std::int16_t>(event.key() - 0x40);
+  return static_cast<std::int16_t>(event.text().at(0).unicode());
+}
+
+bool IsThrownAway(std::int16_t code) {
+  return (code >= 58 && code <= 126) || (code >= 0 && code <= 47 && code != 8);
+}
+
+// Keys that belong to the dialog never reach a text box.
+bool IsDialogKey(int key) {
+  return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape || key == Qt::Key_Tab ||
+         key == Qt::Key_Backtab;
+}
+
+}  // namespace
+
+void StepBox::keyPressEvent(QKeyEvent* event) {
+  const bool sendsCode = !event->text().isEmpty() && !IsDialogKey(event->key());
+  if (!sendsCode || !IsThrownAway(KeyCode(*event))) LineBox::keyPressEvent(event);
+}
+
+void StepBox::focusOutEvent(QFocusEvent* event) {
+  LineBox::focusOutEvent(event);
+  const Qt::FocusReason reason = event->reason();
+  const bool elsewhere = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
+  if (!elsewhere) emit Left();
+}
+
+InfIdxTbl::InfIdxTbl(PrintRun& run, QWidget* parent)
+    : ItemPage(run, {"InfIdxTbl", &PrintOptions::IdxTblHeader, "Program Table", {PrintingItemsTab}}, parent),
+      option_(run.Options.IdxTblOption) {
+  QWidget* tab = Tabs().Page(ItemsTab);
+  AddLabels(tab, {{"Label4", "Program Table Print Range", {150, 390, 1905, 210}},
+                  {"Label1", "Others", {150, 1800, 495, 210}}});
+  BuildRange(tab);
+  chkItemEtc_ = new TickBox("chkItemEtc", NoFamily, "Comment&s", {330, 2040, 1485, 255}, tab);
+  chkItemEtc_->SetValue(1);
+  SetReadingOrder(*tab);
+  for (std::int16_t index = 0; index < 3; ++index) {
+    connect(optRange_.at(static_cast<std::size_t>(index)), &OptionButton::toggled, this,
+            [this, index](bool on) {
+              if (on) RangeClicked(index);
+            });
+  }
+  connect(textStart_, &StepBox::Left, this, &InfIdxTbl::CheckStepRange);
+  connect(textEnd_, &StepBox::Left, this, &InfIdxTbl::CheckStepRange);
+  connect(chkItemEtc_, &TickBox::stateChanged, this, &InfIdxTbl::CommentsClicked);
+  connect(&Tabs(), &TabControl::TabChanged, this, &InfIdxTbl::TabLeft);
+}
+
+void InfIdxTbl::BuildRange(QWidget* tab) {
+  optRange_ = {
+      new OptionButton("optRange", 0, "Print a&ll STEP.", {360, 640, 2415, 255}, tab),
+      new OptionButton("optRange", 1, "Print only STEP &which defined program.", {360, 980, 3615, 255}, tab),
+      new OptionButton("optRange", 2, "Select the P&rint STEP.", {360, 1320, 2055, 255}, tab)};
+  labelStart_ = MakeLabel("LabelStart", NoFamily, "S&tart", {2520, 1350, 495, 255}, tab);
+  textStart_ = new StepBox("TextStart", NoFamily, "Start", StepLength, {3000, 1320, 495, 270}, tab);
+  labelStart_->setBuddy(textStart_);
+  labelEnd_ = MakeLabel("LabelEnd", NoFamily, "En&d", {3720, 1350, 495, 255}, tab);
+  textEnd_ = new StepBox("TextEnd", NoFamily, "End", StepLength, {4200, 1320, 495, 270}, tab);
+  labelEnd_->setBuddy(textEnd_);
+  EnableRange(false);
+}
+
+void InfIdxTbl::TabChg(std::int16_t tab) {
+  Tabs().SetCurrentTab(tab);
+}
+
+void InfIdxTbl::SetStepFocus(std::int16_t field) {
+  if (field == 1) textStart_->GiveFocus();
+  if (field == 2) textEnd_->GiveFocus();
+}
+
+bool InfIdxTbl::RangeIsValid() const {
+  return Run().Session.StepStartValid != Invalid && Run().Session.StepEndValid != Invalid;
+}
+
+void InfIdxTbl::ReturnToRange() {
+  TabChg(ItemsTab);
+  SetStepFocus(Run().Session.StepStartValid == Invalid ? 1 : 2);
+  Run().Desktop.ShowMessage(InputErrorTitle, "Wrong the inputted STEP number.Please input again.");
+}
+
+void InfIdxTbl::ResetTab() {
+  TabChg(0);
+}
+
+void InfIdxTbl::LoadItems() {
+  if (option_.Range == TypedRange) RepairRange();
+  if (option_.Range < 0 || option_.Range > TypedRange) {
+    throw RunTimeFailure("control array element does not exist",
+                         {.File = {}, .Line = 0, .Key = "optRange", .Text = std::to_string(option_.Range)});
+  }
+  optRange_.at(static_cast<std::size_t>(option_.Range))->setChecked(true);
+  chkItemEtc_->SetValue(option_.Comment);
+}
+
+// Silent. The last comparison is one of texts: "127" stands before "5".
+void InfIdxTbl::RepairRange() {
+  if (!IsDigitsOnly(option_.First)) option_.First = FirstStep;
+  if (!IsDigitsOnly(option_.Last)) option_.Last = LastStep;
+  if (LenientReal(option_.First) < 0) option_.First = FirstStep;
+  if (LenientReal(option_.Last) > Run().Session.StepLimit) option_.Last = LastStep;
+  if (option_.Last < option_.First) option_.First = FirstStep;
+  textStart_->SetText(option_.First);
+  textEnd_->SetText(option_.Last);
+}
+
+void InfIdxTbl::RangeClicked(std::int16_t index) {
+  option_.Range = index;
+  if (index != TypedRange) {
+    textStart_->SetText({});
+    textEnd_->SetText({});
+    EnableRange(false);
+    Run().Session.StepStartValid = Valid;
+    Run().Session.StepEndValid = Valid;
+    option_.First.clear();
+    option_.Last.clear();
+    return;
+  }
+  if (option_.Last.empty()) option_.Last = LastStep;
+  textEnd_->SetText(option_.Last);
+  if (option_.First.empty()) option_.First = FirstStep;
+  textStart_->SetText(option_.First);
+  EnableRange(true);
+  SetStepFocus(1);
+  // An arrow key chooses first and takes the focus to the option afterwards.
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        if (optRange_[TypedRange]->hasFocus()) SetStepFocus(1);
+      },
+      Qt::QueuedConnection);
+}
+
+void InfIdxTbl::EnableRange(bool enabled) {
+  labelStart_->setEnabled(enabled);
+  labelEnd_->setEnabled(enabled);
+  textStart_->setEnabled(enabled);
+  textEnd_->setEnabled(enabled);
+}
+
+// A flag that is not reached keeps its value, and a start that passed is stored even if the end then fails.
+void InfIdxTbl::CheckStepRange() {
+  PrintSession& session = Run().Session;
+  const std::string start = textStart_->Text();
+  const std::string end = textEnd_->Text();
+  if (!IsDigitsOnly(start)) {
+    session.StepStartValid = Invalid;
+    return;
+  }
+  if (!IsDigitsOnly(end)) {
+    session.StepEndValid = Invalid;
+    return;
+  }
+  session.StepStartValid = LenientReal(start) > LenientReal(end) ? Invalid : Valid;
+  if (session.StepStartValid == Invalid) return;
+  option_.First = start;
+  session.StepEndValid = LenientReal(end) >= session.StepLimit ? Invalid : Valid;
+  if (session.StepEndValid == Valid) option_.Last = end;
+}
+
+void InfIdxTbl::TabLeft(int left) {
+  if (left != ItemsTab || option_.Range != TypedRange) return;
+  CheckStepRange();
+  if (!RangeIsValid()) ReturnToRange();
+}
+
+void InfIdxTbl::CommentsClicked() {
+  if (RangeIsValid()) {
+    option_.Comment = chkItemEtc_->Value();
+  } else {
+    ReturnToRange();
+  }
+}
+
+}  // namespace tarvis

@@ -1,0 +1,65 @@
+// The item page of the program table, with the range of steps to print.
+#pragma once
+
+#include <QButtonGroup>
+#include <array>
+
+#include "dialogs/pages/ItemPage.h"
+
+namespace tarvis {
+
+// A box for a step number: takes digits only, and tells when the user leaves it.
+class StepBox : public LineBox {
+  Q_OBJECT
+
+ public:
+  using LineBox::LineBox;
+
+ signals:
+  // Not for a switch to another window or program.
+  void Left();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+};
+
+class InfIdxTbl : public ItemPage {
+  Q_OBJECT
+
+ public:
+  InfIdxTbl(PrintRun& run, QWidget* parent);
+
+  // Brings `SSTab1` to a tab.
+  void TabChg(std::int16_t tab);
+  // 1 for the start, 2 for the end; anything else does nothing.
+  void SetStepFocus(std::int16_t field);
+
+  // Whether both steps passed the check that ran last.
+  bool RangeIsValid() const;
+  // Puts the user back to the field that failed and tells him.
+  void ReturnToRange();
+
+ protected:
+  void ResetTab() override;
+  void LoadItems() override;
+
+ private:
+  void BuildRange(QWidget* tab);
+  void RepairRange();
+  void RangeClicked(std::int16_t index);
+  void EnableRange(bool enabled);
+  void CheckStepRange();
+  void TabLeft(int left);
+  void CommentsClicked();
+
+  IdxTblOptions& option_;
+  std::array<OptionButton*, 3> optRange_{};
+  QLabel* labelStart_ = nullptr;
+  StepBox* textStart_ = nullptr;
+  QLabel* labelEnd_ = nullptr;
+  StepBox* textEnd_ = nullptr;
+  TickBox* chkItemEtc_ = nullptr;
+};
+
+}  // namespace tarvis

@@ -1,0 +1,16 @@
+#include "dialogs/pages/InfJogTbl.h"
+
+#include "run/print_run.h"
+
+namespace tarvis {
+
+InfJogTbl::InfJogTbl(PrintRun& run, QWidget* parent)
+    : ItemPage(run, {"InfJogTbl", &PrintOptions::JogTblHeader, "Jog Speed Table", {PrintingItemsTab}},
+               parent),
+      items_(AddComments(run.Options.JogTblOption)) {}
+
+void InfJogTbl::LoadItems() {
+  LoadBoxes(items_);
+}
+
+}  // namespace tarvis

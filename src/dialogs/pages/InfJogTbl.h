@@ -1,0 +1,21 @@
+// The item page of the jog speed table.
+#pragma once
+
+#include "dialogs/pages/ItemPage.h"
+
+namespace tarvis {
+
+class InfJogTbl : public ItemPage {
+  Q_OBJECT
+
+ public:
+  InfJogTbl(PrintRun& run, QWidget* parent);
+
+ protected:
+  void LoadItems() override;
+
+ private:
+  std::vector<BoundBox> items_;
+};
+
+}  // namespace tarvis

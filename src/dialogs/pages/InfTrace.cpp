@@ -1,0 +1,46 @@
+#include "dialogs/pages/InfTrace.h"
+
+#include "dialogs/pages/graph_items.h"
+#include "printfiles/data_file_scan.h"
+#include "run/print_run.h"
+
+namespace tarvis {
+
+InfTrace::InfTrace(PrintRun& run, QWidget* parent)
+    : ItemPage(run, {"InfTrace", &PrintOptions::TraceHeader, "Tracing", {PrintingItemsTab}}, parent) {
+  QWidget* tab = Tabs().Page(1);
+  AddLabels(tab, {{"Label6", "Overlapping", {120, 360, 870, 210}},
+                  {"Label4", "Graph Relations", {150, 870, 1155, 210}},
+                  {"Label5", "Constant Number Relation of Users", {150, 1560, 2535, 210}},
+                  {"Label1", "Others", {150, 2520, 495, 210}}});
+  overlap_ =
+      AddBoxes(tab, {{"chkItemOverlap", NoFamily, "Detail of o&verlapping data", 9, {360, 600, 2205, 255}}},
+               run.Options.TraceOption);
+  details_ = AddBoxes(tab,
+                      {{"chkItemGraph", 0, "&Trigger Setting", 1, {360, 1080, 2385, 255}},
+                       {"chkItemGraph", 1, "Ac&quisition Date of the Data", 2, {360, 1320, 2355, 255}},
+                       {"chkItemUser", 0, "Pa&rameters", 3, {360, 1755, 1485, 255}},
+                       {"chkItemUser", 1, "Na&me", 4, {600, 2040, 1215, 255}},
+                       {"chkItemUser", 2, "S&witches Info", 5, {600, 2280, 1485, 255}},
+                       {"chkItemUser", 3, "Un&it", 6, {2760, 2040, 1215, 255}},
+                       {"chkItemUser", 4, "&Default Setting", 7, {2760, 2280, 1455, 255}},
+                       {"chkItemEtc", NoFamily, "Comment&s", 8, {360, 2700, 1485, 255}}},
+                      run.Options.TraceOption);
+  ConnectParameterBoxes(std::span(details_).subspan(2, ParameterBoxes));
+  connect(overlap_[0].Box, &TickBox::stateChanged, this, &InfTrace::OverlapClicked);
+}
+
+// Only an overlapped print at hand can leave the details out.
+void InfTrace::OverlapClicked() {
+  const PrintSession& session = Run().Session;
+  if (session.Mode == "Trace" && session.OverlapMode == 1) EnableDetails(details_, overlap_[0].Box->IsOn());
+}
+
+void InfTrace::LoadItems() {
+  ScanOverlap(Run(), "Trace.tmp");
+  LoadBoxes(overlap_);
+  if (Run().Session.Mode == "Trace" && Run().Session.OverlapMode == 0) overlap_[0].Box->setEnabled(false);
+  LoadBoxes(details_);
+}
+
+}  // namespace tarvis

@@ -1,0 +1,24 @@
+#include "dialogs/pages/InfWizard.h"
+
+#include "run/print_run.h"
+
+namespace tarvis {
+
+namespace {
+constexpr int FileNameBox = 3;
+}
+
+InfWizard::InfWizard(PrintRun& run, QWidget* parent)
+    : ItemPage(run, {"InfWizard", &PrintOptions::PrmWizHeader, "Parameter Wizard", {}}, parent) {
+  const std::int16_t stored = Header().FileName;
+  HeaderBox(FileNameBox).SetValue(0);
+  Header().FileName = stored;  // building the page is no click
+  HeaderBox(FileNameBox).hide();
+}
+
+// The wizard prints no file name, whatever the options file says.
+void InfWizard::LoadItems() {
+  Header().FileName = 0;
+}
+
+}  // namespace tarvis

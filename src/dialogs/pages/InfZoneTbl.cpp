@@ -1,0 +1,15 @@
+#include "dialogs/pages/InfZoneTbl.h"
+
+#include "run/print_run.h"
+
+namespace tarvis {
+
+InfZoneTbl::InfZoneTbl(PrintRun& run, QWidget* parent)
+    : ItemPage(run, {"InfZoneTbl", &PrintOptions::ZoneTblHeader, "Zone Table", {PrintingItemsTab}}, parent),
+      items_(AddComments(run.Options.ZoneTblOption)) {}
+
+void InfZoneTbl::LoadItems() {
+  LoadBoxes(items_);
+}
+
+}  // namespace tarvis

@@ -1,0 +1,21 @@
+// The item page of the zone table.
+#pragma once
+
+#include "dialogs/pages/ItemPage.h"
+
+namespace tarvis {
+
+class InfZoneTbl : public ItemPage {
+  Q_OBJECT
+
+ public:
+  InfZoneTbl(PrintRun& run, QWidget* parent);
+
+ protected:
+  void LoadItems() override;
+
+ private:
+  std::vector<BoundBox> items_;
+};
+
+}  // namespace tarvis

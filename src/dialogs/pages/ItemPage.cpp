@@ -1,0 +1,125 @@
+#include "dialogs/pages/ItemPage.h"
+
+#include <QFrame>
+#include <array>
+
+#include "dialogs/controls/help_context.h"
+#include "dialogs/controls/input_limits.h"
+#include "run/print_run.h"
+
+namespace tarvis {
+
+namespace {
+
+constexpr Bounds PageBounds{180, 840, 5055, 3050};
+constexpr Bounds TabBounds{0, 0, 4935, 3015};
+constexpr int TitleLimit = 40;  // bytes
+constexpr int RuleGap = 90;     // twips between a heading and its rule, and between rule and tab edge
+
+struct HeaderBoxPlan {
+  const char* Caption;
+  std::int16_t HeaderOptions::*Element;
+  Bounds Place;
+};
+
+// The first box ends where the title's text box begins.
+constexpr std::array<HeaderBoxPlan, 4> HeaderBoxes{{
+    {"&Title", &HeaderOptions::Title, {330, 660, 975, 255}},
+    {"&Models Info", &HeaderOptions::ModelsInfo, {330, 1020, 1215, 255}},
+    {"Printing &Date", &HeaderOptions::PrintDate, {330, 1380, 1215, 255}},
+    {"&File Name", &HeaderOptions::FileName, {330, 1710, 1215, 255}},
+}};
+
+// The decoration to the right of a heading.
+void AddRule(const QLabel& heading) {
+  auto* rule = new QFrame(heading.parentWidget());
+  rule->setFrameShape(QFrame::HLine);
+  rule->setFrameShadow(QFrame::Sunken);
+  const int left = heading.geometry().right() + Pixels(RuleGap);
+  const int right = Pixels(TabBounds.Width - RuleGap);
+  rule->setGeometry(left, heading.geometry().center().y(), right - left, 2);
+}
+
+}  // namespace
+
+ItemPage::ItemPage(PrintRun& run, const PageFrame& frame, QWidget* parent)
+    : QWidget(parent), run_(run), header_(run.Options.*frame.Header) {
+  NameControl(*this, frame.Name, NoFamily, QString::fromLatin1(frame.Title));
+  Place(*this, PageBounds);
+  hide();
+  tabs_ = new TabControl(TabBounds, this);
+  BuildFirstTab(frame);
+  for (const char* caption : frame.OtherTabs) tabs_->AddTab(caption);
+}
+
+void ItemPage::BuildFirstTab(const PageFrame& frame) {
+  QWidget* tab = tabs_->AddTab("&Header && Footer");
+  AddLabels(tab, {{"Label2", "Header Info", {150, 390, 835, 180}},
+                  {"Label3", "Footer Info", {150, 2220, 780, 180}}});
+  AddHeaderBox(tab, 0);
+  txtTitle_ = new LineBox("txtTitle", NoFamily, "Title text", TitleLimit, {1305, 660, 3330, 315}, tab);
+  txtTitle_->setText(QString::fromLatin1(frame.Title));
+  for (int index = 1; index < 4; ++index) AddHeaderBox(tab, index);
+  chkFooter_ = new TickBox("chkFooter", NoFamily, "Pa&ges", {330, 2460, 1215, 255}, tab);
+  chkFooter_->SetValue(1);
+  connect(chkHeader_[0], &TickBox::stateChanged, this,
+          [this] { txtTitle_->setEnabled(chkHeader_[0]->IsOn()); });
+  connect(txtTitle_, &LineBox::textChanged, this, &ItemPage::TitleChanged);
+  connect(chkFooter_, &TickBox::stateChanged, this, [this] { header_.Pages = chkFooter_->Value(); });
+}
+
+void ItemPage::AddHeaderBox(QWidget* tab, int index) {
+  const HeaderBoxPlan& plan = HeaderBoxes.at(static_cast<std::size_t>(index));
+  auto* box = new TickBox("chkHeader", index, plan.Caption, plan.Place, tab);
+  box->SetValue(1);
+  connect(box, &TickBox::stateChanged, this, [this, box, &plan] { header_.*plan.Element = box->Value(); });
+  chkHeader_.push_back(box);
+}
+
+// A text above the limit is cut and written back, which comes here again: that nested run stores the title.
+void ItemPage::TitleChanged() {
+  if (TrimToByteLimit(run_, TitleLimit, *txtTitle_)) header_.TitleText = txtTitle_->Text();
+}
+
+void ItemPage::Load() {
+  SetHelpContext(*tabs_, run_.Session.HelpContextId);
+  ResetTab();
+  chkHeader_[0]->SetValue(header_.Title);
+  txtTitle_->SetText(header_.TitleText);
+  for (std::size_t index = 1; index < HeaderBoxes.size(); ++index) {
+    chkHeader_[index]->SetValue(header_.*HeaderBoxes[index].Element);
+  }
+  chkFooter_->SetValue(header_.Pages);
+  LoadItems();
+}
+
+void ItemPage::AddLabels(QWidget* tab, std::initializer_list<ItemLabel> labels) {
+  for (const ItemLabel& label : labels)
+    AddRule(*MakeLabel(label.Name, NoFamily, label.Caption, label.Place, tab));
+}
+
+std::vector<BoundBox> ItemPage::AddBoxes(QWidget* tab, std::initializer_list<ItemBox> boxes,
+                                         std::span<std::int16_t> elements) {
+  std::vector<BoundBox> made;
+  for (const ItemBox& plan : boxes) {
+    auto* box = new TickBox(plan.Name, plan.Index, plan.Caption, plan.Place, tab);
+    std::int16_t& element = elements[static_cast<std::size_t>(plan.Element - 1)];
+    box->SetValue(1);
+    connect(box, &TickBox::stateChanged, this, [box, &element] { element = box->Value(); });
+    made.push_back({box, &element});
+  }
+  SetReadingOrder(*tab);
+  return made;
+}
+
+std::vector<BoundBox> ItemPage::AddComments(std::int16_t& element) {
+  QWidget* tab = tabs_->Page(1);
+  AddLabels(tab, {{"Label1", "Others", {150, 600, 495, 210}}});
+  return AddBoxes(tab, {{"chkItemEtc", NoFamily, "Comment&s", 1, {330, 840, 1485, 255}}}, {&element, 1});
+}
+
+void ItemPage::LoadBoxes(const std::vector<BoundBox>& boxes) {
+  for (const BoundBox& bound : boxes) bound.Box->SetValue(*bound.Element);
+}
+
+}  // namespace tarvis

@@ -1,0 +1,96 @@
+// What all item pages share: the tab control, the tab "Header && Footer", and the load when a page appears.
+#pragma once
+
+#include <QWidget>
+#include <cstdint>
+#include <initializer_list>
+#include <span>
+#include <vector>
+
+#include "dialogs/controls/controls.h"
+#include "dialogs/controls/tab_control.h"
+#include "dialogs/controls/text_box.h"
+#include "run/print_options.h"
+
+namespace tarvis {
+
+struct PrintRun;
+
+// The first tab of a page, and the captions of the others.
+struct PageFrame {
+  const char* Name;
+  HeaderOptions PrintOptions::*Header;
+  const char* Title;  // initial text of the title box, and the accessible name of the page
+  std::initializer_list<const char*> OtherTabs;
+};
+
+struct ItemLabel {
+  const char* Name;
+  const char* Caption;
+  Bounds Place;
+};
+
+// A check box of printing items and the element of the option key that it drives, counted from 1.
+struct ItemBox {
+  const char* Name;
+  int Index;  // NoFamily for a single box
+  const char* Caption;
+  int Element;
+  Bounds Place;
+};
+
+// A box on its tab with its element.
+struct BoundBox {
+  TickBox* Box;
+  std::int16_t* Element;
+};
+
+inline constexpr const char* PrintingItemsTab = "&Printing Items";
+
+// Holds no state of its own: every click and change writes through to the options of the run. Stands hidden
+// until the dialog shows it.
+class ItemPage : public QWidget {
+  Q_OBJECT
+
+ public:
+  // The load handling: applies the options to the controls. To be called each time the page becomes visible.
+  // A title above its limit raises its message; an element that no check box can hold throws RunTimeFailure.
+  void Load();
+
+  TabControl& Tabs() const { return *tabs_; }
+
+ protected:
+  ItemPage(PrintRun& run, const PageFrame& frame, QWidget* parent);
+
+  // Between help context and header options; the printing items.
+  virtual void ResetTab() {}
+  virtual void LoadItems() = 0;
+
+  PrintRun& Run() const { return run_; }
+  HeaderOptions& Header() const { return header_; }
+  TickBox& HeaderBox(int index) const { return *chkHeader_.at(static_cast<std::size_t>(index)); }
+
+  void AddLabels(QWidget* tab, std::initializer_list<ItemLabel> labels);
+  // The boxes in the order given, each writing through to its element of `elements` on a click. Starts
+  // checked.
+  std::vector<BoundBox> AddBoxes(QWidget* tab, std::initializer_list<ItemBox> boxes,
+                                 std::span<std::int16_t> elements);
+  // The second tab of a page whose only printing item is its comments.
+  std::vector<BoundBox> AddComments(std::int16_t& element);
+  // Applies the elements to boxes made by AddBoxes, in their order.
+  static void LoadBoxes(const std::vector<BoundBox>& boxes);
+
+ private:
+  void BuildFirstTab(const PageFrame& frame);
+  void AddHeaderBox(QWidget* tab, int index);
+  void TitleChanged();
+
+  PrintRun& run_;
+  HeaderOptions& header_;
+  TabControl* tabs_ = nullptr;
+  std::vector<TickBox*> chkHeader_;
+  LineBox* txtTitle_ = nullptr;
+  TickBox* chkFooter_ = nullptr;
+};
+
+}  // namespace tarvis

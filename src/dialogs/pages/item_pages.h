@@ -1,0 +1,12 @@
+// Makes the item pages of the dialog.
+#pragma once
+
+#include "dialogs/pages/ItemPage.h"
+#include "dialogs/pages/function_list.h"
+
+namespace tarvis {
+
+// Hidden; owned by `parent`.
+ItemPage* MakeItemPage(PageId id, PrintRun& run, QWidget* parent);
+
+}  // namespace tarvis

@@ -1,0 +1,37 @@
+// Wires the rooms of the program together and starts a run.
+#include "launch/launch.h"
+#include "platform/application.h"
+#include "platform/command_line.h"
+#include "platform/end_signals.h"
+#include "platform/fonts.h"
+#include "platform/host_settings.h"
+#include "platform/process_guard.h"
+#include "platform/program_windows.h"
+#include "platform/qt_desktop.h"
+#include "platform/system_printers.h"
+#include "run/failures.h"
+#include "run/print_run.h"
+
+int main(int argc, char** argv) {
+  using namespace tarvis;
+  GuardProcess();
+  QtDesktop desktop;
+  ToolkitArguments arguments(argv[0]);
+  const std::unique_ptr<Application> application = StartApplication(arguments, desktop);
+  RequireFonts(desktop);
+  // They last as long as the process, which ends without coming back here: no window is taken apart when the
+  // toolkit has lost its display.
+  const std::unique_ptr<HostSettings> settings = OpenHostSettings(desktop);
+  PrintRun run(desktop);
+  QtProgramWindows windows(run);
+  SystemPrinters printers(settings->CountsPdfPrinter());
+  const EndSignals endSignals([&] {
+    if (application->IsFailing()) desktop.EndProcess(ExitAfterRunTimeFailure);
+    windows.StopWork();
+    EndRun(run);
+  });
+  application->Run([&] {
+    run.Page = CodePage(settings->CodePageNumber());
+    Launch(run, CommandLineText(argc, argv), {*settings, printers, windows});
+  });
+}

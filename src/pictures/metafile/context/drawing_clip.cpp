@@ -1,0 +1,108 @@
+#include "pictures/metafile/context/drawing.h"
+
+namespace tarvis {
+namespace {
+
+// Set operations on outlines take time with the square of their size, so both size and number are limited.
+constexpr int MostElements = 400;
+constexpr int MostCostlyClips = 500;
+constexpr std::size_t MostPaths = 32;
+constexpr double Far = 1e7;
+
+// Whether `path` is the upright box around it.
+bool IsBox(const QPainterPath& path) {
+  if (path.elementCount() != 5) return false;
+  for (int i = 0; i < 4; ++i) {
+    const auto here = path.elementAt(i);
+    const auto next = path.elementAt(i + 1);
+    if (!next.isLineTo() || (here.x != next.x) == (here.y != next.y)) return false;
+  }
+  return QPointF(path.elementAt(0)) == QPointF(path.elementAt(4));
+}
+
+QPainterPath BoxPath(const QRectF& box) {
+  QPainterPath path;
+  path.addRect(box);
+  return path;
+}
+
+// All but `path`.
+QPainterPath Outside(const QPainterPath& path) {
+  QPainterPath outside = BoxPath({-Far, -Far, 2 * Far, 2 * Far});
+  outside.addPath(path);
+  outside.setFillRule(Qt::OddEvenFill);
+  return outside;
+}
+
+}  // namespace
+
+std::shared_ptr<ListClip> Drawing::CopyOfClip() const {
+  return State().Clip == nullptr ? std::make_shared<ListClip>() : std::make_shared<ListClip>(*State().Clip);
+}
+
+void Drawing::AddClipPath(const QPainterPath& device) {
+  auto clip = CopyOfClip();
+  if (IsBox(device)) {
+    const QRectF box = device.boundingRect();
+    clip->Box = clip->HasBox ? clip->Box & box : box;
+    clip->HasBox = true;
+    State().Clip = clip;
+    return;
+  }
+  if (clip->Paths.size() >= MostPaths) throw SkipRecord();
+  clip->Paths.push_back(std::make_shared<QPainterPath>(device));
+  State().Clip = clip;
+}
+
+void Drawing::IntersectClip(const QRectF& box) {
+  AddClipPath(ToDevice().map(BoxPath(box)));
+}
+
+void Drawing::ExcludeClip(const QRectF& box) {
+  AddClipPath(Outside(ToDevice().map(BoxPath(box))));
+}
+
+void Drawing::OffsetClip(QPointF by) {
+  if (State().Clip == nullptr) return;
+  const QTransform toDevice = ToDevice();
+  const QPointF device = toDevice.map(by) - toDevice.map(QPointF());
+  auto clip = CopyOfClip();
+  clip->Box.translate(device);
+  for (auto& path : clip->Paths) path = std::make_shared<QPainterPath>(path->translated(device));
+  State().Clip = clip;
+}
+
+void Drawing::SelectClip(const QPainterPath& device, ClipMode mode) {
+  switch (mode) {
+    case ClipMode::Copy:
+      ResetClip();
+      return AddClipPath(device);
+    case ClipMode::And:
+      return AddClipPath(device);
+    case ClipMode::Difference:
+      return AddClipPath(Outside(device));
+    case ClipMode::Or:
+      if (State().Clip == nullptr) return;
+      return CombineClip(device, mode);
+    case ClipMode::Xor:
+      if (State().Clip == nullptr) return AddClipPath(Outside(device));
+      return CombineClip(device, mode);
+  }
+  throw SkipRecord();
+}
+
+void Drawing::CombineClip(const QPainterPath& device, ClipMode mode) {
+  const ListClip& now = *State().Clip;
+  int elements = device.elementCount();
+  for (const auto& path : now.Paths) elements += path->elementCount();
+  if (elements > MostElements || ++costlyClips_ > MostCostlyClips) throw SkipRecord();
+  QPainterPath area = BoxPath(now.HasBox ? now.Box : QRectF(-Far, -Far, 2 * Far, 2 * Far));
+  for (const auto& path : now.Paths) area = area.intersected(*path);
+  const QPainterPath both =
+      mode == ClipMode::Or ? area.united(device) : area.united(device).subtracted(area.intersected(device));
+  auto clip = std::make_shared<ListClip>();
+  clip->Paths.push_back(std::make_shared<QPainterPath>(both));
+  State().Clip = clip;
+}
+
+}  // namespace tarvis

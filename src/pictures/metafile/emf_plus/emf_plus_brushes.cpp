@@ -1,0 +1,159 @@
+#include <algorithm>
+#include <cmath>
+
+#include "pictures/metafile/emf_plus/emf_plus_objects.h"
+
+namespace tarvis {
+namespace {
+
+// The stops of a gradient, between its two colours or of its own.
+void SetStops(QGradient& gradient, ByteReader& r, std::uint32_t flags, QColor from, QColor to) {
+  enum : std::uint32_t { PresetColors = 4, BlendFactors = 8 };
+  gradient.setColorAt(0, from);
+  gradient.setColorAt(1, to);
+  if ((flags & (PresetColors | BlendFactors)) == 0) return;
+  const std::size_t count = r.U32();
+  if (count > r.Left() / 8) throw OutOfBytes();
+  std::vector<double> places;
+  for (std::size_t i = 0; i < count; ++i) places.push_back(std::clamp(ReadF(r), 0.0, 1.0));
+  for (const double place : places) {
+    if ((flags & PresetColors) != 0) {
+      gradient.setColorAt(place, PlusColor(r.U32()));
+      continue;
+    }
+    const auto part = static_cast<float>(std::clamp(ReadF(r), 0.0, 1.0));
+    const auto mix = [part](float a, float b) { return a + (b - a) * part; };
+    gradient.setColorAt(place,
+                        QColor::fromRgbF(mix(from.redF(), to.redF()), mix(from.greenF(), to.greenF()),
+                                         mix(from.blueF(), to.blueF()), mix(from.alphaF(), to.alphaF())));
+  }
+}
+
+PlusBrush LinearGradient(ByteReader& r) {
+  enum : std::uint32_t { HasTransform = 2 };
+  const std::uint32_t flags = r.U32();
+  const std::uint32_t wrap = r.U32();
+  const QRectF box = ReadRectF(r);
+  const QColor from = PlusColor(r.U32());
+  const QColor to = PlusColor(r.U32());
+  r.Skip(8);
+  QTransform transform;
+  if ((flags & HasTransform) != 0) transform = ReadTransformF(r);
+  QLinearGradient gradient(box.topLeft(), box.topRight());
+  gradient.setSpread(wrap == 0   ? QGradient::RepeatSpread
+                     : wrap == 4 ? QGradient::PadSpread
+                                 : QGradient::ReflectSpread);
+  SetStops(gradient, r, flags, from, to);
+  ListBrush brush{QBrush(gradient)};
+  brush.Brush.setTransform(transform);
+  return {brush, nullptr};
+}
+
+PlusBrush PathGradientBrush(ByteReader& r) {
+  enum : std::uint32_t { HasPath = 1, HasTransform = 2 };
+  const std::uint32_t flags = r.U32();
+  r.Skip(4);
+  auto gradient = std::make_shared<PathGradient>();
+  gradient->Inside = PlusColor(r.U32());
+  gradient->Center = ReadPointF(r);
+  const std::size_t colors = r.U32();
+  if (colors > r.Left() / 4) throw OutOfBytes();
+  for (std::size_t i = 0; i < colors; ++i) gradient->Around.push_back(PlusColor(r.U32()));
+  if (colors == 0) gradient->Around.push_back(gradient->Inside);
+  const std::size_t size = r.U32();
+  if ((flags & HasPath) != 0) {
+    ByteReader path(r.Take(size));
+    gradient->Outline = ReadPlusPath(path);
+  } else {
+    const Points points = ReadPlusPoints(r, size, 0);
+    gradient->Outline.addPolygon(QPolygonF(QList<QPointF>(points.begin(), points.end())));
+  }
+  gradient->Outline.closeSubpath();
+  if ((flags & HasTransform) != 0) gradient->Transform = ReadTransformF(r);
+  QLinearGradient stops;
+  SetStops(stops, r, flags, gradient->Around[0], gradient->Inside);
+  gradient->Stops = stops.stops();
+  return {ListBrush{QBrush(gradient->Around[0])}, gradient};
+}
+
+// A hatch of lines: how far apart and how wide they are, in dots.
+struct LineHatch {
+  std::uint32_t Number;
+  Qt::BrushStyle Style;
+  double Step = 8;
+  double Line = 1;
+};
+
+constexpr LineHatch LineHatches[] = {
+    {0, Qt::HorPattern},          {1, Qt::VerPattern},          {2, Qt::FDiagPattern},
+    {3, Qt::BDiagPattern},        {4, Qt::CrossPattern},        {5, Qt::DiagCrossPattern},
+    {18, Qt::FDiagPattern, 4, 1}, {19, Qt::BDiagPattern, 4, 1}, {20, Qt::FDiagPattern, 4, 2},
+    {21, Qt::BDiagPattern, 4, 2}, {22, Qt::FDiagPattern, 8, 3}, {23, Qt::BDiagPattern, 8, 3},
+    {24, Qt::VerPattern, 4, 1},   {25, Qt::HorPattern, 4, 1},   {26, Qt::VerPattern, 2, 1},
+    {27, Qt::HorPattern, 2, 1},   {28, Qt::VerPattern, 4, 2},   {29, Qt::HorPattern, 4, 2},
+    {48, Qt::CrossPattern, 4, 1},  // the small grid
+    {51, Qt::DiagCrossPattern},    // outlined diamonds
+};
+
+// How much of a fine pattern is ink, in percent; the eye sees an even mixture. 0: not known.
+int InkOf(std::uint32_t hatch) {
+  constexpr int percents[] = {5, 10, 20, 25, 30, 40, 50, 60, 70, 75, 80, 90};
+  constexpr std::uint32_t first = 6, smallChecks = 49, largeChecks = 50;
+  if (hatch == smallChecks || hatch == largeChecks) return 50;
+  return hatch >= first && hatch - first < std::size(percents) ? percents[hatch - first] : 0;
+}
+
+PlusBrush HatchBrush(ByteReader& r) {
+  const std::uint32_t hatch = r.U32();
+  const QColor lines = PlusColor(r.U32());
+  const QColor behind = PlusColor(r.U32());
+  const auto* const form = std::ranges::find(LineHatches, hatch, &LineHatch::Number);
+  if (form != std::end(LineHatches))
+    return {{.Brush = QBrush(lines, form->Style),
+             .Behind = behind,
+             .HatchStep = form->Step,
+             .HatchLine = form->Line},
+            nullptr};
+  const int part = InkOf(hatch);
+  if (part == 0) throw SkipRecord();
+  const auto mix = [part](int a, int b) { return (a * part + b * (100 - part)) / 100; };
+  return {ListBrush{QBrush(QColor(mix(lines.red(), behind.red()), mix(lines.green(), behind.green()),
+                                  mix(lines.blue(), behind.blue()), mix(lines.alpha(), behind.alpha())))},
+          nullptr};
+}
+
+// A pixel of the picture takes a unit of the world.
+PlusBrush TextureBrush(ByteReader& r) {
+  enum : std::uint32_t { HasTransform = 2 };
+  const std::uint32_t flags = r.U32();
+  r.Skip(4);
+  QTransform transform;
+  if ((flags & HasTransform) != 0) transform = ReadTransformF(r);
+  ListBrush brush{QBrush(ReadPlusImage(r))};
+  brush.Brush.setTransform(transform);
+  brush.Placed = true;
+  return {brush, nullptr};
+}
+
+}  // namespace
+
+PlusBrush ReadPlusBrush(ByteReader& r) {
+  enum : std::uint32_t { Solid = 0, Hatch = 1, Texture = 2, Path = 3, Linear = 4 };
+  r.Skip(4);
+  switch (r.U32()) {
+    case Solid:
+      return {ListBrush{QBrush(PlusColor(r.U32()))}, nullptr};
+    case Hatch:
+      return HatchBrush(r);
+    case Texture:
+      return TextureBrush(r);
+    case Path:
+      return PathGradientBrush(r);
+    case Linear:
+      return LinearGradient(r);
+    default:
+      throw SkipRecord();
+  }
+}
+
+}  // namespace tarvis

@@ -1,0 +1,81 @@
+#include <QBuffer>
+#include <QImageReader>
+#include <utility>
+
+#include "pictures/metafile/emf_plus/emf_plus_objects.h"
+
+namespace tarvis {
+namespace {
+
+constexpr qint64 MostImagePixels = 16 << 20;
+
+QImage FromPixels(ByteReader& r, int width, int height, std::size_t stride, std::uint32_t format) {
+  constexpr std::pair<std::uint32_t, QImage::Format> formats[] = {
+      {0x26200A, QImage::Format_ARGB32}, {0x22009, QImage::Format_RGB32},
+      {0x21808, QImage::Format_BGR888},  {0xE200B, QImage::Format_ARGB32_Premultiplied},
+      {0x21005, QImage::Format_RGB555},  {0x21006, QImage::Format_RGB16}};
+  for (const auto& [number, kind] : formats) {
+    if (number != format) continue;
+    if (width < 1 || height < 1 || width > 0x8000 || height > 0x8000) throw SkipRecord();
+    const Bytes pixels = r.Take(stride * static_cast<std::size_t>(height));
+    QImage image(width, height, kind);
+    if (image.isNull() || stride < static_cast<std::size_t>(width * image.depth() / 8)) throw SkipRecord();
+    const auto used = static_cast<std::size_t>(width * image.depth() / 8);
+    for (int y = 0; y < height; ++y)
+      std::ranges::copy(pixels.subspan(static_cast<std::size_t>(y) * stride, used), image.scanLine(y));
+    return image;
+  }
+  throw SkipRecord();
+}
+
+// A bitmap of 1, 4 or 8 bits with its colours in front.
+QImage FromIndexes(ByteReader& r, int width, int height, std::size_t stride, std::uint32_t format) {
+  const unsigned bits = format >> 8 & 0xFF;
+  r.Skip(4);
+  const std::size_t colors = r.U32();
+  if (colors > 256 || (bits != 1 && bits != 4 && bits != 8)) throw SkipRecord();
+  if (width < 1 || height < 1 || width > 0x8000 || height > 0x8000) throw SkipRecord();
+  QList<QRgb> table(256, qRgb(0, 0, 0));
+  for (std::size_t i = 0; i < colors; ++i) table[static_cast<qsizetype>(i)] = r.U32();
+  const Bytes pixels = r.Take(stride * static_cast<std::size_t>(height));
+  if (stride * 8 < static_cast<std::size_t>(width) * bits) throw SkipRecord();
+  QImage image(width, height, QImage::Format_Indexed8);
+  if (image.isNull()) throw SkipRecord();
+  image.setColorTable(table);
+  const unsigned perByte = 8 / bits;
+  for (int y = 0; y < height; ++y) {
+    const Bytes row = pixels.subspan(static_cast<std::size_t>(y) * stride, stride);
+    uchar* to = image.scanLine(y);
+    for (unsigned x = 0; x < static_cast<unsigned>(width); ++x)
+      to[x] = static_cast<uchar>(row[x / perByte] >> (8 - bits * (x % perByte + 1)) & ((1u << bits) - 1));
+  }
+  return image;
+}
+
+}  // namespace
+
+QImage ReadPlusImage(ByteReader& r) {
+  enum : std::uint32_t { Bitmap = 1, File = 1 };
+  r.Skip(4);
+  if (r.U32() != Bitmap) throw SkipRecord();
+  const int width = r.I32();
+  const int height = r.I32();
+  const std::size_t stride = r.U32();
+  const std::uint32_t format = r.U32();
+  constexpr std::uint32_t indexed = 0x10000;
+  if (r.U32() != File)
+    return (format & indexed) != 0 ? FromIndexes(r, width, height, stride, format)
+                                   : FromPixels(r, width, height, stride, format);
+  const Bytes file = r.Rest();
+  QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(file.data()),
+                                             static_cast<qsizetype>(file.size()));
+  QBuffer buffer(&bytes);
+  QImageReader reader(&buffer);
+  const QSize size = reader.size();
+  if (qint64{size.width()} * size.height() > MostImagePixels) throw SkipRecord();
+  QImage image = reader.read();
+  if (image.isNull()) throw SkipRecord();
+  return image;
+}
+
+}  // namespace tarvis

@@ -1,0 +1,123 @@
+#include "pictures/metafile/emf_plus/emf_plus_objects.h"
+
+#include <cmath>
+
+namespace tarvis {
+namespace {
+
+PlusFont ReadFont(ByteReader& r) {
+  enum : std::uint32_t { Bold = 1, Italic = 2, Underline = 4, StrikeOut = 8 };
+  r.Skip(4);
+  PlusFont font;
+  const double size = ReadF(r);
+  const std::uint32_t unit = r.U32();
+  const double toPixels = unit == 3   ? 96.0 / 72
+                          : unit == 4 ? 96
+                          : unit == 5 ? 96.0 / 300
+                          : unit == 6 ? 96 / 25.4
+                                      : 1;
+  font.Font.Height = -size * toPixels;
+  const std::uint32_t style = r.U32();
+  font.Font.Weight = (style & Bold) != 0 ? 700 : 400;
+  font.Font.Italic = (style & Italic) != 0;
+  font.Font.Underline = (style & Underline) != 0;
+  font.Font.StrikeOut = (style & StrikeOut) != 0;
+  r.Skip(4);
+  for (std::size_t left = std::min<std::uint32_t>(r.U32(), 64); left > 0; --left)
+    font.Font.Face += static_cast<char16_t>(r.U16());
+  return font;
+}
+
+PlusFormat ReadFormat(ByteReader& r) {
+  enum : std::uint32_t { NoWrap = 0x1000 };
+  r.Skip(4);
+  PlusFormat format;
+  format.Wraps = (r.U32() & NoWrap) == 0;
+  r.Skip(4);
+  format.Align = r.U32();
+  format.LineAlign = r.U32();
+  return format;
+}
+
+// A whole number of 7 bits in one byte, or of 15 bits in two.
+int ReadSmallNumber(ByteReader& r) {
+  const int first = r.U8();
+  if (first < 0x80) return first < 0x40 ? first : first - 0x80;
+  const int value = (first & 0x7F) << 8 | r.U8();
+  return value < 0x4000 ? value : value - 0x8000;
+}
+
+Points ReadRelativePoints(ByteReader& r, std::size_t count) {
+  if (count > r.Left() / 2) throw OutOfBytes();
+  Points points(count);
+  QPointF last;
+  for (QPointF& point : points) {
+    const double x = ReadSmallNumber(r);
+    last += QPointF(x, ReadSmallNumber(r));
+    point = last;
+  }
+  return points;
+}
+
+}  // namespace
+
+QColor PlusColor(std::uint32_t argb) {
+  return QColor::fromRgba(argb);
+}
+
+double ReadF(ByteReader& r) {
+  const auto value = static_cast<double>(r.F32());
+  if (!std::isfinite(value) || std::abs(value) > 1e9) throw SkipRecord();
+  return value;
+}
+
+QPointF ReadPointF(ByteReader& reader) {
+  const double x = ReadF(reader);
+  return {x, ReadF(reader)};
+}
+
+QRectF ReadRectF(ByteReader& reader) {
+  const QPointF at = ReadPointF(reader);
+  const QPointF size = ReadPointF(reader);
+  return {at.x(), at.y(), size.x(), size.y()};
+}
+
+QTransform ReadTransformF(ByteReader& reader) {
+  double v[6];
+  for (double& value : v) value = ReadF(reader);
+  return QTransform(v[0], v[1], v[2], v[3], v[4], v[5]);
+}
+
+Points ReadPlusPoints(ByteReader& reader, std::size_t count, std::uint32_t flags) {
+  if ((flags & PlusRelativeFlag) != 0) return ReadRelativePoints(reader, count);
+  const bool compressed = (flags & PlusCompressedFlag) != 0;
+  if (count > reader.Left() / (compressed ? 4 : 8)) throw OutOfBytes();
+  Points points(count);
+  for (QPointF& point : points) point = compressed ? ReadPoint16(reader) : ReadPointF(reader);
+  return points;
+}
+
+PlusObject ReadPlusObject(PlusKind kind, ByteReader& reader) {
+  switch (kind) {
+    case PlusKind::Brush:
+      return ReadPlusBrush(reader);
+    case PlusKind::Pen:
+      return ReadPlusPen(reader);
+    case PlusKind::Path:
+      return ReadPlusPath(reader);
+    case PlusKind::Region:
+      return ReadPlusRegion(reader);
+    case PlusKind::Image:
+      return ReadPlusImage(reader);
+    case PlusKind::Font:
+      return ReadFont(reader);
+    case PlusKind::Format:
+      return ReadFormat(reader);
+    case PlusKind::ImageAttributes:
+    case PlusKind::LineCap:
+      return PlusHint();
+  }
+  throw SkipRecord();
+}
+
+}  // namespace tarvis

@@ -1,0 +1,242 @@
+#include "pictures/metafile/list/draw_list_painter.h"
+
+#include <QPaintDevice>
+#include <QPaintEngine>
+#include <algorithm>
+#include <cmath>
+
+#include "pictures/image_picture.h"
+#include "pictures/metafile/list/line_thinning.h"
+
+namespace tarvis {
+namespace {
+
+constexpr double HairlineInches = 0.005;
+constexpr double ScreenDotsPerInch = 96;
+constexpr double MostDashes = 20000;  // in one line; beyond, a dash is no longer seen as one
+constexpr double MostHatchLines = 4000;
+constexpr double WidestPen = 32000;  // of the toolkit
+
+double ScaleOf(const QTransform& transform) {
+  return std::sqrt(std::abs(transform.determinant()));
+}
+
+double Length(const QPolygonF& line) {
+  double length = 0;
+  for (qsizetype i = 1; i < line.size(); ++i)
+    length += std::hypot(line[i].x() - line[i - 1].x(), line[i].y() - line[i - 1].y());
+  return length;
+}
+
+bool IsHatch(Qt::BrushStyle style) {
+  return style >= Qt::HorPattern && style <= Qt::DiagCrossPattern;
+}
+
+// The box that `path` is, if it is one; else an empty one.
+QRectF AsBox(const QPainterPath& path) {
+  if (path.elementCount() != 5 && path.elementCount() != 4) return {};
+  for (int i = 0; i < path.elementCount(); ++i) {
+    const auto here = path.elementAt(i);
+    const auto next = path.elementAt((i + 1) % path.elementCount());
+    if ((i > 0 && !here.isLineTo()) || (here.x != next.x && here.y != next.y)) return {};
+  }
+  return path.boundingRect();
+}
+
+}  // namespace
+
+DrawListPainter::DrawListPainter(const DrawList& list, QPainter& painter, const QRectF& frame,
+                                 const QRectF& target)
+    : list_(list), painter_(painter), target_(target) {
+  toTarget_ = QTransform::fromTranslate(-frame.left(), -frame.top()) *
+              QTransform::fromScale(target.width() / frame.width(), target.height() / frame.height()) *
+              QTransform::fromTranslate(target.left(), target.top());
+  penScale_ = ScaleOf(toTarget_);
+  const double deviceScale = std::max(ScaleOf(painter.deviceTransform()), 1e-9);
+  const double dotsPerInch =
+      painter.device() == nullptr ? ScreenDotsPerInch : painter.device()->logicalDpiX();
+  pixel_ = 1 / deviceScale;
+  screenDot_ = std::max(dotsPerInch / ScreenDotsPerInch, 1.0) / deviceScale;
+  hairline_ = std::max(1.0, dotsPerInch * HairlineInches) / deviceScale;
+  onScreen_ = painter.paintEngine() != nullptr && painter.paintEngine()->type() == QPaintEngine::Raster;
+}
+
+void DrawListPainter::Paint() {
+  painter_.save();
+  painter_.setRenderHint(QPainter::Antialiasing);
+  Clip({});
+  for (const ListCommand& command : list_.Commands()) {
+    switch (command.Kind) {
+      case ListKind::Shape:
+        Shape(command);
+        break;
+      case ListKind::Image:
+        Image(list_.Image(command.Index));
+        break;
+      case ListKind::Clip:
+        Clip(list_.Clip(command.Index));
+        break;
+    }
+  }
+  painter_.restore();
+}
+
+QPointF DrawListPainter::Map(ListPoint point) const {
+  return {static_cast<double>(point.X) * toTarget_.m11() + toTarget_.dx(),
+          static_cast<double>(point.Y) * toTarget_.m22() + toTarget_.dy()};
+}
+
+QPainterPath DrawListPainter::MakePath(const Outline& outline, bool winding) const {
+  QPainterPath path;
+  path.setFillRule(winding ? Qt::WindingFill : Qt::OddEvenFill);
+  path.reserve(static_cast<int>(outline.PointCount));
+  auto point = list_.Points(outline).begin();
+  for (const Verb verb : list_.Verbs(outline)) {
+    if (verb == Verb::Move) path.moveTo(Map(*point++));
+    if (verb == Verb::Line) path.lineTo(Map(*point++));
+    if (verb == Verb::Curve) {
+      path.cubicTo(Map(point[0]), Map(point[1]), Map(point[2]));
+      point += 3;
+    }
+  }
+  return path;
+}
+
+QPolygonF DrawListPainter::MakeLine(const Outline& outline) const {
+  const auto points = list_.Points(outline);
+  QPolygonF line;
+  line.reserve(static_cast<qsizetype>(points.size()));
+  for (const ListPoint& point : points) line.append(Map(point));
+  return ThinnedLine(std::move(line), pixel_ / 4);
+}
+
+QPen DrawListPainter::MakePen(const ListPen& listPen, double length) const {
+  QPen pen = listPen.Pen;
+  const double width = listPen.Hairline ? 0 : std::min(listPen.Width * penScale_, WidestPen);
+  const double shown = listPen.Hairline ? hairline_ : std::max(width, hairline_);
+  pen.setWidthF(shown);
+  if (pen.brush().gradient() != nullptr) {
+    QBrush brush = pen.brush();
+    brush.setTransform(brush.transform() * toTarget_);
+    pen.setBrush(brush);
+  }
+  if (pen.style() != Qt::CustomDashLine) return pen;
+  // Dashes count in widths of the pen; those of hairlines in dots of a screen.
+  const double unit = listPen.Hairline ? screenDot_ : std::max(width, screenDot_ / 2);
+  QList<qreal> dashes = pen.dashPattern();
+  double sum = 0;
+  for (qreal& dash : dashes) sum += (dash = std::max(dash * unit / shown, 0.01));
+  if (sum <= 0 || length / (sum * shown) > MostDashes) {
+    pen.setStyle(Qt::SolidLine);
+  } else {
+    pen.setDashPattern(dashes);
+  }
+  return pen;
+}
+
+void DrawListPainter::Shape(const ListCommand& command) {
+  const Outline& outline = list_.OutlineAt(command.Index);
+  if (outline.VerbCount == 0) {
+    const QPolygonF line = MakeLine(outline);
+    painter_.setPen(MakePen(list_.Pen(command.Pen), Length(line)));
+    painter_.drawPolyline(line);
+    return;
+  }
+  const QPainterPath path = MakePath(outline, command.Winding);
+  if (command.Brush >= 0) Fill(path, list_.Brush(command.Brush));
+  if (command.Pen < 0) return;
+  const ListPen& pen = list_.Pen(command.Pen);
+  painter_.strokePath(path, MakePen(pen, pen.Pen.style() == Qt::SolidLine ? 0 : path.length()));
+}
+
+void DrawListPainter::Fill(const QPainterPath& path, const ListBrush& listBrush) {
+  if (IsHatch(listBrush.Brush.style())) return Hatch(path, listBrush);
+  QBrush brush = listBrush.Brush;
+  if (brush.style() == Qt::TexturePattern && !listBrush.Placed) {
+    brush.setTransform(QTransform::fromScale(screenDot_, screenDot_) *
+                       QTransform::fromTranslate(target_.left(), target_.top()));
+  } else if (brush.style() == Qt::TexturePattern || brush.gradient() != nullptr) {
+    brush.setTransform(brush.transform() * toTarget_);
+  }
+  const QRectF box =
+      onScreen_ && painter_.deviceTransform().type() <= QTransform::TxScale ? AsBox(path) : QRectF();
+  if (box.isEmpty()) {
+    painter_.fillPath(path, brush);
+    return;
+  }
+  painter_.setRenderHint(QPainter::Antialiasing, false);
+  painter_.fillRect(OnPixels(box), brush);
+  painter_.setRenderHint(QPainter::Antialiasing, true);
+}
+
+// Boxes that touch must leave no seam between them on a screen, however thin they are; so each takes whole
+// pixels, one at least.
+QRectF DrawListPainter::OnPixels(const QRectF& box) const {
+  const QTransform& toDevice = painter_.deviceTransform();
+  const QRectF device = toDevice.mapRect(box);
+  const double left = std::round(device.left()), top = std::round(device.top());
+  const QPointF corner(std::max(std::round(device.right()), left + 1),
+                       std::max(std::round(device.bottom()), top + 1));
+  return toDevice.inverted().mapRect(QRectF(QPointF(left, top), corner));
+}
+
+void DrawListPainter::Hatch(const QPainterPath& path, const ListBrush& brush) {
+  if (brush.Behind.isValid()) painter_.fillPath(path, brush.Behind);
+  const QRectF box = path.boundingRect() & target_;
+  if (box.isEmpty()) return;
+  painter_.save();
+  painter_.setClipPath(path, Qt::IntersectClip);
+  painter_.setPen(QPen(brush.Brush.color(), std::max(hairline_, brush.HatchLine * screenDot_)));
+  painter_.setRenderHint(QPainter::Antialiasing, !onScreen_);
+  HatchLines(box, brush);
+  painter_.restore();
+}
+
+void DrawListPainter::HatchLines(const QRectF& box, const ListBrush& brush) {
+  const Qt::BrushStyle style = brush.Brush.style();
+  const double step = std::max(brush.HatchStep * screenDot_, (box.width() + box.height()) / MostHatchLines);
+  const bool across = style == Qt::HorPattern || style == Qt::CrossPattern;
+  const bool down = style == Qt::VerPattern || style == Qt::CrossPattern;
+  const bool falling = style == Qt::FDiagPattern || style == Qt::DiagCrossPattern;
+  const bool rising = style == Qt::BDiagPattern || style == Qt::DiagCrossPattern;
+  QList<QLineF> lines;
+  // Where lines at whole steps fall between two places.
+  const auto each = [step](double from, double to, const auto& add) {
+    const auto last = static_cast<std::int64_t>(std::ceil(to / step));
+    for (auto i = static_cast<std::int64_t>(std::ceil(from / step)); i < last; ++i)
+      add(static_cast<double>(i) * step);
+  };
+  if (across)
+    each(box.top(), box.bottom(), [&](double y) { lines << QLineF(box.left(), y, box.right(), y); });
+  if (down) each(box.left(), box.right(), [&](double x) { lines << QLineF(x, box.top(), x, box.bottom()); });
+  if (falling)  // x - y is the same all along
+    each(box.left() - box.bottom(), box.right() - box.top(),
+         [&](double c) { lines << QLineF(c + box.top(), box.top(), c + box.bottom(), box.bottom()); });
+  if (rising)  // x + y is the same all along
+    each(box.left() + box.top(), box.right() + box.bottom(),
+         [&](double c) { lines << QLineF(c - box.top(), box.top(), c - box.bottom(), box.bottom()); });
+  painter_.drawLines(lines);
+}
+
+void DrawListPainter::Image(const ListImage& image) {
+  const QTransform place = image.Place * toTarget_;
+  if (place.type() <= QTransform::TxScale && place.m11() > 0 && place.m22() > 0) {
+    DrawImageWell(painter_, place.mapRect(image.Source), image.Image, image.Source);
+    return;
+  }
+  painter_.save();
+  painter_.setTransform(place, true);
+  painter_.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter_.drawImage(image.Source, image.Image, image.Source);
+  painter_.restore();
+}
+
+void DrawListPainter::Clip(const ListClip& clip) {
+  painter_.restore();  // the clip of whoever called stays in force
+  painter_.save();
+  painter_.setRenderHint(QPainter::Antialiasing);
+  painter_.setClipRect(clip.HasBox ? toTarget_.mapRect(clip.Box) & target_ : target_, Qt::IntersectClip);
+  for (const auto& path : clip.Paths) painter_.setClipPath(toTarget_.map(*path), Qt::IntersectClip);
+}
+
+}  // namespace tarvis

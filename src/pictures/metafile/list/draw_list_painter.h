@@ -1,0 +1,41 @@
+// Paints a draw list with the toolkit's painter: vectors stay vectors on every device.
+#pragma once
+
+#include <QPainter>
+
+#include "pictures/metafile/list/draw_list.h"
+
+namespace tarvis {
+
+// Maps `frame` of the picture to `target` and draws what lies inside.
+class DrawListPainter {
+ public:
+  DrawListPainter(const DrawList& list, QPainter& painter, const QRectF& frame, const QRectF& target);
+
+  void Paint();
+
+ private:
+  QPointF Map(ListPoint point) const;
+  QPainterPath MakePath(const Outline& outline, bool winding) const;
+  QPolygonF MakeLine(const Outline& outline) const;
+  QPen MakePen(const ListPen& pen, double length) const;
+  void Shape(const ListCommand& command);
+  void Fill(const QPainterPath& path, const ListBrush& brush);
+  QRectF OnPixels(const QRectF& box) const;
+  void Hatch(const QPainterPath& path, const ListBrush& brush);
+  void HatchLines(const QRectF& box, const ListBrush& brush);
+  void Image(const ListImage& image);
+  void Clip(const ListClip& clip);
+
+  const DrawList& list_;
+  QPainter& painter_;
+  QRectF target_;
+  QTransform toTarget_;
+  double penScale_ = 1;   // from widths of the picture to units of the painter
+  double pixel_ = 1;      // a device pixel in units of the painter
+  double screenDot_ = 1;  // 1/96 inch in units of the painter
+  double hairline_ = 1;
+  bool onScreen_ = false;
+};
+
+}  // namespace tarvis

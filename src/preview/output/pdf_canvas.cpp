@@ -1,0 +1,173 @@
+#include "preview/output/pdf_canvas.h"
+
+#include "preview/output/pdf_numbers.h"
+#include "report/engine/text_measurer.h"
+#include "report/engine/utf8.h"
+
+namespace tarvis {
+namespace {
+
+double D(float value) {
+  return static_cast<double>(value);
+}
+
+}  // namespace
+
+std::size_t PdfPictures::Number(const Picture& picture, float width, float height) {
+  const auto [place, isNew] = numbers_.try_emplace({&picture, width, height}, pictures_.size());
+  if (isNew) pictures_.push_back({&picture, width, height});
+  return place->second;
+}
+
+PdfCanvas::PdfCanvas(float height, PdfGlyphs& glyphs, PdfPictures& pictures)
+    : glyphs_(glyphs), pictures_(pictures) {
+  content_.reserve(std::size_t{32} * 1024);
+  Add(".05 0 0 -.05 0 ");
+  AppendNumber(content_, D(height) / D(TwipsPerPoint));
+  Add("cm\n");
+}
+
+void PdfCanvas::AddRect(const Rect& box) {
+  for (const float value : {box.Left, box.Top, box.Width, box.Height}) AppendNumber(content_, D(value));
+  Add("re\n");
+}
+
+void PdfCanvas::UseInk(Color color) {
+  if (color == ink_) return;
+  ink_ = color;
+  for (const unsigned shift : {16U, 8U, 0U}) AppendNumber(content_, ((color >> shift) & 0xFFU) / 255.0);
+  Add("rg\n");
+}
+
+void PdfCanvas::UseLineWidth(float width) {
+  if (width == lineWidth_) return;
+  lineWidth_ = width;
+  AppendNumber(content_, D(width));
+  Add("w\n");
+}
+
+void PdfCanvas::Fill(const std::vector<Rect>& boxes, Color color) {
+  EndText();
+  UseInk(color);
+  for (const Rect& box : boxes) AddRect(box);
+  Add("f\n");
+}
+
+void PdfCanvas::Frame(const std::vector<Rect>& boxes, float width) {
+  EndText();
+  UseLineWidth(width);
+  for (const Rect& box : boxes) AddRect(box);
+  Add("S\n");
+}
+
+void PdfCanvas::Strokes(const std::vector<Rect>& lines, float width) {
+  EndText();
+  UseLineWidth(width);
+  for (const Rect& line : lines) {
+    AppendNumber(content_, D(line.Left));
+    AppendNumber(content_, D(line.Top));
+    Add("m ");
+    AppendNumber(content_, D(line.Right()));
+    AppendNumber(content_, D(line.Bottom()));
+    Add("l\n");
+  }
+  Add("S\n");
+}
+
+void PdfCanvas::Text(const TextPiece& piece, const TextStyle& style, const Rect& box) {
+  if (piece.Text.empty()) return;
+  const double baseline = D(box.Top) + AscentEm * D(style.Size * TwipsPerPoint);
+  const TextFit fit = FitText(piece, box);
+  if (fit.Clipped) {
+    EndText();
+    Add("q ");
+    AddRect({box.Left, box.Top - box.Height, box.Width, 3 * box.Height});
+    Add("W n\n");
+  }
+  UseInk(style.Ink);
+  BeginText();
+  ShowText(piece, style, D(box.Left), baseline, D(fit.Stretch));
+  if (fit.Clipped) {
+    EndText();
+    Add("Q\n");
+    // What was set between is forgotten by then; 0x1000000 is no colour.
+    ink_ = 0x1000000;
+  }
+}
+
+void PdfCanvas::ShowText(const TextPiece& piece, const TextStyle& style, double x, double y, double stretch) {
+  if (stretch != stretch_) {
+    stretch_ = stretch;
+    AppendNumber(content_, stretch * 100);
+    Add("Tz ");
+  }
+  const double em = D(style.Size * TwipsPerPoint) * stretch;
+  bool open = false;
+  for (std::size_t offset = 0; offset < piece.Text.size();) {
+    const PdfGlyph& glyph = glyphs_.Use(NextCharacter(piece.Text, offset), style.Bold);
+    if (!glyph.Inks) continue;
+    if (!open || glyph.Face != face_) {
+      if (open) Add(">Tj\n");
+      UseFont(glyph.Face, style.Size);
+      MoveTo(x, y);
+      Add("<");
+      open = true;
+    }
+    AppendHex(content_, glyph.Code);
+    x += D(glyph.AdvanceEm) * em;
+  }
+  if (open) Add(">Tj\n");
+}
+
+void PdfCanvas::UseFont(std::uint16_t face, float size) {
+  if (face == face_ && size == size_) return;
+  face_ = face;
+  size_ = size;
+  Add("/F");
+  AppendNumber(content_, face);
+  AppendNumber(content_, D(size * TwipsPerPoint));
+  Add("Tf ");
+}
+
+// Places are written relative to the last one: shorter, and small numbers compress well.
+void PdfCanvas::MoveTo(double x, double y) {
+  AppendNumber(content_, x - lineX_);
+  AppendNumber(content_, lineY_ - y);
+  Add("Td");
+  // What was written is rounded; the rounding must not add up over a page.
+  lineX_ += std::round((x - lineX_) * 100) / 100;
+  lineY_ -= std::round((lineY_ - y) * 100) / 100;
+}
+
+void PdfCanvas::BeginText() {
+  if (inText_) return;
+  Add("BT 1 0 0 -1 0 0 Tm\n");
+  inText_ = true;
+  lineX_ = 0;
+  lineY_ = 0;
+}
+
+void PdfCanvas::EndText() {
+  if (!inText_) return;
+  Add("ET\n");
+  inText_ = false;
+}
+
+void PdfCanvas::Picture(const tarvis::Picture& picture, const Rect& box) {
+  EndText();
+  const std::size_t number = pictures_.Number(picture, box.Width, box.Height);
+  Add("q ");
+  AddRect(box);
+  Add("W n 20 0 0 -20 ");
+  AppendNumber(content_, D(box.Left));
+  // Forms stand on their lower edge, which is rounded up to whole points.
+  AppendNumber(content_, D(box.Top) + D(TwipsPerPoint) * PdfPictureHeight(box.Height));
+  Add("cm /P" + std::to_string(number) + " Do Q\n");
+}
+
+std::string PdfCanvas::Finish() {
+  EndText();
+  return std::move(content_);
+}
+
+}  // namespace tarvis

@@ -1,0 +1,75 @@
+// Pages as PDF content, written directly: a page of table cells is a few kilobytes of plain operators, and
+// writing them costs a fraction of what the toolkit's PDF painter takes.
+//
+// Content is in twips with the origin at the top left; a matrix at its start turns that into PDF's points.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include "preview/output/pdf_glyphs.h"
+#include "preview/paint/page_painter.h"
+
+namespace tarvis {
+
+// A picture in one size; content draws it by the name "P" and its number.
+struct PdfPicture {
+  const Picture* Source = nullptr;
+  float Width = 0;  // twips
+  float Height = 0;
+};
+
+// The pictures of a document, each size of each once.
+class PdfPictures {
+ public:
+  std::size_t Number(const Picture& picture, float width, float height);
+  const std::vector<PdfPicture>& All() const { return pictures_; }
+
+ private:
+  std::vector<PdfPicture> pictures_;
+  std::map<std::tuple<const Picture*, float, float>, std::size_t> numbers_;
+};
+
+// Makes the content of one page. Glyphs and pictures are noted for the resources that all pages share.
+class PdfCanvas : public Canvas {
+ public:
+  // `height` of the paper in twips.
+  PdfCanvas(float height, PdfGlyphs& glyphs, PdfPictures& pictures);
+
+  void Fill(const std::vector<Rect>& boxes, Color color) override;
+  void Frame(const std::vector<Rect>& boxes, float width) override;
+  void Strokes(const std::vector<Rect>& lines, float width) override;
+  void Text(const TextPiece& piece, const TextStyle& style, const Rect& box) override;
+  void Picture(const tarvis::Picture& picture, const Rect& box) override;
+
+  // Closes the content and hands it out; the canvas must not be used after that.
+  std::string Finish();
+
+ private:
+  void Add(std::string_view text) { content_ += text; }
+  void AddRect(const Rect& box);
+  void UseInk(Color color);
+  void UseLineWidth(float width);
+  void BeginText();
+  void EndText();
+  void ShowText(const TextPiece& piece, const TextStyle& style, double x, double y, double stretch);
+  void MoveTo(double x, double y);
+  void UseFont(std::uint16_t face, float size);
+
+  PdfGlyphs& glyphs_;
+  PdfPictures& pictures_;
+  std::string content_;
+  Color ink_ = Black;
+  float lineWidth_ = 0;
+  bool inText_ = false;
+  double lineX_ = 0;  // where the text line in hand starts
+  double lineY_ = 0;
+  int face_ = -1;
+  float size_ = 0;
+  double stretch_ = 1;
+};
+
+}  // namespace tarvis

@@ -1,0 +1,55 @@
+#include "preview/output/print_system.h"
+
+#include <QLibrary>
+#include <QPrintEngine>
+#include <QPrinter>
+#include <QStringList>
+
+namespace tarvis {
+namespace {
+
+// A function of the client library; null where there is none.
+template <typename Function>
+Function* ClientFunction(const char* name) {
+  constexpr int Version = 2;
+  return reinterpret_cast<Function*>(QLibrary::resolve(QStringLiteral("cups"), Version, name));
+}
+
+}  // namespace
+
+// What these functions tell and set is a matter of the calling thread.
+
+QString RefusalOfLastJob() {
+  constexpr int FirstErrorStatus = 0x0200;
+  auto* const status = ClientFunction<int()>("cupsLastError");
+  auto* const words = ClientFunction<const char*()>("cupsLastErrorString");
+  if (status == nullptr || words == nullptr || status() < FirstErrorStatus) return {};
+  return QString::fromUtf8(words());
+}
+
+void DropJobsOfThisThread() {
+  auto* const useServer = ClientFunction<void(const char*)>("cupsSetServer");
+  if (useServer != nullptr) useServer("/dev/null");  // nobody listens there
+}
+
+PageSet TakeChoiceOfPages(QPrinter& printer) {
+  // Names and values by turns; the number is the toolkit's for what it hands to this print system.
+  constexpr auto JobOptions = static_cast<QPrintEngine::PrintEnginePropertyKey>(0xfe00);
+  const QStringList given = printer.printEngine()->property(JobOptions).toStringList();
+  QStringList kept;
+  PageSet set = PageSet::All;
+  for (qsizetype i = 0; i + 1 < given.size(); i += 2) {
+    const QString& name = given[i];
+    const QString& value = given[i + 1];
+    if (name == QStringLiteral("page-set")) {
+      if (value == QStringLiteral("odd")) set = PageSet::Odd;
+      if (value == QStringLiteral("even")) set = PageSet::Even;
+    } else if (name != QStringLiteral("page-ranges")) {
+      kept << name << value;
+    }
+  }
+  printer.printEngine()->setProperty(JobOptions, kept);
+  return set;
+}
+
+}  // namespace tarvis

@@ -1,0 +1,25 @@
+// A composed document on paper. Pages come from the document alone: the report is never run again.
+#pragma once
+
+#include <QSizeF>
+#include <QString>
+
+#include "preview/output/background_job.h"
+#include "report/engine/document.h"
+
+class QPrinter;
+
+namespace tarvis {
+
+// Whether the document's pages are shrunk to the size of the paper.
+enum class PrintScale { AsComposed, FitToPaper };
+
+// Width and height that the printable area of the printer's paper lacks for what the document prints, in
+// twips; 0 where all fits.
+QSizeF MissingRoom(const Document& document, const QPrinter& printer);
+
+// Prints the page range of `printer`. Returns an error text for the user, empty if all is well or cancelled.
+QString PrintDocument(const Document& document, QPrinter& printer, PrintScale scale,
+                      const Progress& progress);
+
+}  // namespace tarvis

@@ -1,0 +1,254 @@
+#include "preview/pages/page_view.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace tarvis {
+namespace {
+
+constexpr std::int64_t PictureBudget = 48LL * 1024 * 1024;  // bytes
+constexpr int Patience = 8;                                 // milliseconds, half a frame
+
+constexpr std::array ZoomSteps{0.1,  0.125, 0.25, 0.33, 0.5, 0.67, 0.75, 0.9, 1.0, 1.1,
+                               1.25, 1.5,   1.75, 2.0,  2.5, 3.0,  4.0,  5.0, 6.0, 8.0};
+
+void PaintShadow(QPainter& painter, const QRectF& page, const QColor& edge) {
+  for (int step = 4; step >= 1; --step) {
+    painter.fillRect(page.adjusted(step, step, step, step), QColor(0, 0, 0, 60 / step));
+  }
+  painter.fillRect(page.adjusted(-1, -1, 1, 1), edge);
+}
+
+}  // namespace
+
+PageView::PageView(std::shared_ptr<const Document> document, QWidget* parent)
+    : QAbstractScrollArea(parent), document_(std::move(document)), pictures_(document_, PictureBudget) {
+  setObjectName(QStringLiteral("pageView"));
+  setAccessibleName(tr("Pages"));
+  setFrameShape(QFrame::NoFrame);
+  setFocusPolicy(Qt::StrongFocus);
+  viewport()->setCursor(Qt::ArrowCursor);
+  viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+  layout_.SetPages(static_cast<int>(document_->Pages.size()), static_cast<double>(document_->Setup.Width),
+                   static_cast<double>(document_->Setup.Height));
+  connect(&pictures_, &PagePictures::PageReady, this, [this](int page) {
+    viewport()->update(layout_.PageRect(page).translated(-Offset()).toAlignedRect());
+  });
+}
+
+QPointF PageView::Offset() const {
+  return {static_cast<double>(horizontalScrollBar()->value()),
+          static_cast<double>(verticalScrollBar()->value())};
+}
+
+int PageView::CurrentPage() const {
+  return ReadPlace().Page;
+}
+
+PagePlace PageView::ReadPlace() const {
+  return layout_.PlaceAt(Offset().y() + viewport()->height() / 3.0);
+}
+
+PagePlace PageView::CurrentPlace() const {
+  return layout_.PlaceAt(Offset().y() + PageLayout::Margin);
+}
+
+void PageView::UpdateScrollBars() {
+  const QSizeF content = layout_.ContentSize();
+  const auto set = [](QScrollBar* bar, double length, int view) {
+    bar->setRange(0, std::max(0, static_cast<int>(std::ceil(length)) - view));
+    bar->setPageStep(view);
+    bar->setSingleStep(48);
+  };
+  set(horizontalScrollBar(), content.width(), viewport()->width());
+  set(verticalScrollBar(), content.height(), viewport()->height());
+}
+
+void PageView::ChangeLayout(const std::function<void()>& change, QPointF anchor) {
+  const Spot spot = SpotAt(anchor);
+  const double zoomBefore = layout_.Zoom();
+  change();
+  UpdateScrollBars();
+  if (spot.Page >= 0) {
+    const QPointF now = layout_.PageRect(spot.Page).topLeft() + spot.Point * layout_.PixelsPerTwip();
+    horizontalScrollBar()->setValue(static_cast<int>(std::lround(now.x() - anchor.x())));
+    verticalScrollBar()->setValue(static_cast<int>(std::lround(now.y() - anchor.y())));
+  }
+  if (layout_.Zoom() != zoomBefore) emit ZoomChanged();
+  Changed();
+}
+
+void PageView::Changed() {
+  WantShown();
+  viewport()->update();
+  emit PlaceChanged();
+}
+
+void PageView::GoTo(const PagePlace& place) {
+  if (layout_.PageCount() == 0) return;
+  const int page = std::clamp(place.Page, 0, layout_.PageCount() - 1);
+  layout_.SetSinglePage(page);
+  UpdateScrollBars();
+  verticalScrollBar()->setValue(
+      static_cast<int>(std::lround(layout_.YOf({page, place.Top}) - PageLayout::Margin)));
+  Changed();
+}
+
+void PageView::Reveal(int page, const QRectF& box) {
+  layout_.SetSinglePage(page);
+  UpdateScrollBars();
+  const double scale = layout_.PixelsPerTwip();
+  const QRectF place(layout_.PageRect(page).topLeft() + box.topLeft() * scale, box.size() * scale);
+  const auto show = [](QScrollBar* bar, double first, double last, int view) {
+    const double room = std::min(48.0, view / 4.0);
+    if (first - room < bar->value() || last + room > bar->value() + view) {
+      bar->setValue(static_cast<int>(std::lround((first + last - view) / 2)));
+    }
+  };
+  show(horizontalScrollBar(), place.left(), place.right(), viewport()->width());
+  show(verticalScrollBar(), place.top(), place.bottom(), viewport()->height());
+  Changed();
+}
+
+void PageView::SetContinuous(bool continuous) {
+  const PagePlace place = CurrentPlace();
+  layout_.SetContinuous(continuous);
+  GoTo(place);
+}
+
+void PageView::SetZoomMode(ZoomMode mode) {
+  ChangeLayout([&] { layout_.SetZoom(mode, layout_.Zoom()); },
+               QPointF(viewport()->width() / 2.0, PageLayout::Margin));
+  // The mode may change although the factor stays.
+  emit ZoomChanged();
+}
+
+void PageView::SetZoom(double factor, std::optional<QPointF> anchor) {
+  ChangeLayout([&] { layout_.SetZoom(ZoomMode::Factor, factor); },
+               anchor.value_or(QPointF(viewport()->width() / 2.0, viewport()->height() / 2.0)));
+}
+
+void PageView::ZoomStep(int direction, std::optional<QPointF> anchor) {
+  constexpr double Same = 1e-3;
+  if (direction > 0) {
+    const auto next = std::upper_bound(ZoomSteps.begin(), ZoomSteps.end(), Zoom() + Same);
+    if (next != ZoomSteps.end()) SetZoom(*next, anchor);
+  } else {
+    const auto next = std::lower_bound(ZoomSteps.begin(), ZoomSteps.end(), Zoom() - Same);
+    if (next != ZoomSteps.begin()) SetZoom(*std::prev(next), anchor);
+  }
+}
+
+void PageView::SetHighlights(std::function<std::vector<Highlight>(int)> highlights) {
+  highlights_ = std::move(highlights);
+  viewport()->update();
+}
+
+PageView::Spot PageView::SpotAt(QPointF point) const {
+  const int page = layout_.PageAt(Offset().y() + point.y());
+  if (page < 0) return {};
+  return {page, (point + Offset() - layout_.PageRect(page).topLeft()) / layout_.PixelsPerTwip()};
+}
+
+int PageView::PageDeviceWidth() const {
+  return std::max(1, static_cast<int>(std::lround(layout_.PageSize().width() * devicePixelRatioF())));
+}
+
+std::vector<ShownPart> PageView::ShownParts() const {
+  std::vector<ShownPart> parts;
+  const double top = Offset().y();
+  const double bottom = top + viewport()->height();
+  const PageLayout::Range range = layout_.PagesBetween(top, bottom);
+  const int pageHeight = PagePixelHeight(*document_, PageDeviceWidth());
+  for (int page = range.First; page <= range.Last; ++page) {
+    const double pageTop = layout_.PageRect(page).top();
+    const double ratio = devicePixelRatioF();
+    const int first = static_cast<int>(std::floor((top - pageTop) * ratio));
+    const int last = static_cast<int>(std::ceil((bottom - pageTop) * ratio));
+    parts.push_back({page, std::clamp(first, 0, pageHeight - 1), std::clamp(last, 0, pageHeight - 1)});
+  }
+  return parts;
+}
+
+void PageView::WantShown() {
+  const std::vector<ShownPart> parts = ShownParts();
+  const int width = PageDeviceWidth();
+  pictures_.Want(WantedStrips(parts, width, PagePixelHeight(*document_, width), layout_.PageCount()));
+}
+
+void PageView::paintEvent(QPaintEvent* event) {
+  QPainter painter(viewport());
+  const QColor window = palette().color(QPalette::Window);
+  painter.fillRect(event->rect(), window.lightness() < 128 ? window.darker(130) : window.darker(118));
+  const double top = Offset().y();
+  const PageLayout::Range range =
+      layout_.PagesBetween(top + event->rect().top(), top + event->rect().bottom() + 1);
+  for (int page = range.First; page <= range.Last; ++page) PaintPageAt(painter, page, event->rect());
+}
+
+void PageView::PaintPageAt(QPainter& painter, int page, const QRect& exposed) {
+  const QRectF place = layout_.PageRect(page).translated(-Offset());
+  PaintShadow(painter, place, palette().color(QPalette::Shadow));
+  const double ratio = devicePixelRatioF();
+  const int pageHeight = PagePixelHeight(*document_, PageDeviceWidth());
+  const double from = std::max(0.0, exposed.top() - place.top());
+  const double to = exposed.bottom() + 1 - place.top();
+  if (to <= 0) return;
+  PaintPictures(painter, page, place,
+                {page, std::clamp(static_cast<int>(std::floor(from * ratio)), 0, pageHeight - 1),
+                 std::clamp(static_cast<int>(std::ceil(to * ratio)), 0, pageHeight - 1)});
+  if (!highlights_) return;
+  const double scale = layout_.PixelsPerTwip();
+  // Tints multiply, so that the text below stays black.
+  painter.setCompositionMode(QPainter::CompositionMode_Multiply);
+  for (const Highlight& mark : highlights_(page)) {
+    painter.fillRect(QRectF(place.topLeft() + mark.Box.topLeft() * scale, mark.Box.size() * scale),
+                     mark.Tint);
+  }
+  painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+}
+
+void PageView::PaintPictures(QPainter& painter, int page, const QRectF& place, const ShownPart& part) {
+  const int width = PageDeviceWidth();
+  const StripCut cut = CutIntoStrips(width, PagePixelHeight(*document_, width));
+  std::vector<Strip> sharp;
+  bool whole = true;
+  for (int index = part.Top / cut.Height; index <= std::min(part.Bottom / cut.Height, cut.Count - 1);
+       ++index) {
+    sharp.push_back({page, index, width});
+    whole = whole && pictures_.Find(sharp.back()) != nullptr;
+  }
+  if (!whole) {
+    const std::vector<Strip> standIns = pictures_.StandIns(page, width);
+    // Most pages are there within a few milliseconds; one that isn't must not hold up the window.
+    if (standIns.empty()) pictures_.WaitFor(sharp, Patience);
+    painter.fillRect(place, Qt::white);
+    for (const Strip& strip : standIns) PaintStrip(painter, strip, place);
+  }
+  for (const Strip& strip : sharp) PaintStrip(painter, strip, place);
+}
+
+void PageView::PaintStrip(QPainter& painter, const Strip& strip, const QRectF& place) {
+  const QImage* picture = pictures_.Find(strip);
+  if (picture == nullptr) return;
+  const int pageHeight = PagePixelHeight(*document_, strip.Width);
+  const double scale = place.height() / pageHeight;
+  const double top = strip.Index * CutIntoStrips(strip.Width, pageHeight).Height * scale;
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  if (strip.Width == PageDeviceWidth()) {
+    // Pixel for pixel, starting on a whole one: anything else would blur.
+    const double ratio = devicePixelRatioF();
+    const QPointF corner(std::round(place.left() * ratio) / ratio,
+                         std::round((place.top() + top) * ratio) / ratio);
+    painter.drawImage(QRectF(corner, QSizeF(picture->size()) / ratio), *picture);
+  } else {
+    painter.drawImage(QRectF(place.left(), place.top() + top, place.width(), picture->height() * scale),
+                      *picture);
+  }
+}
+
+}  // namespace tarvis

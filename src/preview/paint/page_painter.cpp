@@ -1,0 +1,88 @@
+#include "preview/paint/page_painter.h"
+
+#include <algorithm>
+
+namespace tarvis {
+namespace {
+
+constexpr float WeightUnit = 15;  // twips
+
+float LineWidth(const Item& item) {
+  return static_cast<float>(item.Weight) * WeightUnit;
+}
+
+// Hands on runs of neighbours with the same `key`, so that the order stays.
+template <typename Key, typename Paint>
+void ByLook(const std::vector<const Item*>& items, Key key, Paint paint) {
+  std::vector<Rect> boxes;
+  for (std::size_t index = 0; index < items.size(); ++index) {
+    boxes.push_back(items[index]->Box);
+    if (index + 1 == items.size() || key(*items[index + 1]) != key(*items[index])) {
+      paint(boxes, key(*items[index]));
+      boxes.clear();
+    }
+  }
+}
+
+// A square in the middle of the control's place, clear of the borders of the cell that it stands in.
+void PaintTick(const Item& item, Canvas& canvas) {
+  const float side = 0.7F * std::min(item.Box.Width, item.Box.Height);
+  const float left = item.Box.Left + (item.Box.Width - side) / 2;
+  const float top = item.Box.Top + (item.Box.Height - side) / 2;
+  const Rect box{left, top, side, side};
+  canvas.Fill({box}, White);
+  canvas.Frame({box}, WeightUnit);
+  if (!item.Ticked) return;
+  canvas.Strokes({{left + 0.2F * side, top + 0.5F * side, 0.22F * side, 0.27F * side},
+                  {left + 0.42F * side, top + 0.77F * side, 0.4F * side, -0.5F * side}},
+                 0.12F * side);
+}
+
+// Thin lines make frames: each reaches half its width past its ends, so that no corner shows a notch.
+void CloseCorners(std::vector<Rect>& lines, float width) {
+  for (Rect& line : lines) {
+    if (line.Height == 0) {
+      line.Left -= width / 2;
+      line.Width += width;
+    } else if (line.Width == 0) {
+      line.Top -= width / 2;
+      line.Height += width;
+    }
+  }
+}
+
+void PaintLayer(const Document& document, const PageLayer& layer, Canvas& canvas) {
+  ByLook(
+      layer.Fills, [](const Item& item) { return item.Fill; },
+      [&](const std::vector<Rect>& boxes, Color color) { canvas.Fill(boxes, color); });
+  for (const Item* item : layer.Pictures) {
+    if (document.Pictures[item->Source]) canvas.Picture(*document.Pictures[item->Source], item->Box);
+  }
+  ByLook(layer.Borders, LineWidth,
+         [&](const std::vector<Rect>& boxes, float width) { canvas.Frame(boxes, width); });
+  ByLook(layer.Lines, LineWidth, [&](std::vector<Rect> lines, float width) {
+    if (width <= WeightUnit) CloseCorners(lines, width);
+    canvas.Strokes(lines, width);
+  });
+  for (const Item* item : layer.Ticks) PaintTick(*item, canvas);
+  for (const Item* item : layer.Texts) {
+    const TextPiece& piece = document.Texts[item->Source];
+    canvas.Text(piece, document.Styles[piece.Style], item->Box);
+  }
+}
+
+}  // namespace
+
+void PaintPage(const Document& document, std::size_t page, Canvas& canvas) {
+  for (const PageLayer& layer : PlanPage(document, page)) PaintLayer(document, layer, canvas);
+}
+
+TextFit FitText(const TextPiece& piece, const Rect& box) {
+  constexpr float Tolerance = 0.5F;  // twips, for rounding
+  constexpr float Narrowest = 0.5F;
+  if (piece.Advance <= 0 || box.Width + Tolerance >= piece.Advance) return {};
+  const float stretch = box.Width / piece.Advance;
+  return {std::max(stretch, Narrowest), stretch < Narrowest};
+}
+
+}  // namespace tarvis

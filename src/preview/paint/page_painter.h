@@ -1,0 +1,36 @@
+// The one painter of pages, for screen, paper and PDF: it walks a page's layers and hands alike things
+// together to a canvas. All places are in twips from the top left corner of the paper.
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "preview/paint/page_plan.h"
+#include "report/engine/document.h"
+
+namespace tarvis {
+
+// Where pages are painted to.
+class Canvas {
+ public:
+  virtual ~Canvas() = default;
+
+  virtual void Fill(const std::vector<Rect>& boxes, Color color) = 0;
+  // Outlines of boxes, `width` twips wide, centred on the edges.
+  virtual void Frame(const std::vector<Rect>& boxes, float width) = 0;
+  // Each from (Left, Top) to (Right, Bottom), `width` twips wide.
+  virtual void Strokes(const std::vector<Rect>& lines, float width) = 0;
+  virtual void Text(const TextPiece& piece, const TextStyle& style, const Rect& box) = 0;
+  virtual void Picture(const tarvis::Picture& picture, const Rect& box) = 0;
+};
+
+void PaintPage(const Document& document, std::size_t page, Canvas& canvas);
+
+// How a piece of text is fitted to the printed width of its item.
+struct TextFit {
+  float Stretch = 1;     // below 1: condensed sideways, to 0.5 at most
+  bool Clipped = false;  // wider than its box even then
+};
+TextFit FitText(const TextPiece& piece, const Rect& box);
+
+}  // namespace tarvis

@@ -1,0 +1,171 @@
+#include "preview/paint/painter_canvas.h"
+
+#include <QGlyphRun>
+#include <QPainterPath>
+#include <algorithm>
+#include <cmath>
+
+#include "pictures/paintable_picture.h"
+#include "preview/paint/text_run.h"
+#include "report/engine/text_measurer.h"
+
+namespace tarvis {
+namespace {
+
+QRectF ToRectF(const Rect& box) {
+  return QRectF(static_cast<double>(box.Left), static_cast<double>(box.Top), static_cast<double>(box.Width),
+                static_cast<double>(box.Height));
+}
+
+QLineF ToLine(const Rect& line) {
+  return QLineF(ToRectF(line).topLeft(),
+                ToRectF(line).topLeft() + QPointF(ToRectF(line).width(), ToRectF(line).height()));
+}
+
+QPen SolidPen(float width) {
+  return QPen(Qt::black, static_cast<double>(width), Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
+}
+
+QPen LinePen(float width) {
+  return QPen(Qt::black, static_cast<double>(width), Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
+}
+
+QColor ToColor(Color color) {
+  return QColor(static_cast<QRgb>(0xFF000000U | color));
+}
+
+}  // namespace
+
+void PainterCanvas::Fill(const std::vector<Rect>& boxes, Color color) {
+  QPainterPath path;
+  path.setFillRule(Qt::WindingFill);
+  for (const Rect& box : boxes) path.addRect(ToRectF(box));
+  painter_.fillPath(path, ToColor(color));
+}
+
+void PainterCanvas::Frame(const std::vector<Rect>& boxes, float width) {
+  QPainterPath path;
+  for (const Rect& box : boxes) path.addRect(ToRectF(box));
+  painter_.strokePath(path, SolidPen(width));
+}
+
+void PainterCanvas::Strokes(const std::vector<Rect>& lines, float width) {
+  QList<QLineF> all;
+  for (const Rect& line : lines) all.append(ToLine(line));
+  painter_.setPen(LinePen(width));
+  painter_.drawLines(all);
+}
+
+void PainterCanvas::Text(const TextPiece& piece, const TextStyle& style, const Rect& box) {
+  const double baseline =
+      static_cast<double>(box.Top) + AscentEm * static_cast<double>(style.Size * TwipsPerPoint);
+  const QPointF start(static_cast<double>(box.Left), baseline);
+  const TextFit fit = FitText(piece, box);
+  if (fit.Stretch >= 1) {
+    Runs(piece, style, start);
+    return;
+  }
+  painter_.save();
+  // Only the width clips: letters may stand above and below their line.
+  if (fit.Clipped)
+    painter_.setClipRect(ToRectF(box).adjusted(0, -ToRectF(box).height(), 0, ToRectF(box).height()),
+                         Qt::IntersectClip);
+  painter_.translate(start);
+  painter_.scale(static_cast<double>(fit.Stretch), 1);
+  Runs(piece, style, {});
+  painter_.restore();
+}
+
+void PainterCanvas::Runs(const TextPiece& piece, const TextStyle& style, const QPointF& start) {
+  painter_.setPen(ToColor(style.Ink));
+  const auto em = static_cast<double>(style.Size * TwipsPerPoint);
+  for (const TextRun& run : MakeRuns(piece.Text, style.Size, style.Bold, font_)) {
+    QGlyphRun glyphs;
+    glyphs.setRawFont(font_.FaceAt(run.Face, em));
+    glyphs.setGlyphIndexes(run.Glyphs);
+    glyphs.setPositions(run.Places);
+    painter_.drawGlyphRun(start, glyphs);
+  }
+}
+
+void PainterCanvas::Picture(const tarvis::Picture& picture, const Rect& box) {
+  const auto* paintable = dynamic_cast<const PaintablePicture*>(&picture);
+  if (paintable == nullptr) return;
+  painter_.save();
+  painter_.setClipRect(ToRectF(box), Qt::IntersectClip);  // as in a PDF
+  paintable->Paint(painter_, ToRectF(box));
+  painter_.restore();
+}
+
+PixelCanvas::Pen PixelCanvas::PenFor(float width) const {
+  const double pixels = static_cast<double>(width) * toDevice_.m11();
+  const int grey = 255 - static_cast<int>(std::lround(255 * std::clamp(pixels, 0.15, 1.0)));
+  return {std::max(1, static_cast<int>(std::lround(pixels))), QColor(grey, grey, grey)};
+}
+
+void PixelCanvas::StartPixels(const Pen& pen) {
+  painter_.setWorldMatrixEnabled(false);
+  if (pen.Ink != Qt::black) painter_.setCompositionMode(QPainter::CompositionMode_Darken);
+}
+
+int PixelCanvas::FirstPixel(double middle, int pixels) {
+  return static_cast<int>(std::lround(middle - pixels / 2.0));
+}
+
+void PixelCanvas::Fill(const std::vector<Rect>& boxes, Color color) {
+  painter_.save();
+  painter_.setWorldMatrixEnabled(false);
+  for (const Rect& box : boxes) {
+    const QRectF place = toDevice_.mapRect(ToRectF(box));
+    const QPoint topLeft(static_cast<int>(std::lround(place.left())),
+                         static_cast<int>(std::lround(place.top())));
+    const QPoint end(static_cast<int>(std::lround(place.right())),
+                     static_cast<int>(std::lround(place.bottom())));
+    painter_.fillRect(QRect(topLeft, QSize(end.x() - topLeft.x(), end.y() - topLeft.y())), ToColor(color));
+  }
+  painter_.restore();
+}
+
+void PixelCanvas::Frame(const std::vector<Rect>& boxes, float width) {
+  const Pen pen = PenFor(width);
+  painter_.save();
+  StartPixels(pen);
+  for (const Rect& box : boxes) {
+    const QRectF place = toDevice_.mapRect(ToRectF(box));
+    const int left = FirstPixel(place.left(), pen.Pixels);
+    const int right = FirstPixel(place.right(), pen.Pixels);
+    const int top = FirstPixel(place.top(), pen.Pixels);
+    const int bottom = FirstPixel(place.bottom(), pen.Pixels);
+    const int across = right - left + pen.Pixels;
+    painter_.fillRect(left, top, across, pen.Pixels, pen.Ink);
+    painter_.fillRect(left, bottom, across, pen.Pixels, pen.Ink);
+    painter_.fillRect(left, top, pen.Pixels, bottom - top, pen.Ink);
+    painter_.fillRect(right, top, pen.Pixels, bottom - top, pen.Ink);
+  }
+  painter_.restore();
+}
+
+void PixelCanvas::Strokes(const std::vector<Rect>& lines, float width) {
+  const Pen pen = PenFor(width);
+  std::vector<Rect> slanted;
+  painter_.save();
+  StartPixels(pen);
+  for (const Rect& line : lines) {
+    const QRectF place = toDevice_.mapRect(ToRectF(line).normalized());
+    const int left = static_cast<int>(std::lround(place.left()));
+    const int top = static_cast<int>(std::lround(place.top()));
+    if (line.Height == 0) {
+      painter_.fillRect(left, FirstPixel(place.top(), pen.Pixels),
+                        static_cast<int>(std::lround(place.right())) - left, pen.Pixels, pen.Ink);
+    } else if (line.Width == 0) {
+      painter_.fillRect(FirstPixel(place.left(), pen.Pixels), top, pen.Pixels,
+                        static_cast<int>(std::lround(place.bottom())) - top, pen.Ink);
+    } else {
+      slanted.push_back(line);
+    }
+  }
+  painter_.restore();
+  if (!slanted.empty()) PainterCanvas::Strokes(slanted, width);
+}
+
+}  // namespace tarvis

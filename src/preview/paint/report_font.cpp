@@ -1,0 +1,108 @@
+#include "preview/paint/report_font.h"
+
+#include <QFont>
+#include <QFontDatabase>
+#include <QGlyphRun>
+#include <QTextLayout>
+
+namespace tarvis {
+namespace {
+
+QFont BaseFont(bool bold) {
+  static const QString family = QString::fromLatin1(
+      QFontDatabase::families().contains(QStringLiteral("Arial")) ? "Arial" : "Liberation Sans");
+  QFont font(family);
+  font.setPixelSize(2048);
+  font.setBold(bold);
+  font.setHintingPreference(QFont::PreferNoHinting);
+  font.setKerning(false);
+  return font;
+}
+
+bool IsCombining(char32_t character) {
+  const QChar::Category category = QChar::category(character);
+  return category == QChar::Mark_NonSpacing || category == QChar::Mark_Enclosing;
+}
+
+bool IsInvisible(char32_t character) {
+  const QChar::Category category = QChar::category(character);
+  return category == QChar::Other_Control || category == QChar::Other_Format;
+}
+
+QRawFont AtDesignUnits(QRawFont font) {
+  font.setPixelSize(font.unitsPerEm());
+  return font;
+}
+
+}  // namespace
+
+ReportFont& ReportFont::OfThisThread() {
+  thread_local ReportFont font;
+  return font;
+}
+
+ReportFont::ReportFont() {
+  for (const bool bold : {false, true}) faces_.push_back(AtDesignUnits(QRawFont::fromFont(BaseFont(bold))));
+  for (const bool bold : {false, true}) {
+    for (char32_t character = 0; character < 128; ++character)
+      ascii_[bold][character] = Look(character, bold);
+  }
+}
+
+const FontGlyph& ReportFont::Find(char32_t character, bool bold) {
+  if (character < 128) return ascii_[bold][character];
+  const auto known = others_[bold].find(character);
+  if (known != others_[bold].end()) return known->second;
+  return others_[bold].emplace(character, Look(character, bold)).first->second;
+}
+
+const QRawFont& ReportFont::FaceAt(std::uint16_t face, double pixels) {
+  const auto [place, isNew] = sized_.try_emplace({face, pixels}, faces_[face]);
+  if (isNew) place->second.setPixelSize(pixels);
+  return place->second;
+}
+
+FontGlyph ReportFont::Look(char32_t character, bool bold) {
+  if (character == U'\t') character = U' ';
+  FontGlyph found;
+  found.Face = bold ? 1 : 0;
+  found.Inks = !IsInvisible(character);
+  if (!found.Inks) return found;
+  const QString text = QString::fromUcs4(&character, 1);
+  const QList<quint32> glyphs = faces_[found.Face].glyphIndexesForString(text);
+  found.Glyph = glyphs.isEmpty() ? 0 : glyphs.front();
+  if (found.Glyph == 0) LookInFallback(character, bold, found);
+  if (!IsCombining(character)) found.AdvanceEm = DesignAdvance(found.Face, found.Glyph);
+  return found;
+}
+
+bool ReportFont::LookInFallback(char32_t character, bool bold, FontGlyph& found) {
+  QTextLayout layout(QString::fromUcs4(&character, 1), BaseFont(bold));
+  layout.beginLayout();
+  layout.createLine();
+  layout.endLayout();
+  const QList<QGlyphRun> runs = layout.glyphRuns();
+  if (runs.isEmpty() || runs.front().glyphIndexes().isEmpty() || runs.front().glyphIndexes().front() == 0) {
+    return false;
+  }
+  found.Glyph = runs.front().glyphIndexes().front();
+  found.Face = FaceIndex(AtDesignUnits(runs.front().rawFont()));
+  return true;
+}
+
+float ReportFont::DesignAdvance(std::uint16_t face, std::uint32_t glyph) const {
+  const QList<QPointF> advances = faces_[face].advancesForGlyphIndexes({glyph}, QRawFont::UseDesignMetrics);
+  return advances.isEmpty() ? 0 : static_cast<float>(advances.front().x() / faces_[face].unitsPerEm());
+}
+
+std::uint16_t ReportFont::FaceIndex(const QRawFont& font) {
+  for (std::size_t index = 0; index < faces_.size(); ++index) {
+    const QRawFont& face = faces_[index];
+    if (face.familyName() == font.familyName() && face.styleName() == font.styleName())
+      return static_cast<std::uint16_t>(index);
+  }
+  faces_.push_back(font);
+  return static_cast<std::uint16_t>(faces_.size() - 1);
+}
+
+}  // namespace tarvis

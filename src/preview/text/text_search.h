@@ -1,0 +1,26 @@
+// Finding text in a whole document.
+#pragma once
+
+#include <QRectF>
+#include <QString>
+#include <vector>
+
+#include "preview/paint/document_text.h"
+
+namespace tarvis {
+
+struct SearchOptions {
+  bool CaseMatters = false;
+  bool WholeWords = false;
+};
+
+struct SearchHit {
+  int Page = 0;
+  std::vector<QRectF> Boxes;  // twips; several if the hit goes over lines of a cell
+};
+
+// All hits in reading order. A hit lies within one cell; where the cell wraps, a blank stands for the line's
+// end.
+std::vector<SearchHit> Search(DocumentText& text, const QString& wanted, const SearchOptions& options);
+
+}  // namespace tarvis

@@ -1,0 +1,136 @@
+#include "preview/text/text_selection.h"
+
+#include <QList>
+#include <algorithm>
+#include <limits>
+
+#include "preview/text/text_geometry.h"
+
+namespace tarvis {
+namespace {
+
+QList<uint> CharactersOf(const Document& document, std::uint32_t item) {
+  const std::string_view text = document.Texts[document.Items[item].Source].Text;
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).toUcs4();
+}
+
+// How far `point` is from `box`; beside its line counts as nearer than above or below.
+double Distance(const Rect& box, QPointF point) {
+  constexpr double LineWeight = 4;
+  const auto left = static_cast<double>(box.Left);
+  const auto top = static_cast<double>(box.Top);
+  const double across = std::max({left - point.x(), point.x() - static_cast<double>(box.Right()), 0.0});
+  const double down = std::max({top - point.y(), point.y() - static_cast<double>(box.Bottom()), 0.0});
+  return across + LineWeight * down;
+}
+
+bool IsWordCharacter(uint character) {
+  return QChar::isLetterOrNumber(character) || character == U'_';
+}
+
+QString Separator(const ReadPiece& piece, bool first) {
+  const QString empty(piece.EmptyCells, QLatin1Char('\t'));
+  switch (piece.Before) {
+    case Join::Line:
+      return (first ? QString() : QStringLiteral("\n")) + empty;
+    case Join::Cell:
+      return first ? QString() : QStringLiteral("\t") + empty;
+    case Join::Wrap:
+      return first ? QString() : QStringLiteral(" ");
+    case Join::Break:
+      return first ? QString() : QStringLiteral("\n");
+  }
+  return {};
+}
+
+}  // namespace
+
+TextPosition TextSelection::PositionAt(int page, QPointF point) const {
+  const PageText& text = text_.Page(page);
+  const Document& document = text_.Source();
+  TextPosition best{page, 0, 0};
+  double bestDistance = std::numeric_limits<double>::max();
+  for (std::size_t piece = 0; piece < text.Pieces.size(); ++piece) {
+    const double distance = Distance(document.Items[text.Pieces[piece].Item].Box, point);
+    if (distance >= bestDistance) continue;
+    bestDistance = distance;
+    best.Piece = piece;
+  }
+  if (!text.Pieces.empty()) best.Character = CharacterAt(document, text.Pieces[best.Piece].Item, point.x());
+  return best;
+}
+
+void TextSelection::Start(int page, QPointF point) {
+  anchor_ = end_ = PositionAt(page, point);
+}
+
+void TextSelection::ExtendTo(int page, QPointF point) {
+  end_ = PositionAt(page, point);
+}
+
+void TextSelection::SelectWord(int page, QPointF point) {
+  anchor_ = end_ = PositionAt(page, point);
+  const PageText& text = text_.Page(page);
+  if (text.Pieces.empty()) return;
+  const QList<uint> characters = CharactersOf(text_.Source(), text.Pieces[anchor_.Piece].Item);
+  const auto isWord = [&](std::size_t index) {
+    return IsWordCharacter(characters[static_cast<qsizetype>(index)]);
+  };
+  const auto count = static_cast<std::size_t>(characters.size());
+  while (anchor_.Character > 0 && isWord(anchor_.Character - 1)) --anchor_.Character;
+  while (end_.Character < count && isWord(end_.Character)) ++end_.Character;
+}
+
+void TextSelection::SelectAll() {
+  anchor_ = end_ = {};
+  const int pages = static_cast<int>(text_.Source().Pages.size());
+  if (pages > 0) end_ = {pages, 0, 0};
+}
+
+TextSelection::Part TextSelection::PartOf(int page, std::size_t piece, const ReadPiece& read) const {
+  const TextPosition first = First();
+  const TextPosition last = Last();
+  if (TextPosition{page, piece, std::numeric_limits<std::size_t>::max()} < first) return {};
+  if (TextPosition{page, piece, 0} >= last) return {};
+  const std::size_t count = CharacterCount(text_.Source(), read.Item);
+  const bool startsHere = first.Page == page && first.Piece == piece;
+  const bool endsHere = last.Page == page && last.Piece == piece;
+  return {startsHere ? first.Character : 0, endsHere ? last.Character : count};
+}
+
+std::vector<QRectF> TextSelection::Boxes(int page) const {
+  std::vector<QRectF> boxes;
+  if (IsEmpty() || page < First().Page || page > Last().Page) return boxes;
+  const PageText& text = text_.Page(page);
+  for (std::size_t piece = 0; piece < text.Pieces.size(); ++piece) {
+    const Part part = PartOf(page, piece, text.Pieces[piece]);
+    if (part.First < part.End) {
+      boxes.push_back(BoxOfCharacters(text_.Source(), text.Pieces[piece].Item, part.First, part.End));
+    }
+  }
+  return boxes;
+}
+
+QString TextSelection::Text() const {
+  QString copied;
+  if (IsEmpty()) return copied;
+  bool first = true;
+  const int pages = static_cast<int>(text_.Source().Pages.size());
+  for (int page = First().Page; page <= std::min(Last().Page, pages - 1); ++page) {
+    const PageText& text = text_.Page(page);
+    for (std::size_t piece = 0; piece < text.Pieces.size(); ++piece) {
+      const Part part = PartOf(page, piece, text.Pieces[piece]);
+      if (part.First >= part.End) continue;
+      const QList<uint> characters = CharactersOf(text_.Source(), text.Pieces[piece].Item);
+      copied += Separator(text.Pieces[piece], first);
+      for (std::size_t index = part.First; index < part.End; ++index) {
+        const auto character = static_cast<char32_t>(characters[static_cast<qsizetype>(index)]);
+        copied += QString::fromUcs4(&character, 1);
+      }
+      first = false;
+    }
+  }
+  return copied;
+}
+
+}  // namespace tarvis

@@ -1,0 +1,43 @@
+// Finding in the preview: ties the find bar to the document's text and the page view.
+#pragma once
+
+#include <QObject>
+
+#include "preview/pages/page_view.h"
+#include "preview/text/text_search.h"
+
+namespace tarvis {
+
+class FindBar;
+
+class Finder : public QObject {
+  Q_OBJECT
+ public:
+  // All must outlive it.
+  Finder(FindBar& bar, DocumentText& text, PageView& view, QObject* parent);
+
+  void Open();
+  void Close();
+  // The next hit, from the last to the first. With no text yet, the bar opens.
+  void Step(int direction);
+  // The marks of a page; the current hit stands out.
+  std::vector<Highlight> Marks(int page) const;
+  const std::vector<SearchHit>& Hits() const { return hits_; }
+  int Current() const { return current_; }
+
+ signals:
+  // A hit far away is about to be shown.
+  void Leaving();
+
+ private:
+  void SearchAgain();
+  void ShowCurrent();
+
+  FindBar& bar_;
+  DocumentText& text_;
+  PageView& view_;
+  std::vector<SearchHit> hits_;
+  int current_ = -1;
+};
+
+}  // namespace tarvis

@@ -1,0 +1,108 @@
+// The window in which a composed document is read, searched, printed and saved.
+#pragma once
+
+#include <QMainWindow>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "preview/output/background_job.h"
+#include "preview/output/printing.h"
+#include "preview/pages/page_layout.h"
+#include "preview/pages/place_history.h"
+#include "preview/paint/document_text.h"
+#include "preview/text/text_selection.h"
+#include "preview/window/commands.h"
+#include "report/engine/active_report.h"
+#include "report/engine/document.h"
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QSplitter;
+
+namespace tarvis {
+
+class FindBar;
+class Finder;
+class PageView;
+class SidePane;
+
+// How the report that is shown wants its window.
+struct PreviewSetup {
+  QString Caption = QStringLiteral("Print Preview");
+  std::vector<Tool> Tools;  // added tools, shown with their text
+  bool ContentsVisible = true;
+  double ContentsWidth = 2300;  // twips
+  QString Author;               // of a PDF
+};
+
+class PreviewWindow : public QMainWindow {
+  Q_OBJECT
+ public:
+  explicit PreviewWindow(std::shared_ptr<const Document> document, const PreviewSetup& setup = {},
+                         QWidget* parent = nullptr);
+  // Cancels a print or an export that is under way and waits for it.
+  ~PreviewWindow() override;
+
+  PageView& View() { return *view_; }
+  // Whether a print or an export is under way.
+  bool IsBusy() const { return job_ != nullptr; }
+  QAction* ActionOf(Command command) const { return actions_.at(command); }
+
+ signals:
+  // A tool that is none of the window's own business: an added tool, or CloseToolNumber.
+  void toolUsed(int id);
+  // The user has closed the window; closing it from code tells nothing.
+  void closedByUser();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+
+ private:
+  void PlaceOnScreen();
+  void MakeActions();
+  void MakeToolbar(const std::vector<Tool>& tools);
+  void AddTool(const Tool& tool, QToolBar& bar);
+  QWidget* MakePageBox();
+  QWidget* MakeZoomBox();
+  void ShowMenu(const QPoint& place);  // on the screen
+  void Connect();
+  void ConnectSelection();
+  void Run(Command command, bool checked);
+
+  void Jump(const PagePlace& place);
+  void ShowPlace();
+  void ShowZoom();
+  void Walk(const std::optional<PagePlace>& place);
+  void FocusPageBox();
+  void ReadPageBox();
+  void ReadZoomBox();
+
+  void Copy();
+  void SelectionChanged();
+  void Print();
+  void SavePdf();
+  bool AskForScale(const QSizeF& missing, PrintScale& scale);
+  // `failure` is told with the error text if `work` fails.
+  void StartJob(const QString& caption, const QString& failure, BackgroundJob::Work work);
+
+  std::shared_ptr<const Document> document_;
+  DocumentText text_;
+  TextSelection selection_;
+  QString author_;
+  PageView* view_;
+  SidePane* pane_;
+  FindBar* findBar_;
+  Finder* finder_;
+  QSplitter* splitter_;
+  QLineEdit* pageBox_ = nullptr;
+  QComboBox* zoomBox_ = nullptr;
+  std::map<Command, QAction*> actions_;
+  std::vector<QAction*> toolActions_;
+  PlaceHistory history_;
+  std::unique_ptr<BackgroundJob> job_;
+};
+
+}  // namespace tarvis

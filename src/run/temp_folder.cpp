@@ -1,0 +1,45 @@
+#include "run/temp_folder.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <string>
+#include <system_error>
+#include <vector>
+
+#include "text/native_path.h"
+
+namespace tarvis {
+namespace {
+
+char Lower(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool EndsIn(const std::filesystem::path& path, std::string_view ending) {
+  const std::u8string name = path.filename().u8string();
+  if (name.size() < ending.size()) return false;
+  return std::equal(
+      ending.begin(), ending.end(), name.end() - static_cast<std::ptrdiff_t>(ending.size()),
+      [](char wanted, char8_t found) { return Lower(wanted) == Lower(static_cast<char>(found)); });
+}
+
+}  // namespace
+
+void DeleteFiles(std::string_view folder, std::string_view ending) {
+  if (folder.empty()) return;
+  // Errors are dropped throughout: the process ends next, and nobody could act on them.
+  std::error_code error;
+  std::vector<std::filesystem::path> files;
+  std::filesystem::directory_iterator entry(NativePath(folder), error);
+  for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+    std::error_code ignored;
+    const bool isFolder = std::filesystem::is_directory(entry->symlink_status(ignored));
+    if (!isFolder && EndsIn(entry->path(), ending)) files.push_back(entry->path());
+  }
+  for (const std::filesystem::path& file : files) {
+    std::error_code ignored;
+    std::filesystem::remove(file, ignored);
+  }
+}
+
+}  // namespace tarvis

@@ -1,0 +1,107 @@
+#include "text/code_page.h"
+
+#include <unicode/ucnv.h>
+#include <unicode/ustring.h>
+
+#include <algorithm>
+
+#include "text/run_time_failure.h"
+
+namespace tarvis {
+namespace {
+
+constexpr UChar32 Replacement = 0xFFFD;
+
+void Expect(UErrorCode error) {
+  if (U_FAILURE(error))
+    throw RunTimeFailure(std::string("code page conversion failed: ") + u_errorName(error));
+}
+
+// A length for the code page library, which counts in 32 bits.
+std::int32_t Length(std::size_t size) {
+  if (size > 0x20000000) throw RunTimeFailure("text too long for the code page conversion");
+  return static_cast<std::int32_t>(size);
+}
+
+std::u16string Utf8ToUnits(std::string_view text) {
+  std::u16string units(text.size(), u'\0');  // UTF-8 never has fewer bytes than UTF-16 has units
+  std::int32_t length = 0;
+  UErrorCode error = U_ZERO_ERROR;
+  u_strFromUTF8WithSub(units.data(), Length(units.size()), &length, text.data(), Length(text.size()),
+                       Replacement, nullptr, &error);
+  Expect(error);
+  units.resize(static_cast<std::size_t>(length));
+  return units;
+}
+
+std::string UnitsToUtf8(std::u16string_view units) {
+  std::string text(units.size() * 3, '\0');
+  std::int32_t length = 0;
+  UErrorCode error = U_ZERO_ERROR;
+  u_strToUTF8WithSub(text.data(), Length(text.size()), &length, units.data(), Length(units.size()),
+                     Replacement, nullptr, &error);
+  Expect(error);
+  text.resize(static_cast<std::size_t>(length));
+  return text;
+}
+
+}  // namespace
+
+bool IsAscii(std::string_view text) {
+  return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+struct CodePage::Converter {
+  int Number = 0;
+  std::unique_ptr<UConverter, decltype(&ucnv_close)> Handle{nullptr, ucnv_close};
+};
+
+CodePage::CodePage(int number) : converter_(std::make_unique<Converter>()) {
+  converter_->Number = number;
+  UErrorCode error = U_ZERO_ERROR;
+  converter_->Handle.reset(ucnv_open(("windows-" + std::to_string(number)).c_str(), &error));
+  if (U_FAILURE(error))
+    throw RunTimeFailure("no such code page",
+                         {.File = {}, .Line = 0, .Key = "CodePage", .Text = std::to_string(number)});
+  ucnv_setSubstChars(converter_->Handle.get(), "?", 1, &error);
+  Expect(error);
+}
+
+CodePage::~CodePage() = default;
+CodePage::CodePage(CodePage&&) noexcept = default;
+CodePage& CodePage::operator=(CodePage&&) noexcept = default;
+
+int CodePage::Number() const {
+  return converter_->Number;
+}
+
+std::string CodePage::ToUtf8(std::string_view bytes) const {
+  if (IsAscii(bytes)) return std::string(bytes);
+  std::u16string units(bytes.size() * 2, u'\0');
+  UErrorCode error = U_ZERO_ERROR;
+  const std::int32_t length = ucnv_toUChars(converter_->Handle.get(), units.data(), Length(units.size()),
+                                            bytes.data(), Length(bytes.size()), &error);
+  Expect(error);
+  return UnitsToUtf8(std::u16string_view(units).substr(0, static_cast<std::size_t>(length)));
+}
+
+std::string CodePage::FromUtf8(std::string_view text) const {
+  if (IsAscii(text)) return std::string(text);
+  const std::u16string units = Utf8ToUnits(text);
+  UConverter* handle = converter_->Handle.get();
+  std::string bytes(
+      static_cast<std::size_t>(UCNV_GET_MAX_BYTES_FOR_STRING(units.size(), ucnv_getMaxCharSize(handle))),
+      '\0');
+  UErrorCode error = U_ZERO_ERROR;
+  const std::int32_t length =
+      ucnv_fromUChars(handle, bytes.data(), Length(bytes.size()), units.data(), Length(units.size()), &error);
+  Expect(error);
+  bytes.resize(static_cast<std::size_t>(length));
+  return bytes;
+}
+
+std::size_t CodePage::ByteLength(std::string_view text) const {
+  return IsAscii(text) ? text.size() : FromUtf8(text).size();
+}
+
+}  // namespace tarvis

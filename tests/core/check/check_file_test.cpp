@@ -1,0 +1,141 @@
+#include "check/check_file.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <ostream>
+#include <string>
+
+#include "core/support/test_run.h"
+#include "text/text.h"
+
+namespace tarvis {
+namespace {
+
+const std::string kExamples = TARVIS_SOURCE_DIR "/docs/examples/";
+
+std::string ReadWhole(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+struct Example {
+  std::string Name;
+  std::string Contents;
+};
+
+void PrintTo(const Example& example, std::ostream* out) {
+  *out << example.Name;
+}
+
+class ExampleFiles : public testing::TestWithParam<Example> {};
+
+TEST_P(ExampleFiles, OfTheDocumentationAreGood) {
+  const FileCheck check = CheckFile(kExamples + GetParam().Name, CodePage());
+  EXPECT_EQ(check.Line, GetParam().Name + ": " + GetParam().Contents);
+  EXPECT_TRUE(check.IsGood);
+}
+
+// So that the reference tells every key that an example shows.
+TEST_P(ExampleFiles, HaveOnlyKeysThatTheDocumentationTells) {
+  const std::string reference = ReadWhole(TARVIS_SOURCE_DIR "/docs/file-formats.md");
+  const std::string example = ReadWhole(kExamples + GetParam().Name);
+  std::string_view text = example;
+  ASSERT_FALSE(text.empty());
+  while (!text.empty()) {
+    std::string_view line = NextTextLine(text);
+    const std::string key(NextField(line));
+    EXPECT_NE(reference.find("`" + key + "`"), std::string::npos) << key;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, ExampleFiles,
+    testing::Values(
+        Example{"User.tmp",
+                "3 parameters, 1 switch parameter, comment 'Values after the first tuning, left "
+                "axis To be "
+                "checked with ...'"},
+        Example{"UPWizard.tmp",
+                "diagram 'C:\\Host\\bin\\wizard\\base.bmp', 2 relays, 4 output numbers, 7 output names"},
+        Example{"Trace.tmp",
+                "graph 'C:\\Host\\bin\\dat\\tmp\\Trace.emf', 2 cursor rows, 5 channels, overlap of 2 data "
+                "sets, 0 "
+                "parameters, 0 switch parameters, comment 'Overlap of two runs'"},
+        Example{
+            "Trace1.tmp",
+            "graph 'C:\\Host\\bin\\dat\\tmp\\Trace1.emf', 2 cursor rows, 5 channels, no overlap, 3 "
+            "parameters, 1 "
+            "switch parameter, comment 'Values after the first tuning, left axis To be checked with ...'"},
+        Example{"RealTrace.tmp",
+                "graph 'C:\\Host\\bin\\dat\\tmp\\Real.emf', 2 cursor rows, 3 parameters, 1 switch parameter, "
+                "comment "
+                "'Values after the first tuning, left axis To be checked with ...'"},
+        Example{"Mecha.tmp",
+                "graph 'C:\\Host\\bin\\dat\\tmp\\Gain.emf', cursor table, comment 'Belt at nominal tension'"},
+        Example{"Sim.tmp",
+                "graph 'C:\\Host\\bin\\dat\\tmp\\Sim.emf', 2 cursor rows, 5 channels, pattern 'Trapezoid' of "
+                "3 values, "
+                "overlap of 2 data sets, 2 compared parameters, 3 parameters, 1 switch parameter, comment "
+                "'Values after "
+                "the first tuning, left axis To be checked with ...'"},
+        Example{"Sim1.tmp",
+                "graph 'C:\\Host\\bin\\dat\\tmp\\Sim1.emf', 2 cursor rows, 5 channels, pattern 'Trapezoid' "
+                "of 3 values, "
+                "no overlap, 0 compared parameters, 3 parameters, 1 switch parameter, comment 'Values after "
+                "the first "
+                "tuning, left axis To be checked with ...'"},
+        Example{"IdxIdxTbl.tmp",
+                "3 steps, 2 with a program, with ACC and DEC, comment 'Shuttle between two stops'"},
+        Example{"IdxZoneTbl.tmp", "2 zones, comment 'Zone 1 covers the loading station'"},
+        Example{"IdxJogTbl.tmp", "2 jog speeds, no comment"},
+        Example{"PrintOption.ToT", "options of version 4, cover letter No. 1, black and white"}),
+    [](const auto& example) { return example.param.Name.substr(0, example.param.Name.find('.')); });
+
+class CheckFileTest : public testing::Test {
+ protected:
+  std::string Wrong(const std::string& name, const std::string& bytes) {
+    Folder.Write(name, bytes);
+    const FileCheck check = CheckFile((Folder.Path() / name).string(), CodePage(932));
+    EXPECT_FALSE(check.IsGood);
+    return check.Line;
+  }
+
+  TempFolder Folder;
+};
+
+TEST_F(CheckFileTest, TellsFileLineKeyAndReason) {
+  EXPECT_EQ(Wrong("Trace2.tmp", "File-Spec,3\r\nCursolselect,1\r\n"),
+            "Trace2.tmp:2: unknown key 'Cursolselect'");
+  EXPECT_EQ(Wrong("User.tmp", "UserNum,many\r\n"), "User.tmp:1: UserNum: not a number: 'many'");
+  EXPECT_EQ(Wrong("PrintOption.ToT", "Colour,1\r\n"), "PrintOption.ToT:1: unknown key 'Colour'");
+}
+
+TEST_F(CheckFileTest, TellsAMissingFile) {
+  EXPECT_EQ(CheckFile((Folder.Path() / "Sim.tmp").string(), CodePage()).Line, "Sim.tmp: can't be read");
+}
+
+TEST_F(CheckFileTest, KnowsAFileByItsNameOnly) {
+  for (const char* name : {"user.tmp", "User1.tmp", "Trace0.tmp", "Tracex.tmp", "RealTrace1.tmp", "Other.tmp",
+                           ".tmp", "User.ToT"}) {
+    EXPECT_EQ(Wrong(name, ""), std::string(name) + ": not the name of a host file");
+  }
+  Folder.Write("Sim12.tmp", "");
+  EXPECT_TRUE(CheckFile((Folder.Path() / "Sim12.tmp").string(), CodePage()).IsGood);
+}
+
+TEST_F(CheckFileTest, BoundsComparisonTimesByTheFilesOwnOverlap) {
+  const std::string row = "CmpTime,f,t,c\r\n";
+  std::string twelve = "OverlapNum,12\r\n";
+  for (int count = 0; count < 12; ++count) twelve += row;
+  EXPECT_EQ(Wrong("Sim.tmp", twelve), "Sim.tmp:13: CmpTime: subscript out of range: '11'");
+}
+
+TEST_F(CheckFileTest, LeavesTheFileAlone) {
+  Wrong("User.tmp", "wrong\r\n");
+  EXPECT_EQ(Folder.Read("User.tmp"), "wrong\r\n");
+}
+
+}  // namespace
+}  // namespace tarvis

@@ -1,0 +1,130 @@
+#include "run/failures.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+
+#include "core/support/test_run.h"
+
+namespace tarvis {
+namespace {
+
+using testing::ElementsAre;
+
+class FailuresTest : public testing::Test, protected TestRun {
+ protected:
+  using TestRun::Run;
+
+  FailuresTest() { Run.Session.TempFolder = Folder.HostPath("tmp\\"); }
+
+  template <typename Call>
+  int ExitStatusOf(Call call) {
+    try {
+      call();
+    } catch (const RunEnded& end) {
+      return end.ExitStatus;
+    }
+    return -1;
+  }
+
+  TempFolder Folder;
+};
+
+TEST_F(FailuresTest, BeepFiveTimesThenShowTwoLinesThenEndTheRun) {
+  EXPECT_EQ(ExitStatusOf([&] { ReportFailure(Run, 10); }), 0);
+  EXPECT_THAT(
+      Desktop.Calls,
+      ElementsAre(
+          "beep", "beep", "beep", "beep", "beep",
+          "message Printing Error|Printing Items Setting File is wrong.\nPrinting Process is canceled.",
+          "end 0"));
+}
+
+TEST_F(FailuresTest, TellTheHostsDevelopersWhatWasWrong) {
+  Run.Session.Diagnosis = "Trace.tmp:17: unknown key 'Cursolselect'";
+  ExitStatusOf([&] { ReportFailure(Run, 4); });
+  EXPECT_EQ(Desktop.Calls.front(), "diagnose Trace.tmp:17: unknown key 'Cursolselect'");
+}
+
+TEST_F(FailuresTest, HaveTheirWords) {
+  EXPECT_STREQ(FailureMessage(0), "Printing Process is canceled.");
+  EXPECT_STREQ(FailureMessage(1), "Argument is wrong.");
+  EXPECT_STREQ(FailureMessage(2), "Logo Mark File is not found.");
+  EXPECT_STREQ(FailureMessage(3), "Parameter File is wrong.");
+  EXPECT_STREQ(FailureMessage(4), "Tracing File is wrong.");
+  EXPECT_STREQ(FailureMessage(5), "Dynamics Simulation File is wrong.");
+  EXPECT_STREQ(FailureMessage(6), "Graph File (Black & White) is not found.");
+  EXPECT_STREQ(FailureMessage(7), "Explanatory File is not found.");
+  EXPECT_STREQ(FailureMessage(8), "Graph File (Color) is not found.");
+  EXPECT_STREQ(FailureMessage(9), "Mechanical Setting Model BMP File is not found.");
+  EXPECT_STREQ(FailureMessage(10), "Printing Items Setting File is wrong.");
+  EXPECT_STREQ(FailureMessage(11), "Mechanical Analysis File is wrong.");
+  EXPECT_STREQ(FailureMessage(12), "Parameter Wizard is wrong.");
+  EXPECT_STREQ(FailureMessage(13), "Parameter Wizard BMP File is not found.");
+  EXPECT_STREQ(FailureMessage(14), "Real-Time Tracing File is wrong.");
+  EXPECT_STREQ(FailureMessage(15), "Program Table File is wrong.");
+  EXPECT_STREQ(FailureMessage(16), "Zone Table File is wrong.");
+  EXPECT_STREQ(FailureMessage(17), "Jog Speed Table File is wrong.");
+}
+
+TEST_F(FailuresTest, DeleteTheDataFilesToo) {
+  Folder.Write("tmp/User.tmp", "");
+  ExitStatusOf([&] { ReportFailure(Run, 3); });
+  EXPECT_FALSE(Folder.Has("tmp/User.tmp"));
+}
+
+TEST_F(FailuresTest, EndOfARunDeletesEveryDataFileAndPictureInWhateverLetterCase) {
+  for (const char* name : {"User.tmp", "TRACE1.TMP", "other run.tmp", "graph.emf", "NOTE.Emf"}) {
+    Folder.Write(std::string("tmp/") + name, "x");
+  }
+  for (const char* name :
+       {"tmp/keep.tmpx", "tmp/tmp", "tmp/model.bmp", "tmp/sub/User.tmp", "PrintOption.ToT", "a.tmp"}) {
+    Folder.Write(name, "x");
+  }
+  EXPECT_EQ(ExitStatusOf([&] { EndRun(Run); }), 0);
+  for (const char* name : {"User.tmp", "TRACE1.TMP", "other run.tmp", "graph.emf", "NOTE.Emf"}) {
+    EXPECT_FALSE(Folder.Has(std::string("tmp/") + name)) << name;
+  }
+  for (const char* name :
+       {"tmp/keep.tmpx", "tmp/tmp", "tmp/model.bmp", "tmp/sub/User.tmp", "PrintOption.ToT", "a.tmp"}) {
+    EXPECT_TRUE(Folder.Has(name)) << name;
+  }
+}
+
+TEST_F(FailuresTest, EndOfARunPassesOverWhatCanNotBeDeleted) {
+  Folder.Write("tmp/a.tmp/inside", "x");  // a folder with this name stays
+  Folder.Write("tmp/b.tmp", "x");
+  EXPECT_EQ(ExitStatusOf([&] { EndRun(Run); }), 0);
+  EXPECT_TRUE(Folder.Has("tmp/a.tmp/inside"));
+  EXPECT_FALSE(Folder.Has("tmp/b.tmp"));
+}
+
+TEST_F(FailuresTest, EndOfARunDeletesALinkAndNotWhatItLeadsTo) {
+  Folder.Write("tmp/sub/kept", "x");
+  Folder.Write("precious", "x");
+  std::filesystem::create_symlink(Folder.Path() / "precious", Folder.Path() / "tmp/link.tmp");
+  ExitStatusOf([&] { EndRun(Run); });
+  EXPECT_TRUE(Folder.Has("precious"));
+  EXPECT_FALSE(std::filesystem::is_symlink(Folder.Path() / "tmp/link.tmp"));
+}
+
+TEST_F(FailuresTest, EndOfARunBeforeTheFoldersAreKnownDeletesNothing) {
+  const std::filesystem::path before = std::filesystem::current_path();
+  Folder.Write("User.tmp", "x");
+  std::filesystem::current_path(Folder.Path());
+  Run.Session.TempFolder.clear();
+  EXPECT_EQ(ExitStatusOf([&] { EndRun(Run); }), 0);
+  std::filesystem::current_path(before);
+  EXPECT_TRUE(Folder.Has("User.tmp"));
+}
+
+TEST_F(FailuresTest, EndOfARunEndsAlsoWithoutItsFolder) {
+  Run.Session.TempFolder = Folder.HostPath("nowhere\\");
+  EXPECT_EQ(ExitStatusOf([&] { EndRun(Run); }), 0);
+}
+
+}  // namespace
+}  // namespace tarvis

@@ -1,0 +1,64 @@
+#include "text/code_page.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "core/support/test_run.h"
+
+namespace tarvis {
+namespace {
+
+struct Page {
+  int Number;
+  std::string Bytes;
+  std::string Text;
+};
+
+class CodePages : public testing::TestWithParam<Page> {};
+
+TEST_P(CodePages, ConvertBothWaysAndCountBytes) {
+  const CodePage page(GetParam().Number);
+  EXPECT_EQ(page.ToUtf8(GetParam().Bytes), GetParam().Text);
+  EXPECT_EQ(page.FromUtf8(GetParam().Text), GetParam().Bytes);
+  EXPECT_EQ(page.ByteLength(GetParam().Text), GetParam().Bytes.size());
+  EXPECT_EQ(page.Number(), GetParam().Number);
+}
+
+// Second bytes 5C and 7C are the backslash and the bar elsewhere.
+INSTANTIATE_TEST_SUITE_P(All, CodePages,
+                         testing::Values(Page{1252, "\xC4\x80\\|", "\u00C4\u20AC\\|"},
+                                         Page{1252, "\x81\x8D\x8F\x90\x9D", "\u0081\u008D\u008F\u0090\u009D"},
+                                         Page{932, "\x95\x5C\x83\x7C\xB1\\", "\u8868\u30DD\uFF71\\"},
+                                         Page{936, "\x81\x5C\x81\x7C\\", "\u4E57\u4E85\\"},
+                                         Page{949, "\xB0\xA1\xC7\xD1\\", "\uAC00\uD55C\\"},
+                                         Page{950, "\xA5\x5C\xB3\x5C\\", "\u529F\u8A31\\"}));
+
+TEST(CodePage, GivesAReplacementForHalfACharacter) {
+  EXPECT_EQ(CodePage(932).ToUtf8("a\x95"), "a\uFFFD");
+  EXPECT_EQ(CodePage(950).ToUtf8("\xA5"), "\uFFFD");
+}
+
+TEST(CodePage, GivesAQuestionMarkForACharacterThatItLacks) {
+  EXPECT_EQ(CodePage(1252).FromUtf8("a\u8868b"), "a?b");
+  EXPECT_EQ(CodePage(932).FromUtf8("a\uAC00b"), "a?b");
+  EXPECT_EQ(CodePage(1252).ByteLength("a\u8868b"), 3U);
+}
+
+TEST(CodePage, KeepsNulBytes) {
+  const std::string bytes("a\0\xE4", 3);
+  EXPECT_EQ(CodePage(1252).FromUtf8(CodePage(1252).ToUtf8(bytes)), bytes);
+}
+
+TEST(CodePage, RefusesANumberThatIsNone) {
+  EXPECT_EQ(RunTimeFailureOf([] { CodePage page(7); }), "CodePage: no such code page: '7'");
+}
+
+TEST(CodePage, MovesWithItsConverter) {
+  CodePage page(1252);
+  page = CodePage(932);
+  EXPECT_EQ(page.ToUtf8("\x95\x5C"), "\u8868");
+}
+
+}  // namespace
+}  // namespace tarvis
