@@ -58,17 +58,17 @@ class Captions(unittest.TestCase):
 
     def test_every_box_and_choice_of_the_item_pages_is_told(self):
         found = set()
-        for page in SRC.glob("dialogs/Inf*.cpp"):
+        for page in SRC.glob("dialogs/pages/Inf*.cpp"):
             found |= set(re.findall(r'"(?:chkItem\w+|optRange)", \w+, "([^"]+)"', page.read_text(encoding="utf-8")))
         self.expect_told(found, 20)
 
     def test_every_box_of_header_and_footer_is_told(self):
-        text = source("dialogs/ItemPage.cpp")
+        text = source("dialogs/pages/ItemPage.cpp")
         self.expect_told(set(re.findall(r'\{"([^"]+)", &HeaderOptions::', text)) |
                          set(re.findall(r'"chkFooter", NoFamily, "([^"]+)"', text)), 5)
 
     def test_every_function_has_a_section(self):
-        functions = set(re.findall(r'\{"([A-Z][\w -]+)", PageId', source("dialogs/function_list.cpp")))
+        functions = set(re.findall(r'\{"([A-Z][\w -]+)", PageId', source("dialogs/pages/function_list.cpp")))
         self.assertGreaterEqual(len(functions), 9)
         headings = " ".join(re.findall(r"^### (.+)$", GUIDE.text, re.MULTILINE))
         for function in functions:
@@ -98,7 +98,7 @@ class ManualPages(unittest.TestCase):
         return (ROOT / "packaging" / name).read_text(encoding="utf-8")
 
     def test_every_mode_stands_under_its_editions(self):
-        choices = set(re.findall(r'ModeChoice\{(\d), "(\w+)"', source("dialogs/function_list.cpp")))
+        choices = set(re.findall(r'ModeChoice\{(\d), "(\w+)"', source("dialogs/pages/function_list.cpp")))
         told = set()
         for edition, modes in re.findall(r"^\.TP\n(\d)(?:, version \d00)?\n(.+)$", self.page("tarvis.1"), re.MULTILINE):
             told |= {(edition, mode) for mode in modes.replace("the same, ", "").split(", ")}
@@ -120,7 +120,7 @@ class ManualPages(unittest.TestCase):
 
 class Messages(unittest.TestCase):
     def test_every_numbered_failure_is_told_with_its_number(self):
-        table = re.search(r"Messages = \{(.*?)\};", source("launch/failures.cpp"), re.DOTALL)[1]
+        table = re.search(r"Messages = \{(.*?)\};", source("run/failures.cpp"), re.DOTALL)[1]
         messages = re.findall(r'"([^"]+)"', table)
         self.assertEqual(len(messages), 18)
         self.assertIn(messages[0], GUIDE.text)
@@ -135,7 +135,7 @@ class Messages(unittest.TestCase):
         self.assertGreaterEqual(len(found), 5, found)
         for message in found:
             self.assertIn(message, GUIDE.text)
-        for part in re.findall(r'"(Try with [^"]+?|[^"]*be Inputted\.)"', source("dialogs/input_limits.cpp")):
+        for part in re.findall(r'"(Try with [^"]+?|[^"]*be Inputted\.)"', source("dialogs/controls/input_limits.cpp")):
             self.assertIn(part.replace("\\n", " ").strip(), GUIDE.text)
 
 
