@@ -101,7 +101,7 @@ void PrintSetting::BuildButtons() {
 }
 
 void PrintSetting::Connect() {
-  connect(chkCover_, &TickBox::stateChanged, this, &PrintSetting::CoverClicked);
+  connect(chkCover_, &TickBox::ValueChanged, this, &PrintSetting::CoverClicked);
   for (std::int16_t index = 0; index < 3; ++index) {
     connect(optDrow_.at(static_cast<std::size_t>(index)), &OptionButton::toggled, this,
             [this, index](bool on) {

@@ -224,7 +224,7 @@ TEST_F(ItemPageTest, ALoadWithUnchangedValuesRunsNoHandling) {
   Open(2, "", "User");
   int clicks = 0;
   for (TickBox* box : Page("InfUser").findChildren<TickBox*>()) {
-    QObject::connect(box, &TickBox::stateChanged, Dialog, [&clicks] { ++clicks; });
+    QObject::connect(box, &TickBox::ValueChanged, Dialog, [&clicks] { ++clicks; });
   }
   Page("InfUser").Load();
   EXPECT_EQ(clicks, 0);

@@ -102,6 +102,11 @@ TickBox::TickBox(const char* name, int index, const char* caption, const Bounds&
     : QCheckBox(QString::fromLatin1(caption), parent) {
   NameControl(*this, name, index, PlainCaption(text()));
   wraps_ = PlaceCaption(*this, bounds);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 7, 0)  // where the older signal is deprecated
+  connect(this, &QCheckBox::checkStateChanged, this, &TickBox::ValueChanged);
+#else
+  connect(this, &QCheckBox::stateChanged, this, &TickBox::ValueChanged);
+#endif
 }
 
 std::int16_t TickBox::Value() const {

@@ -28,8 +28,7 @@ QFont DialogFont();
 // Chains the focusable children of `container` row by row, each row from left to right.
 void SetReadingOrder(QWidget& container);
 
-// A check box with the three values of an option element. `stateChanged` is the click: it comes from the user
-// and from SetValue alike, and only when the value changes.
+// A check box with the three values of an option element.
 class TickBox : public QCheckBox {
   Q_OBJECT
 
@@ -43,6 +42,10 @@ class TickBox : public QCheckBox {
   // Any other value throws RunTimeFailure.
   void SetValue(std::int16_t value);
   bool IsOn() const { return Value() == 1; }
+
+ signals:
+  // The click: it comes from the user and from SetValue alike, and only when the value changes.
+  void ValueChanged();
 
  protected:
   void nextCheckState() override;

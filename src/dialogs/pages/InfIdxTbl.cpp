@@ -74,7 +74,7 @@ InfIdxTbl::InfIdxTbl(PrintRun& run, QWidget* parent)
   }
   connect(textStart_, &StepBox::Left, this, &InfIdxTbl::CheckStepRange);
   connect(textEnd_, &StepBox::Left, this, &InfIdxTbl::CheckStepRange);
-  connect(chkItemEtc_, &TickBox::stateChanged, this, &InfIdxTbl::CommentsClicked);
+  connect(chkItemEtc_, &TickBox::ValueChanged, this, &InfIdxTbl::CommentsClicked);
   connect(&Tabs(), &TabControl::TabChanged, this, &InfIdxTbl::TabLeft);
 }
 

@@ -34,7 +34,7 @@ InfSimOverlap::InfSimOverlap(PrintRun& run, QWidget* parent)
                        {"chkItemEtc", NoFamily, "Comment&s", 10, {300, 2610, 1485, 255}}},
                       run.Options.SimOption);
   ConnectParameterBoxes(std::span(details_).subspan(4, ParameterBoxes));
-  connect(overlap_[DetailBox].Box, &TickBox::stateChanged, this, &InfSimOverlap::DetailClicked);
+  connect(overlap_[DetailBox].Box, &TickBox::ValueChanged, this, &InfSimOverlap::DetailClicked);
 }
 
 void InfSimOverlap::BuildOverlapTab() {

@@ -27,7 +27,7 @@ InfTrace::InfTrace(PrintRun& run, QWidget* parent)
                        {"chkItemEtc", NoFamily, "Comment&s", 8, {360, 2700, 1485, 255}}},
                       run.Options.TraceOption);
   ConnectParameterBoxes(std::span(details_).subspan(2, ParameterBoxes));
-  connect(overlap_[0].Box, &TickBox::stateChanged, this, &InfTrace::OverlapClicked);
+  connect(overlap_[0].Box, &TickBox::ValueChanged, this, &InfTrace::OverlapClicked);
 }
 
 // Only an overlapped print at hand can leave the details out.

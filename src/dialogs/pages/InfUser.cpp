@@ -18,7 +18,7 @@ InfUser::InfUser(PrintRun& run, QWidget* parent)
                     run.Options.UserOption);
   TickBox* name = items_[0].Box;
   TickBox* switches = items_[1].Box;
-  connect(name, &TickBox::stateChanged, switches, [name, switches] { switches->setEnabled(name->IsOn()); });
+  connect(name, &TickBox::ValueChanged, switches, [name, switches] { switches->setEnabled(name->IsOn()); });
 }
 
 void InfUser::LoadItems() {

@@ -62,17 +62,17 @@ void ItemPage::BuildFirstTab(const PageFrame& frame) {
   for (int index = 1; index < 4; ++index) AddHeaderBox(tab, index);
   chkFooter_ = new TickBox("chkFooter", NoFamily, "Pa&ges", {330, 2460, 1215, 255}, tab);
   chkFooter_->SetValue(1);
-  connect(chkHeader_[0], &TickBox::stateChanged, this,
+  connect(chkHeader_[0], &TickBox::ValueChanged, this,
           [this] { txtTitle_->setEnabled(chkHeader_[0]->IsOn()); });
   connect(txtTitle_, &LineBox::textChanged, this, &ItemPage::TitleChanged);
-  connect(chkFooter_, &TickBox::stateChanged, this, [this] { header_.Pages = chkFooter_->Value(); });
+  connect(chkFooter_, &TickBox::ValueChanged, this, [this] { header_.Pages = chkFooter_->Value(); });
 }
 
 void ItemPage::AddHeaderBox(QWidget* tab, int index) {
   const HeaderBoxPlan& plan = HeaderBoxes.at(static_cast<std::size_t>(index));
   auto* box = new TickBox("chkHeader", index, plan.Caption, plan.Place, tab);
   box->SetValue(1);
-  connect(box, &TickBox::stateChanged, this, [this, box, &plan] { header_.*plan.Element = box->Value(); });
+  connect(box, &TickBox::ValueChanged, this, [this, box, &plan] { header_.*plan.Element = box->Value(); });
   chkHeader_.push_back(box);
 }
 
@@ -105,7 +105,7 @@ std::vector<BoundBox> ItemPage::AddBoxes(QWidget* tab, std::initializer_list<Ite
     auto* box = new TickBox(plan.Name, plan.Index, plan.Caption, plan.Place, tab);
     std::int16_t& element = elements[static_cast<std::size_t>(plan.Element - 1)];
     box->SetValue(1);
-    connect(box, &TickBox::stateChanged, this, [box, &element] { element = box->Value(); });
+    connect(box, &TickBox::ValueChanged, this, [box, &element] { element = box->Value(); });
     made.push_back({box, &element});
   }
   SetReadingOrder(*tab);

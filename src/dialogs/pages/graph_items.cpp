@@ -15,11 +15,11 @@ void ConnectParameterBoxes(std::span<const BoundBox> boxes) {
   TickBox* name = boxes[1].Box;
   TickBox* switches = boxes[2].Box;
   const std::vector<BoundBox> dependents(boxes.begin() + 1, boxes.end());
-  QObject::connect(parameters, &TickBox::stateChanged, parameters, [parameters, name, switches, dependents] {
+  QObject::connect(parameters, &TickBox::ValueChanged, parameters, [parameters, name, switches, dependents] {
     SetEnabled(dependents, parameters->IsOn());
     if (!name->IsOn()) switches->setEnabled(false);
   });
-  QObject::connect(name, &TickBox::stateChanged, switches,
+  QObject::connect(name, &TickBox::ValueChanged, switches,
                    [name, switches] { switches->setEnabled(name->IsOn()); });
 }
 
