@@ -3,6 +3,6 @@
 set -eu
 cd "$(dirname "$0")"
 
-tools/install_packages
-tools/build release >&2  # so that the table can be kept by itself
+tools/install_packages measuring
+tools/build bench >&2  # so that the table can be kept by itself
 exec python3 bench/program_bench.py "$@"

@@ -4,7 +4,7 @@
 set -eu
 cd "$(dirname "$0")"
 
-tools/install_packages
+tools/install_packages covering
 tools/build coverage core_tests
 find build/coverage -name '*.gcda' -delete
 build/coverage/tests/core_tests --gtest_brief=1

@@ -12,6 +12,7 @@ fuzzers=${*:-options user upwizard trace real_trace mecha sim idx_tbl zone_tbl j
 export ASAN_OPTIONS=intercept_tls_get_addr=0
 export LSAN_OPTIONS="suppressions=$PWD/cmake/lsan.supp:print_suppressions=0"
 
+tools/install_packages fuzzing
 tools/build fuzz fuzzers >/dev/null
 for fuzzer in $fuzzers; do
   found=build/fuzz/found/$fuzzer

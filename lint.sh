@@ -13,7 +13,7 @@ lint() {
   run-clang-tidy -p "build/$preset" -j "${TARVIS_JOBS:-$(nproc)}" -quiet "$@" "^$PWD/$files"
 }
 
-tools/install_packages
+tools/install_packages linting
 git ls-files '*.h' '*.cpp' | xargs clang-format --dry-run -Werror
 
 # With this linter the headers of the PDF library are right in the language of their time only.
@@ -38,5 +38,5 @@ if [ $# -gt 0 ]; then
 fi
 lint dev-asan "(src|tests)/(?!$of_its_time)"
 lint dev-asan "src/$of_its_time" "$in_its_language"
-lint release bench/
+lint bench bench/
 lint fuzz fuzz/

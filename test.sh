@@ -4,7 +4,7 @@
 set -eu
 cd "$(dirname "$0")"
 
-tools/install_packages
+tools/install_packages testing
 tools/build dev-asan
 tools/build fuzz fuzzers
 exec ctest --preset dev-asan </dev/null

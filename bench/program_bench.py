@@ -199,7 +199,7 @@ def print_table(head, rows):
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
-    parser.add_argument("--build", type=Path, default=ROOT / "build/release")
+    parser.add_argument("--build", type=Path, default=ROOT / "build/bench")
     parser.add_argument("--runs", type=int, default=5, help="runs of each document; the table holds the medians")
     told = parser.parse_args()
     ours, toolkits = [], []
