@@ -4,6 +4,8 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
+RENAMED_ROLES = {"push button": "button"}  # how releases of the accessibility library name one role: older, newer
+
 
 class Widget:
     """One thing on the screen; it may be gone at the next call, and then it has no name, text or children."""
@@ -23,7 +25,8 @@ class Widget:
 
     @property
     def role(self):
-        return self._ask(lambda a: a.get_role_name(), "") or ""
+        name = self._ask(lambda a: a.get_role_name(), "") or ""
+        return RENAMED_ROLES.get(name, name)
 
     @property
     def text(self):

@@ -78,7 +78,7 @@ class ProgramCase(unittest.TestCase):
         """The words of the message box of this title, and its buttons."""
         box = self.window(session, title)
         words = wait_until(lambda: [w.name for w in box.all() if w.role == "label" and w.name], "the words of the message")
-        return "\n".join(words), [w.name for w in box.all() if w.role == "push button"]
+        return "\n".join(words), [w.name for w in box.all() if w.role == "button"]
 
     def expect_failure(self, session, words, title="Printing Error"):
         """The numbered failure, answered with OK; the run ends as every run does."""
@@ -133,7 +133,7 @@ class ProgramCase(unittest.TestCase):
 
     def edit_items(self, session):
         """Goes back from the preview to the dialog, by the tool as an assistive tool presses it."""
-        self.widget(PREVIEW, "push button", EDITING).press()
+        self.widget(PREVIEW, "button", EDITING).press()
         session.wait_for(DIALOG)
 
     def note_opened(self, target):

@@ -35,7 +35,7 @@ class WholeRun(ProgramCase):
         job = session.print_all(self.queue)
         self.expect_printed(job, first)
 
-        self.press_until_focused(session, PREVIEW, "push button", EDITING)
+        self.press_until_focused(session, PREVIEW, "button", EDITING)
         self.user.press("space")
         self.turn_on_the_unit_column(session)
         second = self.folder / "second.pdf"
