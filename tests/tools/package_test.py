@@ -87,8 +87,8 @@ class Package(unittest.TestCase):
 
     def test_libraries_and_fonts_come_with_it(self):
         needed = self.field("Depends")
-        for name in ("libqt6widgets6", "libqt6printsupport6", "libqpdf29", "libicu72", "fonts-liberation"):
-            self.assertIn(name, needed)
+        for name in ("libqt6widgets6", "libqt6printsupport6", r"libqpdf\d+", r"libicu\d+", "fonts-liberation"):
+            self.assertRegex(needed, rf"(^|, ){name}\b")
 
     def test_licence_is_the_one_of_the_tree(self):
         self.assertEqual((self.documents / "copyright").read_text(), (ROOT / "LICENSE").read_text())
