@@ -1,12 +1,31 @@
 #include <fcntl.h>
+#include <langinfo.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <clocale>
 #include <csignal>
+#include <cstdlib>
+#include <string>
 
 #include "platform/process_guard.h"
 
 namespace tarvis {
+namespace {
+
+// The toolkit works in UTF-8. Where the environment asks for another encoding, as it does where it says
+// nothing at all, newer toolkits complain on standard error. Language, measures and formats stay those of the
+// user.
+void AskForUtf8() {
+  std::setlocale(LC_ALL, "");
+  if (std::string(nl_langinfo(CODESET)) == "UTF-8") return;
+  const char* all = std::getenv("LC_ALL");  // counts before all others, so it must give way
+  if (all != nullptr && *all != '\0') setenv("LANG", all, 1);
+  unsetenv("LC_ALL");
+  setenv("LC_CTYPE", "C.UTF-8", 1);
+}
+
+}  // namespace
 
 void GuardProcess() {
   for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
@@ -15,6 +34,7 @@ void GuardProcess() {
   }
   std::signal(SIGPIPE, SIG_IGN);
   std::signal(SIGXFSZ, SIG_IGN);
+  AskForUtf8();
 }
 
 }  // namespace tarvis

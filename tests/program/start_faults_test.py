@@ -173,7 +173,7 @@ class Locales(ProgramCase):
     def test_changes_no_number_and_no_date(self):
         words, options = self.saved_words({"LANG": "C.UTF-8"})
         self.assertIn("-207.2", [word for word, *_ in words])
-        for environment in ({"LANG": None}, self.made("de_DE"), self.made("ja_JP")):
+        for environment in ({"LANG": None}, {"LC_ALL": "C"}, self.made("de_DE"), self.made("ja_JP")):
             with self.subTest(environment=environment):
                 others, written = self.saved_words(environment)
                 self.assertEqual(others, words)
