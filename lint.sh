@@ -1,42 +1,65 @@
 #!/bin/sh
-# Checks layout and habits of the code: ./lint.sh [FILE...], all of it if not told. clang-format and clang-tidy must
-# find nothing; what they look at stands in .clang-format and .clang-tidy. Takes many minutes for all files.
+# Checks layout and habits of the code: ./lint.sh [FILE... | --changed [COMMIT]]. Layout is checked in all files, habits
+# in all, in these, or in those that have changed since COMMIT: if not given, since this branch left main, on main since
+# the commit before. clang-format and clang-tidy must find nothing; .clang-format and .clang-tidy say what they look at.
+# Takes many minutes for all files.
 set -eu
 cd "$(dirname "$0")"
 
-# Looks at the files of a preset whose path matches.
+# With this linter the headers of the PDF library are right in the language of their time only.
+of_its_time='^src/preview/output/pdf_(export|resources)\.cpp$'
+in_its_language='-extra-arg=-std=c++17'
+
+base_of_branch() {
+  base=$(git merge-base HEAD main 2>/dev/null || git rev-parse HEAD)
+  [ "$base" != "$(git rev-parse HEAD)" ] || base=$(git rev-parse HEAD~1)
+  echo "$base"
+}
+
+# The linter takes sources, so a header is looked at through one that includes it, its own if there is one.
+source_of_header() {
+  own=${1%.h}.cpp
+  if [ -e "$own" ]; then
+    echo "$own"
+  else
+    git grep -l "#include \".*\b${1##*/}\"" -- "${1%%/*}/*.cpp" | head -n 1
+  fi
+}
+sources_of() {
+  for file; do
+    case $file in
+      *.cpp) echo "$file" ;;
+      *.h) source_of_header "$file" ;;
+    esac
+  done | sort -u
+}
+
+# Looks at those of the chosen sources that the preset builds: their paths match.
 lint() {
   preset=$1
   files=$2
   shift 2
+  [ -n "$files" ] || return 0
   tools/build "$preset" >/dev/null
-  run-clang-tidy -p "build/$preset" -j "${TARVIS_JOBS:-$(nproc)}" -quiet "$@" "^$PWD/$files"
+  paths=$(echo "$files" | sed 's/[.+]/\\&/g' | paste -sd '|' -)
+  run-clang-tidy -p "build/$preset" -j "${TARVIS_JOBS:-$(nproc)}" -quiet "$@" "^$PWD/($paths)\$"
 }
 
 tools/install_packages linting
 git ls-files '*.h' '*.cpp' | xargs clang-format --dry-run -Werror
 
-# With this linter the headers of the PDF library are right in the language of their time only.
-of_its_time='preview/output/pdf_(export|resources)\.cpp'
-in_its_language='-extra-arg=-std=c++17'
-
-if [ $# -gt 0 ]; then
-  for file; do
-    case $file in
-      bench/*) lint release "$file" ;;
-      fuzz/*) lint fuzz "$file" ;;
-      *)
-        if echo "$file" | grep -Eq "$of_its_time"; then
-          lint dev-asan "$file" "$in_its_language"
-        else
-          lint dev-asan "$file"
-        fi
-        ;;
-    esac
-  done
-  exit
-fi
-lint dev-asan "(src|tests)/(?!$of_its_time)"
-lint dev-asan "src/$of_its_time" "$in_its_language"
-lint bench bench/
-lint fuzz fuzz/
+case ${1:-} in
+  "") chosen=$(git ls-files '*.cpp') ;;
+  --changed)
+    # shellcheck disable=SC2046 # paths of the tree hold no blanks
+    chosen=$(sources_of $(git diff --name-only --diff-filter=d "${2:-$(base_of_branch)}" -- '*.h' '*.cpp'))
+    ;;
+  *) chosen=$(sources_of "$@") ;;
+esac
+of_folder() {
+  echo "$chosen" | grep -E "$1" || true
+}
+lint dev-asan "$(of_folder '^(src|tests)/' | grep -Ev "$of_its_time" || true)"
+lint dev-asan "$(of_folder "$of_its_time")" "$in_its_language"
+lint bench "$(of_folder '^bench/')"
+lint fuzz "$(of_folder '^fuzz/')"
