@@ -26,6 +26,8 @@ RUN_BY = {
     "TARVIS_PROGRAM=build/dev-asan/src/tarvis tests/program/run tests/program/whole_run_test.py":
         ("tests/CMakeLists.txt", "program/run"),
     "sudo apt-get install ./build/packages/tarvis_0.1.0_amd64.deb": ("tests/tools/package_test.py", '.dpkg("-i"'),
+    "tools/try_on trixie": ("tests/CMakeLists.txt", "tools/try_on ${release}"),
+    "tools/try_on testing ./bench.sh": ("tests/CMakeLists.txt", "tools/try_on ${release}"),
     "./lint.sh --changed": (".ci/run", "./lint.sh --changed"),
     "man tarvis": ("tests/tools/package_test.py", "mandoc"),
 }
