@@ -7,6 +7,9 @@ import threading
 import time
 
 
+DESKTOPS = 3  # another number than any window manager starts with
+
+
 class Timeout(AssertionError):
     """Something that was waited for did not come."""
 
@@ -38,13 +41,13 @@ class VirtualDisplay:
         self.name = wait_until(lambda: self._start_server(size, server_options), "an X server")
         self.environment = {"DISPLAY": self.name}
         self._manager = self._start_manager()
-        wait_until(self._managed, "the window manager")
+        wait_until(self._manages, "the window manager")
 
     def _start_server(self, size, server_options):
         """The name of the display; nothing if another server that starts at this moment takes it away."""
         read_end, write_end = os.pipe()
         self._server = subprocess.Popen(["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{size}x24",
-                                         "-nolisten", "tcp", "-r", *server_options],
+                                         "-nolisten", "tcp", "-noreset", "-r", *server_options],
                                         pass_fds=[write_end], stderr=subprocess.DEVNULL, preexec_fn=end_with_parent)
         os.close(write_end)
         with os.fdopen(read_end) as told:
@@ -58,12 +61,17 @@ class VirtualDisplay:
         return subprocess.Popen(["openbox"], env={**os.environ, **self.environment}, stdout=subprocess.DEVNULL,
                                 stderr=subprocess.DEVNULL, preexec_fn=end_with_parent)
 
-    def _managed(self):
+    def _manages(self):
+        """Whether the window manager does what it is asked for. It announces itself long before that, and a window that
+        comes up in between may stay unseen: the manager has read the request, but sleeps until the next one arrives. So
+        it is asked for something harmless, which wakes it as well, until the answer is there."""
         if self._manager.poll() is not None:  # it gives up on a server that is slow to answer
             self._manager = self._start_manager()
-        told = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], env={**os.environ, **self.environment},
+        environment = {**os.environ, **self.environment}
+        subprocess.run(["xdotool", "set_num_desktops", str(DESKTOPS)], env=environment, capture_output=True, check=False)
+        told = subprocess.run(["xprop", "-root", "_NET_NUMBER_OF_DESKTOPS"], env=environment,
                               capture_output=True, text=True, check=False)
-        return "window id" in told.stdout
+        return told.stdout.split()[-2:] == ["=", str(DESKTOPS)]
 
     def close(self):
         for process in (self._manager, self._server):
