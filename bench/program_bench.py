@@ -28,6 +28,8 @@ from session import DIALOG, PREVIEW, Session  # noqa: E402
 DIALOG_GREY = b"\xef\xef\xef"  # background of the toolkit's windows, seen as soon as they are painted
 BLACK = b"\0\0\0"              # the rule under a page's title
 START = "start to visible dialog [ms]"
+PATIENCE = 30  # seconds for anything to come up on the screen
+TRIES = 3      # of one measurement, before the table goes without it
 
 
 @dataclass(frozen=True)
@@ -80,14 +82,16 @@ class Screen:
         with (self._folder / "Xvfb_screen0").open("rb") as buffer:
             self._pixels = mmap.mmap(buffer.fileno(), 0, prot=mmap.PROT_READ)
 
-    def wait_for_run(self, colour, length, start):
-        """Seconds since `start` until a run of pixels of this colour stands somewhere."""
+    def wait_for_run(self, colour, length, start, process):
+        """Seconds since `start` until a run of pixels of this colour stands somewhere; `process` is to paint it."""
         runs = [(colour + last) * length for last in (b"\0", b"\xff")]
-        end = time.monotonic() + 30
+        end = time.monotonic() + PATIENCE
         while time.monotonic() < end:
             if any(self._pixels.find(run) >= 0 for run in runs):
                 return time.monotonic() - start
-        raise AssertionError("nothing came up on the screen")
+            if process.poll() is not None:
+                raise AssertionError(f"the program has ended with status {process.returncode}")
+        raise AssertionError(f"nothing came up on the screen within {PATIENCE} s")
 
 
 def peak_memory(pid):
@@ -112,12 +116,12 @@ def measure_program(told, job):
             process = host.start(told.build / "src/tarvis", job.mode,
                                  environment={**display.environment, "CUPS_SERVER": "127.0.0.1:1"},
                                  stderr=subprocess.DEVNULL)
-            measured = {START: screen.wait_for_run(DIALOG_GREY, 200, start) * 1000}
+            measured = {START: screen.wait_for_run(DIALOG_GREY, 200, start, process) * 1000}
             session = Session(user, process)
             session.wait_for(DIALOG)
             start = time.monotonic()
             user.press("Return")
-            measured["OK to first page on the screen [ms]"] = screen.wait_for_run(BLACK, 400, start) * 1000
+            measured["OK to first page on the screen [ms]"] = screen.wait_for_run(BLACK, 400, start, process) * 1000
             session.wait_for(PREVIEW)
             start = time.monotonic()
             session.save_pdf(folder / "large.pdf")
@@ -140,7 +144,7 @@ def measure_empty_dialog(told, job):
             process = subprocess.Popen([str(told.build / "bench/document_bench"), "dialog"],
                                        env={**os.environ, **display.environment}, stderr=subprocess.DEVNULL)
             try:
-                return {START: screen.wait_for_run(DIALOG_GREY, 200, start) * 1000}
+                return {START: screen.wait_for_run(DIALOG_GREY, 200, start, process) * 1000}
             finally:
                 process.kill()
                 process.wait()
@@ -160,9 +164,20 @@ def measure_document(told, job, way):
         return json.loads(subprocess.run(command, env=environment, capture_output=True, text=True, check=True).stdout)
 
 
+def measured_with_patience(measure, told, job, *arguments):
+    """What `measure` gives. What goes wrong once is said and tried again; nothing if it goes wrong each time, so that
+    the other results are not lost."""
+    for left in reversed(range(TRIES)):
+        try:
+            return measure(told, job, *arguments)
+        except (AssertionError, OSError, subprocess.SubprocessError) as failure:
+            print(f"{job.title}, {measure.__name__}: {failure}; {'trying again' if left else 'left out'}", file=sys.stderr)
+    return {}
+
+
 def medians(runs, measure, *arguments):
-    rows = [measure(*arguments) for _ in range(runs)]
-    return {name: statistics.median(row[name] for row in rows) for name in rows[0]}
+    rows = [row for row in (measured_with_patience(measure, *arguments) for _ in range(runs)) if row]
+    return {name: statistics.median(row[name] for row in rows) for name in (rows[0] if rows else ())}
 
 
 def part_benchmarks(folder, bench_folder):
@@ -208,7 +223,7 @@ def main():
                     medians(told.runs, measure_document, told, job, "tarvis"))
         toolkits.append(medians(told.runs, measure_empty_dialog, told, job) |
                         medians(told.runs, measure_document, told, job, "toolkit"))
-    names = list(ours[0])
+    names = dict.fromkeys(name for own in ours for name in own)
     print_table(["whole documents (x toolkit's own way)", *(job.title for job in JOBS)],
                 [[name, *(compared(own.get(name), other.get(name)) for own, other in zip(ours, toolkits))] for name in names])
     print()
