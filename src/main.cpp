@@ -3,8 +3,10 @@
 #include "platform/application.h"
 #include "platform/command_line.h"
 #include "platform/end_signals.h"
+#include "platform/first_window_watch.h"
 #include "platform/fonts.h"
 #include "platform/host_settings.h"
+#include "platform/message_buses.h"
 #include "platform/process_guard.h"
 #include "platform/program_windows.h"
 #include "platform/qt_desktop.h"
@@ -17,14 +19,20 @@ int main(int argc, char** argv) {
   GuardProcess();
   QtDesktop desktop;
   ToolkitArguments arguments(argv[0]);
+  LeaveOutSilentBuses(desktop);
+  FirstWindowWatch watch(desktop);
+  watch.WaitsFor(DisplayInWords());
   const std::unique_ptr<Application> application = StartApplication(arguments, desktop);
+  watch.NoticeWindows();
+  watch.WaitsFor("the fonts");
   RequireFonts(desktop);
+  watch.WaitsFor("the files of the host");
   // They last as long as the process, which ends without coming back here: no window is taken apart when the
   // toolkit has lost its display.
   const std::unique_ptr<HostSettings> settings = OpenHostSettings(desktop);
   PrintRun run(desktop);
   QtProgramWindows windows(run);
-  SystemPrinters printers(settings->CountsPdfPrinter());
+  SystemPrinters printers(settings->CountsPdfPrinter(), watch);
   const EndSignals endSignals([&] {
     if (application->IsFailing()) desktop.EndProcess(ExitAfterRunTimeFailure);
     windows.StopWork();

@@ -6,7 +6,11 @@
 namespace tarvis {
 
 int SystemPrinters::NDevices() {
-  return static_cast<int>(QPrinterInfo::availablePrinterNames().size()) + (countsPdf_ ? 1 : 0);
+  if (countsPdf_) return 1;
+  watch_.WaitsFor("the print system");
+  const qsizetype count = QPrinterInfo::availablePrinterNames().size();
+  watch_.WaitsFor("the files of the host");
+  return static_cast<int>(count);
 }
 
 void SystemPrinters::PrintDialog() {

@@ -1,20 +1,24 @@
 // The printers that the system knows.
 #pragma once
 
+#include "platform/first_window_watch.h"
 #include "run/desktop.h"
 
 namespace tarvis {
 
 class SystemPrinters : public Printers {
  public:
-  // `countsPdf` counts saving as PDF as one more printer.
-  explicit SystemPrinters(bool countsPdf) : countsPdf_(countsPdf) {}
+  // `countsPdf` counts saving as PDF as a printer. `watch` must outlive the object.
+  SystemPrinters(bool countsPdf, FirstWindowWatch& watch) : countsPdf_(countsPdf), watch_(watch) {}
 
+  // How many there are at least: where saving as PDF counts, the print system isn't asked, for a server of it
+  // that doesn't answer takes two minutes. Without that, the answer is waited for.
   int NDevices() override;
   void PrintDialog() override;
 
  private:
   bool countsPdf_;
+  FirstWindowWatch& watch_;
 };
 
 }  // namespace tarvis

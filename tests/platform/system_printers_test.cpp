@@ -5,23 +5,30 @@
 #include <QPrinterInfo>
 
 #include "platform/message_watch.h"
+#include "support/fake_desktop.h"
 
 namespace tarvis {
 namespace {
 
 TEST(SystemPrinters, CountsThePrintersOfTheSystem) {
-  EXPECT_EQ(SystemPrinters(false).NDevices(), QPrinterInfo::availablePrinterNames().size());
+  FakeDesktop desktop;
+  FirstWindowWatch watch(desktop);
+  EXPECT_EQ(SystemPrinters(false, watch).NDevices(), QPrinterInfo::availablePrinterNames().size());
 }
 
-TEST(SystemPrinters, CountsSavingAsPdfAsOneMoreWhereToldTo) {
-  EXPECT_EQ(SystemPrinters(true).NDevices(), SystemPrinters(false).NDevices() + 1);
+TEST(SystemPrinters, CountsSavingAsPdfWithoutAskingThePrintSystem) {
+  FakeDesktop desktop;
+  FirstWindowWatch watch(desktop);
+  EXPECT_EQ(SystemPrinters(true, watch).NDevices(), 1);
 }
 
 TEST(SystemPrinters, TellsThatThereIsNoneAndWaitsForTheUser) {
-  MessageWatch watch;
-  SystemPrinters(false).PrintDialog();
-  ASSERT_EQ(watch.Seen().size(), 1U);
-  EXPECT_EQ(watch.Seen().front().Text, "No printer is installed. Install a printer and try again.");
+  FakeDesktop desktop;
+  FirstWindowWatch watch(desktop);
+  MessageWatch messages;
+  SystemPrinters(false, watch).PrintDialog();
+  ASSERT_EQ(messages.Seen().size(), 1U);
+  EXPECT_EQ(messages.Seen().front().Text, "No printer is installed. Install a printer and try again.");
 }
 
 }  // namespace

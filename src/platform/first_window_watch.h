@@ -1,0 +1,51 @@
+// Watches for the first window of a run. What the start waits for may keep it away for ever: a display, a
+// print system or a message bus that takes connections and never answers, a window manager that is stuck.
+#pragma once
+
+#include <QObject>
+#include <chrono>
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <thread>
+
+#include "run/desktop.h"
+
+namespace tarvis {
+
+// Waits in a thread of its own, since the start hangs in calls of the toolkit that return late or never. If
+// no window shows within `patience`, it says once, on standard error, what the start waits for, and leaves
+// the start alone. It says nothing once a window has been shown or the object is gone.
+class FirstWindowWatch {
+ public:
+  // `desktop` must outlive the watch; `Diagnose` is called from the thread. If the system gives no thread,
+  // nothing is watched.
+  explicit FirstWindowWatch(Desktop& desktop, std::chrono::seconds patience = std::chrono::seconds(10));
+  ~FirstWindowWatch();
+  FirstWindowWatch(const FirstWindowWatch&) = delete;
+  FirstWindowWatch& operator=(const FirstWindowWatch&) = delete;
+
+  // What the start does from now on, in words that follow "waits for".
+  void WaitsFor(std::string what);
+  // To be called once the application object exists: from now on, its windows are noticed.
+  void NoticeWindows();
+
+ private:
+  void Watch();
+  void End();
+
+  Desktop& desktop_;
+  const std::chrono::seconds patience_;
+  std::unique_ptr<QObject> windows_;
+  std::mutex mutex_;  // guards the rest
+  std::condition_variable changed_;
+  std::string what_ = "the system";
+  bool isEnded_ = false;
+  std::thread thread_;
+};
+
+// The display of the environment, in words for `FirstWindowWatch::WaitsFor`.
+std::string DisplayInWords();
+
+}  // namespace tarvis
