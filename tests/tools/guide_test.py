@@ -129,7 +129,7 @@ class Messages(unittest.TestCase):
 
     def test_every_other_message_is_told(self):
         sentence = re.compile(r'(?:tr\(|Box box\([^;]*?)"([A-Z][^"]*\.)"')
-        found = {text for name in ("preview/window/preview_output.cpp", "platform/system_printers.cpp", "dialogs/pages/InfIdxTbl.cpp")
+        found = {text for name in ("preview/window/document_output.cpp", "platform/system_printers.cpp", "dialogs/pages/InfIdxTbl.cpp")
                  for text in sentence.findall(source(name))}
         found |= set(re.findall(r'"(Wrong [^"]+)"', source("dialogs/pages/InfIdxTbl.cpp")))
         self.assertGreaterEqual(len(found), 5, found)

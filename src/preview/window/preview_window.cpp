@@ -14,8 +14,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "preview/output/background_job.h"
 #include "preview/pages/page_view.h"
+#include "preview/window/document_output.h"
 #include "preview/window/find_bar.h"
 #include "preview/window/finder.h"
 #include "preview/window/icons.h"
@@ -59,8 +59,9 @@ PreviewWindow::PreviewWindow(std::shared_ptr<const Document> document, const Pre
       document_(std::move(document)),
       text_(*document_),
       selection_(text_),
-      author_(setup.Author),
       view_(new PageView(document_)),
+      output_(new DocumentOutput(
+          document_, setup.Author, [this] { return view_->CurrentPage(); }, this)),
       pane_(new SidePane(document_)),
       findBar_(new FindBar(this)),
       finder_(new Finder(*findBar_, text_, *view_, this)),
@@ -91,7 +92,13 @@ PreviewWindow::PreviewWindow(std::shared_ptr<const Document> document, const Pre
   view_->setFocus();
 }
 
-PreviewWindow::~PreviewWindow() = default;
+PreviewWindow::~PreviewWindow() {
+  output_->Cancel();
+}
+
+bool PreviewWindow::IsBusy() const {
+  return output_->IsBusy();
+}
 
 void PreviewWindow::PlaceOnScreen() {
   const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
@@ -205,9 +212,9 @@ void PreviewWindow::Copy() {
 void PreviewWindow::Run(Command command, bool checked) {
   switch (command) {
     case Command::Print:
-      return Print();
+      return output_->Print();
     case Command::SavePdf:
-      return SavePdf();
+      return output_->SavePdf();
     case Command::SidePane:
       return pane_->setVisible(checked);
     case Command::FirstPage:
@@ -264,7 +271,7 @@ void PreviewWindow::Walk(const std::optional<PagePlace>& place) {
 }
 
 void PreviewWindow::closeEvent(QCloseEvent* event) {
-  job_.reset();
+  output_->Cancel();
   event->accept();
   if (event->spontaneous()) emit closedByUser();
 }

@@ -6,8 +6,6 @@
 #include <memory>
 #include <vector>
 
-#include "preview/output/background_job.h"
-#include "preview/output/printing.h"
 #include "preview/pages/page_layout.h"
 #include "preview/pages/place_history.h"
 #include "preview/paint/document_text.h"
@@ -23,6 +21,7 @@ class QSplitter;
 
 namespace tarvis {
 
+class DocumentOutput;
 class FindBar;
 class Finder;
 class PageView;
@@ -47,7 +46,7 @@ class PreviewWindow : public QMainWindow {
 
   PageView& View() { return *view_; }
   // Whether a print or an export is under way.
-  bool IsBusy() const { return job_ != nullptr; }
+  bool IsBusy() const;
   QAction* ActionOf(Command command) const { return actions_.at(command); }
 
  signals:
@@ -82,17 +81,12 @@ class PreviewWindow : public QMainWindow {
 
   void Copy();
   void SelectionChanged();
-  void Print();
-  void SavePdf();
-  bool AskForScale(const QSizeF& missing, PrintScale& scale);
-  // `failure` is told with the error text if `work` fails.
-  void StartJob(const QString& caption, const QString& failure, BackgroundJob::Work work);
 
   std::shared_ptr<const Document> document_;
   DocumentText text_;
   TextSelection selection_;
-  QString author_;
   PageView* view_;
+  DocumentOutput* output_;
   SidePane* pane_;
   FindBar* findBar_;
   Finder* finder_;
@@ -102,7 +96,6 @@ class PreviewWindow : public QMainWindow {
   std::map<Command, QAction*> actions_;
   std::vector<QAction*> toolActions_;
   PlaceHistory history_;
-  std::unique_ptr<BackgroundJob> job_;
 };
 
 }  // namespace tarvis

@@ -1,4 +1,5 @@
-// The preview window's ways out: paper and PDF.
+#include "preview/window/document_output.h"
+
 #include <QAbstractButton>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -9,11 +10,7 @@
 #include <QPushButton>
 #include <QStandardPaths>
 
-#include "preview/output/background_job.h"
 #include "preview/output/pdf_export.h"
-#include "preview/output/printing.h"
-#include "preview/pages/page_view.h"
-#include "preview/window/preview_window.h"
 
 namespace tarvis {
 namespace {
@@ -47,10 +44,20 @@ void TakeOverColours(const QPrintDialog& dialog, QPrinter& printer) {
 
 }  // namespace
 
-void PreviewWindow::SavePdf() {
+DocumentOutput::DocumentOutput(std::shared_ptr<const Document> document, QString author,
+                               std::function<int()> currentPage, QWidget* window)
+    : QObject(window),
+      document_(std::move(document)),
+      author_(std::move(author)),
+      currentPage_(std::move(currentPage)),
+      window_(window) {}
+
+DocumentOutput::~DocumentOutput() = default;
+
+void DocumentOutput::SavePdf() {
   const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
   const QString title = QString::fromStdString(document_->Title);
-  QFileDialog dialog(this, tr("Save as PDF"), folder, tr("PDF files (*.pdf)"));
+  QFileDialog dialog(window_, tr("Save as PDF"), folder, tr("PDF files (*.pdf)"));
   dialog.setObjectName(QStringLiteral("savePdfDialog"));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(QStringLiteral("pdf"));
@@ -64,12 +71,12 @@ void PreviewWindow::SavePdf() {
            });
 }
 
-void PreviewWindow::Print() {
+void DocumentOutput::Print() {
   auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
-  const int count = view_->Layout().PageCount();
+  const int count = static_cast<int>(document_->Pages.size());
   printer->setDocName(QString::fromStdString(document_->Title));
   printer->setCreator(QStringLiteral("Tarvis"));
-  QPrintDialog dialog(printer.get(), this);
+  QPrintDialog dialog(printer.get(), window_);
   dialog.setObjectName(QStringLiteral("printDialog"));
   dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
                     QAbstractPrintDialog::PrintCollateCopies | QAbstractPrintDialog::PrintCurrentPage);
@@ -80,7 +87,7 @@ void PreviewWindow::Print() {
   if (dialog.exec() != QDialog::Accepted) return;
   TakeOverColours(dialog, *printer);
   if (dialog.printRange() == QAbstractPrintDialog::CurrentPage) {
-    printer->setFromTo(view_->CurrentPage() + 1, view_->CurrentPage() + 1);
+    printer->setFromTo(currentPage_() + 1, currentPage_() + 1);
   }
   PrintScale scale = PrintScale::AsComposed;
   const QSizeF missing = MissingRoom(*document_, *printer);
@@ -92,12 +99,12 @@ void PreviewWindow::Print() {
 }
 
 // False if the user would rather not print.
-bool PreviewWindow::AskForScale(const QSizeF& missing, PrintScale& scale) {
-  QMessageBox box(QMessageBox::Question, windowTitle(),
+bool DocumentOutput::AskForScale(const QSizeF& missing, PrintScale& scale) {
+  QMessageBox box(QMessageBox::Question, window_->windowTitle(),
                   missing.width() > 0
                       ? tr("The paper is too narrow for the pages: their right edge would be cut off.")
                       : tr("The paper is too short for the pages: their lower edge would be cut off."),
-                  QMessageBox::NoButton, this);
+                  QMessageBox::NoButton, window_);
   box.setObjectName(QStringLiteral("smallPaper"));
   const QAbstractButton* shrink = box.addButton(tr("&Scale to fit"), QMessageBox::AcceptRole);
   box.addButton(tr("&Print as it is"), QMessageBox::DestructiveRole);
@@ -107,13 +114,14 @@ bool PreviewWindow::AskForScale(const QSizeF& missing, PrintScale& scale) {
   return box.clickedButton() != nullptr && box.clickedButton() != cancel;
 }
 
-void PreviewWindow::StartJob(const QString& caption, const QString& failure, BackgroundJob::Work work) {
+void DocumentOutput::StartJob(const QString& caption, const QString& failure, BackgroundJob::Work work) {
   if (job_) return;
-  job_ = std::make_unique<BackgroundJob>(caption, std::move(work), this);
+  job_ = std::make_unique<BackgroundJob>(caption, std::move(work), window_);
   connect(job_.get(), &BackgroundJob::Finished, this, [this, failure](const QString& error) {
     job_.release()->deleteLater();
     if (error.isEmpty()) return;
-    auto* box = new QMessageBox(QMessageBox::Warning, windowTitle(), failure, QMessageBox::Ok, this);
+    auto* box =
+        new QMessageBox(QMessageBox::Warning, window_->windowTitle(), failure, QMessageBox::Ok, window_);
     box->setObjectName(QStringLiteral("outputFailure"));
     box->setInformativeText(error);
     box->setAttribute(Qt::WA_DeleteOnClose);
