@@ -1,5 +1,6 @@
 #include "platform/application.h"
 
+#include <QSettings>
 #include <cstdlib>
 #include <exception>
 #include <string>
@@ -21,11 +22,19 @@ std::string Words() {
   }
 }
 
+// The toolkit's file dialog would note folders, names and column widths in a settings file of its own below
+// the user's home; of a run, only the print options stay. Below a device there is no folder to write to.
+// Where the toolkit shows the system's own dialog, that one keeps what it likes.
+void KeepNoToolkitSettings() {
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
+}
+
 }  // namespace
 
 Application::Application(ToolkitArguments& arguments, Desktop& desktop)
     : QApplication(arguments.Count, arguments.Values.data()), desktop_(desktop) {
   setApplicationName("tarvis");
+  KeepNoToolkitSettings();
   setQuitOnLastWindowClosed(false);  // only the end of the run ends the process
 }
 
