@@ -4,6 +4,7 @@
 #include "functions/catalog.h"
 #include "pictures/picture_file_loader.h"
 #include "platform/text_measurer.h"
+#include "preview/output/page_choice.h"
 #include "preview/output/pdf_export.h"
 #include "preview/output/printing.h"
 #include "preview/pages/page_layout.h"
@@ -61,7 +62,8 @@ class OwnRoad : public DocumentRoad {
     if (!error.isEmpty()) qFatal("%s", qPrintable(error));
   }
   void Print(QPrinter& printer) override {
-    const QString error = PrintDocument(document_, printer, PrintScale::AsComposed, GoOn);
+    const std::vector<int> pages = PagesInOrder({}, PageCount());
+    const QString error = PrintDocument(document_, pages, printer, PrintScale::AsComposed, GoOn);
     if (!error.isEmpty()) qFatal("%s", qPrintable(error));
   }
 

@@ -1,9 +1,12 @@
 #include "preview/output/pdf_export.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QDir>
 #include <QFile>
+#include <QImage>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
 
@@ -34,6 +37,13 @@ class PdfExport : public testing::Test {
   QByteArray FileBytes() const {
     QFile file(Path());
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  }
+  // The first page as a viewer shows it.
+  QImage Drawn() const {
+    const QString picture = folder_.filePath(QStringLiteral("page"));
+    RunTool("pdftoppm", {QStringLiteral("-singlefile"), QStringLiteral("-png"), QStringLiteral("-r"),
+                         QStringLiteral("50"), Path(), picture});
+    return QImage(picture + QStringLiteral(".png"));
   }
   QStringList FilesInFolder() const { return QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden); }
 
@@ -207,6 +217,63 @@ TEST_F(PdfExport, a_full_disk_is_told_and_leaves_the_old_file_and_nothing_else) 
   EXPECT_TRUE(error.contains(Path())) << error.toStdString();
   EXPECT_EQ(FileBytes(), QByteArray("old"));
   EXPECT_EQ(FilesInFolder(), QStringList(QStringLiteral("out.pdf")));
+}
+
+TEST_F(PdfExport, what_is_no_file_is_not_replaced) {
+  ASSERT_EQ(mkfifo(Path().toLocal8Bit().constData(), 0600), 0);
+  const QString error = ExportPdf(*DocumentBuilder().TablePages(1).Build(), Path(), {}, GoOn);
+  EXPECT_TRUE(error.contains(QStringLiteral("not an ordinary file"))) << error.toStdString();
+  EXPECT_FALSE(QFileInfo(Path()).isFile());
+}
+
+TEST_F(PdfExport, chosen_pages_keep_the_numbers_that_stand_at_their_feet) {
+  const auto document = DocumentBuilder().TablePages(6).Build();
+  PdfSheets sheets = PdfSheets::AllOf(*document);
+  sheets.Pages = {1, 2, 5, 1};
+  ASSERT_EQ(ExportPdf(*document, sheets, Path(), {}, GoOn), QString());
+  const QString labels =
+      RunTool("mutool", {QStringLiteral("show"), Path(), QStringLiteral("trailer/Root/PageLabels")});
+  static const QRegularExpression starts(QStringLiteral("/St (\\d+)"));
+  QStringList numbers;
+  for (auto found = starts.globalMatch(labels); found.hasNext();) numbers += found.next().captured(1);
+  EXPECT_EQ(numbers, QStringList({"2", "6", "2"})) << labels.toStdString();
+}
+
+TEST_F(PdfExport, a_second_copy_of_the_pages_takes_hardly_any_room) {
+  const auto document = DocumentBuilder().TablePages(20).Build();
+  Export(*document);
+  const qsizetype once = FileBytes().size();
+  PdfSheets sheets = PdfSheets::AllOf(*document);
+  sheets.Pages.insert(sheets.Pages.end(), sheets.Pages.begin(), sheets.Pages.end());
+  ASSERT_EQ(ExportPdf(*document, sheets, Path(), {}, GoOn), QString());
+  EXPECT_EQ(PdfFact(Path(), "Pages"), QStringLiteral("40"));
+  EXPECT_LT(FileBytes().size(), once + once / 10);
+}
+
+TEST_F(PdfExport, greys_reach_text_fills_bitmaps_and_gradients_and_the_page_stays_the_same_otherwise) {
+  const auto document = DocumentBuilder()
+                            .Page()
+                            .Box({1440, 720, 3000, 600}, 0xFF0000)
+                            .Picture(std::make_shared<ColourfulPicture>(), {1440, 2000, 3000, 2000})
+                            .Build();
+  PdfSheets sheets = PdfSheets::AllOf(*document);
+  ASSERT_EQ(ExportPdf(*document, sheets, Path(), {}, GoOn), QString());
+  const QImage colours = Drawn();
+  sheets.Greys = true;
+  ASSERT_EQ(ExportPdf(*document, sheets, Path(), {}, GoOn), QString());
+  const QImage greys = Drawn();
+  EXPECT_FALSE(colours.allGray());
+  EXPECT_TRUE(greys.allGray());
+  ASSERT_EQ(colours.size(), greys.size());
+  for (int y = 0; y < greys.height(); y += 3) {
+    for (int x = 0; x < greys.width(); x += 3) {
+      const QColor ink = colours.pixelColor(x, y);
+      const double expected = 0.299 * ink.red() + 0.587 * ink.green() + 0.114 * ink.blue();
+      ASSERT_NEAR(greys.pixelColor(x, y).red(), expected, 4) << x << " " << y;
+    }
+  }
+  EXPECT_TRUE(RunTool("qpdf", {QStringLiteral("--check"), Path()})
+                  .contains(QStringLiteral("No syntax or stream encoding errors")));
 }
 
 TEST_F(PdfExport, a_folder_that_is_gone_is_told) {

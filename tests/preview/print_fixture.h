@@ -138,10 +138,9 @@ class Print : public WindowTest {
     EXPECT_TRUE(window_->IsBusy());
     return picture;
   }
-  // Left edge of the first "Hz" that arrived, in points.
-  double LeftOfUnit() const {
-    const QString boxes =
-        RunTool("pdftotext", {QStringLiteral("-bbox"), Path("received.pdf"), QStringLiteral("-")});
+  // Left edge of the first "Hz" in a file, in points.
+  double LeftOfUnit(const char* file = "received.pdf") const {
+    const QString boxes = RunTool("pdftotext", {QStringLiteral("-bbox"), Path(file), QStringLiteral("-")});
     static const QRegularExpression unit(QStringLiteral("xMin=\"([0-9.]+)\"[^>]*>Hz<"));
     return unit.match(boxes).captured(1).toDouble();
   }

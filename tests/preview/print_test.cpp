@@ -1,5 +1,4 @@
 // Printing from the preview: paper, files, and print systems that fail.
-#include <QPrinter>
 #include <thread>
 
 #include "preview/print_fixture.h"
@@ -53,25 +52,6 @@ TEST_F(Print, a_server_that_stops_while_printing_is_told_and_the_preview_can_pri
   LoseWhilePrinting([](PrintServer& server) { return server.StopServer(); });
   ASSERT_TRUE(PrintServer::Instance().StartServer());
   ExpectPrinting();
-}
-
-TEST_F(Print, a_file_can_be_printed_into) {
-  Open(DocumentBuilder().TablePages(1).Box({1440, 9000, 600, 600}, 0xFF0000).Build());
-  PrintWith([this](QPrintDialog& dialog) {
-    auto& printers = In<QComboBox>(dialog, "printers");
-    printers.setCurrentIndex(printers.count() - 1);
-    In<QLineEdit>(dialog, "filename").setText(Path("printed.pdf"));
-  });
-  EXPECT_EQ(Pages("printed.pdf"), QStringList({"1"}));
-  EXPECT_TRUE(IsColourful("printed.pdf"));
-}
-
-TEST_F(Print, a_file_that_cannot_be_written_is_told) {
-  QPrinter printer;
-  printer.setOutputFileName(Path("gone/printed.pdf"));
-  const QString error = PrintDocument(*DocumentBuilder().TablePages(1).Build(), printer,
-                                      PrintScale::AsComposed, [](int, int) { return true; });
-  EXPECT_FALSE(error.isEmpty());
 }
 
 TEST_F(Print, closing_the_window_while_a_print_runs_cancels_it) {

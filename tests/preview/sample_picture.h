@@ -1,6 +1,7 @@
 // Pictures of a few vectors.
 #pragma once
 
+#include <QImage>
 #include <QPainter>
 #include <atomic>
 #include <thread>
@@ -18,6 +19,25 @@ class SamplePicture : public PaintablePicture {
     painter.fillRect(target, QColor(200, 200, 200));
     painter.setPen(QPen(Qt::black, 60));
     painter.drawLine(target.topLeft(), target.bottomRight());
+  }
+};
+
+// Strokes, a bitmap, a gradient and a hatch, all in colours.
+class ColourfulPicture : public SamplePicture {
+ public:
+  void Paint(QPainter& painter, const QRectF& target) const override {
+    const double half = target.width() / 2;
+    QLinearGradient gradient(target.topLeft(), target.topRight());
+    gradient.setColorAt(0, QColor(255, 220, 0));
+    gradient.setColorAt(1, QColor(0, 90, 255));
+    painter.fillRect(QRectF(target.topLeft(), QSizeF(target.width(), 600)), gradient);
+    QImage bitmap(40, 30, QImage::Format_RGB32);
+    bitmap.fill(QColor(0, 160, 60));
+    painter.drawImage(QRectF(target.left(), target.top() + 700, half, 500), bitmap);
+    painter.fillRect(QRectF(target.left() + half, target.top() + 700, half, 500),
+                     QBrush(QColor(200, 0, 200), Qt::DiagCrossPattern));
+    painter.setPen(QPen(QColor(220, 40, 0), 80));
+    painter.drawLine(target.bottomLeft() - QPointF(0, 200), target.bottomRight() - QPointF(0, 200));
   }
 };
 

@@ -1,4 +1,6 @@
 // Saving as PDF from the preview.
+#include <sys/stat.h>
+
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -25,6 +27,24 @@ class SavePdf : public WindowTest {
     OnDialog<QFileDialog>([path](QFileDialog& dialog) { EnterPath(dialog, path); });
     Press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_TRUE(answered_);
+  }
+  // Asks for saving to `path`, expects a message, answers it by `answer`, and closes the dialog that is still
+  // there. Returns the message.
+  QString TryToSaveTo(const QString& path, QMessageBox::StandardButton answer) {
+    QString words;
+    OnDialog<QFileDialog>([&](QFileDialog& dialog) {
+      OnDialog<QMessageBox>([&](QMessageBox& box) {
+        words = box.text();
+        QTest::mouseClick(box.button(answer), Qt::LeftButton);
+      });
+      EnterPath(dialog, path);
+      EXPECT_TRUE(dialog.isVisible());
+      dialog.reject();
+    });
+    Press(Qt::Key_S, Qt::ControlModifier);
+    Return();
+    EXPECT_FALSE(window_->IsBusy());
+    return words;
   }
   void WriteOldFile() const {
     QFile file(Path("old.pdf"));
@@ -116,6 +136,47 @@ TEST_F(SavePdf, a_folder_that_takes_no_files_is_told) {
   SaveTo(QStringLiteral("/proc/list.pdf"));  // a folder where not even the administrator can write
   EXPECT_TRUE(WaitForFailure().contains(QStringLiteral("/proc/list.pdf")));
   EXPECT_TRUE(window_->isVisible());
+}
+
+TEST_F(SavePdf, a_name_with_quotes_is_saved_as_it_was_typed) {
+  OpenTable(1);
+  for (const char* name : {"a\"b\".pdf", "\"quoted\".pdf", "one\".pdf"}) {
+    SaveTo(Path(name));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !window_->IsBusy(); }));
+    EXPECT_TRUE(QFile::exists(Path(name))) << name;
+    Return();
+  }
+  EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files).size(), 3);
+}
+
+TEST_F(SavePdf, a_name_with_quotes_gets_the_ending_that_it_lacks) {
+  OpenTable(1);
+  SaveTo(Path("axis \"1\""));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !window_->IsBusy(); }));
+  EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files), QStringList(QStringLiteral("axis \"1\".pdf")));
+}
+
+TEST_F(SavePdf, a_file_whose_name_has_quotes_is_asked_for_before_it_is_overwritten) {
+  OpenTable(1);
+  QFile old(Path("\"old\".pdf"));
+  ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+  old.close();
+  EXPECT_TRUE(TryToSaveTo(old.fileName(), QMessageBox::No).contains(QStringLiteral("already exists")));
+  EXPECT_EQ(old.size(), 0);
+}
+
+TEST_F(SavePdf, a_fifo_and_a_link_that_leads_nowhere_are_never_replaced) {
+  OpenTable(1);
+  const QString fifo = Path("fifo");
+  ASSERT_EQ(mkfifo(fifo.toLocal8Bit().constData(), 0600), 0);
+  EXPECT_TRUE(TryToSaveTo(fifo, QMessageBox::Ok).contains(QStringLiteral("not an ordinary file")));
+  struct stat now {};
+  ASSERT_EQ(lstat(fifo.toLocal8Bit().constData(), &now), 0);
+  EXPECT_TRUE(S_ISFIFO(now.st_mode));
+  const QString link = Path("link.pdf");
+  ASSERT_TRUE(QFile::link(Path("nowhere"), link));
+  EXPECT_TRUE(TryToSaveTo(link, QMessageBox::Ok).contains(QStringLiteral("not an ordinary file")));
+  EXPECT_FALSE(QFile::exists(Path("nowhere")));
 }
 
 TEST_F(SavePdf, closing_the_window_while_an_export_runs_is_safe) {

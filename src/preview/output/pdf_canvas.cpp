@@ -1,5 +1,7 @@
 #include "preview/output/pdf_canvas.h"
 
+#include <QByteArray>
+
 #include "preview/output/pdf_numbers.h"
 #include "report/engine/text_measurer.h"
 #include "report/engine/utf8.h"
@@ -19,11 +21,13 @@ std::size_t PdfPictures::Number(const Picture& picture, float width, float heigh
   return place->second;
 }
 
-PdfCanvas::PdfCanvas(float height, PdfGlyphs& glyphs, PdfPictures& pictures)
+PdfCanvas::PdfCanvas(double height, double scale, PdfGlyphs& glyphs, PdfPictures& pictures)
     : glyphs_(glyphs), pictures_(pictures) {
   content_.reserve(std::size_t{32} * 1024);
-  Add(".05 0 0 -.05 0 ");
-  AppendNumber(content_, D(height) / D(TwipsPerPoint));
+  // With more decimals than other numbers: an error would grow over the whole page.
+  const std::string factor = QByteArray::number(scale / D(TwipsPerPoint), 'g', 7).toStdString();
+  Add(factor + " 0 0 -" + factor + " 0 ");
+  AppendNumber(content_, height / D(TwipsPerPoint));
   Add("cm\n");
 }
 

@@ -36,8 +36,8 @@ class PdfPictures {
 // Makes the content of one page. Glyphs and pictures are noted for the resources that all pages share.
 class PdfCanvas : public Canvas {
  public:
-  // `height` of the paper in twips.
-  PdfCanvas(float height, PdfGlyphs& glyphs, PdfPictures& pictures);
+  // `height` of the paper in twips; `scale` below 1 shrinks the page towards its top left corner.
+  PdfCanvas(double height, double scale, PdfGlyphs& glyphs, PdfPictures& pictures);
 
   void Fill(const std::vector<Rect>& boxes, Color color) override;
   void Frame(const std::vector<Rect>& boxes, float width) override;

@@ -1,19 +1,25 @@
 #include "preview/output/pdf_export.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QSaveFile>
 #include <QTimeZone>
+#include <algorithm>
+#include <map>
+#include <numeric>
+#include <optional>
 #include <qpdf/Pl_Buffer.hh>
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFWriter.hh>
 
+#include "preview/output/pdf_greys.h"
 #include "preview/output/pdf_resources.h"
 
 namespace tarvis {
 namespace {
 
-QPDFObjectHandle Text(const QString& text) {
+QPDFObjectHandle TextString(const QString& text) {
   return QPDFObjectHandle::newUnicodeString(text.toStdString());
 }
 
@@ -21,32 +27,42 @@ QPDFObjectHandle Name(const char* name) {
   return QPDFObjectHandle::newName(name);
 }
 
-QPDFObjectHandle Points(float twips) {
-  return QPDFObjectHandle::newReal(static_cast<double>(twips / TwipsPerPoint), 2);
+QPDFObjectHandle Points(double twips) {
+  return QPDFObjectHandle::newReal(twips / static_cast<double>(TwipsPerPoint), 2);
 }
 
-QPDFObjectHandle MakePage(QPDF& pdf, const Document& document, const std::string& content) {
+// Height above the foot of the paper of what stands `top` twips below the head of a page.
+QPDFObjectHandle Height(const PdfSheets& sheets, float top) {
+  return Points(sheets.Paper.height() - static_cast<double>(top) * sheets.Scale);
+}
+
+QPDFObjectHandle MakePage(QPDF& pdf, const PdfSheets& sheets, const QPDFObjectHandle& content) {
   QPDFObjectHandle page = QPDFObjectHandle::newDictionary();
   page.replaceKey("/Type", Name("/Page"));
   const QPDFObjectHandle zero = QPDFObjectHandle::newInteger(0);
-  page.replaceKey("/MediaBox", QPDFObjectHandle::newArray({zero, zero, Points(document.Setup.Width),
-                                                           Points(document.Setup.Height)}));
-  page.replaceKey("/Contents", pdf.newStream(content));
+  page.replaceKey("/MediaBox", QPDFObjectHandle::newArray({zero, zero, Points(sheets.Paper.width()),
+                                                           Points(sheets.Paper.height())}));
+  page.replaceKey("/Contents", content);
   return pdf.makeIndirectObject(page);
 }
 
 // False if cancelled.
-bool AddPages(QPDF& pdf, const Document& document, const Progress& progress) {
+bool AddPages(QPDF& pdf, const Document& document, const PdfSheets& sheets, const Progress& progress) {
   ReportFont& font = ReportFont::OfThisThread();
   PdfGlyphs glyphs(font);
   PdfPictures pictures;
   std::vector<QPDFObjectHandle> pages;
-  const int count = static_cast<int>(document.Pages.size());
-  for (int page = 0; page < count; ++page) {
-    if (!progress(page, count)) return false;
-    PdfCanvas canvas(document.Setup.Height, glyphs, pictures);
-    PaintPage(document, static_cast<std::size_t>(page), canvas);
-    pages.push_back(MakePage(pdf, document, canvas.Finish()));
+  std::map<int, QPDFObjectHandle> contents;  // further copies of a page share its content
+  const int count = static_cast<int>(sheets.Pages.size());
+  for (const int page : sheets.Pages) {
+    if (!progress(static_cast<int>(pages.size()), count)) return false;
+    const auto [content, isNew] = contents.try_emplace(page);
+    if (isNew) {
+      PdfCanvas canvas(sheets.Paper.height(), sheets.Scale, glyphs, pictures);
+      PaintPage(document, static_cast<std::size_t>(page), canvas);
+      content->second = pdf.newStream(canvas.Finish());
+    }
+    pages.push_back(MakePage(pdf, sheets, content->second));
   }
   const QPDFObjectHandle resources = MakeResources(pdf, glyphs, pictures, font);
   QPDFPageDocumentHelper helper(pdf);
@@ -57,11 +73,38 @@ bool AddPages(QPDF& pdf, const Document& document, const Progress& progress) {
   return true;
 }
 
-QPDFObjectHandle Destination(const Document& document, const ContentsEntry& entry,
+// The first sheet that shows a page; none if no sheet does.
+std::optional<std::size_t> SheetOf(const PdfSheets& sheets, int page) {
+  const auto sheet = std::find(sheets.Pages.begin(), sheets.Pages.end(), page);
+  if (sheet == sheets.Pages.end()) return {};
+  return static_cast<std::size_t>(sheet - sheets.Pages.begin());
+}
+
+// Contents entries whose pages are there. A parent leads where the first of its children leads if its own
+// page isn't.
+std::vector<ContentsEntry> EntriesOf(const Document& document, const PdfSheets& sheets) {
+  std::vector<ContentsEntry> entries;
+  const ContentsEntry* lostParent = nullptr;
+  for (const ContentsEntry& entry : document.Contents) {
+    const bool isThere = SheetOf(sheets, entry.Page).has_value();
+    if (entry.Level == 0) lostParent = isThere ? nullptr : &entry;
+    if (!isThere) continue;
+    if (entry.Level > 0 && lostParent != nullptr) {
+      entries.push_back(entry);
+      entries.back().Text = lostParent->Text;
+      entries.back().Level = 0;
+      lostParent = nullptr;
+    }
+    entries.push_back(entry);
+  }
+  return entries;
+}
+
+QPDFObjectHandle Destination(const PdfSheets& sheets, const ContentsEntry& entry,
                              const std::vector<QPDFObjectHandle>& pages) {
-  return QPDFObjectHandle::newArray({pages.at(static_cast<std::size_t>(entry.Page)), Name("/XYZ"),
-                                     QPDFObjectHandle::newInteger(0),
-                                     Points(document.Setup.Height - entry.Top), QPDFObjectHandle::newNull()});
+  return QPDFObjectHandle::newArray({pages.at(*SheetOf(sheets, entry.Page)), Name("/XYZ"),
+                                     QPDFObjectHandle::newInteger(0), Height(sheets, entry.Top),
+                                     QPDFObjectHandle::newNull()});
 }
 
 // Chains `children` below `parent` in both directions.
@@ -77,16 +120,17 @@ void Link(QPDFObjectHandle parent, std::vector<QPDFObjectHandle>& children) {
   parent.replaceKey("/Count", QPDFObjectHandle::newInteger(static_cast<long long>(children.size())));
 }
 
-void AddOutline(QPDF& pdf, const Document& document) {
-  if (document.Contents.empty()) return;
+void AddOutline(QPDF& pdf, const Document& document, const PdfSheets& sheets) {
+  const std::vector<ContentsEntry> entries = EntriesOf(document, sheets);
+  if (entries.empty()) return;
   const std::vector<QPDFObjectHandle> pages = pdf.getAllPages();
   QPDFObjectHandle root = pdf.makeIndirectObject(QPDFObjectHandle::newDictionary());
   std::vector<QPDFObjectHandle> top;
   std::vector<QPDFObjectHandle> below;
-  for (const ContentsEntry& entry : document.Contents) {
+  for (const ContentsEntry& entry : entries) {
     QPDFObjectHandle item = pdf.makeIndirectObject(QPDFObjectHandle::newDictionary());
-    item.replaceKey("/Title", Text(QString::fromStdString(entry.Text)));
-    item.replaceKey("/Dest", Destination(document, entry, pages));
+    item.replaceKey("/Title", TextString(QString::fromStdString(entry.Text)));
+    item.replaceKey("/Dest", Destination(sheets, entry, pages));
     if (entry.Level == 0 || top.empty()) {
       if (!top.empty()) Link(top.back(), below);
       below.clear();
@@ -98,17 +142,31 @@ void AddOutline(QPDF& pdf, const Document& document) {
   Link(top.back(), below);
   Link(root, top);
   root.replaceKey("/Type", Name("/Outlines"));
-  root.replaceKey("/Count", QPDFObjectHandle::newInteger(static_cast<long long>(document.Contents.size())));
+  root.replaceKey("/Count", QPDFObjectHandle::newInteger(static_cast<long long>(entries.size())));
   pdf.getRoot().replaceKey("/Outlines", root);
   pdf.getRoot().replaceKey("/PageMode", Name("/UseOutlines"));
 }
 
-void AddOpening(QPDF& pdf, const Document& document) {
+// Viewers show the numbers that stand at the foot of the pages.
+QPDFObjectHandle PageLabels(const PdfSheets& sheets) {
+  QPDFObjectHandle runs = QPDFObjectHandle::newArray();
+  for (std::size_t sheet = 0; sheet < sheets.Pages.size(); ++sheet) {
+    const int number = sheets.Pages[sheet] + 1;
+    if (sheet > 0 && sheets.Pages[sheet - 1] + 1 == sheets.Pages[sheet]) continue;
+    runs.appendItem(QPDFObjectHandle::newInteger(static_cast<long long>(sheet)));
+    runs.appendItem(QPDFObjectHandle::parse("<< /S /D /St " + std::to_string(number) + " >>"));
+  }
+  QPDFObjectHandle labels = QPDFObjectHandle::newDictionary();
+  labels.replaceKey("/Nums", runs);
+  return labels;
+}
+
+void AddOpening(QPDF& pdf, const PdfSheets& sheets) {
   const std::vector<QPDFObjectHandle> pages = pdf.getAllPages();
   if (pages.empty()) return;
   pdf.getRoot().replaceKey("/OpenAction", QPDFObjectHandle::newArray(
-                                              {pages.front(), Name("/FitH"), Points(document.Setup.Height)}));
-  pdf.getRoot().replaceKey("/PageLabels", QPDFObjectHandle::parse("<< /Nums [ 0 << /S /D >> ] >>"));
+                                              {pages.front(), Name("/FitH"), Points(sheets.Paper.height())}));
+  pdf.getRoot().replaceKey("/PageLabels", PageLabels(sheets));
 }
 
 QString PdfDate(const QDateTime& date) {
@@ -117,12 +175,12 @@ QString PdfDate(const QDateTime& date) {
 
 void AddMetadata(QPDF& pdf, const PdfInfo& info) {
   QPDFObjectHandle data = pdf.makeIndirectObject(QPDFObjectHandle::newDictionary());
-  if (!info.Title.isEmpty()) data.replaceKey("/Title", Text(info.Title));
-  if (!info.Author.isEmpty()) data.replaceKey("/Author", Text(info.Author));
-  data.replaceKey("/Creator", Text(QStringLiteral("Tarvis")));
+  if (!info.Title.isEmpty()) data.replaceKey("/Title", TextString(info.Title));
+  if (!info.Author.isEmpty()) data.replaceKey("/Author", TextString(info.Author));
+  data.replaceKey("/Creator", TextString(QStringLiteral("Tarvis")));
   if (info.Created.isValid()) {
-    data.replaceKey("/CreationDate", Text(PdfDate(info.Created)));
-    data.replaceKey("/ModDate", Text(PdfDate(info.Created)));
+    data.replaceKey("/CreationDate", TextString(PdfDate(info.Created)));
+    data.replaceKey("/ModDate", TextString(PdfDate(info.Created)));
   }
   pdf.getTrailer().replaceKey("/Info", data);
 }
@@ -140,32 +198,56 @@ bool WriteAll(QSaveFile& file, const char* bytes, qint64 size) {
   return file.commit();
 }
 
+QString Text(const char* text) {
+  return QCoreApplication::translate("PdfExport", text);
+}
+
 QString WriteFile(const QString& path, const Buffer& bytes) {
+  if (!CanBeReplaced(path)) return Text("\"%1\" is not an ordinary file and is not replaced.").arg(path);
   QSaveFile file(path);
   const char* data = static_cast<const char*>(static_cast<const void*>(bytes.getBuffer()));
   if (WriteAll(file, data, static_cast<qint64>(bytes.getSize()))) return {};
-  return QCoreApplication::translate("PdfExport", "\"%1\" can't be written: %2")
-      .arg(path, file.errorString());
+  return Text("\"%1\" can't be written: %2").arg(path, file.errorString());
 }
 
 }  // namespace
 
-QString ExportPdf(const Document& document, const QString& path, const PdfInfo& info,
+PdfSheets PdfSheets::AllOf(const Document& document) {
+  PdfSheets sheets;
+  sheets.Pages.resize(document.Pages.size());
+  std::iota(sheets.Pages.begin(), sheets.Pages.end(), 0);
+  sheets.Paper =
+      QSizeF(static_cast<double>(document.Setup.Width), static_cast<double>(document.Setup.Height));
+  return sheets;
+}
+
+bool CanBeReplaced(const QString& path) {
+  const QFileInfo old(path);
+  return old.exists() ? old.isFile() : !old.isSymLink();
+}
+
+QString ExportPdf(const Document& document, const PdfSheets& sheets, const QString& path, const PdfInfo& info,
                   const Progress& progress) {
   QPDF pdf;
   pdf.emptyPDF();
-  if (!AddPages(pdf, document, progress)) return {};
-  AddOutline(pdf, document);
-  AddOpening(pdf, document);
+  if (!AddPages(pdf, document, sheets, progress)) return {};
+  AddOutline(pdf, document, sheets);
+  AddOpening(pdf, sheets);
   AddMetadata(pdf, info);
+  if (sheets.Greys) TurnIntoGreys(pdf);
   QPDFWriter writer(pdf);
   writer.setOutputMemory();
   writer.setDeterministicID(true);
   writer.setObjectStreamMode(qpdf_o_generate);
   writer.write();
-  const int count = static_cast<int>(document.Pages.size());
+  const int count = static_cast<int>(sheets.Pages.size());
   if (!progress(count, count)) return {};
   return WriteFile(path, *writer.getBufferSharedPointer());
+}
+
+QString ExportPdf(const Document& document, const QString& path, const PdfInfo& info,
+                  const Progress& progress) {
+  return ExportPdf(document, PdfSheets::AllOf(document), path, info, progress);
 }
 
 }  // namespace tarvis

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QDateTime>
+#include <QSizeF>
 #include <QString>
+#include <vector>
 
 #include "preview/output/background_job.h"
 #include "report/engine/document.h"
@@ -15,9 +17,27 @@ struct PdfInfo {
   QDateTime Created;  // invalid: no dates, so that the same document gives the same bytes
 };
 
+// The sheets of a PDF: which pages of the document, on which paper.
+struct PdfSheets {
+  std::vector<int> Pages;  // indexes, in the order of the sheets; a page may be there more than once
+  QSizeF Paper;            // twips
+  double Scale = 1;        // below 1 the pages are shrunk towards their top left corner
+  bool Greys = false;
+
+  // Every page once, as it was composed.
+  static PdfSheets AllOf(const Document& document);
+};
+
+// Whether a file may take the place of what is at `path`: nothing, or an ordinary file, to which a link may
+// lead.
+bool CanBeReplaced(const QString& path);
+
 // Writes to a temporary file beside `path` first and replaces `path` only by a whole file, so that nothing is
 // lost on a failure or when `progress` cancels. Returns an error text for the user, empty if all is well or
 // cancelled.
+QString ExportPdf(const Document& document, const PdfSheets& sheets, const QString& path, const PdfInfo& info,
+                  const Progress& progress);
+// The same with all pages.
 QString ExportPdf(const Document& document, const QString& path, const PdfInfo& info,
                   const Progress& progress);
 

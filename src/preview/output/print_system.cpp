@@ -32,24 +32,16 @@ void DropJobsOfThisThread() {
   if (useServer != nullptr) useServer("/dev/null");  // nobody listens there
 }
 
-PageSet TakeChoiceOfPages(QPrinter& printer) {
+void TakeOverChoiceOfPages(QPrinter& printer) {
   // Names and values by turns; the number is the toolkit's for what it hands to this print system.
   constexpr auto JobOptions = static_cast<QPrintEngine::PrintEnginePropertyKey>(0xfe00);
   const QStringList given = printer.printEngine()->property(JobOptions).toStringList();
   QStringList kept;
-  PageSet set = PageSet::All;
   for (qsizetype i = 0; i + 1 < given.size(); i += 2) {
-    const QString& name = given[i];
-    const QString& value = given[i + 1];
-    if (name == QStringLiteral("page-set")) {
-      if (value == QStringLiteral("odd")) set = PageSet::Odd;
-      if (value == QStringLiteral("even")) set = PageSet::Even;
-    } else if (name != QStringLiteral("page-ranges")) {
-      kept << name << value;
-    }
+    if (given[i] != QStringLiteral("page-set") && given[i] != QStringLiteral("page-ranges"))
+      kept << given[i] << given[i + 1];
   }
   printer.printEngine()->setProperty(JobOptions, kept);
-  return set;
 }
 
 }  // namespace tarvis

@@ -16,13 +16,8 @@ QString RefusalOfLastJob();
 // painted so far even of a job that was aborted.
 void DropJobsOfThisThread();
 
-// Which of the chosen pages are printed. The first one is counted as 1: so the toolkit tells it to the print
-// system, to which that is the first page.
-enum class PageSet { All, Odd, Even };
-
 // Has the print system print all pages that it gets. The toolkit leaves the choice of pages and of a page set
-// in part to it, and it would count the pages that it gets, not the document's. Returns the page set that was
-// chosen.
-PageSet TakeChoiceOfPages(QPrinter& printer);
+// in part to it, and it would count the pages that it gets, not the document's.
+void TakeOverChoiceOfPages(QPrinter& printer);
 
 }  // namespace tarvis

@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QPageLayout>
-#include <QPageRanges>
 #include <QPainter>
 #include <QPrinter>
 #include <algorithm>
@@ -31,7 +30,8 @@ QSizeF PaperSize(const QPrinter& printer) {
   return printer.pageLayout().fullRect(QPageLayout::Point).size() * static_cast<double>(TwipsPerPoint);
 }
 
-double ScaleToFit(const Document& document, const QPrinter& printer) {
+double ScaleOf(const Document& document, const QPrinter& printer, PrintScale scale) {
+  if (scale == PrintScale::AsComposed) return 1;
   const QSizeF paper = PaperSize(printer);
   return std::min({1.0, paper.width() / static_cast<double>(document.Setup.Width),
                    paper.height() / static_cast<double>(document.Setup.Height)});
@@ -50,37 +50,6 @@ QString RefusalBy(const QPrinter& printer) {
   return Text("The printer \"%1\" did not take the document: %2").arg(printer.printerName(), refusal);
 }
 
-bool IsIn(PageSet set, int count) {
-  return set == PageSet::All || (set == PageSet::Odd) == (count % 2 != 0);
-}
-
-std::vector<int> ChosenPages(const QPrinter& printer, PageSet set, int pageCount) {
-  QList<QPageRanges::Range> ranges = printer.pageRanges().toRangeList();
-  if (ranges.isEmpty()) ranges.append({1, pageCount});
-  const int first = ranges.first().from;
-  std::vector<int> pages;
-  for (const QPageRanges::Range& range : ranges) {
-    for (int number = range.from; number <= std::min(range.to, pageCount); ++number)
-      if (IsIn(set, number - first + 1)) pages.push_back(number - 1);
-  }
-  return pages;
-}
-
-// Pages in the order in which they leave the printer; copies that the printer can't make itself are repeated
-// here.
-std::vector<int> PageOrder(const QPrinter& printer, PageSet set, int pageCount) {
-  std::vector<int> pages = ChosenPages(printer, set, pageCount);
-  if (printer.pageOrder() == QPrinter::LastPageFirst) std::reverse(pages.begin(), pages.end());
-  const int copies = printer.supportsMultipleCopies() ? 1 : std::max(1, printer.copyCount());
-  std::vector<int> order;
-  if (printer.collateCopies()) {
-    for (int copy = 0; copy < copies; ++copy) order.insert(order.end(), pages.begin(), pages.end());
-  } else {
-    for (const int page : pages) order.insert(order.end(), static_cast<std::size_t>(copies), page);
-  }
-  return order;
-}
-
 }  // namespace
 
 QSizeF MissingRoom(const Document& document, const QPrinter& printer) {
@@ -91,26 +60,32 @@ QSizeF MissingRoom(const Document& document, const QPrinter& printer) {
   return (PrintedSize(document) - end).expandedTo(QSizeF(0, 0));
 }
 
-QString PrintDocument(const Document& document, QPrinter& printer, PrintScale scale,
-                      const Progress& progress) {
-  const PageSet set = TakeChoiceOfPages(printer);
-  const std::vector<int> order = PageOrder(printer, set, static_cast<int>(document.Pages.size()));
-  if (order.empty()) return Text("The document has none of the chosen pages.");
-  const int count = static_cast<int>(order.size());
+PdfSheets SheetsLike(const Document& document, const QPrinter& printer, std::vector<int> pages,
+                     PrintScale scale) {
+  return {.Pages = std::move(pages),
+          .Paper = PaperSize(printer),
+          .Scale = ScaleOf(document, printer, scale),
+          .Greys = printer.colorMode() == QPrinter::GrayScale};
+}
+
+QString PrintDocument(const Document& document, const std::vector<int>& pages, QPrinter& printer,
+                      PrintScale scale, const Progress& progress) {
+  TakeOverChoiceOfPages(printer);
+  const int count = static_cast<int>(pages.size());
   printer.setFullPage(true);
   QPainter painter;
   if (!painter.begin(&printer)) {
     return Text("The printer \"%1\" can't be used.").arg(printer.printerName());
   }
   const double toDevice = printer.resolution() / static_cast<double>(TwipsPerInch);
-  const double shrink = scale == PrintScale::FitToPaper ? ScaleToFit(document, printer) : 1.0;
+  const double shrink = ScaleOf(document, printer, scale);
   painter.scale(toDevice * shrink, toDevice * shrink);
-  for (std::size_t index = 0; index < order.size(); ++index) {
+  for (std::size_t index = 0; index < pages.size(); ++index) {
     if (!progress(static_cast<int>(index), count)) return Drop(printer);
     if (index > 0 && !printer.newPage())
       return Text("The printer \"%1\" took no further page.").arg(printer.printerName());
     PainterCanvas canvas(painter);
-    PaintPage(document, static_cast<std::size_t>(order[index]), canvas);
+    PaintPage(document, static_cast<std::size_t>(pages[index]), canvas);
   }
   if (!progress(count, count)) return Drop(printer);
   if (!painter.end() || printer.printerState() == QPrinter::Error) {

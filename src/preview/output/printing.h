@@ -5,6 +5,7 @@
 #include <QString>
 
 #include "preview/output/background_job.h"
+#include "preview/output/pdf_export.h"
 #include "report/engine/document.h"
 
 class QPrinter;
@@ -18,8 +19,13 @@ enum class PrintScale { AsComposed, FitToPaper };
 // twips; 0 where all fits.
 QSizeF MissingRoom(const Document& document, const QPrinter& printer);
 
-// Prints the page range of `printer`. Returns an error text for the user, empty if all is well or cancelled.
-QString PrintDocument(const Document& document, QPrinter& printer, PrintScale scale,
-                      const Progress& progress);
+// The sheets of a PDF that is to look as `printer` is set.
+PdfSheets SheetsLike(const Document& document, const QPrinter& printer, std::vector<int> pages,
+                     PrintScale scale);
+
+// Prints the pages of these indexes, in this order. Returns an error text for the user, empty if all is well
+// or cancelled.
+QString PrintDocument(const Document& document, const std::vector<int>& pages, QPrinter& printer,
+                      PrintScale scale, const Progress& progress);
 
 }  // namespace tarvis

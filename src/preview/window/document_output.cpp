@@ -1,16 +1,15 @@
 #include "preview/window/document_output.h"
 
 #include <QAbstractButton>
-#include <QFileDialog>
-#include <QLineEdit>
+#include <QDir>
 #include <QMessageBox>
-#include <QPageRanges>
-#include <QPrintDialog>
+#include <QPageSize>
 #include <QPrinter>
 #include <QPushButton>
 #include <QStandardPaths>
 
-#include "preview/output/pdf_export.h"
+#include "preview/window/pdf_file_dialog.h"
+#include "preview/window/print_dialog.h"
 
 namespace tarvis {
 namespace {
@@ -26,20 +25,11 @@ QString FileNameOf(const QString& title) {
   return (name.isEmpty() ? QStringLiteral("document") : name) + QStringLiteral(".pdf");
 }
 
-// The dialog refuses every text of its field "Pages" until the printer has the page ranges, which it sets
-// only after that.
-void TakeOverPagesAsTyped(QPrintDialog& dialog, QPrinter& printer) {
-  const auto* pages = dialog.findChild<QLineEdit*>(QStringLiteral("pagesLineEdit"));
-  if (pages == nullptr) return;  // the system's own dialog
-  QObject::connect(pages, &QLineEdit::textChanged, &dialog,
-                   [&printer](const QString& text) { printer.setPageRanges(QPageRanges::fromString(text)); });
-}
-
-// Nor does the dialog hand on the choice between colours and greys.
-void TakeOverColours(const QPrintDialog& dialog, QPrinter& printer) {
-  const auto* greys = dialog.findChild<QAbstractButton*>(QStringLiteral("grayscale"));
-  if (greys == nullptr) return;  // the system's own dialog
-  printer.setColorMode(greys->isChecked() ? QPrinter::GrayScale : QPrinter::Color);
+// Without a printer the toolkit takes A4 everywhere.
+void UsePaperOf(const Document& document, QPrinter& printer) {
+  const QSizeF points(static_cast<double>(document.Setup.Width / TwipsPerPoint),
+                      static_cast<double>(document.Setup.Height / TwipsPerPoint));
+  printer.setPageSize(QPageSize(points, QPageSize::Point));
 }
 
 }  // namespace
@@ -54,20 +44,23 @@ DocumentOutput::DocumentOutput(std::shared_ptr<const Document> document, QString
 
 DocumentOutput::~DocumentOutput() = default;
 
+QString DocumentOutput::ProposedPath() const {
+  QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+  if (!folder.exists()) folder = QDir::home();
+  return folder.filePath(FileNameOf(QString::fromStdString(document_->Title)));
+}
+
 void DocumentOutput::SavePdf() {
-  const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  const QString title = QString::fromStdString(document_->Title);
-  QFileDialog dialog(window_, tr("Save as PDF"), folder, tr("PDF files (*.pdf)"));
-  dialog.setObjectName(QStringLiteral("savePdfDialog"));
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setDefaultSuffix(QStringLiteral("pdf"));
-  dialog.selectFile(FileNameOf(title));
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
-  const QString path = dialog.selectedFiles().front();
-  const PdfInfo info{title, author_, QDateTime::currentDateTime()};
+  PdfFileDialog dialog(window_, ProposedPath());
+  if (dialog.exec() != QDialog::Accepted) return;
+  WritePdf(PdfSheets::AllOf(*document_), dialog.Path());
+}
+
+void DocumentOutput::WritePdf(PdfSheets sheets, const QString& path) {
+  const PdfInfo info{QString::fromStdString(document_->Title), author_, QDateTime::currentDateTime()};
   StartJob(tr("Saving as PDF…"), tr("The PDF was not saved."),
-           [document = document_, path, info](const Progress& progress) {
-             return ExportPdf(*document, path, info, progress);
+           [document = document_, sheets = std::move(sheets), path, info](const Progress& progress) {
+             return ExportPdf(*document, sheets, path, info, progress);
            });
 }
 
@@ -76,25 +69,20 @@ void DocumentOutput::Print() {
   const int count = static_cast<int>(document_->Pages.size());
   printer->setDocName(QString::fromStdString(document_->Title));
   printer->setCreator(QStringLiteral("Tarvis"));
-  QPrintDialog dialog(printer.get(), window_);
-  dialog.setObjectName(QStringLiteral("printDialog"));
-  dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
-                    QAbstractPrintDialog::PrintCollateCopies | QAbstractPrintDialog::PrintCurrentPage);
-  dialog.setMinMax(1, std::max(1, count));
-  dialog.setFromTo(1, std::max(1, count));  // what the range starts from when it is chosen
-  dialog.setPrintRange(QAbstractPrintDialog::AllPages);
-  TakeOverPagesAsTyped(dialog, *printer);
+  if (printer->outputFormat() == QPrinter::PdfFormat) UsePaperOf(*document_, *printer);
+  PrintDialog dialog(*printer, count, ProposedPath(), window_);
   if (dialog.exec() != QDialog::Accepted) return;
-  TakeOverColours(dialog, *printer);
-  if (dialog.printRange() == QAbstractPrintDialog::CurrentPage) {
-    printer->setFromTo(currentPage_() + 1, currentPage_() + 1);
-  }
+  const std::vector<int> pages = PagesInOrder(dialog.Choice(currentPage_()), count);
+  if (pages.empty())
+    return ShowFailure(tr("The document was not printed."), tr("The document has none of the chosen pages."));
   PrintScale scale = PrintScale::AsComposed;
   const QSizeF missing = MissingRoom(*document_, *printer);
   if (!missing.isNull() && !AskForScale(missing, scale)) return;
+  if (dialog.IntoPdf())
+    return WritePdf(SheetsLike(*document_, *printer, pages, scale), printer->outputFileName());
   StartJob(tr("Printing…"), tr("The document was not printed."),
-           [document = document_, printer, scale](const Progress& progress) {
-             return PrintDocument(*document, *printer, scale, progress);
+           [document = document_, pages, printer, scale](const Progress& progress) {
+             return PrintDocument(*document, pages, *printer, scale, progress);
            });
 }
 
@@ -119,14 +107,17 @@ void DocumentOutput::StartJob(const QString& caption, const QString& failure, Ba
   job_ = std::make_unique<BackgroundJob>(caption, std::move(work), window_);
   connect(job_.get(), &BackgroundJob::Finished, this, [this, failure](const QString& error) {
     job_.release()->deleteLater();
-    if (error.isEmpty()) return;
-    auto* box =
-        new QMessageBox(QMessageBox::Warning, window_->windowTitle(), failure, QMessageBox::Ok, window_);
-    box->setObjectName(QStringLiteral("outputFailure"));
-    box->setInformativeText(error);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open();
+    if (!error.isEmpty()) ShowFailure(failure, error);
   });
+}
+
+void DocumentOutput::ShowFailure(const QString& failure, const QString& reason) {
+  auto* box =
+      new QMessageBox(QMessageBox::Warning, window_->windowTitle(), failure, QMessageBox::Ok, window_);
+  box->setObjectName(QStringLiteral("outputFailure"));
+  box->setInformativeText(reason);
+  box->setAttribute(Qt::WA_DeleteOnClose);
+  box->open();
 }
 
 }  // namespace tarvis

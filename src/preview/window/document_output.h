@@ -31,9 +31,12 @@ class DocumentOutput : public QObject {
   void Cancel() { job_.reset(); }
 
  private:
+  QString ProposedPath() const;
+  void WritePdf(PdfSheets sheets, const QString& path);
   bool AskForScale(const QSizeF& missing, PrintScale& scale);
-  // `failure` is told with the error text if `work` fails.
+  // `failure` is shown with the error text if `work` fails.
   void StartJob(const QString& caption, const QString& failure, BackgroundJob::Work work);
+  void ShowFailure(const QString& failure, const QString& reason);
 
   std::shared_ptr<const Document> document_;
   QString author_;

@@ -1,0 +1,68 @@
+#include "preview/window/pdf_file_dialog.h"
+
+#include <QCoreApplication>
+#include <QDialogButtonBox>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "preview/window/replace_file.h"
+
+namespace tarvis {
+namespace {
+
+constexpr QChar Quote = QLatin1Char('"');
+
+// Not by the class, which has no translations of its own.
+QString Text(const char* text) {
+  return QCoreApplication::translate("PdfFileDialog", text);
+}
+
+// Null where the system's own dialog is shown.
+QLineEdit* NameBox(const QFileDialog& dialog) {
+  return dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+}
+
+}  // namespace
+
+PdfFileDialog::PdfFileDialog(QWidget* parent, const QString& path)
+    : QFileDialog(parent, Text("Save as PDF"), QFileInfo(path).absolutePath(), Text("PDF files (*.pdf)")) {
+  setObjectName(QStringLiteral("savePdfDialog"));
+  setAcceptMode(QFileDialog::AcceptSave);
+  setDefaultSuffix(QStringLiteral("pdf"));
+  // MayWriteTo asks for all names in the same words.
+  setOption(QFileDialog::DontConfirmOverwrite, NameBox(*this) != nullptr);
+  selectFile(QFileInfo(path).fileName());
+  const QLineEdit* name = NameBox(*this);
+  if (name == nullptr) return;
+  // The toolkit looks at what stands between quotes and may find nothing there to save.
+  connect(name, &QLineEdit::textChanged, this, [this](const QString& text) {
+    if (!text.contains(Quote)) return;
+    findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->setEnabled(true);
+  });
+}
+
+// The toolkit takes quotes for marks around each of several names. One file is saved here, and quotes are
+// part of its name.
+QString PdfFileDialog::TypedPath() const {
+  const QLineEdit* name = NameBox(*this);
+  if (name == nullptr || !name->text().contains(Quote)) return selectedFiles().value(0);
+  const QString path = directory().absoluteFilePath(name->text());
+  return QFileInfo(path).suffix().isEmpty() ? path + QStringLiteral(".pdf") : path;
+}
+
+void PdfFileDialog::accept() {
+  const QString path = TypedPath();
+  if (QFileInfo(path).isDir() && path.contains(Quote)) return setDirectory(path);
+  const bool isOurs = NameBox(*this) != nullptr && !path.isEmpty() && !QFileInfo(path).isDir();
+  if (isOurs && !MayWriteTo(path, this)) return;
+  path_ = path;
+  if (path.contains(Quote)) return QDialog::accept();
+  QFileDialog::accept();
+}
+
+QString PdfFileDialog::Path() const {
+  return path_.isEmpty() ? selectedFiles().value(0) : path_;
+}
+
+}  // namespace tarvis
