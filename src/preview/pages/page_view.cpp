@@ -33,6 +33,7 @@ PageView::PageView(std::shared_ptr<const Document> document, QWidget* parent)
   setFocusPolicy(Qt::StrongFocus);
   viewport()->setCursor(Qt::ArrowCursor);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+  viewport()->grabGesture(Qt::PinchGesture);
   layout_.SetPages(static_cast<int>(document_->Pages.size()), static_cast<double>(document_->Setup.Width),
                    static_cast<double>(document_->Setup.Height));
   connect(&pictures_, &PagePictures::PageReady, this, [this](int page) {

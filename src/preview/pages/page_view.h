@@ -71,6 +71,7 @@ class PageView : public QAbstractScrollArea {
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
+  bool viewportEvent(QEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
@@ -83,6 +84,9 @@ class PageView : public QAbstractScrollArea {
   void UpdateScrollBars();
   void ChangeLayout(const std::function<void()>& change, QPointF anchor);
   bool TurnSinglePage(int direction);
+  void ZoomByWheel(const QWheelEvent& event);
+  bool TurnByWheel(int angle);
+  bool Pinch(QEvent& event);
   void Changed();
   int PageDeviceWidth() const;
   std::vector<ShownPart> ShownParts() const;
@@ -98,7 +102,10 @@ class PageView : public QAbstractScrollArea {
   std::function<std::vector<Highlight>(int)> highlights_;
   std::optional<QPoint> handAt_;
   bool selecting_ = false;
-  double wheelRest_ = 0;  // of a page or zoom step, from fine wheels
+  // What fine wheels and touchpads have turned, in eighths of a degree: towards the next zoom step, and past
+  // the end of a single page towards the next one.
+  int zoomAngle_ = 0;
+  int turnAngle_ = 0;
 };
 
 }  // namespace tarvis

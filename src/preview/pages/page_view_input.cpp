@@ -1,6 +1,8 @@
 // How the page view answers wheel, keys and mouse.
 #include <QApplication>
+#include <QGestureEvent>
 #include <QKeyEvent>
+#include <QNativeGestureEvent>
 #include <QScrollBar>
 #include <QWheelEvent>
 #include <algorithm>
@@ -9,6 +11,11 @@
 #include "preview/pages/page_view.h"
 
 namespace tarvis {
+namespace {
+
+constexpr int NotchAngle = 120;  // of a wheel, in eighths of a degree
+
+}  // namespace
 
 void PageView::resizeEvent(QResizeEvent* event) {
   QAbstractScrollArea::resizeEvent(event);
@@ -67,30 +74,65 @@ void PageView::GoToEnd() {
   verticalScrollBar()->setValue(verticalScrollBar()->maximum());
 }
 
+void PageView::ZoomByWheel(const QWheelEvent& event) {
+  zoomAngle_ += event.angleDelta().y();
+  for (; zoomAngle_ >= NotchAngle; zoomAngle_ -= NotchAngle) ZoomStep(1, event.position());
+  for (; zoomAngle_ <= -NotchAngle; zoomAngle_ += NotchAngle) ZoomStep(-1, event.position());
+}
+
+// In single-page view, a whole notch past an end turns the page, also one that comes in small parts. True if
+// there is nothing to scroll.
+bool PageView::TurnByWheel(int angle) {
+  const int down = angle < 0 ? 1 : -1;
+  const QScrollBar* bar = verticalScrollBar();
+  const bool pastEnd = !layout_.Continuous() && angle != 0 && bar->value() == (down > 0 ? bar->maximum() : 0);
+  if (!pastEnd || (angle < 0) != (turnAngle_ < 0)) turnAngle_ = 0;
+  if (!pastEnd) return false;
+  turnAngle_ += angle;
+  while (std::abs(turnAngle_) >= NotchAngle) {
+    turnAngle_ += down * NotchAngle;
+    if (!TurnSinglePage(down) || bar->maximum() > 0) turnAngle_ = 0;  // what is left would be a surprise
+  }
+  return true;
+}
+
 void PageView::wheelEvent(QWheelEvent* event) {
   if (event->modifiers().testFlag(Qt::ControlModifier)) {
-    wheelRest_ += event->angleDelta().y() / 120.0;
-    for (; wheelRest_ >= 1; wheelRest_ -= 1) ZoomStep(1, event->position());
-    for (; wheelRest_ <= -1; wheelRest_ += 1) ZoomStep(-1, event->position());
-    event->accept();
-    return;
+    ZoomByWheel(*event);
+    return event->accept();
   }
-  const int down = event->angleDelta().y() < 0 ? 1 : -1;
-  const QScrollBar* bar = verticalScrollBar();
-  const bool atEnd = bar->value() == (down > 0 ? bar->maximum() : 0);
-  if (event->angleDelta().y() != 0 && atEnd && TurnSinglePage(down)) {
-    event->accept();
-    return;
-  }
+  if (TurnByWheel(event->angleDelta().y())) return event->accept();
   QAbstractScrollArea::wheelEvent(event);
+}
+
+// Two fingers on a touchpad arrive as a native gesture, on a touch screen as the toolkit's own one.
+bool PageView::Pinch(QEvent& event) {
+  if (event.type() == QEvent::NativeGesture) {
+    const auto& gesture = static_cast<const QNativeGestureEvent&>(event);
+    if (gesture.gestureType() != Qt::ZoomNativeGesture) return false;
+    SetZoom(Zoom() * (1 + gesture.value()), gesture.position());
+    return true;
+  }
+  if (event.type() != QEvent::Gesture) return false;
+  const auto* pinch =
+      static_cast<QPinchGesture*>(static_cast<QGestureEvent&>(event).gesture(Qt::PinchGesture));
+  if (pinch == nullptr) return false;
+  SetZoom(Zoom() * pinch->scaleFactor(), viewport()->mapFromGlobal(pinch->centerPoint()));
+  return true;
+}
+
+bool PageView::viewportEvent(QEvent* event) {
+  return Pinch(*event) || QAbstractScrollArea::viewportEvent(event);
 }
 
 void PageView::keyPressEvent(QKeyEvent* event) {
   const bool shift = event->modifiers().testFlag(Qt::ShiftModifier);
   switch (event->key()) {
     case Qt::Key_Down:
+    case Qt::Key_J:
       return ScrollLines(1);
     case Qt::Key_Up:
+    case Qt::Key_K:
       return ScrollLines(-1);
     case Qt::Key_Right:
       return ScrollAcross(1);
@@ -102,6 +144,14 @@ void PageView::keyPressEvent(QKeyEvent* event) {
       return ScrollView(-1);
     case Qt::Key_Space:
       return ScrollView(shift ? -1 : 1);
+    case Qt::Key_N:
+      return ScrollPages(1);
+    case Qt::Key_P:
+      return ScrollPages(-1);
+    case Qt::Key_Plus:
+      return ZoomStep(1);
+    case Qt::Key_Minus:
+      return ZoomStep(-1);
     case Qt::Key_Home:
       return GoToStart();
     case Qt::Key_End:

@@ -1,0 +1,130 @@
+// Touchpads, touch screens and single keys on the pages.
+#include <QNativeGestureEvent>
+#include <QPointingDevice>
+
+#include "preview/window_fixture.h"
+
+namespace tarvis {
+namespace {
+
+class Touch : public WindowTest {
+ protected:
+  // Single pages, each wholly in sight.
+  void OpenSinglePages(int pages) {
+    OpenTable(pages);
+    Press(Qt::Key_F8);
+    Press(Qt::Key_0, Qt::ControlModifier);
+    ASSERT_EQ(View().verticalScrollBar()->maximum(), 0);
+  }
+  // Scrolls down by `count` steps of a tenth of a notch each, or up.
+  void ScrollInTenths(int count, int down = 1) {
+    const QPoint at(200, 200);
+    for (int step = 0; step < count; ++step) {
+      QWheelEvent event(at, View().viewport()->mapToGlobal(at), {}, {0, -12 * down}, Qt::NoButton,
+                        Qt::NoModifier, Qt::NoScrollPhase, false);
+      QApplication::sendEvent(View().viewport(), &event);
+    }
+  }
+  void PinchOnTouchpad(QPointF at, double value) {
+    QNativeGestureEvent event(Qt::ZoomNativeGesture, QPointingDevice::primaryPointingDevice(), 2, at, at,
+                              View().viewport()->mapToGlobal(at), value, {});
+    QApplication::sendEvent(View().viewport(), &event);
+  }
+};
+
+TEST_F(Touch, small_steps_of_a_touchpad_turn_one_page_for_each_whole_notch) {
+  OpenSinglePages(30);
+  ScrollInTenths(9);
+  EXPECT_EQ(Page(), 0);
+  ScrollInTenths(1);
+  EXPECT_EQ(Page(), 1);
+  ScrollInTenths(20);
+  EXPECT_EQ(Page(), 3);
+  Wheel(-2);
+  EXPECT_EQ(Page(), 5);
+}
+
+TEST_F(Touch, turning_back_starts_anew) {
+  OpenSinglePages(30);
+  Wheel(-1);
+  ScrollInTenths(9);
+  ScrollInTenths(9, -1);
+  EXPECT_EQ(Page(), 1);
+  ScrollInTenths(1, -1);
+  EXPECT_EQ(Page(), 0);
+}
+
+TEST_F(Touch, scrolling_within_a_page_is_not_counted_towards_the_next_one) {
+  OpenTable(5);
+  Press(Qt::Key_F8);
+  Press(Qt::Key_2, Qt::ControlModifier);
+  QScrollBar& bar = *View().verticalScrollBar();
+  ASSERT_GT(bar.maximum(), 0);
+  bar.setValue(bar.maximum() - 1);
+  ScrollInTenths(9);
+  EXPECT_EQ(Page(), 0);
+  EXPECT_EQ(bar.value(), bar.maximum());
+  ScrollInTenths(2);
+  EXPECT_EQ(Page(), 1);
+  EXPECT_EQ(bar.value(), 0);
+}
+
+TEST_F(Touch, two_fingers_on_a_touchpad_zoom_at_their_place) {
+  OpenTable(5);
+  View().GoTo({2, 3000});
+  const QPointF at(300, 250);
+  const PageView::Spot before = View().SpotAt(at);
+  const double zoom = View().Zoom();
+  PinchOnTouchpad(at, 0.25);
+  EXPECT_NEAR(View().Zoom(), zoom * 1.25, 0.001);
+  const PageView::Spot after = View().SpotAt(at);
+  EXPECT_EQ(after.Page, before.Page);
+  EXPECT_NEAR(after.Point.y(), before.Point.y(), 15);
+  for (int i = 0; i < 40; ++i) PinchOnTouchpad(at, -0.5);
+  EXPECT_NEAR(View().Zoom(), PageLayout::LeastZoom, 0.001);
+}
+
+TEST_F(Touch, two_fingers_on_a_touch_screen_zoom) {
+  OpenTable(5);
+  QPointingDevice* screen = QTest::createTouchDevice();
+  QWidget* viewport = View().viewport();
+  const double zoom = View().Zoom();
+  const auto move = [&](int apart) {
+    QTest::touchEvent(viewport, screen).move(0, QPoint(300 - apart, 250)).move(1, QPoint(300 + apart, 250));
+  };
+  QTest::touchEvent(viewport, screen).press(0, QPoint(250, 250)).press(1, QPoint(350, 250));
+  for (int apart = 50; apart <= 100; apart += 5) move(apart);
+  QTest::touchEvent(viewport, screen).release(0, QPoint(200, 250)).release(1, QPoint(400, 250));
+  EXPECT_GT(View().Zoom(), zoom * 1.5);
+  EXPECT_LT(View().Zoom(), zoom * 2.5);
+}
+
+TEST_F(Touch, single_keys_move_and_zoom_as_in_other_viewers) {
+  OpenTable(9);
+  Press(Qt::Key_N);
+  Press(Qt::Key_N);
+  EXPECT_EQ(Page(), 2);
+  Press(Qt::Key_P);
+  EXPECT_EQ(Page(), 1);
+  const int height = View().verticalScrollBar()->value();
+  Press(Qt::Key_J);
+  EXPECT_GT(View().verticalScrollBar()->value(), height);
+  Press(Qt::Key_K);
+  EXPECT_EQ(View().verticalScrollBar()->value(), height);
+  const int percent = Percent();
+  Press(Qt::Key_Plus);
+  EXPECT_GT(Percent(), percent);
+  Press(Qt::Key_Minus);
+  Press(Qt::Key_Minus);
+  EXPECT_LT(Percent(), percent);
+}
+
+TEST_F(Touch, single_keys_are_letters_where_text_is_typed) {
+  OpenTable(9);
+  Press(Qt::Key_F, Qt::ControlModifier);
+  Type("npjk+-");
+  EXPECT_EQ(Page(), 0);
+}
+
+}  // namespace
+}  // namespace tarvis
