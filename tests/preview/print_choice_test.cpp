@@ -148,6 +148,35 @@ TEST_F(Print, colours_arrive_as_greys_if_that_is_chosen) {
   EXPECT_TRUE(choose("color"));
 }
 
+TEST_F(Print, the_printers_properties_are_offered_and_arrive_at_the_queue) {
+  OpenTable(4);
+  PrintWith([this](QPrintDialog& dialog) {
+    EXPECT_TRUE(In<QPushButton>(dialog, "properties").isVisible());
+    UsePaper(dialog, [](QDialog& properties) {
+      In<QComboBox>(properties, "pagesPerSheetCombo").setCurrentIndex(1);
+      for (QComboBox* choice : properties.findChildren<QComboBox*>()) {
+        const int tray = choice->findText(QStringLiteral("Lower Tray"));
+        if (tray >= 0) choice->setCurrentIndex(tray);
+      }
+    });
+  });
+  TakeJob();
+  EXPECT_EQ(Asked("number-up"), QStringLiteral("2"));
+  EXPECT_EQ(Asked("InputSlot"), QStringLiteral("Lower"));
+}
+
+TEST_F(Print, pages_per_sheet_go_together_with_a_page_set) {
+  OpenTable(6);
+  EXPECT_EQ(PagesPrintedWith([this](QPrintDialog& dialog) {
+              UsePaper(dialog, [](QDialog& properties) {
+                In<QComboBox>(properties, "pagesPerSheetCombo").setCurrentIndex(1);
+              });
+              In<QComboBox>(dialog, "pageSetCombo").setCurrentText(QStringLiteral("Odd Pages"));
+            }),
+            QStringList({"1", "3", "5"}));
+  EXPECT_EQ(Asked("number-up"), QStringLiteral("2"));
+}
+
 TEST_F(Print, the_printers_own_paper_is_used_unless_another_one_is_chosen) {
   OpenTable(1);
   ExpectPrinting();

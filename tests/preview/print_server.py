@@ -16,6 +16,13 @@ from desktop import wait_until  # noqa: E402
 from print_queue import PrintQueue  # noqa: E402
 
 OPTIONS = """\
+*OpenUI *InputSlot/Paper Source: PickOne
+*OrderDependency: 20 AnySetup *InputSlot
+*DefaultInputSlot: Upper
+*InputSlot Upper/Upper Tray: ""
+*InputSlot Lower/Lower Tray: ""
+*CloseUI: *InputSlot
+
 *OpenUI *Duplex/Two Sides: PickOne
 *OrderDependency: 20 AnySetup *Duplex
 *DefaultDuplex: None

@@ -32,7 +32,8 @@ PrintDialog::PrintDialog(QPrinter& printer, int pageCount, const QString& pdf, Q
     : QPrintDialog(&printer, parent) {
   setObjectName(QStringLiteral("printDialog"));
   setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
-             QAbstractPrintDialog::PrintCollateCopies | QAbstractPrintDialog::PrintCurrentPage);
+             QAbstractPrintDialog::PrintCollateCopies | QAbstractPrintDialog::PrintCurrentPage |
+             QAbstractPrintDialog::PrintShowPageSize);
   const int last = std::max(1, pageCount);
   setMinMax(1, last);
   setFromTo(1, last);  // what the range starts from when it is chosen
