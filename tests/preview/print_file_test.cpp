@@ -79,6 +79,7 @@ TEST_F(PrintFile, has_bookmarks_author_and_title_as_a_saved_one_has) {
   EXPECT_EQ(Bookmarks(), QStringList({"Parameter 1", "Comment 3"}));
   EXPECT_EQ(PdfFact(Path("printed.pdf"), "Author"), QStringLiteral("Korvane"));
   EXPECT_EQ(PdfFact(Path("printed.pdf"), "Title"), QStringLiteral("Parameter List"));
+  EXPECT_TRUE(PdfFact(Path("printed.pdf"), "Page size").startsWith(QStringLiteral("595.3 x 841.9")));
 }
 
 TEST_F(PrintFile, bookmarks_lead_to_the_pages_that_were_chosen_and_to_no_others) {

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPrinter>
 #include <algorithm>
+#include <cmath>
 
 #include "preview/output/print_system.h"
 #include "preview/paint/painter_canvas.h"
@@ -62,10 +63,16 @@ QSizeF MissingRoom(const Document& document, const QPrinter& printer) {
 
 PdfSheets SheetsLike(const Document& document, const QPrinter& printer, std::vector<int> pages,
                      PrintScale scale) {
-  return {.Pages = std::move(pages),
-          .Paper = PaperSize(printer),
-          .Scale = ScaleOf(document, printer, scale),
-          .Greys = printer.colorMode() == QPrinter::GrayScale};
+  PdfSheets sheets = PdfSheets::AllOf(document);
+  sheets.Pages = std::move(pages);
+  // A printer's paper is measured in whole points.
+  const QSizeF paper = PaperSize(printer);
+  const QSizeF more = paper - sheets.Paper;
+  constexpr double OnePoint = 20;
+  if (std::abs(more.width()) > OnePoint || std::abs(more.height()) > OnePoint) sheets.Paper = paper;
+  sheets.Scale = ScaleOf(document, printer, scale);
+  sheets.Greys = printer.colorMode() == QPrinter::GrayScale;
+  return sheets;
 }
 
 QString PrintDocument(const Document& document, const std::vector<int>& pages, QPrinter& printer,
