@@ -30,17 +30,20 @@ std::shared_ptr<const Document> ComposeForDesk(ActiveReport& report, const std::
   return document;
 }
 
-PreviewSetup SetupOf(const ActiveReport& report, const FileHeader& data) {
+PreviewSetup SetupOf(const ActiveReport& report, const FileHeader& data,
+                     const std::shared_ptr<PreviewMemory>& memory) {
   return {.Caption = QString::fromStdString(report.Caption),
           .Tools = report.Tools,
           .ContentsVisible = report.TOCVisible,
           .ContentsWidth = report.TOCWidth,
-          .Author = QString::fromStdString(data.MadeBy)};
+          .Origin = {.Author = QString::fromStdString(data.MadeBy),
+                     .DataFile = QString::fromStdString(data.File)},
+          .Memory = memory};
 }
 
 }  // namespace
 
-QtProgramWindows::QtProgramWindows(PrintRun& run) : run_(run) {
+QtProgramWindows::QtProgramWindows(PrintRun& run) : run_(run), memory_(std::make_shared<PreviewMemory>()) {
   qApp->installEventFilter(&help_);
 }
 
@@ -62,7 +65,7 @@ void QtProgramWindows::ShowMasterReport() {
   const std::string title = run_.Session.ActiveHeader.TitleText;  // before overlapped data sets add to it
   const std::shared_ptr<const Document> document =
       ComposeForDesk(*report_, title);  // fills caption and tools, too
-  preview_ = std::make_unique<PreviewWindow>(document, SetupOf(*report_, run_.Header));
+  preview_ = std::make_unique<PreviewWindow>(document, SetupOf(*report_, run_.Header, memory_));
   ShowPreview();
 }
 

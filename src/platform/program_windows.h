@@ -10,6 +10,7 @@
 
 namespace tarvis {
 
+struct PreviewMemory;
 class PreviewWindow;
 class rptTarvis;
 struct PrintRun;
@@ -32,6 +33,7 @@ class QtProgramWindows : public QObject, public ProgramWindows {
   void ShowPreview();
 
   PrintRun& run_;
+  std::shared_ptr<PreviewMemory> memory_;
   HelpOpener help_;
   PictureFileLoader pictures_;
   // The master report handles the preview's events, so it lives on until the next one is shown.

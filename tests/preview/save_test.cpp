@@ -1,8 +1,11 @@
 // Saving as PDF from the preview.
 #include <sys/stat.h>
 
+#include <QDate>
+#include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -14,6 +17,19 @@
 
 namespace tarvis {
 namespace {
+
+// Stands for the desktop, which opens files.
+class OpenedFiles : public QObject {
+  Q_OBJECT
+ public:
+  OpenedFiles() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "Note"); }
+  ~OpenedFiles() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
+
+  QStringList Paths;
+
+ public slots:
+  void Note(const QUrl& url) { Paths.append(url.toLocalFile()); }
+};
 
 class SavePdf : public WindowTest {
  protected:
@@ -46,6 +62,7 @@ class SavePdf : public WindowTest {
     EXPECT_FALSE(window_->IsBusy());
     return words;
   }
+  static QString Today() { return QDate::currentDate().toString(Qt::ISODate); }
   void WriteOldFile() const {
     QFile file(Path("old.pdf"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -64,7 +81,7 @@ class SavePdf : public WindowTest {
   QTemporaryDir folder_;
 };
 
-TEST_F(SavePdf, ctrl_s_proposes_the_title_and_writes_the_pdf) {
+TEST_F(SavePdf, ctrl_s_proposes_title_data_file_and_day_and_writes_the_pdf) {
   OpenTable(3);
   QString proposed;
   OnDialog<QFileDialog>([&](QFileDialog& dialog) {
@@ -72,7 +89,7 @@ TEST_F(SavePdf, ctrl_s_proposes_the_title_and_writes_the_pdf) {
     dialog.reject();
   });
   Press(Qt::Key_S, Qt::ControlModifier);
-  EXPECT_EQ(proposed, QStringLiteral("Parameter List.pdf"));
+  EXPECT_EQ(proposed, QStringLiteral("Parameter List axis1 %1.pdf").arg(Today()));
   Return();
   SaveTo(Path("list.pdf"));
   ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(Path("list.pdf")); }));
@@ -88,7 +105,43 @@ TEST_F(SavePdf, a_title_that_is_no_file_name_is_made_one) {
     dialog.reject();
   });
   Click("savePdfButton");
-  EXPECT_EQ(proposed, QStringLiteral("a_b_c.pdf"));
+  EXPECT_EQ(proposed, QStringLiteral("a_b_c axis1 %1.pdf").arg(Today()));
+}
+
+TEST_F(SavePdf, starts_in_the_folder_where_the_last_document_of_the_run_was_saved) {
+  OpenTable(1);
+  SaveTo(Path("list.pdf"));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !window_->IsBusy(); }));
+  OpenTable(1);
+  QString folder;
+  OnDialog<QFileDialog>([&](QFileDialog& dialog) {
+    folder = dialog.directory().absolutePath();
+    dialog.reject();
+  });
+  Press(Qt::Key_S, Qt::ControlModifier);
+  EXPECT_EQ(folder, folder_.path());
+}
+
+TEST_F(SavePdf, a_line_says_where_the_file_is_and_opens_it_or_its_folder) {
+  OpenTable(1);
+  EXPECT_FALSE(Find<QWidget>("savedBar").isVisible());
+  SaveTo(Path("list.pdf"));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Find<QWidget>("savedBar").isVisible(); }));
+  EXPECT_EQ(Find<QLabel>("savedWords").text(), QStringLiteral("Saved as ") + Path("list.pdf"));
+  OpenedFiles opened;
+  QTest::mouseClick(&Find<QPushButton>("savedOpenButton"), Qt::LeftButton);
+  QTest::mouseClick(&Find<QPushButton>("savedFolderButton"), Qt::LeftButton);
+  EXPECT_EQ(opened.Paths, QStringList({Path("list.pdf"), folder_.path()}));
+  Click("savedCloseButton");
+  EXPECT_FALSE(Find<QWidget>("savedBar").isVisible());
+}
+
+TEST_F(SavePdf, no_line_says_that_a_file_was_saved_that_was_not) {
+  OpenTable(3);
+  const FullDisk full;
+  SaveTo(Path("list.pdf"));
+  WaitForFailure();
+  EXPECT_FALSE(Find<QWidget>("savedBar").isVisible());
 }
 
 TEST_F(SavePdf, overwriting_is_asked_for_first) {
@@ -189,3 +242,5 @@ TEST_F(SavePdf, closing_the_window_while_an_export_runs_is_safe) {
 
 }  // namespace
 }  // namespace tarvis
+
+#include "save_test.moc"

@@ -24,7 +24,8 @@ class WindowTest : public testing::Test {
   void Open(std::shared_ptr<const Document> document) {
     PreviewSetup setup;
     setup.Tools = {{"Editing of the Printing Items", 999}};
-    setup.Author = QStringLiteral("Korvane");
+    setup.Origin = {.Author = QStringLiteral("Korvane"), .DataFile = QStringLiteral("axis1.prm")};
+    setup.Memory = memory_;
     window_ = std::make_unique<PreviewWindow>(std::move(document), setup);
     window_->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
@@ -80,6 +81,7 @@ class WindowTest : public testing::Test {
     timer->start(5);
   }
 
+  std::shared_ptr<PreviewMemory> memory_ = std::make_shared<PreviewMemory>();
   std::unique_ptr<PreviewWindow> window_;
   bool answered_ = false;
 };

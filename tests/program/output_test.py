@@ -19,9 +19,9 @@ class Output(ProgramCase):
         return {**super().environment(), "HOME": str(self.home), "XDG_CONFIG_HOME": None, "XDG_DATA_HOME": None,
                 "XDG_CACHE_HOME": str(self.folder / "cache")}
 
-    def start_preview(self, through=()):
+    def start_preview(self, through=(), environment=None):
         self.host.write_data("JogTbl")
-        session = self.start("JogTbl", through=through)
+        session = self.start("JogTbl", through=through, environment=environment)
         session.confirm_dialog()
         return session
 
@@ -81,6 +81,17 @@ class SavedFile(Output):
         session.save_pdf(target)
         self.assertEqual(session.close_preview(), 0)
         self.assertEqual(self.files_at_home(), [target.name])
+
+    def test_is_opened_from_the_line_that_says_where_it_is(self):
+        opened = self.folder / "opened"
+        session = self.start_preview(environment=self.note_opened(opened))
+        target = self.home / "saved.pdf"
+        session.save_pdf(target)
+        self.wait_for_words(f"Saved as {target}")
+        self.widget(PREVIEW, "push button", "Open").press()
+        wait_until(opened.exists, "the file to be opened")
+        self.assertEqual(opened.read_text().strip(), f"file://{target}")
+        self.assertEqual(session.close_preview(), 0)
 
     def test_never_takes_the_place_of_a_fifo(self):
         fifo = self.home / "fifo.pdf"

@@ -1,11 +1,14 @@
 #include "preview/window/document_output.h"
 
 #include <QAbstractButton>
+#include <QDate>
 #include <QDir>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPageSize>
 #include <QPrinter>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QStandardPaths>
 
 #include "preview/window/pdf_file_dialog.h"
@@ -14,15 +17,21 @@
 namespace tarvis {
 namespace {
 
-// The title as a file name that every system takes.
-QString FileNameOf(const QString& title) {
-  QString name = title;
+// The host's name for its file without folder and ending; folders are separated as on the host's system.
+QString ShortName(const QString& dataFile) {
+  const QString name = dataFile.section(QRegularExpression(QStringLiteral("[\\\\/]")), -1);
+  return name.contains(QLatin1Char('.')) ? name.section(QLatin1Char('.'), 0, -2) : name;
+}
+
+// A file name that tells what it is of and from which day, and that every system takes.
+QString FileNameOf(const QString& title, const QString& dataFile) {
+  const QString day = QDate::currentDate().toString(Qt::ISODate);
+  QString name = QStringList{title.trimmed(), ShortName(dataFile).trimmed(), day}.join(QLatin1Char(' '));
   for (QChar& character : name) {
     if (character.unicode() < 0x20 || QStringLiteral("\\/:*?\"<>|").contains(character))
       character = QLatin1Char('_');
   }
-  name = name.trimmed();
-  return (name.isEmpty() ? QStringLiteral("document") : name) + QStringLiteral(".pdf");
+  return name.simplified() + QStringLiteral(".pdf");
 }
 
 // Without a printer the toolkit takes A4 everywhere.
@@ -34,20 +43,23 @@ void UsePaperOf(const Document& document, QPrinter& printer) {
 
 }  // namespace
 
-DocumentOutput::DocumentOutput(std::shared_ptr<const Document> document, QString author,
-                               std::function<int()> currentPage, QWidget* window)
+DocumentOutput::DocumentOutput(std::shared_ptr<const Document> document, DocumentOrigin origin,
+                               std::shared_ptr<PreviewMemory> memory, std::function<int()> currentPage,
+                               QWidget* window)
     : QObject(window),
       document_(std::move(document)),
-      author_(std::move(author)),
+      origin_(std::move(origin)),
+      memory_(std::move(memory)),
       currentPage_(std::move(currentPage)),
       window_(window) {}
 
 DocumentOutput::~DocumentOutput() = default;
 
 QString DocumentOutput::ProposedPath() const {
-  QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+  QDir folder(memory_->Folder.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                                        : memory_->Folder);
   if (!folder.exists()) folder = QDir::home();
-  return folder.filePath(FileNameOf(QString::fromStdString(document_->Title)));
+  return folder.filePath(FileNameOf(QString::fromStdString(document_->Title), origin_.DataFile));
 }
 
 void DocumentOutput::SavePdf() {
@@ -57,11 +69,16 @@ void DocumentOutput::SavePdf() {
 }
 
 void DocumentOutput::WritePdf(PdfSheets sheets, const QString& path) {
-  const PdfInfo info{QString::fromStdString(document_->Title), author_, QDateTime::currentDateTime()};
-  StartJob(tr("Saving as PDF…"), tr("The PDF was not saved."),
-           [document = document_, sheets = std::move(sheets), path, info](const Progress& progress) {
-             return ExportPdf(*document, sheets, path, info, progress);
-           });
+  const PdfInfo info{QString::fromStdString(document_->Title), origin_.Author, QDateTime::currentDateTime()};
+  StartJob(
+      tr("Saving as PDF…"), tr("The PDF was not saved."),
+      [document = document_, sheets = std::move(sheets), path, info](const Progress& progress) {
+        return ExportPdf(*document, sheets, path, info, progress);
+      },
+      [this, path] {
+        memory_->Folder = QFileInfo(path).absolutePath();
+        emit Saved(path);
+      });
 }
 
 void DocumentOutput::Print() {
@@ -102,12 +119,15 @@ bool DocumentOutput::AskForScale(const QSizeF& missing, PrintScale& scale) {
   return box.clickedButton() != nullptr && box.clickedButton() != cancel;
 }
 
-void DocumentOutput::StartJob(const QString& caption, const QString& failure, BackgroundJob::Work work) {
+void DocumentOutput::StartJob(const QString& caption, const QString& failure, BackgroundJob::Work work,
+                              const std::function<void()>& done) {
   if (job_) return;
   job_ = std::make_unique<BackgroundJob>(caption, std::move(work), window_);
-  connect(job_.get(), &BackgroundJob::Finished, this, [this, failure](const QString& error) {
+  connect(job_.get(), &BackgroundJob::Finished, this, [this, failure, done](const QString& error) {
+    const bool cancelled = job_->Cancelled();
     job_.release()->deleteLater();
-    if (!error.isEmpty()) ShowFailure(failure, error);
+    if (!error.isEmpty()) return ShowFailure(failure, error);
+    if (!cancelled) done();
   });
 }
 

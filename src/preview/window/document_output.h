@@ -7,19 +7,26 @@
 
 #include "preview/output/background_job.h"
 #include "preview/output/printing.h"
+#include "preview/window/preview_memory.h"
 #include "report/engine/document.h"
 
 class QWidget;
 
 namespace tarvis {
 
+// Where the document comes from, as far as files that are made of it tell.
+struct DocumentOrigin {
+  QString Author;    // of a PDF
+  QString DataFile;  // the file that the host's data come from, as the host names it; may be empty
+};
+
 class DocumentOutput : public QObject {
   Q_OBJECT
  public:
   // Dialogs and messages stand on `window`, which owns this. `currentPage` tells the index of the page that
   // is being read.
-  DocumentOutput(std::shared_ptr<const Document> document, QString author, std::function<int()> currentPage,
-                 QWidget* window);
+  DocumentOutput(std::shared_ptr<const Document> document, DocumentOrigin origin,
+                 std::shared_ptr<PreviewMemory> memory, std::function<int()> currentPage, QWidget* window);
   // Cancels what is under way and waits for it.
   ~DocumentOutput() override;
 
@@ -30,16 +37,23 @@ class DocumentOutput : public QObject {
   // Ends what is under way and waits for it.
   void Cancel() { job_.reset(); }
 
+ signals:
+  // A PDF is complete.
+  void Saved(const QString& path);
+
  private:
   QString ProposedPath() const;
   void WritePdf(PdfSheets sheets, const QString& path);
   bool AskForScale(const QSizeF& missing, PrintScale& scale);
-  // `failure` is shown with the error text if `work` fails.
-  void StartJob(const QString& caption, const QString& failure, BackgroundJob::Work work);
+  // `failure` is shown with the error text if `work` fails; `done` is called if it comes to its end.
+  void StartJob(
+      const QString& caption, const QString& failure, BackgroundJob::Work work,
+      const std::function<void()>& done = [] {});
   void ShowFailure(const QString& failure, const QString& reason);
 
   std::shared_ptr<const Document> document_;
-  QString author_;
+  DocumentOrigin origin_;
+  std::shared_ptr<PreviewMemory> memory_;
   std::function<int()> currentPage_;
   QWidget* window_;
   std::unique_ptr<BackgroundJob> job_;

@@ -13,12 +13,14 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <utility>
 
 #include "preview/pages/page_view.h"
-#include "preview/window/document_output.h"
 #include "preview/window/find_bar.h"
 #include "preview/window/finder.h"
 #include "preview/window/icons.h"
+#include "preview/window/reading_place.h"
+#include "preview/window/saved_bar.h"
 #include "preview/window/side_pane.h"
 
 namespace tarvis {
@@ -59,11 +61,13 @@ PreviewWindow::PreviewWindow(std::shared_ptr<const Document> document, const Pre
       document_(std::move(document)),
       text_(*document_),
       selection_(text_),
+      memory_(setup.Memory != nullptr ? setup.Memory : std::make_shared<PreviewMemory>()),
       view_(new PageView(document_)),
       output_(new DocumentOutput(
-          document_, setup.Author, [this] { return view_->CurrentPage(); }, this)),
+          document_, setup.Origin, memory_, [this] { return view_->CurrentPage(); }, this)),
       pane_(new SidePane(document_)),
       findBar_(new FindBar(this)),
+      savedBar_(new SavedBar(this)),
       finder_(new Finder(*findBar_, text_, *view_, this)),
       splitter_(new QSplitter(this)) {
   setObjectName(QStringLiteral("previewWindow"));
@@ -78,6 +82,7 @@ PreviewWindow::PreviewWindow(std::shared_ptr<const Document> document, const Pre
   column->setSpacing(0);
   column->addWidget(splitter_, 1);
   column->addWidget(findBar_);
+  column->addWidget(savedBar_);
   setCentralWidget(body);
   PlaceOnScreen();
   splitter_->setSizes({Pixels(setup.ContentsWidth), width() - Pixels(setup.ContentsWidth)});
@@ -86,6 +91,7 @@ PreviewWindow::PreviewWindow(std::shared_ptr<const Document> document, const Pre
   pane_->setVisible(setup.ContentsVisible);
   ActionOf(Command::SidePane)->setChecked(setup.ContentsVisible);
   Connect();
+  if (memory_->Window) ShowAsBefore(*memory_->Window);
   ShowPlace();
   ShowZoom();
   SelectionChanged();
@@ -107,6 +113,43 @@ void PreviewWindow::PlaceOnScreen() {
   resize(size);
   move(std::min(wanted.x(), room.right() + 1 - size.width()),
        std::min(wanted.y(), room.bottom() + 1 - size.height()));
+}
+
+void PreviewWindow::ShowAsBefore(const WindowState& state) {
+  restoreGeometry(state.Geometry);
+  splitter_->setSizes(state.Panes);
+  pane_->setVisible(state.SidePane);
+  ActionOf(Command::SidePane)->setChecked(state.SidePane);
+  pane_->setCurrentIndex(state.SidePaneTab);
+  view_->SetContinuous(state.Continuous);
+  if (state.Zoom == ZoomMode::Factor) {
+    view_->SetZoom(state.Factor);
+  } else {
+    view_->SetZoomMode(state.Zoom);
+  }
+  place_ = state.Place;
+}
+
+WindowState PreviewWindow::State() const {
+  const PageLayout& layout = view_->Layout();
+  return {.Geometry = saveGeometry(),
+          .Panes = splitter_->sizes(),
+          .SidePane = ActionOf(Command::SidePane)->isChecked(),
+          .SidePaneTab = pane_->currentIndex(),
+          .Continuous = layout.Continuous(),
+          .Zoom = layout.Mode(),
+          .Factor = layout.Zoom(),
+          .Place = Remember(*document_, view_->CurrentPlace())};
+}
+
+void PreviewWindow::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  if (const auto place = std::exchange(place_, {})) view_->GoTo(FindAgain(*document_, *place));
+}
+
+void PreviewWindow::hideEvent(QHideEvent* event) {
+  memory_->Window = State();
+  QMainWindow::hideEvent(event);
 }
 
 void PreviewWindow::MakeActions() {
@@ -175,6 +218,7 @@ void PreviewWindow::Connect() {
   connect(view_, &PageView::PlaceChanged, this, &PreviewWindow::ShowPlace);
   connect(view_, &PageView::ZoomChanged, this, &PreviewWindow::ShowZoom);
   connect(pane_, &SidePane::PlaceChosen, this, &PreviewWindow::Jump);
+  connect(output_, &DocumentOutput::Saved, savedBar_, &SavedBar::Show);
   connect(finder_, &Finder::Leaving, this, [this] { history_.Leave(view_->CurrentPlace()); });
   ConnectSelection();
 }

@@ -11,6 +11,7 @@
 #include "preview/paint/document_text.h"
 #include "preview/text/text_selection.h"
 #include "preview/window/commands.h"
+#include "preview/window/document_output.h"
 #include "report/engine/active_report.h"
 #include "report/engine/document.h"
 
@@ -21,10 +22,10 @@ class QSplitter;
 
 namespace tarvis {
 
-class DocumentOutput;
 class FindBar;
 class Finder;
 class PageView;
+class SavedBar;
 class SidePane;
 
 // How the report that is shown wants its window.
@@ -33,7 +34,8 @@ struct PreviewSetup {
   std::vector<Tool> Tools;  // added tools, shown with their text
   bool ContentsVisible = true;
   double ContentsWidth = 2300;  // twips
-  QString Author;               // of a PDF
+  DocumentOrigin Origin;
+  std::shared_ptr<PreviewMemory> Memory;  // shared by the previews of a run; null for one of its own
 };
 
 class PreviewWindow : public QMainWindow {
@@ -58,9 +60,13 @@ class PreviewWindow : public QMainWindow {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
 
  private:
   void PlaceOnScreen();
+  void ShowAsBefore(const WindowState& state);
+  WindowState State() const;
   void MakeActions();
   void MakeToolbar(const std::vector<Tool>& tools);
   void AddTool(const Tool& tool, QToolBar& bar);
@@ -85,10 +91,12 @@ class PreviewWindow : public QMainWindow {
   std::shared_ptr<const Document> document_;
   DocumentText text_;
   TextSelection selection_;
+  std::shared_ptr<PreviewMemory> memory_;
   PageView* view_;
   DocumentOutput* output_;
   SidePane* pane_;
   FindBar* findBar_;
+  SavedBar* savedBar_;
   Finder* finder_;
   QSplitter* splitter_;
   QLineEdit* pageBox_ = nullptr;
@@ -96,6 +104,7 @@ class PreviewWindow : public QMainWindow {
   std::map<Command, QAction*> actions_;
   std::vector<QAction*> toolActions_;
   PlaceHistory history_;
+  std::optional<ReadingPlace> place_;  // to be shown when the window has its size
 };
 
 }  // namespace tarvis

@@ -1,0 +1,23 @@
+// The bar at the foot of the window that says where a PDF was saved.
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+
+namespace tarvis {
+
+class SavedBar : public QWidget {
+  Q_OBJECT
+ public:
+  explicit SavedBar(QWidget* parent = nullptr);
+
+  // Shows the bar for the file at `path`.
+  void Show(const QString& path);
+
+ private:
+  QString path_;
+  QLabel* words_;
+};
+
+}  // namespace tarvis
