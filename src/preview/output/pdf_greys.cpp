@@ -87,7 +87,7 @@ void TurnPictureIntoGreys(QPDFObjectHandle picture) {
 // The two end colours of a gradient's step.
 void TurnStepIntoGreys(QPDFObjectHandle step) {
   for (const char* key : {"/C0", "/C1"}) {
-    const QPDFObjectHandle ink = step.getKey(key);
+    QPDFObjectHandle ink = step.getKey(key);
     if (!ink.isArray() || ink.getArrayNItems() != 3) continue;
     const QPDFObjectHandle grey = QPDFObjectHandle::newReal(
         Grey(NumberOf(ink.getArrayItem(0).unparse()), NumberOf(ink.getArrayItem(1).unparse()),
@@ -97,13 +97,13 @@ void TurnStepIntoGreys(QPDFObjectHandle step) {
   }
 }
 
-bool Has(const QPDFObjectHandle& dictionary, const char* key, const char* name) {
-  const QPDFObjectHandle value = dictionary.getKey(key);
+bool Has(QPDFObjectHandle dictionary, const char* key, const char* name) {
+  QPDFObjectHandle value = dictionary.getKey(key);
   return value.isName() && value.getName() == name;
 }
 
 void TurnStreamIntoGreys(QPDFObjectHandle stream) {
-  const QPDFObjectHandle dictionary = stream.getDict();
+  QPDFObjectHandle dictionary = stream.getDict();
   if (Has(dictionary, "/Subtype", "/Image")) {
     if (Has(dictionary, "/ColorSpace", "/DeviceRGB")) TurnPictureIntoGreys(stream);
   } else if (Has(dictionary, "/Subtype", "/Form") || dictionary.getKey("/PatternType").isInteger()) {
@@ -119,7 +119,7 @@ void TurnIntoGreys(QPDF& pdf) {
     if (object.isDictionary() && object.getKey("/FunctionType").isInteger()) TurnStepIntoGreys(object);
   }
   std::set<QPDFObjGen> done;  // pages that are there more than once share their content
-  for (const QPDFObjectHandle& page : pdf.getAllPages()) {
+  for (QPDFObjectHandle page : pdf.getAllPages()) {
     QPDFObjectHandle content = page.getKey("/Contents");
     if (done.insert(content.getObjGen()).second) content.addTokenFilter(std::make_shared<GreyInks>());
   }

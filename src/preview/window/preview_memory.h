@@ -13,23 +13,23 @@ namespace tarvis {
 // Where the reader was in a document, told so that it can be found again in a document that was composed
 // anew.
 struct ReadingPlace {
-  QString Parent;      // text of the contents entry above `Entry`; empty for an entry of the first level
-  QString Entry;       // text of the contents entry that was read; empty without contents
-  int Occurrence = 0;  // of this pair in the contents, counted from 0
-  double Below = 0;    // twips below the entry's own place, also over several pages
-  PagePlace Page;      // where the entry isn't there any more
+  QString Parent;       // text of the contents entry above `Entry`; empty for an entry of the first level
+  QString Entry;        // text of the contents entry that was read; empty without contents
+  int Occurrence = 0;   // of this pair in the contents, counted from 0
+  double Below = 0;     // twips below the entry's own place, also over several pages
+  PagePlace Page = {};  // where the entry isn't there any more
 };
 
 // How the user has set the window.
 struct WindowState {
-  QByteArray Geometry;  // place, size, whether it fills the screen
-  QList<int> Panes;     // widths of the side pane and of the pages
+  QByteArray Geometry = {};  // place, size, whether it fills the screen
+  QList<int> Panes;          // widths of the side pane and of the pages
   bool SidePane = true;
   int SidePaneTab = 0;
   bool Continuous = true;
   ZoomMode Zoom = ZoomMode::FitWidth;
   double Factor = 1;
-  ReadingPlace Place;
+  ReadingPlace Place = {};
 };
 
 struct PreviewMemory {
