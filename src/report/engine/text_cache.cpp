@@ -4,6 +4,8 @@
 #include <bit>
 #include <cmath>
 #include <functional>
+#include <optional>
+#include <string>
 
 #include "report/engine/line_breaker.h"
 #include "report/engine/utf8.h"
@@ -16,6 +18,21 @@ constexpr std::size_t StorageBlock = 1 << 16;
 std::string_view WithoutTrailingBlanks(std::string_view line) {
   const std::size_t last = line.find_last_not_of(' ');
   return last == std::string_view::npos ? std::string_view{} : line.substr(0, last + 1);
+}
+
+bool IsLoneLineFeed(std::string_view text, std::size_t offset) {
+  return text[offset] == '\n' && (offset == 0 || text[offset - 1] != '\r');
+}
+
+// `text` with a blank for each tab and each line feed that ends no line; nothing if it has neither.
+std::optional<std::string> WithPlainBlanks(std::string_view text) {
+  std::optional<std::string> plain;
+  for (std::size_t offset = 0; offset < text.size(); ++offset) {
+    if (text[offset] != '\t' && !IsLoneLineFeed(text, offset)) continue;
+    if (!plain) plain.emplace(text);
+    (*plain)[offset] = ' ';
+  }
+  return plain;
 }
 
 }  // namespace
@@ -84,6 +101,12 @@ std::uint32_t TextCache::OneLine(std::string_view text, std::uint16_t style) {
 std::uint32_t TextCache::Find(std::string_view text, std::uint16_t style) {
   const auto found = index_.find(Key{text, style});
   if (found != index_.end()) return found->second;
+  // Blanks from here on, so that each is measured, broken, painted, found and copied as one.
+  if (const auto plain = WithPlainBlanks(text)) {
+    const std::uint32_t whole = Find(*plain, style);
+    index_.emplace(Key{Keep(text), style}, whole);
+    return whole;
+  }
   const auto next = static_cast<std::uint32_t>(wholes_.size());
   Whole whole;
   whole.Text = Keep(text);

@@ -34,8 +34,8 @@ class TextCache {
   std::uint16_t Name(const char* controlName);
 
   // The lines of `text` in a box `width` twips wide, as indices of Document::Texts. Lines break at CR LF, at
-  // break opportunities, and inside a piece wider than the box; a trailing CR LF adds no line. The span is
-  // valid until the next call.
+  // break opportunities, and inside a piece wider than the box; a trailing CR LF adds no line. Tabs and lone
+  // line feeds are blanks. The span is valid until the next call.
   std::span<const std::uint32_t> Lines(std::string_view text, std::uint16_t style, float width);
   // The whole text as one piece, line ends turned into blanks.
   std::uint32_t OneLine(std::string_view text, std::uint16_t style);
