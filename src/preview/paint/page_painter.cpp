@@ -1,6 +1,7 @@
 #include "preview/paint/page_painter.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace tarvis {
 namespace {
@@ -51,6 +52,32 @@ void CloseCorners(std::vector<Rect>& lines, float width) {
   }
 }
 
+// The sides of a box that a page's end has cut, without the side that is open.
+std::vector<Rect> OpenFrame(const Rect& box, bool openTop, bool openBottom) {
+  std::vector<Rect> sides{{box.Left, box.Top, 0, box.Height}, {box.Right(), box.Top, 0, box.Height}};
+  if (!openTop) sides.push_back({box.Left, box.Top, box.Width, 0});
+  if (!openBottom) sides.push_back({box.Left, box.Bottom(), box.Width, 0});
+  return sides;
+}
+
+void PaintBorders(const std::vector<const Item*>& borders, Canvas& canvas) {
+  const auto look = [](const Item& item) {
+    return std::tuple(LineWidth(item), item.OpenTop, item.OpenBottom);
+  };
+  ByLook(borders, look, [&](const std::vector<Rect>& boxes, const auto& edges) {
+    const auto [width, openTop, openBottom] = edges;
+    if (!openTop && !openBottom) {
+      canvas.Frame(boxes, width);
+      return;
+    }
+    for (const Rect& box : boxes) {
+      std::vector<Rect> sides = OpenFrame(box, openTop, openBottom);
+      CloseCorners(sides, width);
+      canvas.Strokes(sides, width);
+    }
+  });
+}
+
 void PaintLayer(const Document& document, const PageLayer& layer, Canvas& canvas) {
   ByLook(
       layer.Fills, [](const Item& item) { return item.Fill; },
@@ -58,8 +85,7 @@ void PaintLayer(const Document& document, const PageLayer& layer, Canvas& canvas
   for (const Item* item : layer.Pictures) {
     if (document.Pictures[item->Source]) canvas.Picture(*document.Pictures[item->Source], item->Box);
   }
-  ByLook(layer.Borders, LineWidth,
-         [&](const std::vector<Rect>& boxes, float width) { canvas.Frame(boxes, width); });
+  PaintBorders(layer.Borders, canvas);
   ByLook(layer.Lines, LineWidth, [&](std::vector<Rect> lines, float width) {
     if (width <= WeightUnit) CloseCorners(lines, width);
     canvas.Strokes(lines, width);

@@ -18,11 +18,4 @@ struct Band {
   OpenGroup* Group = nullptr;  // innermost group whose headers repeat above this band
 };
 
-// The first part of `band` that is at most `available` twips high; `band` keeps the rest. Cuts between lines
-// of text and never through pictures. The first part is empty if nothing fits.
-Band CutBand(Band& band, float available);
-
-// Shrinks the pictures and ticks at the top of a band that can't be cut to `available` twips.
-void ShrinkPictures(Band& band, float available);
-
 }  // namespace tarvis

@@ -46,6 +46,9 @@ struct Item {
   bool Ticked = false;  // Tick: whether the box holds a tick
   // Name of the control that made it, an index of Names; items of one control and band share it.
   std::uint16_t Control = 0;
+  // Box: cut at the head or foot of a page, where its frame stays open.
+  bool OpenTop = false;
+  bool OpenBottom = false;
   // Text: index of Texts. Picture: index of Pictures. Else unused.
   std::uint32_t Source = 0;
   // Counts the bands of the document: items with the same number stand in one band (one table row).
@@ -99,6 +102,9 @@ class Document {
   // Owns the characters that Texts and Names point to; blocks never move.
   std::deque<std::string> Storage;
 };
+
+// The index of that style in Styles, where it is added if it isn't there yet.
+std::uint16_t StyleIndex(Document& document, const TextStyle& style);
 
 // The document as text, one item a line: page, kind, control, rectangle in whole or half twips, text, style.
 // This is the form of the stored goldens.

@@ -37,7 +37,8 @@ std::string Describe(const Document& document, const Item& item) {
     }
     case ItemKind::Box:
       return "box " + Place(item.Box) + (item.Weight > 0 ? " border " + std::to_string(item.Weight) : "") +
-             (item.Filled ? " fill " + HexColor(item.Fill) : "");
+             (item.Filled ? " fill " + HexColor(item.Fill) : "") + (item.OpenTop ? " open at the top" : "") +
+             (item.OpenBottom ? " open at the bottom" : "");
     case ItemKind::Line:
       return "line " + Place(item.Box) + " weight " + std::to_string(item.Weight);
     case ItemKind::Picture:

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "report/engine/band_cut.h"
+
 namespace tarvis {
 namespace {
 
@@ -184,18 +186,29 @@ void PageFlow::PlaceBand(Band& band) {
 
 // Starts on a fresh page unless only headers stand on this one, and is cut between lines of text.
 void PageFlow::PlaceTallBand(Band& band) {
-  if (rowsOnPage_) TurnPage(band.Group);
+  if (rowsOnPage_ || (printedOnPage_ && FitsNextPage(band.Height, band.Group))) TurnPage(band.Group);
   while (!Fits(band.Height)) {
-    Band first = CutBand(band, BodyHeight() - y_);
-    if (first.Height > 0) {
-      PutOnPage(first);
-    } else if (!printedOnPage_ || y_ <= RepeatedHeight(band.Group)) {
-      ShrinkPictures(band, std::max(BodyHeight() - y_, TwipsPerPoint));
-      break;
-    }
+    if (!PlacePieceOf(band)) break;
+    if (band.Items.empty()) return;
     TurnPage(band.Group);
   }
   PutOnPage(band);
+}
+
+// Places what fits of a band that is too high for this page. False if it must be placed as it is: nothing can
+// be cut off it, also not on a fresh page, or it fits by now.
+bool PageFlow::PlacePieceOf(Band& band) {
+  const float room = BodyHeight() - y_;
+  const float freshRoom = BodyHeight() - RepeatedHeight(band.Group);
+  const bool isFresh = !printedOnPage_ || room >= freshRoom - Rounding;
+  FitPictures(band, room, isFresh ? room : freshRoom, document_);
+  if (Fits(band.Height)) return false;
+  // The next page has more room: no piece that is nothing but an empty frame.
+  if (!isFresh && !HasWholeAbove(band, room)) return true;
+  Band first = CutBand(band, room);
+  if (first.Height <= 0) return false;
+  PutOnPage(first);
+  return true;
 }
 
 void PageFlow::PutOnPage(Band& band) {
@@ -264,6 +277,11 @@ float PageFlow::RepeatedHeight(const OpenGroup* group) const {
 
 bool PageFlow::Fits(float height) const {
   return y_ + height <= BodyHeight() + Rounding;
+}
+
+// Below the headers that repeat there.
+bool PageFlow::FitsNextPage(float height, const OpenGroup* group) const {
+  return RepeatedHeight(group) + height <= BodyHeight() + Rounding;
 }
 
 float PageFlow::BodyHeight() const {

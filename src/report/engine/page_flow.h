@@ -83,6 +83,7 @@ class PageFlow {
   void PlaceStep(Step& step);
   void PlaceBand(tarvis::Band& band);
   void PlaceTallBand(tarvis::Band& band);
+  bool PlacePieceOf(tarvis::Band& band);
   void PutOnPage(tarvis::Band& band);
 
   void OpenPage();
@@ -91,6 +92,7 @@ class PageFlow {
   void RepeatHeaders(OpenGroup* group);
   float RepeatedHeight(const OpenGroup* group) const;
   bool Fits(float height) const;
+  bool FitsNextPage(float height, const OpenGroup* group) const;
   float BodyHeight() const;
 
   Document& document_;

@@ -58,11 +58,7 @@ TextCache::TextCache(Document& document, const TextMeasurer& measurer)
 TextCache::~TextCache() = default;
 
 std::uint16_t TextCache::Style(float size, bool bold, Color ink) {
-  auto& styles = document_.Styles;
-  const TextStyle wanted{size, bold, ink};
-  auto found = std::find(styles.begin(), styles.end(), wanted);
-  if (found == styles.end()) found = styles.insert(styles.end(), wanted);
-  return static_cast<std::uint16_t>(found - styles.begin());
+  return StyleIndex(document_, {size, bold, ink});
 }
 
 std::uint16_t TextCache::Name(const char* controlName) {
