@@ -7,6 +7,7 @@
 
 #include "functions/catalog.h"
 #include "report/engine/composer.h"
+#include "report/rptBaseHeader.h"
 #include "report/rptTarvis.h"
 #include "run/print_run.h"
 #include "support/arial_measurer.h"
@@ -33,6 +34,17 @@ struct ReportRun {
     const auto report = CreateFunctionReport(name, Context());
     Run.Session.MasterReport = report.get();
     return Compose(*report, {10000, bodyHeight, 0, 0, 0, 0}, ArialMeasurer());
+  }
+
+  // One function report below the common header, with the margins and the footer of the master report taken
+  // off the height of the body.
+  Document ComposeUnderHeader(const std::string& name, float bodyHeight = 14918) {
+    Run.Session.ModuleNames.Resize(0);
+    Run.Session.ModuleNames[0] = name;
+    Run.Session.ModuleLast = 0;
+    rptBaseHeader report(Context(), CreateFunctionReport);
+    Run.Session.MasterReport = &report;
+    return Compose(report, {10000, bodyHeight, 0, 0, 0, 0}, ArialMeasurer());
   }
 
   // The whole document of the function in `Mode`, from the data files in the temporary folder.

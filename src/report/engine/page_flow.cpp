@@ -26,7 +26,9 @@ void PageFlow::BeginGroup(OpenGroup& group) {
 void PageFlow::EndGroup(OpenGroup& group) {
   Push({StepKind::EndGroup, {}, &group, nullptr});
 }
+// A header that is higher than half a page, such as a graph, is content: nothing waits below it for its rows.
 void PageFlow::Add(Band band) {
+  if (band.Height > BodyHeight() / 2) band.IsHeader = false;
   Push({StepKind::Band, std::move(band), nullptr, nullptr});
 }
 void PageFlow::BeginRow(FlowRow& row) {
@@ -120,23 +122,25 @@ bool PageFlow::GroupIsReady(std::size_t begin, float above, std::size_t& end, bo
   return true;
 }
 
+// A unit that doesn't fit moves whole to the next page if it fits there. Otherwise as many of its headers as
+// must stay here, and the others move along with the row.
 void PageFlow::PlaceUnit(std::size_t steps, bool fresh) {
   float height = 0;
-  OpenGroup* group = nullptr;
-  bool hasBand = false;
   for (std::size_t index = 0; index < steps; ++index) {
-    const Step& step = queue_[index];
-    if (step.Kind != StepKind::Band) continue;
-    if (!hasBand) group = step.Band.Group;
-    hasBand = true;
-    height += step.Band.Height;
+    if (queue_[index].Kind == StepKind::Band) height += queue_[index].Band.Height;
   }
-  const float freshPage = BodyHeight() - RepeatedHeight(group);
-  const bool tooHigh = height > 0 && !Fits(height) && (height <= freshPage + Rounding || steps > 1);
-  if (hasBand && !newPageWanted_ && rowsOnPage_ && (fresh || tooHigh)) TurnPage(group);
+  bool isFirst = true;
   for (std::size_t index = 0; index < steps; ++index) {
     Step step = std::move(queue_.front());
     queue_.pop_front();
+    if (step.Kind == StepKind::Band) {
+      const bool tooHigh = height > Rounding && !Fits(height);
+      const bool moves = isFirst && rowsOnPage_ && (fresh || (steps > 1 && tooHigh));
+      const bool fitsThere = tooHigh && FitsNextPage(height, step.Band.Group);
+      if (printedOnPage_ && !newPageWanted_ && (moves || fitsThere)) TurnPage(step.Band.Group);
+      isFirst = false;
+      height -= step.Band.Height;
+    }
     PlaceStep(step);
   }
 }

@@ -166,5 +166,72 @@ TEST(EnginePages, ABandOfExactlyThePageHeightIsNotCut) {
   EXPECT_THAT(Places(ComposeSample(report, 500)), ElementsAre("1:row@0", "2:row@0"));
 }
 
+// A header of 100 of the report around; below it a title of 100 that is to be kept, a guide of 50 that
+// repeats and a first row, on pages of 1000.
+std::vector<std::string> PlacesOfFirstRow(float row) {
+  SampleReport outer;
+  AddBlock(outer.Fixed(SectionKind::GroupHeader, "h", 100), "header", 100);
+  SubReport& region = outer.Fixed(SectionKind::Detail, "d", 0).AddSubReport("region", {0, 0, 1000, 10});
+  auto inner = std::make_shared<SampleReport>();
+  Section& title = inner->Growing(SectionKind::GroupHeader, "t");
+  AddBlock(title, "title", 100);
+  title.GroupKeepTogether = Keep::All;
+  Section& guide = inner->Growing(SectionKind::GroupHeader, "g");
+  AddBlock(guide, "guide", 50);
+  guide.Repeat = true;
+  AddBlock(inner->Growing(SectionKind::Detail, "d"), "row", row);
+  region.object = inner;
+  return Places(ComposeSample(outer, 1000));
+}
+
+TEST(EnginePages, AFirstRowThatFitsUnderTheHeadersStaysThere) {
+  EXPECT_THAT(PlacesOfFirstRow(750), ElementsAre("1:header@0", "1:title@100", "1:guide@200", "1:row@250"));
+}
+
+TEST(EnginePages, AFirstRowThatFitsAnEmptyPageWithItsTitleAndGuideLeavesTheHeaderWithThem) {
+  for (const float row : {751.0F, 850.0F}) {
+    EXPECT_THAT(PlacesOfFirstRow(row), ElementsAre("1:header@0", "2:title@0", "2:guide@100", "2:row@150"))
+        << row;
+  }
+}
+
+TEST(EnginePages, AFirstRowThatFitsAnEmptyPageOnlyBelowTheRepeatedGuideLeavesTheTitleToo) {
+  for (const float row : {851.0F, 950.0F}) {
+    EXPECT_THAT(PlacesOfFirstRow(row),
+                ElementsAre("1:header@0", "1:title@100", "1:guide@200", "2:guide@0", "2:row@50"))
+        << row;
+  }
+}
+
+TEST(EnginePages, AFirstRowThatFitsNoPageIsCutUnderTheHeaders) {
+  EXPECT_THAT(PlacesOfFirstRow(951),
+              ElementsAre("1:header@0", "1:title@100", "1:guide@200", "1:row@250", "2:guide@0", "2:row@50"));
+}
+
+TEST(EnginePages, ARowThatDoesNotFitBelowTheRepeatedGuideIsCutThere) {
+  SampleReport report;
+  Section& guide = report.Growing(SectionKind::GroupHeader, "g");
+  AddBlock(guide, "guide", 100);
+  guide.Repeat = true;
+  Shape& row = report.Growing(SectionKind::Detail, "d").AddShape("row", {0, 0, 1000, 900});
+  report.Rows(2, [&](int index) { row.Height = index == 0 ? 900.0F : 950.0F; });
+  EXPECT_THAT(Places(ComposeSample(report, 1000)),
+              ElementsAre("1:guide@0", "1:row@100", "2:guide@0", "2:row@100", "3:guide@0", "3:row@100"));
+}
+
+TEST(EnginePages, AHeaderHigherThanHalfAPageIsContentThatItsRowsNeedNotStandUnder) {
+  SampleReport outer;
+  AddBlock(outer.Fixed(SectionKind::GroupHeader, "h", 100), "header", 100);
+  SubReport& region = outer.Fixed(SectionKind::Detail, "d", 0).AddSubReport("region", {0, 0, 1000, 10});
+  auto inner = std::make_shared<SampleReport>();
+  AddBlock(inner->Growing(SectionKind::GroupHeader, "t"), "title", 100);
+  AddBlock(inner->Growing(SectionKind::GroupHeader, "p"), "graph", 750);
+  AddBlock(inner->Growing(SectionKind::GroupHeader, "g"), "guide", 40);
+  AddBlock(inner->Growing(SectionKind::Detail, "d"), "row", 40);
+  region.object = inner;
+  EXPECT_THAT(Places(ComposeSample(outer, 1000)),
+              ElementsAre("1:header@0", "1:title@100", "1:graph@200", "2:guide@0", "2:row@40"));
+}
+
 }  // namespace
 }  // namespace tarvis
