@@ -60,6 +60,8 @@ rptCover::rptCover(ReportContext context)
   ghWork.Format = [this] {
     if (Run.Session.MasterReport != nullptr) Run.Session.MasterReport->TOC.Add("Cover");
   };
+  Label5.SharesBaselineOf = &txtUserTitle;
+  Label6.SharesBaselineOf = &txtUserDear;
 }
 
 void rptCover::ActiveReport_ReportStart() {

@@ -25,6 +25,7 @@ class rptCover : public ActiveReport {
 
  private:
   static constexpr CellStyle Letter{.Size = 10};
+  static constexpr CellStyle Sender{.Size = 10, .WithinPaper = true};
   static constexpr CellStyle Subject{.Size = 12};
   static constexpr CellStyle SubjectCaption{.Size = 14, .Bold = true};
 
@@ -44,7 +45,7 @@ class rptCover : public ActiveReport {
   Field& txtDate = ghCover.AddField("txtDate", {142, 142, 2834, 283}, Letter);
   Image& imgLogo = ghCover.AddImage("imgLogo", {6094, 142, 2835, 1275}, Fit::KeepTopRight);
   Field& txtUserAria = ghCover.AddField("txtUserAria", {142, 1559, 4110, 4819}, Letter);
-  Field& txtDrowAria = ghCover.AddField("txtDrowAria", {4394, 1559, 4550, 4819}, Letter);
+  Field& txtDrowAria = ghCover.AddField("txtDrowAria", {4394, 1559, 4550, 4819}, Sender);
   Label& Label5 = ghCover.AddLabel("Label5", {142, 6378, 1417, 425}, "SUBJECT:", SubjectCaption);
   Field& txtUserTitle = ghCover.AddField("txtUserTitle", {1559, 6378, 6661, 283}, Subject);
   Line& Line1 = ghCover.AddLine("Line1", 142, 6803, 142, 7370);

@@ -1,4 +1,4 @@
-// What the painter asks of a canvas for boxes that were cut.
+// What the painter asks of a canvas for boxes and texts that were cut.
 #include "preview/paint/page_painter.h"
 
 #include <gmock/gmock.h>
@@ -70,6 +70,25 @@ TEST(PagePainter, paints_the_frames_of_whole_cells_at_once) {
   const Recorder page(document);
   EXPECT_EQ(page.Frames.size(), 3U);
   EXPECT_THAT(page.Lines, IsEmpty());
+}
+
+TEST(PagePainter, clips_text_below_the_bottom_of_its_box_only) {
+  const TextStyle style;
+  EXPECT_EQ(ClipOfText({}, style, {100, 200, 500, 190}), std::nullopt);
+  const auto clip = ClipOfText({}, style, {100, 200, 500, 94});
+  ASSERT_TRUE(clip);
+  EXPECT_EQ(clip->Bottom(), 294);
+  EXPECT_LT(clip->Top, 200);
+  EXPECT_LT(clip->Left, 100);
+  EXPECT_GT(clip->Right(), 600);
+}
+
+TEST(PagePainter, clips_text_too_wide_for_its_box_at_both_sides) {
+  const auto clip = ClipOfText({0.5F, true}, TextStyle(), {100, 200, 500, 190});
+  ASSERT_TRUE(clip);
+  EXPECT_EQ(clip->Left, 100);
+  EXPECT_EQ(clip->Right(), 600);
+  EXPECT_GT(clip->Bottom(), 390) << "letters may stand below their line";
 }
 
 }  // namespace

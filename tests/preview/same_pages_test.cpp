@@ -12,6 +12,7 @@
 #include "preview/pages/page_pictures.h"
 #include "preview/pdf_file.h"
 #include "support/report_run.h"
+#include "support/sample_report.h"
 
 namespace tarvis {
 namespace {
@@ -127,6 +128,28 @@ TEST_P(SamePages, frames_rules_grey_titles_and_texts_in_several_sizes) {
 TEST_P(SamePages, pictures_japanese_and_condensed_text) {
   const auto document = PicturesAndFallback().Build();
   const PageDifference difference = Difference(*document, *document, 2);
+  EXPECT_EQ(difference.Pixels, 0) << testing::PrintToString(difference);
+}
+
+TEST_P(SamePages, text_after_a_clipped_one_in_the_font_that_it_should_have) {
+  DocumentBuilder builder;
+  builder.Paper(PaperWidth, 3000).Page().Text("Overlapping target", 1440, 300, 14, true);
+  builder.NarrowText("Encoder Dividing Ratio", 1440, 900, 500).Text("Illumination", 1440, 1300);
+  const PageDifference difference = Difference(builder.Peek(), builder.Peek());
+  EXPECT_EQ(difference.Pixels, 0) << testing::PrintToString(difference);
+}
+
+TEST_P(SamePages, texts_and_frames_cut_by_their_box_and_by_the_end_of_the_page) {
+  constexpr CellStyle cell{.Border = true, .Filled = true};
+  SampleReport report;
+  Section& detail = report.Growing(SectionKind::Detail, "d");
+  detail.AddField("long", {1440, 0, 2000, 283}, cell).Text = "one\r\ntwo\r\nthree\r\nfour\r\nfive\r\nsix";
+  Field& cut = detail.AddField("cut", {4440, 0, 2000, 283}, cell);
+  cut.Text = "gypsum\r\ngypsum";
+  detail.BeforePrint = [&] { cut.Height = 284; };
+  const Document document = Compose(report, {PaperWidth, 1000, 0, 0, 200, 200}, ArialMeasurer());
+  ASSERT_EQ(document.Pages.size(), 2U);
+  const PageDifference difference = Difference(document, document);
   EXPECT_EQ(difference.Pixels, 0) << testing::PrintToString(difference);
 }
 

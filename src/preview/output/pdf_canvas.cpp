@@ -82,21 +82,28 @@ void PdfCanvas::Text(const TextPiece& piece, const TextStyle& style, const Rect&
   if (piece.Text.empty()) return;
   const double baseline = D(box.Top) + AscentEm * D(style.Size * TwipsPerPoint);
   const TextFit fit = FitText(piece, box);
-  if (fit.Clipped) {
+  const std::optional<Rect> clip = ClipOfText(fit, style, box);
+  if (clip) {
     EndText();
     Add("q ");
-    AddRect({box.Left, box.Top - box.Height, box.Width, 3 * box.Height});
+    AddRect(*clip);
     Add("W n\n");
   }
   UseInk(style.Ink);
   BeginText();
   ShowText(piece, style, D(box.Left), baseline, D(fit.Stretch));
-  if (fit.Clipped) {
+  if (clip) {
     EndText();
     Add("Q\n");
-    // What was set between is forgotten by then; 0x1000000 is no colour.
-    ink_ = 0x1000000;
+    ForgetTextState();
   }
+}
+
+// What was set between a q and its Q holds no longer.
+void PdfCanvas::ForgetTextState() {
+  ink_ = 0x1000000;  // no colour
+  face_ = -1;
+  stretch_ = 0;
 }
 
 void PdfCanvas::ShowText(const TextPiece& piece, const TextStyle& style, double x, double y, double stretch) {

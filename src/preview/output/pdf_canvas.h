@@ -58,6 +58,7 @@ class PdfCanvas : public Canvas {
   void ShowText(const TextPiece& piece, const TextStyle& style, double x, double y, double stretch);
   void MoveTo(double x, double y);
   void UseFont(std::uint16_t face, float size);
+  void ForgetTextState();
 
   PdfGlyphs& glyphs_;
   PdfPictures& pictures_;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <tuple>
 
+#include "report/engine/text_cache.h"
+
 namespace tarvis {
 namespace {
 
@@ -109,6 +111,17 @@ TextFit FitText(const TextPiece& piece, const Rect& box) {
   if (piece.Advance <= 0 || box.Width + Tolerance >= piece.Advance) return {};
   const float stretch = box.Width / piece.Advance;
   return {std::max(stretch, Narrowest), stretch < Narrowest};
+}
+
+std::optional<Rect> ClipOfText(const TextFit& fit, const TextStyle& style, const Rect& box) {
+  constexpr float Tolerance = 1;  // twips, for rounding
+  const float pitch = LinePitch(style.Size);
+  const bool isCutBelow = box.Height + Tolerance < pitch;
+  if (!fit.Clipped && !isCutBelow) return std::nullopt;
+  Rect clip{box.Left, box.Top - pitch, box.Width, pitch + box.Height};
+  if (!isCutBelow) clip.Height += pitch;
+  if (!fit.Clipped) clip = {clip.Left - pitch, clip.Top, clip.Width + 2 * pitch, clip.Height};
+  return clip;
 }
 
 }  // namespace tarvis

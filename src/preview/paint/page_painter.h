@@ -2,6 +2,7 @@
 // together to a canvas. All places are in twips from the top left corner of the paper.
 #pragma once
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -32,5 +33,9 @@ struct TextFit {
   bool Clipped = false;  // wider than its box even then
 };
 TextFit FitText(const TextPiece& piece, const Rect& box);
+
+// What may be painted of a piece in its item's box, with room for letters that stand above or below their
+// line; none if it is to be painted whole.
+std::optional<Rect> ClipOfText(const TextFit& fit, const TextStyle& style, const Rect& box);
 
 }  // namespace tarvis

@@ -61,15 +61,13 @@ void PainterCanvas::Text(const TextPiece& piece, const TextStyle& style, const R
       static_cast<double>(box.Top) + AscentEm * static_cast<double>(style.Size * TwipsPerPoint);
   const QPointF start(static_cast<double>(box.Left), baseline);
   const TextFit fit = FitText(piece, box);
-  if (fit.Stretch >= 1) {
+  const std::optional<Rect> clip = ClipOfText(fit, style, box);
+  if (fit.Stretch >= 1 && !clip) {
     Runs(piece, style, start);
     return;
   }
   painter_.save();
-  // Only the width clips: letters may stand above and below their line.
-  if (fit.Clipped)
-    painter_.setClipRect(ToRectF(box).adjusted(0, -ToRectF(box).height(), 0, ToRectF(box).height()),
-                         Qt::IntersectClip);
+  if (clip) painter_.setClipRect(ToRectF(*clip), Qt::IntersectClip);
   painter_.translate(start);
   painter_.scale(static_cast<double>(fit.Stretch), 1);
   Runs(piece, style, {});

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "report/engine/line_room.h"
+
 namespace tarvis {
 namespace {
 
@@ -45,18 +47,35 @@ bool Wraps(const TextControl& text, const Section& section) {
   return canGrow || !oneLineOnly;
 }
 
-float AlignedLeft(const TextControl& text, float advance) {
-  const float spare = text.Width - advance;
-  const float inset = text.Style.Border ? std::clamp(spare, 0.0F, CellInset) : 0;
+// How far the lines of a cell are set in, all alike: `spare` is what its widest line leaves of the box.
+float InsetOf(const TextControl& text, float spare) {
+  return text.Style.Border ? std::clamp(spare, 0.0F, CellInset) : 0;
+}
+
+// The left edge of a line `advance` wide in a box `width` wide.
+float AlignedLeft(const TextControl& text, float width, float advance, float inset) {
   switch (text.Style.Alignment) {
     case Align::Centre:
-      return text.Left + spare / 2;
+      return text.Left + (width - advance) / 2;
     case Align::Right:
-      return text.Left + spare - inset;
+      return text.Left + width - advance - inset;
     case Align::Left:
       break;
   }
   return text.Left + inset;
+}
+
+// A line too high for its box hangs upwards from the box's bottom.
+float OneLineTop(const TextControl& text) {
+  const float spare = text.Height - LinePitch(text.Style.Size);
+  return text.Top + (spare < 0 ? spare : std::min(spare / 2, DeepestAnchor));
+}
+
+float TopOfOneLine(const TextControl& text) {
+  const TextControl* const other = text.SharesBaselineOf;
+  if (other == nullptr) return OneLineTop(text);
+  const float ascent = static_cast<float>(AscentEm) * TwipsPerPoint;
+  return OneLineTop(*other) + ascent * (other->Style.Size - text.Style.Size);
 }
 
 void CallEvent(const std::function<void()>& handler) {
@@ -122,8 +141,7 @@ void BandComposer::EmitControls(const Section& section, float left, Band& band) 
     switch (control->Kind) {
       case ControlKind::Field:
       case ControlKind::Label:
-        EmitText(static_cast<const TextControl&>(*control),
-                 Wraps(static_cast<const TextControl&>(*control), section), left, band);
+        EmitText(static_cast<const TextControl&>(*control), section, left, band);
         break;
       case ControlKind::Image:
         EmitImage(static_cast<const Image&>(*control), model, band);
@@ -165,53 +183,88 @@ const std::string& BandComposer::TextOf(const TextControl& text) const {
   return text.Text;
 }
 
-void BandComposer::EmitText(const TextControl& text, bool wraps, float left, Band& band) {
+void BandComposer::EmitText(const TextControl& text, const Section& section, float left, Band& band) {
   if (text.Style.RoomOnly) return;
   Item model;
   model.Control = cache_.Name(text.Name);
   model.Band = bandNumber_;
-  model.Box = {text.Left + left, text.Top, text.Width, text.Height};
   if (text.Style.Border || text.Style.Filled) {
-    model.Kind = ItemKind::Box;
-    model.Weight = text.Style.Border ? 1 : 0;
-    model.Filled = text.Style.Filled;
-    model.Fill = text.Style.Fill;
-    band.Items.push_back(model);
+    Item box = model;
+    box.Kind = ItemKind::Box;
+    box.Weight = text.Style.Border ? 1 : 0;
+    box.Filled = text.Style.Filled;
+    box.Fill = text.Style.Fill;
+    box.Box = {text.Left + left, text.Top, text.Width, text.Height};
+    band.Items.push_back(box);
   }
   const std::string& content = TextOf(text);
   if (content.empty()) return;
-  model = {.Kind = ItemKind::Text, .Control = model.Control, .Band = bandNumber_, .Box = {left, 0, 0, 0}};
-  const float pitch = LinePitch(text.Style.Size);
-  if (!wraps) {
-    const std::uint32_t piece = cache_.OneLine(content, StyleOf(text));
-    const float spare = text.Height - pitch;
-    EmitLine(text, piece, text.Top + (spare < 0 ? spare : std::min(spare / 2, DeepestAnchor)), model, band);
+  if (Wraps(text, section)) {
+    EmitLines(text, content, left, model, band);
   } else {
-    const auto lines = cache_.Lines(content, StyleOf(text), text.Width);
-    const float spare = text.Height - pitch * static_cast<float>(lines.size());
-    float top = text.Top + std::clamp(spare / 2, 0.0F, DeepestAnchor);
-    for (const std::uint32_t piece : lines) {
-      EmitLine(text, piece, top, model, band);
-      top += pitch;
-    }
+    EmitOneLine(text, section, content, left, model, band);
   }
   if (text.Kind == ControlKind::Field && static_cast<const Field&>(text).Summary == Summary::PageCount) {
     pageCountItems_.push_back(band.Items.size() - 1);
   }
 }
 
-void BandComposer::EmitLine(const TextControl& text, std::uint32_t piece, float top, const Item& model,
-                            Band& band) const {
-  const TextPiece& printed = document_.Texts[piece];
-  if (printed.Text.empty()) return;
-  const bool condensed = !text.Style.RunsOn && printed.Advance > text.Width + FitTolerance;
-  Item item = model;
-  item.Source = piece;
-  item.Box.Left += condensed ? text.Left : AlignedLeft(text, printed.Advance);
-  item.Box.Top = top;
-  item.Box.Width = condensed ? text.Width : printed.Advance;
-  item.Box.Height = LinePitch(text.Style.Size);
-  band.Items.push_back(item);
+// What stands below the bottom of the box is clipped there.
+void BandComposer::EmitLines(const TextControl& text, const std::string& content, float left, Item model,
+                             Band& band) {
+  const float width = WrapWidth(text, left);
+  const auto lines = cache_.Lines(content, StyleOf(text), width);
+  const float pitch = LinePitch(text.Style.Size);
+  const float inset = InsetOf(text, width - WidestOf(lines));
+  const float spare = text.Height - pitch * static_cast<float>(lines.size());
+  float top = text.Top + std::clamp(spare / 2, 0.0F, DeepestAnchor);
+  for (const std::uint32_t piece : lines) {
+    const float room = text.Bottom() - top;
+    if (room <= FitTolerance) return;
+    const float advance = document_.Texts[piece].Advance;
+    const bool isTooWide = advance > width + FitTolerance;
+    model.Box.Left = left + (isTooWide ? text.Left : AlignedLeft(text, width, advance, inset));
+    model.Box.Top = top;
+    model.Box.Width = isTooWide ? width : advance;
+    model.Box.Height = room + FitTolerance < pitch ? room : pitch;
+    EmitPiece(piece, model, band);
+    top += pitch;
+  }
+}
+
+// Text wider than its box runs on into the free room beside it; what then doesn't fit is condensed.
+void BandComposer::EmitOneLine(const TextControl& text, const Section& section, const std::string& content,
+                               float left, Item model, Band& band) {
+  const std::uint32_t piece = cache_.OneLine(content, StyleOf(text));
+  const float advance = document_.Texts[piece].Advance;
+  Rect& line = model.Box;
+  line = {text.Left, TopOfOneLine(text), advance, LinePitch(text.Style.Size)};
+  if (text.Style.RunsOn || advance <= text.Width + FitTolerance) {
+    line.Left = AlignedLeft(text, text.Width, advance, InsetOf(text, text.Width - advance));
+  } else {
+    const LineRoom room = RoomOfLine(text, section, line, band, left, document_.Setup.Width - left);
+    if (advance > room.Width() + FitTolerance) line.Width = room.Width();
+    line.Left = text.Style.Alignment == Align::Right ? room.Right - line.Width : room.Left;
+  }
+  line.Left += left;
+  EmitPiece(piece, model, band);
+}
+
+void BandComposer::EmitPiece(std::uint32_t piece, Item& model, Band& band) const {
+  if (document_.Texts[piece].Text.empty()) return;
+  model.Source = piece;
+  band.Items.push_back(model);
+}
+
+float BandComposer::WrapWidth(const TextControl& text, float left) const {
+  const float toTheEdge = document_.Setup.Width - left - text.Left - FitTolerance;
+  return text.Style.WithinPaper && toTheEdge > 0 ? std::min(text.Width, toTheEdge) : text.Width;
+}
+
+float BandComposer::WidestOf(std::span<const std::uint32_t> pieces) const {
+  float widest = 0;
+  for (const std::uint32_t piece : pieces) widest = std::max(widest, document_.Texts[piece].Advance);
+  return widest;
 }
 
 void BandComposer::EmitImage(const Image& image, const Item& model, Band& band) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <span>
 #include <vector>
 
 #include "report/engine/active_report.h"
@@ -36,8 +37,13 @@ class BandComposer {
   void Grow(Section& section);
   float FinalHeight(const Section& section) const;
   void EmitControls(const Section& section, float left, Band& band);
-  void EmitText(const TextControl& text, bool wraps, float left, Band& band);
-  void EmitLine(const TextControl& text, std::uint32_t piece, float top, const Item& model, Band& band) const;
+  void EmitText(const TextControl& text, const Section& section, float left, Band& band);
+  void EmitLines(const TextControl& text, const std::string& content, float left, Item model, Band& band);
+  void EmitOneLine(const TextControl& text, const Section& section, const std::string& content, float left,
+                   Item model, Band& band);
+  void EmitPiece(std::uint32_t piece, Item& model, Band& band) const;
+  float WrapWidth(const TextControl& text, float left) const;
+  float WidestOf(std::span<const std::uint32_t> pieces) const;
   void EmitImage(const Image& image, const Item& model, Band& band);
   const std::string& TextOf(const TextControl& text) const;
   std::uint16_t StyleOf(const TextControl& text) { return cache_.Style(text.Style.Size, text.Style.Bold); }

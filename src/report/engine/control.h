@@ -49,6 +49,8 @@ struct CellStyle {
   Color Fill = White;
   bool RunsOn = false;    // a line wider than its box runs on to the right instead of being condensed
   bool RoomOnly = false;  // takes its room but paints neither fill nor text
+  // A box that reaches past the paper wraps its text at the paper's edge; only for sections that can't grow.
+  bool WithinPaper = false;
 };
 
 // Table looks that all function reports share.
@@ -71,6 +73,8 @@ class TextControl : public Control {
 
   CellStyle Style;
   std::string Text;  // UTF-8; CR LF breaks lines. A label's Caption is this text
+  // Text on one line whose baseline this one has, in place of one by its own box; none for its own.
+  const TextControl* SharesBaselineOf = nullptr;
 };
 
 class Field : public TextControl {

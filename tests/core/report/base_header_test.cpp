@@ -75,6 +75,19 @@ TEST_F(CommonHeader, NoFileNameGivesNoCaption) {
   EXPECT_THAT(TextsOf("txtFileName"), IsEmpty());
 }
 
+TEST_F(CommonHeader, ALongModelsInfoRunsOnUpToTheFileNameBeforeItIsCondensed) {
+  const auto widthOf = [&](int letters) {
+    Report.Run.Header.MechaInfo = std::string(static_cast<std::size_t>(letters), 'a');
+    const Document document = Compose();
+    for (const Item& item : document.Items) {
+      if (document.Names[item.Control] == "txtMechaInfo") return item.Box.Width;
+    }
+    return 0.0F;
+  };
+  EXPECT_NEAR(widthOf(54), 54 * 0.556 * 170, 0.1) << "5104 twips in a box of 3685";
+  EXPECT_EQ(widthOf(56), 5244 - 60) << "the file name's box begins at 5244";
+}
+
 TEST_F(CommonHeader, CutsTheTitleTo58Bytes) {
   Session.ActiveHeader.TitleText = std::string(40, 'T') + "-Overlapping result";
   EXPECT_THAT(TextsOf("txtTitle"), ElementsAre(std::string(40, 'T') + "-Overlapping resul"));

@@ -65,6 +65,35 @@ TEST_F(Cover, ShowsDateAddresseeSubjectSalutationAndSignature) {
   EXPECT_THAT(TextsOf("txtDrowName"), ElementsAre("Mr. Sender"));
 }
 
+TEST_F(Cover, TheSenderBlockWrapsAtThePapersEdge) {
+  Options.DrowName.clear();
+  Options.DrowFAX = std::string(45, 'M');
+  rptCover cover(Report.Context());
+  Run.Session.MasterReport = &cover;
+  const Document document = tarvis::Compose(cover, PageSetup(), ArialMeasurer());
+  std::string printed;
+  for (const Item& item : document.Items) {
+    if (document.Names[item.Control] != "txtDrowAria") continue;
+    EXPECT_EQ(item.Box.Left, 1440 + 6000) << "its left edge stays";
+    EXPECT_LE(item.Box.Right(), document.Setup.Width);
+    printed += document.Texts[item.Source].Text;
+  }
+  EXPECT_EQ(printed, "FAX:" + Options.DrowFAX);
+}
+
+TEST_F(Cover, CaptionsShareTheBaselineOfWhatStandsBesideThem) {
+  const Document document = Compose();
+  const auto baselineOf = [&](const std::string& control) {
+    for (const Item& item : document.Items) {
+      if (document.Names[item.Control] != control) continue;
+      return item.Box.Top + 0.905F * 20 * document.Styles[document.Texts[item.Source].Style].Size;
+    }
+    return 0.0F;
+  };
+  EXPECT_NEAR(baselineOf("Label5"), baselineOf("txtUserTitle"), 0.01);
+  EXPECT_NEAR(baselineOf("Label6"), baselineOf("txtUserDear"), 0.01);
+}
+
 TEST_F(Cover, TakesTheBlockThatIsSelected) {
   Options.SelectCover = 3;
   Options.User[2].Name = "Third";

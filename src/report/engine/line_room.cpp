@@ -1,0 +1,73 @@
+#include "report/engine/line_room.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace tarvis {
+namespace {
+
+// What runs on keeps this far (twips) from what stands beside it: about the width of a blank.
+constexpr float Gap = 60;
+
+bool PrintsAnything(const Control& control) {
+  switch (control.Kind) {
+    case ControlKind::Field:
+    case ControlKind::Label: {
+      const auto& text = static_cast<const TextControl&>(control);
+      return !text.Style.RoomOnly && (!text.Text.empty() || text.Style.Border || text.Style.Filled);
+    }
+    case ControlKind::Image:
+      return static_cast<const Image&>(control).Picture != nullptr;
+    case ControlKind::SubReport:
+      return false;
+    case ControlKind::Line:
+    case ControlKind::Shape:
+    case ControlKind::CheckBox:
+      break;
+  }
+  return true;
+}
+
+bool StandsBeside(float top, float bottom, const Rect& line) {
+  return top < line.Bottom() && bottom > line.Top;
+}
+
+// Left and right edges of all that stands at the height of `line`.
+std::vector<float> EdgesBeside(const TextControl& text, const Section& section, const Rect& line,
+                               const Band& band, float left) {
+  std::vector<float> edges;
+  for (const auto& control : section.Controls()) {
+    if (control.get() == &text || !control->Visible || !PrintsAnything(*control)) continue;
+    if (!StandsBeside(control->Top, control->Bottom(), line)) continue;
+    edges.push_back(control->Left);
+    edges.push_back(control->Left + control->Width);
+  }
+  for (const Item& item : band.Items) {
+    if (item.Kind != ItemKind::Text || !StandsBeside(item.Box.Top, item.Box.Bottom(), line)) continue;
+    edges.push_back(item.Box.Left - left);
+    edges.push_back(item.Box.Right() - left);
+  }
+  return edges;
+}
+
+}  // namespace
+
+LineRoom RoomOfLine(const TextControl& text, const Section& section, const Rect& line, const Band& band,
+                    float left, float paper) {
+  LineRoom room{text.Left, text.Left + text.Width};
+  if (text.Style.Alignment == Align::Centre) return room;
+  const bool toTheRight = text.Style.Alignment == Align::Left;
+  float limit = toTheRight ? paper : 0;
+  for (const float edge : EdgesBeside(text, section, line, band, left)) {
+    if (toTheRight && edge > room.Left) limit = std::min(limit, edge);
+    if (!toTheRight && edge < room.Right) limit = std::max(limit, edge);
+  }
+  if (toTheRight) {
+    room.Right = std::max(room.Right, limit - Gap);
+  } else {
+    room.Left = std::min(room.Left, limit + Gap);
+  }
+  return room;
+}
+
+}  // namespace tarvis

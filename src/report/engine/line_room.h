@@ -1,0 +1,23 @@
+// The room of a text that stands on one line and is wider than its box.
+#pragma once
+
+#include "report/engine/band.h"
+
+namespace tarvis {
+
+struct LineRoom {
+  float Left = 0;
+  float Right = 0;
+
+  float Width() const { return Right - Left; }
+};
+
+// The box of `text` and the free room beside it, on the side that it isn't aligned to: up to the next control
+// that prints anything, to what was printed in `band` before, to a frame around the text, or to the paper's
+// edge
+// (`paper`). Centred text has its box only. `line` is where the line stands, as high as it is printed. All in
+// twips relative to the section, but for the items of `band`, which are shifted by `left`.
+LineRoom RoomOfLine(const TextControl& text, const Section& section, const Rect& line, const Band& band,
+                    float left, float paper);
+
+}  // namespace tarvis
