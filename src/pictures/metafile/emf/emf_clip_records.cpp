@@ -61,16 +61,16 @@ void PaintRegion(EmfPlayback& p, ByteReader& r) {
 }
 
 constexpr EmfRecord Records[] = {
-    {26, [](EmfPlayback& p, ByteReader& r) { p.Draw.OffsetClip(ReadPoint32(r)); }},
-    {28, [](EmfPlayback& p, ByteReader&) { p.Draw.SetMetaClip(); }},
-    {29, [](EmfPlayback& p, ByteReader& r) { p.Draw.ExcludeClip(ReadBox(r)); }},
-    {30, [](EmfPlayback& p, ByteReader& r) { p.Draw.IntersectClip(ReadBox(r)); }},
-    {67, [](EmfPlayback& p, ByteReader& r) { p.Draw.ClipToPath(ReadMode(r)); }},
-    {71, FillRegion},
-    {72, FrameRegion},
-    {73, InvertRegion},
-    {74, PaintRegion},
-    {75, ExtSelectClipRegion},
+    {Emr::OffsetClipRgn, [](EmfPlayback& p, ByteReader& r) { p.Draw.OffsetClip(ReadPoint32(r)); }},
+    {Emr::SetMetaRgn, [](EmfPlayback& p, ByteReader&) { p.Draw.SetMetaClip(); }},
+    {Emr::ExcludeClipRect, [](EmfPlayback& p, ByteReader& r) { p.Draw.ExcludeClip(ReadBox(r)); }},
+    {Emr::IntersectClipRect, [](EmfPlayback& p, ByteReader& r) { p.Draw.IntersectClip(ReadBox(r)); }},
+    {Emr::SelectClipPath, [](EmfPlayback& p, ByteReader& r) { p.Draw.ClipToPath(ReadMode(r)); }},
+    {Emr::FillRgn, FillRegion},
+    {Emr::FrameRgn, FrameRegion},
+    {Emr::InvertRgn, InvertRegion},
+    {Emr::PaintRgn, PaintRegion},
+    {Emr::ExtSelectClipRgn, ExtSelectClipRegion},
 };
 
 }  // namespace

@@ -219,15 +219,15 @@ void GradientFill(EmfPlayback& p, ByteReader& r) {
 }
 
 constexpr EmfRecord Records[] = {
-    {76, [](EmfPlayback& p, ByteReader& r) { BitBlock(p, r, false); }},
-    {77, [](EmfPlayback& p, ByteReader& r) { BitBlock(p, r, true); }},
-    {78, MaskBlock},
-    {79, ParallelogramBlock},
-    {80, SetDibBitsToDevice},
-    {81, StretchDibBits},
-    {114, AlphaBlend},
-    {116, TransparentBlock},
-    {118, GradientFill},
+    {Emr::BitBlt, [](EmfPlayback& p, ByteReader& r) { BitBlock(p, r, false); }},
+    {Emr::StretchBlt, [](EmfPlayback& p, ByteReader& r) { BitBlock(p, r, true); }},
+    {Emr::MaskBlt, MaskBlock},
+    {Emr::PlgBlt, ParallelogramBlock},
+    {Emr::SetDiBitsToDevice, SetDibBitsToDevice},
+    {Emr::StretchDiBits, StretchDibBits},
+    {Emr::AlphaBlend, AlphaBlend},
+    {Emr::TransparentBlt, TransparentBlock},
+    {Emr::GradientFill, GradientFill},
 };
 
 }  // namespace

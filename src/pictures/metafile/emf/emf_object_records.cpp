@@ -132,19 +132,19 @@ void ResizePalette(EmfPlayback& p, ByteReader& r) {
 }
 
 constexpr EmfRecord Records[] = {
-    {37, [](EmfPlayback& p, ByteReader& r) { p.Draw.Select(p.Object(r.U32())); }},
-    {38, CreatePen},
-    {39, CreateBrush},
-    {40, [](EmfPlayback& p, ByteReader& r) { p.Objects.erase(r.U32()); }},
-    {48, [](EmfPlayback& p, ByteReader& r) { p.Draw.Select(p.Object(r.U32())); }},
-    {49, CreatePalette},
-    {50, SetPaletteEntries},
-    {51, ResizePalette},
-    {52, nullptr},  // makes the palette the screen's
-    {82, CreateFont},
-    {93, [](EmfPlayback& p, ByteReader& r) { CreatePatternBrush(p, r, true); }},
-    {94, [](EmfPlayback& p, ByteReader& r) { CreatePatternBrush(p, r, false); }},
-    {95, ExtCreatePen},
+    {Emr::SelectObject, [](EmfPlayback& p, ByteReader& r) { p.Draw.Select(p.Object(r.U32())); }},
+    {Emr::CreatePen, CreatePen},
+    {Emr::CreateBrushIndirect, CreateBrush},
+    {Emr::DeleteObject, [](EmfPlayback& p, ByteReader& r) { p.Objects.erase(r.U32()); }},
+    {Emr::SelectPalette, [](EmfPlayback& p, ByteReader& r) { p.Draw.Select(p.Object(r.U32())); }},
+    {Emr::CreatePalette, CreatePalette},
+    {Emr::SetPaletteEntries, SetPaletteEntries},
+    {Emr::ResizePalette, ResizePalette},
+    {Emr::RealizePalette, nullptr},  // makes the palette the screen's
+    {Emr::ExtCreateFontIndirectW, CreateFont},
+    {Emr::CreateMonoBrush, [](EmfPlayback& p, ByteReader& r) { CreatePatternBrush(p, r, true); }},
+    {Emr::CreateDibPatternBrushPt, [](EmfPlayback& p, ByteReader& r) { CreatePatternBrush(p, r, false); }},
+    {Emr::ExtCreatePen, ExtCreatePen},
 };
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <unordered_map>
 
 #include "pictures/metafile/context/record_reading.h"
+#include "pictures/metafile/emf/emf_record_types.h"
 
 namespace tarvis {
 
@@ -24,7 +25,7 @@ struct EmfPlayback {
 using EmfRecordFunction = void (*)(EmfPlayback& playback, ByteReader& reader);
 
 struct EmfRecord {
-  std::uint32_t Type;
+  Emr Type;
   EmfRecordFunction Play;  // null: nothing to draw, and nothing missed
 };
 
@@ -34,8 +35,6 @@ std::span<const EmfRecord> EmfShapeRecords();
 std::span<const EmfRecord> EmfClipRecords();
 std::span<const EmfRecord> EmfTextRecords();
 std::span<const EmfRecord> EmfImageRecords();
-
-inline constexpr std::uint32_t EmfEndRecord = 14, EmfCommentRecord = 70;
 
 // The rectangles of a region at the reader's place.
 MetaRegion ReadEmfRegion(ByteReader& reader, std::size_t size);

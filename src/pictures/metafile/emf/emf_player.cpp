@@ -1,3 +1,11 @@
+// Plays an enhanced metafile:
+//
+//   header ── EmfHeader            frame, device and their units
+//   records ─┬─ Emr::Comment       extended records: emf_plus/emf_plus_player.h
+//            └─ all others         by the tables of emf_playback.h, one file for each group of records
+//                  └─ context/drawing.h ── list/draw_list.h ── MetafilePicture
+//
+// A record that can't be played is counted and skipped; a file whose records don't hold together is refused.
 #include <array>
 #include <cmath>
 #include <cstring>
@@ -67,8 +75,9 @@ struct RecordTable {
     for (const auto records : {EmfStateRecords(), EmfObjectRecords(), EmfShapeRecords(), EmfClipRecords(),
                                EmfTextRecords(), EmfImageRecords()}) {
       for (const EmfRecord& record : records) {
-        Play[record.Type] = record.Play;
-        Known[record.Type] = true;
+        const auto type = static_cast<std::size_t>(record.Type);
+        Play[type] = record.Play;
+        Known[type] = true;
       }
     }
   }
@@ -108,7 +117,7 @@ class EmfPlayer {
     if (size < RecordHeadSize) throw BadMetafile("a record makes no sense");
     const Bytes record = Slice(reader_.All(), start, size);
     reader_.Seek(start + size);
-    if (type == EmfEndRecord) {
+    if (type == static_cast<std::uint32_t>(Emr::Eof)) {
       ended_ = true;
     } else {
       PlayRecord(type, record);
@@ -125,7 +134,7 @@ class EmfPlayer {
   }
 
   void PlayRecord(std::uint32_t type, Bytes record) {
-    if (type == EmfCommentRecord) return PlayComment(record);
+    if (type == static_cast<std::uint32_t>(Emr::Comment)) return PlayComment(record);
     if (plus_.Rules()) return;
     if (type >= table_.Play.size() || !table_.Known[type]) {
       ++counts_.Skipped[type];

@@ -51,62 +51,72 @@ void SetMapMode(EmfPlayback& p, ByteReader& r) {
 }
 
 constexpr EmfRecord Records[] = {
-    {9, [](EmfPlayback& p, ByteReader& r) { p.Draw.State().WindowExtent = ReadPoint32(r); }},
-    {10, [](EmfPlayback& p, ByteReader& r) { p.Draw.State().WindowOrigin = ReadPoint32(r); }},
-    {11, [](EmfPlayback& p, ByteReader& r) { p.Draw.State().ViewportExtent = ReadPoint32(r); }},
-    {12, [](EmfPlayback& p, ByteReader& r) { p.Draw.State().ViewportOrigin = ReadPoint32(r); }},
-    {13, nullptr},  // origin of brushes
-    {16, nullptr},  // how fonts are matched
-    {17, SetMapMode},
-    {18, [](EmfPlayback& p, ByteReader& r) { p.Draw.State().BackgroundMode = r.U32(); }},
-    {19, [](EmfPlayback& p, ByteReader& r) { p.Draw.State().PolyFillMode = r.U32(); }},
-    {20, [](EmfPlayback& p, ByteReader& r) { p.Draw.State().Rop2 = r.U32(); }},
-    {21, nullptr},  // how bitmaps shrink
-    {22, [](EmfPlayback& p, ByteReader& r) { p.Draw.State().TextAlign = r.U32(); }},
-    {23, nullptr},  // colour adjustment of halftones
-    {24, [](EmfPlayback& p, ByteReader& r) { p.Draw.State().TextColor = ReadColor(r, p.Palette()); }},
-    {25, [](EmfPlayback& p, ByteReader& r) { p.Draw.State().BackgroundColor = ReadColor(r, p.Palette()); }},
-    {31, [](EmfPlayback& p,
-            ByteReader& r) { p.Draw.State().ViewportExtent = Scaled(p.Draw.State().ViewportExtent, r); }},
-    {32, [](EmfPlayback& p,
-            ByteReader& r) { p.Draw.State().WindowExtent = Scaled(p.Draw.State().WindowExtent, r); }},
-    {33, [](EmfPlayback& p, ByteReader&) { p.Draw.Dc().Save(); }},
-    {34, [](EmfPlayback& p, ByteReader& r) { p.Draw.Dc().Restore(r.I32()); }},
-    {35, [](EmfPlayback& p, ByteReader& r) { p.Draw.State().World = ReadTransform(r); }},
-    {36, [](EmfPlayback& p, ByteReader& r) { ModifyTransform(p.Draw.State(), r); }},
-    {57, [](EmfPlayback& p, ByteReader& r) { p.Draw.State().Clockwise = r.U32() == 2; }},
-    {58,
+    {Emr::SetWindowExtEx,
+     [](EmfPlayback& p, ByteReader& r) { p.Draw.State().WindowExtent = ReadPoint32(r); }},
+    {Emr::SetWindowOrgEx,
+     [](EmfPlayback& p, ByteReader& r) { p.Draw.State().WindowOrigin = ReadPoint32(r); }},
+    {Emr::SetViewportExtEx,
+     [](EmfPlayback& p, ByteReader& r) { p.Draw.State().ViewportExtent = ReadPoint32(r); }},
+    {Emr::SetViewportOrgEx,
+     [](EmfPlayback& p, ByteReader& r) { p.Draw.State().ViewportOrigin = ReadPoint32(r); }},
+    {Emr::SetBrushOrgEx, nullptr},   // origin of brushes
+    {Emr::SetMapperFlags, nullptr},  // how fonts are matched
+    {Emr::SetMapMode, SetMapMode},
+    {Emr::SetBkMode, [](EmfPlayback& p, ByteReader& r) { p.Draw.State().BackgroundMode = r.U32(); }},
+    {Emr::SetPolyFillMode, [](EmfPlayback& p, ByteReader& r) { p.Draw.State().PolyFillMode = r.U32(); }},
+    {Emr::SetRop2, [](EmfPlayback& p, ByteReader& r) { p.Draw.State().Rop2 = r.U32(); }},
+    {Emr::SetStretchBltMode, nullptr},  // how bitmaps shrink
+    {Emr::SetTextAlign, [](EmfPlayback& p, ByteReader& r) { p.Draw.State().TextAlign = r.U32(); }},
+    {Emr::SetColorAdjustment, nullptr},  // colour adjustment of halftones
+    {Emr::SetTextColor,
+     [](EmfPlayback& p, ByteReader& r) { p.Draw.State().TextColor = ReadColor(r, p.Palette()); }},
+    {Emr::SetBkColor,
+     [](EmfPlayback& p, ByteReader& r) { p.Draw.State().BackgroundColor = ReadColor(r, p.Palette()); }},
+    {Emr::ScaleViewportExtEx,
+     [](EmfPlayback& p, ByteReader& r) {
+       p.Draw.State().ViewportExtent = Scaled(p.Draw.State().ViewportExtent, r);
+     }},
+    {Emr::ScaleWindowExtEx,
+     [](EmfPlayback& p, ByteReader& r) {
+       p.Draw.State().WindowExtent = Scaled(p.Draw.State().WindowExtent, r);
+     }},
+    {Emr::SaveDc, [](EmfPlayback& p, ByteReader&) { p.Draw.Dc().Save(); }},
+    {Emr::RestoreDc, [](EmfPlayback& p, ByteReader& r) { p.Draw.Dc().Restore(r.I32()); }},
+    {Emr::SetWorldTransform, [](EmfPlayback& p, ByteReader& r) { p.Draw.State().World = ReadTransform(r); }},
+    {Emr::ModifyWorldTransform, [](EmfPlayback& p, ByteReader& r) { ModifyTransform(p.Draw.State(), r); }},
+    {Emr::SetArcDirection, [](EmfPlayback& p, ByteReader& r) { p.Draw.State().Clockwise = r.U32() == 2; }},
+    {Emr::SetMiterLimit,
      [](EmfPlayback& p, ByteReader& r) {
        const std::uint32_t limit = r.U32();
        // Some writers store a floating-point number here.
        const double value = limit > 0xFFFF ? static_cast<double>(std::bit_cast<float>(limit)) : limit;
        if (std::isfinite(value) && value >= 1) p.Draw.State().MiterLimit = value;
      }},
-    {98, nullptr},  // colour management, to 101
-    {99, nullptr},
-    {100, nullptr},
-    {101, nullptr},
-    {104, nullptr},  // pixel format
-    {105, nullptr},  // escapes to a driver
-    {106, nullptr},
-    {109, nullptr},  // font links
-    {110, nullptr},
-    {111, nullptr},
-    {112, nullptr},
-    {113, nullptr},
-    {115,
+    {Emr::SetIcmMode, nullptr},  // colour management, to 101
+    {Emr::CreateColorSpace, nullptr},
+    {Emr::SetColorSpace, nullptr},
+    {Emr::DeleteColorSpace, nullptr},
+    {Emr::PixelFormat, nullptr},  // pixel format
+    {Emr::DrawEscape, nullptr},   // escapes to a driver
+    {Emr::ExtEscape, nullptr},
+    {Emr::ForceUfiMapping, nullptr},  // font links
+    {Emr::NamedEscape, nullptr},
+    {Emr::ColorCorrectPalette, nullptr},
+    {Emr::SetIcmProfileA, nullptr},
+    {Emr::SetIcmProfileW, nullptr},
+    {Emr::SetLayout,
      [](EmfPlayback&, ByteReader& r) {
        if (r.U32() != 0) throw SkipRecord();
      }},
-    {119, nullptr},
-    {120,
+    {Emr::SetLinkedUfis, nullptr},
+    {Emr::SetTextJustification,
      [](EmfPlayback& p, ByteReader& r) {
        const double extra = r.I32();
        const int count = r.I32();
        p.Draw.State().BreakExtra = count > 0 ? extra / count : 0;
      }},
-    {121, nullptr},
-    {122, nullptr},
+    {Emr::ColorMatchToTargetW, nullptr},
+    {Emr::CreateColorSpaceW, nullptr},
 };
 
 }  // namespace

@@ -58,8 +58,9 @@ void SmallTextOut(EmfPlayback& p, ByteReader& r) {
 }
 
 constexpr EmfRecord Records[] = {
-    {83, ExtTextOut<false>}, {84, ExtTextOut<true>}, {96, PolyTextOut<false>},
-    {97, PolyTextOut<true>}, {108, SmallTextOut},
+    {Emr::ExtTextOutA, ExtTextOut<false>},   {Emr::ExtTextOutW, ExtTextOut<true>},
+    {Emr::PolyTextOutA, PolyTextOut<false>}, {Emr::PolyTextOutW, PolyTextOut<true>},
+    {Emr::SmallTextOut, SmallTextOut},
 };
 
 }  // namespace

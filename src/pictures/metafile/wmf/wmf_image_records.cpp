@@ -122,10 +122,13 @@ void OldBitBlock(WmfPlayback& p, ByteReader& r, bool stretch) {
 }
 
 constexpr WmfRecord Records[] = {
-    {0x061D, PatternBlock},    {0x0922, [](WmfPlayback& p, ByteReader& r) { OldBitBlock(p, r, false); }},
-    {0x0940, DibBitBlock},     {0x0B23, [](WmfPlayback& p, ByteReader& r) { OldBitBlock(p, r, true); }},
-    {0x0B41, DibStretchBlock}, {0x0D33, SetDibToDevice},
-    {0x0F43, StretchDib},
+    {Meta::PatBlt, PatternBlock},
+    {Meta::BitBlt, [](WmfPlayback& p, ByteReader& r) { OldBitBlock(p, r, false); }},
+    {Meta::DibBitBlt, DibBitBlock},
+    {Meta::StretchBlt, [](WmfPlayback& p, ByteReader& r) { OldBitBlock(p, r, true); }},
+    {Meta::DibStretchBlt, DibStretchBlock},
+    {Meta::SetDibToDev, SetDibToDevice},
+    {Meta::StretchDib, StretchDib},
 };
 
 }  // namespace

@@ -154,26 +154,26 @@ void FrameRegion(WmfPlayback& p, ByteReader& r) {
 }
 
 constexpr WmfRecord Records[] = {
-    {0x0035, nullptr},  // makes the palette the screen's
-    {0x0037, SetPaletteEntries},
-    {0x00F7, CreatePalette},
-    {0x012A, [](WmfPlayback& p, ByteReader& r) { p.Draw.InvertRegion(RegionAt(p, r.U16())); }},
-    {0x012B,
+    {Meta::RealizePalette, nullptr},  // makes the palette the screen's
+    {Meta::SetPalEntries, SetPaletteEntries},
+    {Meta::CreatePalette, CreatePalette},
+    {Meta::InvertRegion, [](WmfPlayback& p, ByteReader& r) { p.Draw.InvertRegion(RegionAt(p, r.U16())); }},
+    {Meta::PaintRegion,
      [](WmfPlayback& p, ByteReader& r) { p.Draw.FillRegion(RegionAt(p, r.U16()), *p.Draw.State().Brush); }},
-    {0x012C, [](WmfPlayback& p, ByteReader& r) { SelectClipRegion(p, r.U16()); }},
-    {0x012D, SelectObject},
-    {0x0139, nullptr},  // size of the palette
-    {0x0142, CreateDibPattern},
-    {0x01F0, [](WmfPlayback& p, ByteReader& r) { p.Delete(r.U16()); }},
-    {0x01F9, CreatePattern},
-    {0x0228, FillRegion},
-    {0x0234, [](WmfPlayback& p, ByteReader& r) { p.Draw.Select(p.Object(r.U16())); }},
-    {0x02FA, CreatePen},
-    {0x02FB, CreateFont},
-    {0x02FC, CreateBrush},
-    {0x0429, FrameRegion},
-    {0x0436, SetPaletteEntries},
-    {0x06FF,
+    {Meta::SelectClipRegion, [](WmfPlayback& p, ByteReader& r) { SelectClipRegion(p, r.U16()); }},
+    {Meta::SelectObject, SelectObject},
+    {Meta::ResizePalette, nullptr},  // size of the palette
+    {Meta::DibCreatePatternBrush, CreateDibPattern},
+    {Meta::DeleteObject, [](WmfPlayback& p, ByteReader& r) { p.Delete(r.U16()); }},
+    {Meta::CreatePatternBrush, CreatePattern},
+    {Meta::FillRegion, FillRegion},
+    {Meta::SelectPalette, [](WmfPlayback& p, ByteReader& r) { p.Draw.Select(p.Object(r.U16())); }},
+    {Meta::CreatePenIndirect, CreatePen},
+    {Meta::CreateFontIndirect, CreateFont},
+    {Meta::CreateBrushIndirect, CreateBrush},
+    {Meta::FrameRegion, FrameRegion},
+    {Meta::AnimatePalette, SetPaletteEntries},
+    {Meta::CreateRegion,
      [](WmfPlayback& p, ByteReader& r) {
        try {
          p.Add(RegionPtr(std::make_shared<MetaRegion>(ReadRegion(r))));

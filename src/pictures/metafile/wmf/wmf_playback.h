@@ -2,6 +2,7 @@
 #pragma once
 
 #include "pictures/metafile/context/record_reading.h"
+#include "pictures/metafile/wmf/wmf_record_types.h"
 
 namespace tarvis {
 
@@ -25,7 +26,7 @@ struct WmfPlayback {
 using WmfRecordFunction = void (*)(WmfPlayback& playback, ByteReader& reader);
 
 struct WmfRecord {
-  std::uint16_t Function;
+  Meta Function;
   WmfRecordFunction Play;  // null: nothing to draw, and nothing missed
 };
 
@@ -34,9 +35,6 @@ std::span<const WmfRecord> WmfObjectRecords();
 std::span<const WmfRecord> WmfShapeRecords();
 std::span<const WmfRecord> WmfTextRecords();
 std::span<const WmfRecord> WmfImageRecords();
-
-inline constexpr std::uint16_t WmfSetWindowOrigin = 0x020B, WmfSetWindowExtent = 0x020C,
-                               WmfSetViewportOrigin = 0x020D, WmfSetViewportExtent = 0x020E;
 
 // Parameters stand in reverse order in these records: y before x, and bottom, right, top, left.
 inline QPointF ReadYX(ByteReader& reader) {

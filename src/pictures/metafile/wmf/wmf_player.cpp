@@ -1,3 +1,12 @@
+// Plays an old-style metafile:
+//
+//   placeable header, if any ── box of the picture and units to the inch
+//   records, first time      ── FindExtents: which window and viewport the file itself names
+//   records, second time     ── by the tables of wmf_playback.h, one file for each group of records
+//                                  └─ context/drawing.h ── list/draw_list.h ── MetafilePicture
+//
+// Objects have no numbers of their own: each takes the lowest free one, so an object that can't be played
+// takes its number all the same.
 #include <cmath>
 #include <optional>
 #include <unordered_map>
@@ -45,8 +54,8 @@ bool ForEachRecord(Bytes bytes, Play play) {
   while (reader.Left() >= RecordHeadSize) {
     const std::size_t start = reader.Position();
     const std::size_t size = std::size_t{reader.U32()} * 2;
-    const std::uint16_t function = reader.U16();
-    if (function == 0) return true;
+    const auto function = static_cast<Meta>(reader.U16());
+    if (function == Meta::Eof) return true;
     if (size < RecordHeadSize) throw BadMetafile("a record makes no sense");
     const Bytes record = Slice(bytes, start, size);
     reader.Seek(start + size);
@@ -65,14 +74,14 @@ FirstExtents FindExtents(Bytes records) {
     ByteReader reader(parameters);
     if (!first) first = ReadYX(reader);
   };
-  ForEachRecord(records, [&](std::uint16_t function, Bytes parameters) {
-    if (function == WmfSetWindowOrigin) keep(found.WindowOrigin, parameters);
-    if (function == WmfSetWindowExtent && !IsExtent(found.WindowExtent)) {
+  ForEachRecord(records, [&](Meta function, Bytes parameters) {
+    if (function == Meta::SetWindowOrg) keep(found.WindowOrigin, parameters);
+    if (function == Meta::SetWindowExt && !IsExtent(found.WindowExtent)) {
       found.WindowExtent.reset();
       keep(found.WindowExtent, parameters);
     }
-    if (function == WmfSetViewportOrigin) keep(found.ViewportOrigin, parameters);
-    if (function == WmfSetViewportExtent) keep(found.ViewportExtent, parameters);
+    if (function == Meta::SetViewportOrg) keep(found.ViewportOrigin, parameters);
+    if (function == Meta::SetViewportExt) keep(found.ViewportExtent, parameters);
   });
   return found;
 }
@@ -98,7 +107,7 @@ class WmfPlayer {
   std::shared_ptr<const MetafilePicture> Play() {
     SetExtents(FindExtents(records_));
     const bool ended = ForEachRecord(
-        records_, [this](std::uint16_t function, Bytes parameters) { PlayRecord(function, parameters); });
+        records_, [this](Meta function, Bytes parameters) { PlayRecord(function, parameters); });
     if (!ended && (words_ * 2 > records_.size() + HeaderSize || records_.empty())) throw OutOfBytes();
     if (list_.Commands().empty()) throw BadMetafile("it shows nothing");
     const QRectF frame = frame_.isEmpty() ? list_.Bounds() : frame_;
@@ -134,10 +143,10 @@ class WmfPlayer {
     return {std::abs(size.x()), std::abs(size.y())};
   }
 
-  void PlayRecord(std::uint16_t function, Bytes parameters) {
+  void PlayRecord(Meta function, Bytes parameters) {
     const auto found = table_.find(function);
     if (found == table_.end()) {
-      ++counts_.Skipped[function];
+      ++counts_.Skipped[static_cast<std::uint16_t>(function)];
       return;
     }
     if (found->second == nullptr) return;
@@ -150,11 +159,12 @@ class WmfPlayer {
     }
   }
 
-  void Skip(std::uint16_t function) {
-    ++counts_.Skipped[function];
+  void Skip(Meta function) {
+    ++counts_.Skipped[static_cast<std::uint16_t>(function)];
     // Objects that can't be played take their number all the same.
-    const bool creates = (function & 0xF0) == 0xF0 && function != 0x01F0;
-    if (creates || function == 0x0142) playback_.Add({});
+    const bool creates =
+        (static_cast<std::uint16_t>(function) & 0xF0) == 0xF0 && function != Meta::DeleteObject;
+    if (creates || function == Meta::DibCreatePatternBrush) playback_.Add({});
   }
 
   std::optional<Placeable> placeable_;
@@ -162,7 +172,7 @@ class WmfPlayer {
   Bytes records_;
   DrawList list_;
   WmfPlayback playback_;
-  std::unordered_map<std::uint16_t, WmfRecordFunction> table_;
+  std::unordered_map<Meta, WmfRecordFunction> table_;
   QRectF frame_;
   RecordCounts counts_;
 };

@@ -42,18 +42,18 @@ void SetPixel(WmfPlayback& p, ByteReader& r) {
 }
 
 constexpr WmfRecord Records[] = {
-    {0x0213, [](WmfPlayback& p, ByteReader& r) { p.Draw.LineTo(ReadYX(r)); }},
-    {0x0214, [](WmfPlayback& p, ByteReader& r) { p.Draw.MoveTo(ReadYX(r)); }},
-    {0x0324, [](WmfPlayback& p, ByteReader& r) { p.Draw.Polygons({ReadPolyPoints(r)}); }},
-    {0x0325, [](WmfPlayback& p, ByteReader& r) { p.Draw.Polyline(ReadPolyPoints(r)); }},
-    {0x0418, [](WmfPlayback& p, ByteReader& r) { p.Draw.Ellipse(ReadBoxFromBottom(r)); }},
-    {0x041B, [](WmfPlayback& p, ByteReader& r) { p.Draw.Rectangle(ReadBoxFromBottom(r)); }},
-    {0x041F, SetPixel},
-    {0x0538, PolyPolygon},
-    {0x061C, RoundRect},
-    {0x0817, Arc<ArcKind::Open>},
-    {0x081A, Arc<ArcKind::Pie>},
-    {0x0830, Arc<ArcKind::Chord>},
+    {Meta::LineTo, [](WmfPlayback& p, ByteReader& r) { p.Draw.LineTo(ReadYX(r)); }},
+    {Meta::MoveTo, [](WmfPlayback& p, ByteReader& r) { p.Draw.MoveTo(ReadYX(r)); }},
+    {Meta::Polygon, [](WmfPlayback& p, ByteReader& r) { p.Draw.Polygons({ReadPolyPoints(r)}); }},
+    {Meta::Polyline, [](WmfPlayback& p, ByteReader& r) { p.Draw.Polyline(ReadPolyPoints(r)); }},
+    {Meta::Ellipse, [](WmfPlayback& p, ByteReader& r) { p.Draw.Ellipse(ReadBoxFromBottom(r)); }},
+    {Meta::Rectangle, [](WmfPlayback& p, ByteReader& r) { p.Draw.Rectangle(ReadBoxFromBottom(r)); }},
+    {Meta::SetPixel, SetPixel},
+    {Meta::PolyPolygon, PolyPolygon},
+    {Meta::RoundRect, RoundRect},
+    {Meta::Arc, Arc<ArcKind::Open>},
+    {Meta::Pie, Arc<ArcKind::Pie>},
+    {Meta::Chord, Arc<ArcKind::Chord>},
 };
 
 }  // namespace

@@ -39,40 +39,46 @@ void SetJustification(WmfPlayback& p, ByteReader& r) {
 }
 
 constexpr WmfRecord Records[] = {
-    {0x001E, [](WmfPlayback& p, ByteReader&) { p.Draw.Dc().Save(); }},
-    {0x0102, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().BackgroundMode = r.U16(); }},
-    {0x0103, SetMapMode},
-    {0x0104, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().Rop2 = r.U16(); }},
-    {0x0105, nullptr},
-    {0x0106, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().PolyFillMode = r.U16(); }},
-    {0x0107, nullptr},  // how bitmaps shrink
-    {0x0108, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().CharacterExtra = r.I16(); }},
-    {0x0127, [](WmfPlayback& p, ByteReader& r) { p.Draw.Dc().Restore(r.I16()); }},
-    {0x012E, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().TextAlign = r.U16(); }},
-    {0x0149,
+    {Meta::SaveDc, [](WmfPlayback& p, ByteReader&) { p.Draw.Dc().Save(); }},
+    {Meta::SetBkMode, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().BackgroundMode = r.U16(); }},
+    {Meta::SetMapMode, SetMapMode},
+    {Meta::SetRop2, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().Rop2 = r.U16(); }},
+    {Meta::SetRelAbs, nullptr},
+    {Meta::SetPolyFillMode, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().PolyFillMode = r.U16(); }},
+    {Meta::SetStretchBltMode, nullptr},  // how bitmaps shrink
+    {Meta::SetTextCharExtra, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().CharacterExtra = r.I16(); }},
+    {Meta::RestoreDc, [](WmfPlayback& p, ByteReader& r) { p.Draw.Dc().Restore(r.I16()); }},
+    {Meta::SetTextAlign, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().TextAlign = r.U16(); }},
+    {Meta::SetLayout,
      [](WmfPlayback&, ByteReader& r) {
        if (r.U16() != 0) throw SkipRecord();
      }},
-    {0x0201, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().BackgroundColor = Color(p, r); }},
-    {0x0209, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().TextColor = Color(p, r); }},
-    {0x020A, SetJustification},
-    {WmfSetWindowOrigin, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().WindowOrigin = ReadYX(r); }},
-    {WmfSetWindowExtent,
+    {Meta::SetBkColor, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().BackgroundColor = Color(p, r); }},
+    {Meta::SetTextColor, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().TextColor = Color(p, r); }},
+    {Meta::SetTextJustification, SetJustification},
+    {Meta::SetWindowOrg, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().WindowOrigin = ReadYX(r); }},
+    {Meta::SetWindowExt,
      [](WmfPlayback& p, ByteReader& r) { SetExtent(p.Draw.State().WindowExtent, ReadYX(r)); }},
-    {WmfSetViewportOrigin, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().ViewportOrigin = ReadYX(r); }},
-    {WmfSetViewportExtent,
+    {Meta::SetViewportOrg, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().ViewportOrigin = ReadYX(r); }},
+    {Meta::SetViewportExt,
      [](WmfPlayback& p, ByteReader& r) { SetExtent(p.Draw.State().ViewportExtent, ReadYX(r)); }},
-    {0x020F, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().WindowOrigin += ReadYX(r); }},
-    {0x0211, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().ViewportOrigin += ReadYX(r); }},
-    {0x0220, [](WmfPlayback& p, ByteReader& r) { p.Draw.OffsetClip(ReadYX(r)); }},
-    {0x0231, nullptr},  // how fonts are matched
-    {0x0410, [](WmfPlayback& p,
-                ByteReader& r) { p.Draw.State().WindowExtent = Scaled(p.Draw.State().WindowExtent, r); }},
-    {0x0412, [](WmfPlayback& p,
-                ByteReader& r) { p.Draw.State().ViewportExtent = Scaled(p.Draw.State().ViewportExtent, r); }},
-    {0x0415, [](WmfPlayback& p, ByteReader& r) { p.Draw.ExcludeClip(ReadBoxFromBottom(r)); }},
-    {0x0416, [](WmfPlayback& p, ByteReader& r) { p.Draw.IntersectClip(ReadBoxFromBottom(r)); }},
-    {0x0626, nullptr},  // escapes to a driver
+    {Meta::OffsetWindowOrg, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().WindowOrigin += ReadYX(r); }},
+    {Meta::OffsetViewportOrg,
+     [](WmfPlayback& p, ByteReader& r) { p.Draw.State().ViewportOrigin += ReadYX(r); }},
+    {Meta::OffsetClipRgn, [](WmfPlayback& p, ByteReader& r) { p.Draw.OffsetClip(ReadYX(r)); }},
+    {Meta::SetMapperFlags, nullptr},  // how fonts are matched
+    {Meta::ScaleWindowExt,
+     [](WmfPlayback& p, ByteReader& r) {
+       p.Draw.State().WindowExtent = Scaled(p.Draw.State().WindowExtent, r);
+     }},
+    {Meta::ScaleViewportExt,
+     [](WmfPlayback& p, ByteReader& r) {
+       p.Draw.State().ViewportExtent = Scaled(p.Draw.State().ViewportExtent, r);
+     }},
+    {Meta::ExcludeClipRect, [](WmfPlayback& p, ByteReader& r) { p.Draw.ExcludeClip(ReadBoxFromBottom(r)); }},
+    {Meta::IntersectClipRect,
+     [](WmfPlayback& p, ByteReader& r) { p.Draw.IntersectClip(ReadBoxFromBottom(r)); }},
+    {Meta::Escape, nullptr},  // escapes to a driver
 };
 
 }  // namespace

@@ -40,8 +40,8 @@ void ExtTextOut(WmfPlayback& p, ByteReader& r) {
 }
 
 constexpr WmfRecord Records[] = {
-    {0x0521, TextOut},
-    {0x0A32, ExtTextOut},
+    {Meta::TextOut, TextOut},
+    {Meta::ExtTextOut, ExtTextOut},
 };
 
 }  // namespace
