@@ -1,11 +1,11 @@
+// Filling with brushes and drawing with pens of the extended records.
 #include <cmath>
 
-#include "pictures/metafile/emf_plus/emf_plus_player.h"
+#include "pictures/metafile/emf_plus/emf_plus_playback.h"
 
 namespace tarvis {
 namespace {
 
-constexpr std::uint32_t ColorFlag = 0x8000;
 constexpr int RingsOfOne = 48;
 constexpr int MostRings = 3000;  // in a whole picture
 constexpr int MostCorners = 400;
@@ -68,39 +68,39 @@ QPainterPath Shortened(const QPainterPath& path, double startInset, double endIn
 
 }  // namespace
 
-PlusBrush EmfPlusPlayer::BrushOf(std::uint32_t flags, std::uint32_t brush) const {
-  if ((flags & ColorFlag) != 0) return {ListBrush{QBrush(PlusColor(brush))}, nullptr};
+PlusBrush PlusPlayback::BrushOf(std::uint32_t flags, std::uint32_t brush) const {
+  if ((flags & PlusColorFlag) != 0) return {ListBrush{QBrush(PlusColor(brush))}, nullptr};
   auto plus = At<PlusBrush>(brush);
   QBrush& list = plus.List.Brush;
   if (list.gradient() != nullptr || plus.List.Placed)
-    list.setTransform(list.transform() * draw_.Dc().ToDevice());
+    list.setTransform(list.transform() * Draw.Dc().ToDevice());
   return plus;
 }
 
-void EmfPlusPlayer::Fill(const QPainterPath& path, std::uint32_t flags, std::uint32_t brush) {
+void PlusPlayback::Fill(const QPainterPath& path, std::uint32_t flags, std::uint32_t brush) {
   const PlusBrush plus = BrushOf(flags, brush);
   if (plus.Path != nullptr) return FillPathGradient(path, *plus.Path);
-  draw_.Paint(path, nullptr, &plus.List);
+  Draw.Paint(path, nullptr, &plus.List);
 }
 
-void EmfPlusPlayer::FillPathGradient(const QPainterPath& path, const PathGradient& gradient) {
+void PlusPlayback::FillPathGradient(const QPainterPath& path, const PathGradient& gradient) {
   if (gradient.Outline.elementCount() < 2) throw SkipRecord();
-  const auto clip = draw_.State().Clip;
-  const QTransform world = draw_.State().World;
-  draw_.SelectClip(draw_.Dc().ToDevice().map(path), ClipMode::And);
-  draw_.State().World = gradient.Transform * world;
+  const auto clip = Draw.State().Clip;
+  const QTransform world = Draw.State().World;
+  Draw.SelectClip(Draw.Dc().ToDevice().map(path), ClipMode::And);
+  Draw.State().World = gradient.Transform * world;
   const bool wedges = gradient.Around.size() > 1 && gradient.Outline.elementCount() <= MostCorners;
   if (wedges) {
     Wedges(gradient);
   } else {
     Rings(gradient);
   }
-  draw_.State().World = world;
-  draw_.State().Clip = clip;
+  Draw.State().World = world;
+  Draw.State().Clip = clip;
 }
 
 // The outline shrinks towards the centre, ring by ring.
-void EmfPlusPlayer::Rings(const PathGradient& gradient) {
+void PlusPlayback::Rings(const PathGradient& gradient) {
   const int rings = (rings_ += RingsOfOne) <= MostRings ? RingsOfOne : 4;
   for (int i = 0; i < rings; ++i) {
     const auto place = static_cast<double>(i) / rings;
@@ -109,12 +109,12 @@ void EmfPlusPlayer::Rings(const PathGradient& gradient) {
     const QTransform shrink = QTransform::fromTranslate(-center.x(), -center.y()) *
                               QTransform::fromScale(1 - place, 1 - place) *
                               QTransform::fromTranslate(center.x(), center.y());
-    draw_.Paint(shrink.map(gradient.Outline), nullptr, &brush);
+    Draw.Paint(shrink.map(gradient.Outline), nullptr, &brush);
   }
 }
 
 // A triangle from each side of the outline to the centre.
-void EmfPlusPlayer::Wedges(const PathGradient& gradient) {
+void PlusPlayback::Wedges(const PathGradient& gradient) {
   const std::vector<QColor>& around = gradient.Around;
   const auto color = [&](std::size_t i) { return around[std::min(i, around.size() - 1)]; };
   const auto sides = static_cast<std::size_t>(gradient.Outline.elementCount()) - 1;
@@ -123,34 +123,34 @@ void EmfPlusPlayer::Wedges(const PathGradient& gradient) {
     const auto corner = [&](std::size_t k) {
       return QPointF(gradient.Outline.elementAt(static_cast<int>(k)));
     };
-    draw_.GradientTriangle({gradient.Center, corner(i), corner(i + 1)},
-                           {gradient.Inside, color(i), color(next)});
+    Draw.GradientTriangle({gradient.Center, corner(i), corner(i + 1)},
+                          {gradient.Inside, color(i), color(next)});
   }
 }
 
-void EmfPlusPlayer::Stroke(const QPainterPath& path, std::uint32_t pen) {
+void PlusPlayback::Stroke(const QPainterPath& path, std::uint32_t pen) {
   const auto& plus = At<PlusPen>(pen & 0xFF);
   ListPen list = plus.Pen;
-  const double scale = draw_.Dc().Scale();
+  const double scale = Draw.Dc().Scale();
   list.Width = plus.InPixels ? plus.Width : plus.Width * scale;
   list.Hairline = list.Width == 0;
   if (list.Pen.brush().gradient() != nullptr) {
     QBrush brush = list.Pen.brush();
-    brush.setTransform(brush.transform() * draw_.Dc().ToDevice());
+    brush.setTransform(brush.transform() * Draw.Dc().ToDevice());
     list.Pen.setBrush(brush);
   }
   const bool capped = !plus.Start.Shape.isEmpty() || !plus.End.Shape.isEmpty();
-  if (!capped || path.elementCount() > MostCappedElements) return draw_.Paint(path, &list, nullptr);
+  if (!capped || path.elementCount() > MostCappedElements) return Draw.Paint(path, &list, nullptr);
   const double width = plus.InPixels && scale > 0 ? plus.Width / scale : plus.Width;
-  draw_.Paint(Shortened(path, plus.Start.Inset * width, plus.End.Inset * width), &list, nullptr);
+  Draw.Paint(Shortened(path, plus.Start.Inset * width, plus.End.Inset * width), &list, nullptr);
   Caps(path, plus, width);
 }
 
-void EmfPlusPlayer::Caps(const QPainterPath& path, const PlusPen& pen, double width) {
+void PlusPlayback::Caps(const QPainterPath& path, const PlusPen& pen, double width) {
   const ListBrush brush{pen.Pen.Pen.color()};
   for (const LineEnds& line : OpenLines(path)) {
-    draw_.Paint(CapPlace(line.AfterStart, line.Start, width).map(pen.Start.Shape), nullptr, &brush);
-    draw_.Paint(CapPlace(line.BeforeEnd, line.End, width).map(pen.End.Shape), nullptr, &brush);
+    Draw.Paint(CapPlace(line.AfterStart, line.Start, width).map(pen.Start.Shape), nullptr, &brush);
+    Draw.Paint(CapPlace(line.BeforeEnd, line.End, width).map(pen.End.Shape), nullptr, &brush);
   }
 }
 

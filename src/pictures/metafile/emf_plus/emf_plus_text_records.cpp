@@ -1,4 +1,5 @@
-#include "pictures/metafile/emf_plus/emf_plus_player.h"
+// Extended records of text.
+#include "pictures/metafile/emf_plus/emf_plus_playback.h"
 
 namespace tarvis {
 namespace {
@@ -6,27 +7,19 @@ namespace {
 constexpr std::uint32_t AlignCenter = 6, AlignRight = 2, AlignBaseline = 24;
 constexpr std::size_t MostCharacters = 0xFFFF;
 
-}  // namespace
-
-bool EmfPlusPlayer::PlayText(std::uint32_t type, std::uint32_t flags, ByteReader& r) {
-  if (type == 0x401C) String(flags, r);
-  if (type == 0x4036) DriverString(flags, r);
-  return type == 0x401C || type == 0x4036;
-}
-
-void EmfPlusPlayer::SetFont(std::uint32_t flags, std::uint32_t brush) {
-  draw_.State().Font = std::make_shared<MetaFont>(At<PlusFont>(flags & 0xFF).Font);
-  const QBrush ink = BrushOf(flags, brush).List.Brush;
-  draw_.State().TextColor = ink.gradient() != nullptr ? ink.gradient()->stops().first().second : ink.color();
+void SetFont(PlusPlayback& p, std::uint32_t flags, std::uint32_t brush) {
+  p.Draw.State().Font = std::make_shared<MetaFont>(p.At<PlusFont>(flags & 0xFF).Font);
+  const QBrush ink = p.BrushOf(flags, brush).List.Brush;
+  p.Draw.State().TextColor = ink.gradient() != nullptr ? ink.gradient()->stops().first().second : ink.color();
 }
 
 // Lines end at line feeds, and between words where they'd pass `width`; 0 is no limit.
-std::vector<TextRecord> EmfPlusPlayer::Lines(const std::vector<TextCharacter>& text, double width) {
+std::vector<TextRecord> Lines(Drawing& draw, const std::vector<TextCharacter>& text, double width) {
   std::vector<TextRecord> lines(1);
   TextRecord word;
   double used = 0;
   const auto endWord = [&] {
-    const double wide = draw_.TextWidth(word);
+    const double wide = draw.TextWidth(word);
     std::vector<TextCharacter>& line = lines.back().Text;
     if (width <= 0 || line.empty() || used + wide <= width) {
       line.insert(line.end(), word.Text.begin(), word.Text.end());
@@ -48,7 +41,7 @@ std::vector<TextRecord> EmfPlusPlayer::Lines(const std::vector<TextCharacter>& t
   return lines;
 }
 
-void EmfPlusPlayer::String(std::uint32_t flags, ByteReader& r) {
+void DrawString(PlusPlayback& p, std::uint32_t flags, ByteReader& r) {
   constexpr double paddingEms = 1.0 / 6;
   const std::uint32_t brush = r.U32();
   const std::uint32_t formatIndex = r.U32();
@@ -56,28 +49,27 @@ void EmfPlusPlayer::String(std::uint32_t flags, ByteReader& r) {
   if (length > MostCharacters) throw SkipRecord();
   const QRectF box = ReadRectF(r);
   const std::vector<TextCharacter> text = DecodeUnits(r.Take(length * 2));
-  SetFont(flags, brush);
-  PlusFormat format;
-  if (formatIndex < objects_.size() && std::holds_alternative<PlusFormat>(objects_[formatIndex]))
-    format = std::get<PlusFormat>(objects_[formatIndex]);
-  std::vector<TextRecord> lines = Lines(text, format.Wraps ? box.width() : 0);
-  const double em = -draw_.State().Font->Height;
+  SetFont(p, flags, brush);
+  const auto* told = p.Find<PlusFormat>(formatIndex);
+  const PlusFormat format = told == nullptr ? PlusFormat() : *told;
+  std::vector<TextRecord> lines = Lines(p.Draw, text, format.Wraps ? box.width() : 0);
+  const double em = -p.Draw.State().Font->Height;
   const double pitch = em * 1.15;
   const double spare = box.height() - pitch * static_cast<double>(lines.size());
   double y = box.top() + (format.LineAlign == 1 ? spare / 2 : format.LineAlign == 2 ? spare : 0);
-  draw_.State().TextAlign = format.Align == 1 ? AlignCenter : format.Align == 2 ? AlignRight : 0;
+  p.Draw.State().TextAlign = format.Align == 1 ? AlignCenter : format.Align == 2 ? AlignRight : 0;
   const double x = format.Align == 1   ? box.center().x()
                    : format.Align == 2 ? box.right() - em * paddingEms
                                        : box.left() + em * paddingEms;
   for (TextRecord& line : lines) {
     line.Reference = {x, y};
     line.Options = TextNoBox;
-    draw_.Text(line);
+    p.Draw.Text(line);
     y += pitch;
   }
 }
 
-void EmfPlusPlayer::DriverString(std::uint32_t flags, ByteReader& r) {
+void DrawDriverString(PlusPlayback& p, std::uint32_t flags, ByteReader& r) {
   enum : std::uint32_t { Characters = 1, Vertical = 2, FirstPlaceOnly = 4 };
   const std::uint32_t brush = r.U32();
   const std::uint32_t options = r.U32();
@@ -86,16 +78,27 @@ void EmfPlusPlayer::DriverString(std::uint32_t flags, ByteReader& r) {
   if (count > r.Left() / 2) throw OutOfBytes();
   if ((options & Characters) == 0 || (options & Vertical) != 0 || hasMatrix) throw SkipRecord();
   const Bytes codes = r.Take(count * 2);
-  SetFont(flags, brush);
-  draw_.State().TextAlign = AlignBaseline;
+  SetFont(p, flags, brush);
+  p.Draw.State().TextAlign = AlignBaseline;
   const std::size_t piece = (options & FirstPlaceOnly) != 0 ? std::max<std::size_t>(count, 1) : 1;
   for (std::size_t i = 0; i < count; i += piece) {
     TextRecord text;
     text.Text = DecodeUnits(codes.subspan(i * 2, piece * 2));
     text.Reference = ReadPointF(r);
     text.Options = TextNoBox;
-    draw_.Text(text);
+    p.Draw.Text(text);
   }
+}
+
+constexpr PlusRecordRow Records[] = {
+    {PlusRecord::DrawString, DrawString},
+    {PlusRecord::DrawDriverString, DrawDriverString},
+};
+
+}  // namespace
+
+std::span<const PlusRecordRow> PlusTextRecords() {
+  return Records;
 }
 
 }  // namespace tarvis
