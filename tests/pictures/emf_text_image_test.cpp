@@ -39,6 +39,18 @@ TEST(EmfText, HeightAboveZeroIsThatOfTheCell) {
   EXPECT_NEAR(cell, em / 1.117, 1.5);
 }
 
+// The mean width of Latin text is 0.441 em in this font and 0.6 em in the other, by their design.
+TEST(EmfText, AWidthThatIsTheMeanOfTheFontChangesNothing) {
+  const auto widthOf = [](const char* face, int width) {
+    EmfWriter emf;
+    emf.Set(18, 1).Set(17, 8).Font(-1000, face, 0, 0, width).Pair(9, 10000, 10000).Pair(11, 100, 100);
+    return Ink(emf.Text(100, 1000, "Velocity [rpm]").Show({1000, 1000})).width();
+  };
+  EXPECT_NEAR(widthOf("Arial", 441), widthOf("Arial", 0), 4);
+  EXPECT_NEAR(widthOf("Courier New", 600), widthOf("Courier New", 0), 4);
+  EXPECT_NEAR(widthOf("Arial", 220), widthOf("Arial", 0) / 2.0, 6);
+}
+
 TEST(EmfText, AlignsLeftRightAndCentred) {
   const QRect left = Ink(TextEmf().Text(50, 20, "H").Show());
   const QRect right = Ink(TextEmf().Set(22, 2).Text(50, 20, "H").Show());

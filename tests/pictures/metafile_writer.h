@@ -52,12 +52,13 @@ class EmfWriter {
     for (const std::uint32_t dash : dashes) pen.U32(dash);
     return Add(95, pen).Select(index);
   }
-  EmfWriter& Font(int height, const std::string& face, int escapement = 0, std::uint32_t charset = 0) {
+  EmfWriter& Font(int height, const std::string& face, int escapement = 0, std::uint32_t charset = 0,
+                  int width = 0) {
     const std::uint32_t index = ++objects_;
     ByteWriter font;
     font.U32(index)
         .I32(height)
-        .I32(0)
+        .I32(width)
         .I32(escapement)
         .I32(escapement)
         .I32(400)

@@ -26,7 +26,7 @@ class OutlineFace {
 
   double Ascent = 0;
   double Descent = 0;
-  double AverageWidth = 0;
+  double AverageWidth = 0;  // of Latin text, as letters and blanks are frequent in it
 
   const GlyphOutline& Glyph(char32_t character);
 
