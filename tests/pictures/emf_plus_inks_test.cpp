@@ -1,6 +1,8 @@
 // Brushes, caps, text and points of extended records.
 #include <gtest/gtest.h>
 
+#include <QPicture>
+
 #include "plus_writer.h"
 
 namespace tarvis {
@@ -11,6 +13,14 @@ constexpr std::uint32_t RedInk = 0xFFFF0000, BlueInk = 0xFF0000FF, WhiteInk = 0x
 
 ByteWriter Rect(float x, float y, float width, float height) {
   return ByteWriter().F32(x).F32(y).F32(width).F32(height);
+}
+
+// How much ink there is in all.
+long InkSum(const QImage& image) {
+  long sum = 0;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x) sum += 255 - qGreen(image.pixel(x, y));
+  return sum;
 }
 
 PlusWriter& FillWith(PlusWriter& plus, const ByteWriter& brush, const ByteWriter& rect) {
@@ -79,10 +89,62 @@ TEST(EmfPlusBrushes, FineHatchesHaveMoreInkThanWideOnes) {
   EXPECT_GT(ink(darkVertical), 1.5 * ink(lightVertical));
 }
 
-TEST(EmfPlusBrushes, HatchesWithoutAKnownFormAreCounted) {
-  constexpr std::uint32_t weave = 40;
+ByteWriter HatchBrush(std::uint32_t style) {
+  return ByteWriter().U32(PlusVersion).U32(1).U32(style).U32(RedInk).U32(WhiteInk);
+}
+
+constexpr std::uint32_t HatchStyles = 53;
+
+TEST(EmfPlusBrushes, AllHatchesFillTheirAreaInAPatternOfTheirOwn) {
+  constexpr std::uint32_t outlinedDiamond = 51;
+  constexpr std::size_t diagonalCross = 5;
+  std::vector<QImage> shown;
+  for (std::uint32_t style = 0; style < HatchStyles; ++style) {
+    PlusWriter plus;
+    FillWith(plus, HatchBrush(style), Rect(0, 0, 100, 100));
+    EXPECT_EQ(Play(plus.Emf().Bytes())->SkippedRecords(), 0) << style;
+    const QImage picture = plus.Show();
+    EXPECT_GT(InkedPixels(picture), 100) << style;
+    EXPECT_LT(InkedPixels(picture), 9999) << style;
+    // Diamonds are the crossed diagonals, which differ only in their edges where these are smoothed.
+    for (std::size_t other = 0; other < shown.size(); ++other)
+      if (style != outlinedDiamond || other != diagonalCross)
+        EXPECT_NE(shown[other], picture) << other << " and " << style;
+    shown.push_back(picture);
+  }
+}
+
+TEST(EmfPlusBrushes, DotsOfHatchesStandAsTheyArePublished) {
+  constexpr std::uint32_t largeCheckers = 50;
   PlusWriter plus;
-  FillWith(plus, ByteWriter().U32(PlusVersion).U32(1).U32(weave).U32(RedInk).U32(WhiteInk), Rect(0, 0, 9, 9));
+  const QImage shown = FillWith(plus, HatchBrush(largeCheckers), Rect(0, 0, 100, 100)).Show();
+  for (int y = 0; y < 96; ++y)
+    for (int x = 0; x < 96; ++x)
+      EXPECT_EQ(shown.pixelColor(x, y), (x / 4 + y / 4) % 2 == 0 ? Red : White) << x << ", " << y;
+}
+
+// As on paper and in a PDF, where dots are lines with a pattern.
+TEST(EmfPlusBrushes, DotsOfHatchesAreTheSameOnADeviceWithoutPixels) {
+  for (std::uint32_t style = 0; style < HatchStyles; ++style) {
+    PlusWriter plus;
+    const auto picture = Play(FillWith(plus, HatchBrush(style), Rect(8, 8, 64, 64)).Emf().Bytes());
+    QPicture recorded;  // has an engine without pixels
+    QPainter recorder(&recorded);
+    picture->Paint(recorder, QRectF(0, 0, 100, 100));
+    recorder.end();
+    QImage played(100, 100, QImage::Format_RGB32);
+    played.fill(Qt::white);
+    QPainter player(&played);
+    player.drawPicture(0, 0, recorded);
+    player.end();
+    const double ratio = static_cast<double>(InkSum(played)) / static_cast<double>(InkSum(plus.Show()));
+    EXPECT_NEAR(ratio, 1, 0.15) << style;
+  }
+}
+
+TEST(EmfPlusBrushes, HatchesBeyondTheLastAreCounted) {
+  PlusWriter plus;
+  FillWith(plus, HatchBrush(HatchStyles), Rect(0, 0, 9, 9));
   EXPECT_EQ(Play(plus.FillRect(RedInk, 0, 0, 9, 9).Emf().Bytes())->SkippedRecords(), 2);  // it, and its fill
 }
 

@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "pictures/metafile/emf_plus/emf_plus_objects.h"
+#include "pictures/metafile/emf_plus/hatch_patterns.h"
 
 namespace tarvis {
 namespace {
@@ -95,14 +96,6 @@ constexpr LineHatch LineHatches[] = {
     {51, Qt::DiagCrossPattern},    // outlined diamonds
 };
 
-// How much of a fine pattern is ink, in percent; the eye sees an even mixture. 0: not known.
-int InkOf(std::uint32_t hatch) {
-  constexpr int percents[] = {5, 10, 20, 25, 30, 40, 50, 60, 70, 75, 80, 90};
-  constexpr std::uint32_t first = 6, smallChecks = 49, largeChecks = 50;
-  if (hatch == smallChecks || hatch == largeChecks) return 50;
-  return hatch >= first && hatch - first < std::size(percents) ? percents[hatch - first] : 0;
-}
-
 PlusBrush HatchBrush(ByteReader& r) {
   const std::uint32_t hatch = r.U32();
   const QColor lines = PlusColor(r.U32());
@@ -114,12 +107,9 @@ PlusBrush HatchBrush(ByteReader& r) {
              .HatchStep = form->Step,
              .HatchLine = form->Line},
             nullptr};
-  const int part = InkOf(hatch);
-  if (part == 0) throw SkipRecord();
-  const auto mix = [part](int a, int b) { return (a * part + b * (100 - part)) / 100; };
-  return {ListBrush{QBrush(QColor(mix(lines.red(), behind.red()), mix(lines.green(), behind.green()),
-                                  mix(lines.blue(), behind.blue()), mix(lines.alpha(), behind.alpha())))},
-          nullptr};
+  const HatchDots dots = FindHatchDots(hatch);
+  if (!HasDots(dots)) throw SkipRecord();
+  return {{.Brush = QBrush(lines), .Behind = behind, .Dots = dots}, nullptr};
 }
 
 // A pixel of the picture takes a unit of the world.

@@ -7,6 +7,7 @@
 #include <QPainterPath>
 #include <QPen>
 #include <QTransform>
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <span>
@@ -44,12 +45,23 @@ struct ListPen {
   bool operator==(const ListPen&) const = default;
 };
 
+// A hatch of dots: 8 rows from the top, the leftmost dot in the highest bit.
+using HatchDots = std::array<std::uint8_t, 8>;
+
+inline bool HasDots(const HatchDots& dots) {
+  return dots != HatchDots{};
+}
+inline bool IsDot(const HatchDots& dots, int x, int y) {
+  return (dots[static_cast<std::size_t>(y)] >> (7 - x) & 1) != 0;
+}
+
 // A brush. Hatches and textures keep their physical size: a pixel of them is a dot of 1/96 inch.
 struct ListBrush {
   QBrush Brush = QBrush();
   QColor Behind = QColor();  // between the lines of a hatch; invalid if nothing is
   double HatchStep = 8;      // dots from line to line of a hatch
   double HatchLine = 0;      // dots that a line of it is wide; 0 is a hairline
+  HatchDots Dots{};          // in place of lines, if there are any; the brush has their colour
   bool Placed = false;       // the texture is mapped to the picture by the brush's transform instead
   bool operator==(const ListBrush&) const = default;
 };

@@ -14,8 +14,7 @@ namespace {
 constexpr double HairlineInches = 0.005;
 constexpr double ScreenDotsPerInch = 96;
 constexpr double MostDashes = 20000;  // in one line; beyond, a dash is no longer seen as one
-constexpr double MostHatchLines = 4000;
-constexpr double WidestPen = 32000;  // of the toolkit
+constexpr double WidestPen = 32000;   // of the toolkit
 
 double ScaleOf(const QTransform& transform) {
   return std::sqrt(std::abs(transform.determinant()));
@@ -28,8 +27,9 @@ double Length(const QPolygonF& line) {
   return length;
 }
 
-bool IsHatch(Qt::BrushStyle style) {
-  return style >= Qt::HorPattern && style <= Qt::DiagCrossPattern;
+bool IsHatch(const ListBrush& brush) {
+  const Qt::BrushStyle style = brush.Brush.style();
+  return HasDots(brush.Dots) || (style >= Qt::HorPattern && style <= Qt::DiagCrossPattern);
 }
 
 // The box that `path` is, if it is one; else an empty one.
@@ -55,10 +55,10 @@ DrawListPainter::DrawListPainter(const DrawList& list, QPainter& painter, const 
   const double deviceScale = std::max(ScaleOf(painter.deviceTransform()), 1e-9);
   const double dotsPerInch =
       painter.device() == nullptr ? ScreenDotsPerInch : painter.device()->logicalDpiX();
-  pixel_ = 1 / deviceScale;
-  screenDot_ = std::max(dotsPerInch / ScreenDotsPerInch, 1.0) / deviceScale;
-  hairline_ = std::max(1.0, dotsPerInch * HairlineInches) / deviceScale;
-  onScreen_ = painter.paintEngine() != nullptr && painter.paintEngine()->type() == QPaintEngine::Raster;
+  units_.Pixel = 1 / deviceScale;
+  units_.ScreenDot = std::max(dotsPerInch / ScreenDotsPerInch, 1.0) / deviceScale;
+  units_.Hairline = std::max(1.0, dotsPerInch * HairlineInches) / deviceScale;
+  units_.OnScreen = painter.paintEngine() != nullptr && painter.paintEngine()->type() == QPaintEngine::Raster;
 }
 
 void DrawListPainter::Paint() {
@@ -107,13 +107,13 @@ QPolygonF DrawListPainter::MakeLine(const Outline& outline) const {
   QPolygonF line;
   line.reserve(static_cast<qsizetype>(points.size()));
   for (const ListPoint& point : points) line.append(Map(point));
-  return ThinnedLine(std::move(line), pixel_ / 4);
+  return ThinnedLine(std::move(line), units_.Pixel / 4);
 }
 
 QPen DrawListPainter::MakePen(const ListPen& listPen, double length) const {
   QPen pen = listPen.Pen;
   const double width = listPen.Hairline ? 0 : std::min(listPen.Width * penScale_, WidestPen);
-  const double shown = listPen.Hairline ? hairline_ : std::max(width, hairline_);
+  const double shown = listPen.Hairline ? units_.Hairline : std::max(width, units_.Hairline);
   pen.setWidthF(shown);
   if (pen.brush().gradient() != nullptr) {
     QBrush brush = pen.brush();
@@ -122,7 +122,7 @@ QPen DrawListPainter::MakePen(const ListPen& listPen, double length) const {
   }
   if (pen.style() != Qt::CustomDashLine) return pen;
   // Dashes count in widths of the pen; those of hairlines in dots of a screen.
-  const double unit = listPen.Hairline ? screenDot_ : std::max(width, screenDot_ / 2);
+  const double unit = listPen.Hairline ? units_.ScreenDot : std::max(width, units_.ScreenDot / 2);
   QList<qreal> dashes = pen.dashPattern();
   double sum = 0;
   for (qreal& dash : dashes) sum += (dash = std::max(dash * unit / shown, 0.01));
@@ -150,16 +150,16 @@ void DrawListPainter::Shape(const ListCommand& command) {
 }
 
 void DrawListPainter::Fill(const QPainterPath& path, const ListBrush& listBrush) {
-  if (IsHatch(listBrush.Brush.style())) return Hatch(path, listBrush);
+  if (IsHatch(listBrush)) return PaintHatch(painter_, path, listBrush, target_, units_);
   QBrush brush = listBrush.Brush;
   if (brush.style() == Qt::TexturePattern && !listBrush.Placed) {
-    brush.setTransform(QTransform::fromScale(screenDot_, screenDot_) *
+    brush.setTransform(QTransform::fromScale(units_.ScreenDot, units_.ScreenDot) *
                        QTransform::fromTranslate(target_.left(), target_.top()));
   } else if (brush.style() == Qt::TexturePattern || brush.gradient() != nullptr) {
     brush.setTransform(brush.transform() * toTarget_);
   }
   const QRectF box =
-      onScreen_ && painter_.deviceTransform().type() <= QTransform::TxScale ? AsBox(path) : QRectF();
+      units_.OnScreen && painter_.deviceTransform().type() <= QTransform::TxScale ? AsBox(path) : QRectF();
   if (box.isEmpty()) {
     painter_.fillPath(path, brush);
     return;
@@ -178,44 +178,6 @@ QRectF DrawListPainter::OnPixels(const QRectF& box) const {
   const QPointF corner(std::max(std::round(device.right()), left + 1),
                        std::max(std::round(device.bottom()), top + 1));
   return toDevice.inverted().mapRect(QRectF(QPointF(left, top), corner));
-}
-
-void DrawListPainter::Hatch(const QPainterPath& path, const ListBrush& brush) {
-  if (brush.Behind.isValid()) painter_.fillPath(path, brush.Behind);
-  const QRectF box = path.boundingRect() & target_;
-  if (box.isEmpty()) return;
-  painter_.save();
-  painter_.setClipPath(path, Qt::IntersectClip);
-  painter_.setPen(QPen(brush.Brush.color(), std::max(hairline_, brush.HatchLine * screenDot_)));
-  painter_.setRenderHint(QPainter::Antialiasing, !onScreen_);
-  HatchLines(box, brush);
-  painter_.restore();
-}
-
-void DrawListPainter::HatchLines(const QRectF& box, const ListBrush& brush) {
-  const Qt::BrushStyle style = brush.Brush.style();
-  const double step = std::max(brush.HatchStep * screenDot_, (box.width() + box.height()) / MostHatchLines);
-  const bool across = style == Qt::HorPattern || style == Qt::CrossPattern;
-  const bool down = style == Qt::VerPattern || style == Qt::CrossPattern;
-  const bool falling = style == Qt::FDiagPattern || style == Qt::DiagCrossPattern;
-  const bool rising = style == Qt::BDiagPattern || style == Qt::DiagCrossPattern;
-  QList<QLineF> lines;
-  // Where lines at whole steps fall between two places.
-  const auto each = [step](double from, double to, const auto& add) {
-    const auto last = static_cast<std::int64_t>(std::ceil(to / step));
-    for (auto i = static_cast<std::int64_t>(std::ceil(from / step)); i < last; ++i)
-      add(static_cast<double>(i) * step);
-  };
-  if (across)
-    each(box.top(), box.bottom(), [&](double y) { lines << QLineF(box.left(), y, box.right(), y); });
-  if (down) each(box.left(), box.right(), [&](double x) { lines << QLineF(x, box.top(), x, box.bottom()); });
-  if (falling)  // x - y is the same all along
-    each(box.left() - box.bottom(), box.right() - box.top(),
-         [&](double c) { lines << QLineF(c + box.top(), box.top(), c + box.bottom(), box.bottom()); });
-  if (rising)  // x + y is the same all along
-    each(box.left() + box.top(), box.right() + box.bottom(),
-         [&](double c) { lines << QLineF(c - box.top(), box.top(), c - box.bottom(), box.bottom()); });
-  painter_.drawLines(lines);
 }
 
 void DrawListPainter::Image(const ListImage& image) {

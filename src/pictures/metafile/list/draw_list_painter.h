@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "pictures/metafile/list/draw_list.h"
+#include "pictures/metafile/list/hatch_painter.h"
 
 namespace tarvis {
 
@@ -22,8 +23,6 @@ class DrawListPainter {
   void Shape(const ListCommand& command);
   void Fill(const QPainterPath& path, const ListBrush& brush);
   QRectF OnPixels(const QRectF& box) const;
-  void Hatch(const QPainterPath& path, const ListBrush& brush);
-  void HatchLines(const QRectF& box, const ListBrush& brush);
   void Image(const ListImage& image);
   void Clip(const ListClip& clip);
 
@@ -31,11 +30,8 @@ class DrawListPainter {
   QPainter& painter_;
   QRectF target_;
   QTransform toTarget_;
-  double penScale_ = 1;   // from widths of the picture to units of the painter
-  double pixel_ = 1;      // a device pixel in units of the painter
-  double screenDot_ = 1;  // 1/96 inch in units of the painter
-  double hairline_ = 1;
-  bool onScreen_ = false;
+  double penScale_ = 1;  // from widths of the picture to units of the painter
+  DeviceUnits units_;
 };
 
 }  // namespace tarvis
