@@ -52,12 +52,13 @@ void PlayFile(const QString& path, const QString& folder) {
   std::printf("%s\t%.0f", name.c_str(), static_cast<double>(bytes.size()) / 1024);
   const double before = PeakMegabytes();
   GlyphOutlines glyphs;
+  PictureBudget budget;
   const double start = MillisecondsComputed();
   try {
     const PicturePtr picture = DecodePicture(
         name,
         {reinterpret_cast<const std::uint8_t*>(bytes.constData()), static_cast<std::size_t>(bytes.size())},
-        glyphs);
+        glyphs, budget);
     const double loaded = MillisecondsComputed();
     QImage page = PageFor(*picture);
     QPainter painter(&page);

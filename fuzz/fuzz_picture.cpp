@@ -29,11 +29,15 @@ void PaintOnPage(const Picture& picture) {
 
 }  // namespace
 
-void FuzzPicture(const std::function<PicturePtr(Bytes bytes, GlyphOutlines& glyphs)>& load, Bytes bytes) {
+void FuzzPicture(
+    const std::function<PicturePtr(Bytes bytes, GlyphOutlines& glyphs, PictureBudget& budget)>& load,
+    Bytes bytes) {
   static GlyphOutlines glyphs;
   try {
-    PaintOnPage(*load(bytes, glyphs));
+    PictureBudget budget;
+    PaintOnPage(*load(bytes, glyphs, budget));
   } catch (const RunTimeFailure&) {  // all of these are refusals with a reason
+  } catch (const TooCostly&) {
   } catch (const BadMetafile&) {
   } catch (const BadDib&) {
   } catch (const OutOfBytes&) {

@@ -9,8 +9,11 @@
 namespace tarvis {
 
 class GlyphOutlines;
+class PictureBudget;
 
 // Loads by `load`, which may throw what the loader makes a run-time failure of, and paints on a page.
-void FuzzPicture(const std::function<PicturePtr(Bytes bytes, GlyphOutlines& glyphs)>& load, Bytes bytes);
+void FuzzPicture(
+    const std::function<PicturePtr(Bytes bytes, GlyphOutlines& glyphs, PictureBudget& budget)>& load,
+    Bytes bytes);
 
 }  // namespace tarvis

@@ -4,6 +4,7 @@
 #include <bit>
 
 #include "pictures/dib_rle.h"
+#include "pictures/toolkit_image.h"
 
 namespace tarvis {
 namespace {
@@ -108,19 +109,20 @@ QImage DecodeMasked(const DibHeader& header, Bytes bits, bool alphaByte) {
   return seen || alphaByte ? image : image.convertToFormat(QImage::Format_RGB32);
 }
 
-QImage DecodeCompressedFile(Bytes bits) {
-  QImage image = QImage::fromData(bits.data(), static_cast<int>(std::min<std::size_t>(bits.size(), 1 << 28)));
-  if (image.isNull()) throw BadDib("the picture inside it can't be read");
-  return image;
-}
-
 }  // namespace
+
+std::size_t DecodedSize(const DibHeader& header, Bytes bits) {
+  const bool holdsFile =
+      header.Compression == DibCompression::Jpeg || header.Compression == DibCompression::Png;
+  if (holdsFile) return ToolkitImageSize(bits);
+  return static_cast<std::size_t>(header.Width) * static_cast<std::size_t>(header.Height) * 4;
+}
 
 QImage DecodeDib(const DibHeader& header, Bytes bits, bool alphaByte) {
   switch (header.Compression) {
     case DibCompression::Jpeg:
     case DibCompression::Png:
-      return DecodeCompressedFile(bits);
+      return ReadToolkitImage(bits);
     case DibCompression::Rle8:
     case DibCompression::Rle4:
       return DecodeRle(header, bits);

@@ -7,6 +7,10 @@
 
 namespace tarvis {
 
+// How many bytes the bitmap takes once it is decoded: a bitmap that holds a JPEG or PNG file is as large as
+// that, whatever its header says.
+std::size_t DecodedSize(const DibHeader& header, Bytes bits);
+
 // The picture of a bitmap; BadDib or OutOfBytes if it can't be shown. Pixels that a run-length coded bitmap
 // leaves out take colour 0. The alpha of 32 bit pixels counts if the header tells an alpha mask, or if
 // `alphaByte` says that the fourth byte is one.

@@ -9,13 +9,12 @@
 #include <string_view>
 
 #include "pictures/dib.h"
+#include "pictures/toolkit_image.h"
 
 namespace tarvis {
 namespace {
 
 constexpr float TwipsPerPixel = 15;  // at 96 pixels to the inch; only the proportion matters
-constexpr int LargestSide = 0x8000;
-constexpr qint64 MostPixels = 32 << 20;
 
 bool StartsWith(Bytes bytes, std::string_view start) {
   return bytes.size() >= start.size() && std::memcmp(bytes.data(), start.data(), start.size()) == 0;
@@ -35,33 +34,6 @@ QByteArray CursorAsIcon(QByteArray bytes) {
   for (qsizetype i = 0; i < count && headerSize + (i + 1) * entrySize <= bytes.size(); ++i)
     bytes.replace(headerSize + i * entrySize + 4, 4, QByteArray(4, '\0'));
   return bytes;
-}
-
-void CheckSize(const QSize& size) {
-  const qint64 pixels = qint64{size.width()} * size.height();
-  if (size.width() > LargestSide || size.height() > LargestSide || pixels > MostPixels)
-    throw BadDib("it is too large");
-}
-
-// The toolkit fills what is missing of a cut JPEG with grey. No marker but its end follows the start of its
-// last scan.
-bool IsCutJpeg(Bytes bytes) {
-  const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
-  const std::size_t scan = text.rfind("\xFF\xDA");
-  return StartsWith(bytes, "\xFF\xD8") && scan != text.npos && text.find("\xFF\xD9", scan) == text.npos;
-}
-
-QImage ReadWithToolkit(Bytes bytes) {
-  if (IsCutJpeg(bytes)) throw OutOfBytes();
-  QByteArray data = QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()),
-                                            static_cast<qsizetype>(bytes.size()));
-  QBuffer buffer(&data);
-  QImageReader reader(&buffer);
-  reader.setAutoTransform(true);
-  if (reader.size().isValid()) CheckSize(reader.size());
-  QImage image = reader.read();
-  if (image.isNull()) Refuse(reader);
-  return image;
 }
 
 // The largest picture of an icon, and of several that large the last, which has most colours.
@@ -134,7 +106,7 @@ QImage DecodeImage(Bytes bytes, ImageKind kind) {
     case ImageKind::BareBitmap:
       return DecodePackedDib(bytes);
     case ImageKind::Toolkit:
-      return ReadWithToolkit(bytes);
+      return ReadToolkitImage(bytes);
     case ImageKind::Icon:
       return ReadIcon(Copy(bytes));
     case ImageKind::Cursor:

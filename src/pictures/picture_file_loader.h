@@ -1,6 +1,7 @@
 // Loads picture files by what they hold, not by what they are called.
 #pragma once
 
+#include <functional>
 #include <map>
 
 #include "pictures/byte_reader.h"
@@ -9,22 +10,27 @@
 namespace tarvis {
 
 class GlyphOutlines;
+class PictureBudget;
 
-// Keeps each picture for as long as the loader lives.
+// Keeps each picture until it is told to forget them.
 class PictureFileLoader : public PictureLoader {
  public:
-  PictureFileLoader();
+  // While a picture loads, `answerEndRequest` is called again and again: it may end the process.
+  explicit PictureFileLoader(std::function<void()> answerEndRequest = {});
   ~PictureFileLoader() override;
   PicturePtr Load(const std::string& path) override;
+  // Pictures that reports load from now on are read anew.
+  void Forget() { loaded_.clear(); }
   PicturePtr LoadBytes(const std::string& name, std::string_view bytes) override;
 
  private:
+  std::function<void()> answerEndRequest_;
   std::map<std::string, PicturePtr> loaded_;
   std::unique_ptr<GlyphOutlines> glyphs_;
 };
 
 // Decodes a picture of any kind, metafiles with the outlines of `glyphs`; `name` stands for it in the
 // RunTimeFailure that says why it can't be shown.
-PicturePtr DecodePicture(const std::string& name, Bytes bytes, GlyphOutlines& glyphs);
+PicturePtr DecodePicture(const std::string& name, Bytes bytes, GlyphOutlines& glyphs, PictureBudget& budget);
 
 }  // namespace tarvis

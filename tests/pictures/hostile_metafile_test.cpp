@@ -1,6 +1,8 @@
 // Broken and hostile metafiles: they end in a failure that names the file, in bounded time and memory.
 #include <gtest/gtest.h>
 
+#include <QBuffer>
+
 #include "plus_writer.h"
 #include "text/run_time_failure.h"
 
@@ -9,7 +11,7 @@ namespace {
 
 constexpr std::uint32_t RedInk = Rgb(255, 0, 0);
 
-void ExpectRefused(const std::string& bytes, const std::string& what) {
+void ExpectRefused(const std::string& bytes, const std::string& what, const std::string& reason = {}) {
   PictureFileLoader loader;
   try {
     loader.LoadBytes("graph.emf", bytes);
@@ -17,6 +19,7 @@ void ExpectRefused(const std::string& bytes, const std::string& what) {
   } catch (const RunTimeFailure& failure) {
     EXPECT_EQ(failure.Place().File, "graph.emf");
     EXPECT_FALSE(failure.Place().Text.empty());
+    EXPECT_NE(failure.Place().Text.find(reason), std::string::npos) << failure.Place().Text;
   }
 }
 
@@ -174,6 +177,67 @@ TEST(HostileMetafile, BitmapsThatUnpackWithoutEndAreRefused) {
   EmfWriter emf;
   for (int i = 0; i < 100; ++i) emf.Add(81, record);
   ExpectRefused(emf.Bytes(), "bitmaps");
+}
+
+// A header of one pixel before a PNG file of that many pixels a side.
+ByteWriter DibAroundPng(int side) {
+  QByteArray png;
+  QBuffer buffer(&png);
+  QImage image(side, side, QImage::Format_Mono);
+  image.fill(1);
+  image.save(&buffer, "PNG");
+  ByteWriter dib;
+  dib.I32(40).I32(1).I32(1).U16(1).U16(0).U32(5).U32(static_cast<std::uint32_t>(png.size())).Zeros(16);
+  return dib.Text(png.toStdString());
+}
+
+ByteWriter StretchDib(const ByteWriter& dib) {
+  ByteWriter record = Box32(0, 0, 0, 0).I32(0).I32(0).Add(Box32(0, 0, 1, 1)).U32(80).U32(40).U32(120);
+  record.U32(static_cast<std::uint32_t>(dib.Size() - 40)).U32(0).U32(0x00CC0020);
+  return record.I32(100).I32(100).Add(dib);
+}
+
+constexpr int SideTooLarge = 6000;
+
+TEST(HostileMetafile, APictureInsideABitmapIsMeasuredByWhatItHolds) {
+  ExpectRefused(EmfWriter().Add(81, StretchDib(DibAroundPng(SideTooLarge))).Bytes(), "bitmap");
+  const ByteWriter file = ByteWriter().Text("BM").U32(0).U32(0).U32(54).Add(DibAroundPng(SideTooLarge));
+  ExpectRefused(file.Bytes(), "bitmap file", "too large");
+}
+
+TEST(HostileMetafile, PicturesInsideBitmapsAreLimitedInAll) {
+  EmfWriter emf;
+  for (int i = 0; i < 20; ++i) emf.Add(81, StretchDib(DibAroundPng(2000)));
+  ExpectRefused(emf.Bytes(), "bitmaps", "too large");
+}
+
+TEST(HostileMetafile, OneStringThatIsNamedManyTimesIsRefused) {
+  constexpr std::uint32_t names = 100000, length = 40, text = 40 + names * 40;
+  ByteWriter record = Box32(0, 0, 0, 0).U32(1).F32(1).F32(1).U32(names);
+  for (std::uint32_t i = 0; i < names; ++i)
+    record.I32(5).I32(50).U32(length).U32(text).U32(0).Add(Box32(0, 0, 0, 0)).U32(0);
+  for (std::uint32_t i = 0; i < length; ++i) record.U16('a' + i % 26);
+  ExpectRefused(EmfWriter().Font(-10, "Arial").Add(97, record).Bytes(), "text", "too much text");
+}
+
+TEST(HostileMetafile, ARegionThatIsSelectedAgainAndAgainIsRefused) {
+  constexpr int scans = 2000;
+  ByteWriter region;
+  region.Zeros(10).U16(scans).Zeros(10);
+  for (int i = 0; i < scans; ++i) region.U16(2).I16(2 * i).I16(2 * i + 1).I16(0).I16(i + 1).U16(2);
+  WmfWriter wmf;
+  wmf.Window(0, 0, 100, 100).Add(0x06FF, region);
+  for (int i = 0; i < 20000; ++i) wmf.Words(0x012C, {0});
+  ExpectRefused(wmf.Words(0x041B, {50, 50, 10, 10}).Bytes(), "region", "draws too much");
+}
+
+TEST(HostileMetafile, ARequestToEndIsAnsweredWhileItLoads) {
+  EmfWriter emf;
+  for (int i = 0; i < 10000; ++i) emf.Rectangle(0, 0, 9, 9);
+  int asked = 0;
+  PictureFileLoader loader([&asked] { ++asked; });
+  loader.LoadBytes("graph.emf", emf.Bytes());
+  EXPECT_GT(asked, 10);
 }
 
 }  // namespace

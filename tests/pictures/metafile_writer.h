@@ -162,8 +162,9 @@ class WmfWriter {
 
 inline std::shared_ptr<const MetafilePicture> Play(const std::string& bytes) {
   GlyphOutlines glyphs;
+  PictureBudget budget;
   const Bytes view(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
-  return LooksLikeEmf(view) ? LoadEmf(view, glyphs) : LoadWmf(view, glyphs);
+  return LooksLikeEmf(view) ? LoadEmf(view, glyphs, budget) : LoadWmf(view, glyphs, budget);
 }
 
 // A bitmap of 24 bits: header and rows, bottom row first, all pixels as told by `color(x, y)` with y from the

@@ -51,6 +51,14 @@ TEST_F(PictureFiles, AreLoadedOnceForEachPath) {
   EXPECT_EQ(loader_.Load(path), first);
 }
 
+TEST_F(PictureFiles, AreReadAnewOnceTheLoaderForgetsThem) {
+  const std::string path = Save("graph.bmp", "BMP", {20, 10});
+  const PicturePtr first = loader_.Load(path);
+  Save("graph.bmp", "BMP", {10, 20});
+  loader_.Forget();
+  EXPECT_EQ(loader_.Load(path)->NaturalHeight(), 2 * first->NaturalHeight());
+}
+
 TEST_F(PictureFiles, HeldInMemoryAreKeptUnderTheirName) {
   QByteArray bytes;
   QBuffer buffer(&bytes);

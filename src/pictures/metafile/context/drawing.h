@@ -38,9 +38,12 @@ class Drawing {
   Drawing(DrawList& list, GlyphOutlines& glyphs) : list_(list), glyphs_(glyphs) {}
 
   DeviceContext& Dc() { return dc_; }
+  PictureBudget& Budget() { return list_.Budget(); }
   DcState& State() { return dc_.State(); }
   const DcState& State() const { return dc_.State(); }
   void Select(const MetaObject& object);
+  // The boxes of a region as a path, in its own units.
+  QPainterPath RegionPath(const MetaRegion& region);
 
   // Lines and shapes.
   void MoveTo(QPointF point);

@@ -67,12 +67,14 @@ void Drawing::OffsetClip(QPointF by) {
   const QTransform toDevice = ToDevice();
   const QPointF device = toDevice.map(by) - toDevice.map(QPointF());
   auto clip = CopyOfClip();
+  for (const auto& path : clip->Paths) Budget().TakeElements(static_cast<std::size_t>(path->elementCount()));
   clip->Box.translate(device);
   for (auto& path : clip->Paths) path = std::make_shared<QPainterPath>(path->translated(device));
   State().Clip = clip;
 }
 
 void Drawing::SelectClip(const QPainterPath& device, ClipMode mode) {
+  Budget().TakeElements(static_cast<std::size_t>(device.elementCount()));
   switch (mode) {
     case ClipMode::Copy:
       ResetClip();

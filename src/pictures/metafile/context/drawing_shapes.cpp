@@ -17,13 +17,6 @@ Qt::FillRule RuleOf(const DcState& state) {
   return state.PolyFillMode == WindingFillMode ? Qt::WindingFill : Qt::OddEvenFill;
 }
 
-QPainterPath RegionPath(const MetaRegion& region) {
-  QPainterPath path;
-  path.setFillRule(Qt::WindingFill);
-  for (const QRectF& box : region) path.addRect(box);
-  return path;
-}
-
 }  // namespace
 
 void Drawing::Select(const MetaObject& object) {
@@ -32,6 +25,15 @@ void Drawing::Select(const MetaObject& object) {
   if (const auto* font = std::get_if<FontPtr>(&object)) State().Font = *font;
   if (const auto* palette = std::get_if<PalettePtr>(&object)) State().Palette = *palette;
   if (std::holds_alternative<std::monostate>(object)) throw SkipRecord();
+}
+
+QPainterPath Drawing::RegionPath(const MetaRegion& region) {
+  constexpr std::size_t elementsOfBox = 5;
+  Budget().TakeElements(region.size() * elementsOfBox);
+  QPainterPath path;
+  path.setFillRule(Qt::WindingFill);
+  for (const QRectF& box : region) path.addRect(box);
+  return path;
 }
 
 void Drawing::Emit(const QPainterPath& device, bool fill, bool stroke) {
@@ -254,7 +256,10 @@ void Drawing::DrawPath(bool fill, bool stroke) {
 
 void Drawing::WidenPath() {
   ListPen pen;
-  if (!MakePen(pen) || path_.elementCount() > 20000) throw SkipRecord();
+  constexpr int mostElements = 20000;
+  constexpr std::size_t costOfElement = 32;  // a widened line has many more points
+  if (!MakePen(pen) || path_.elementCount() > mostElements) throw SkipRecord();
+  Budget().TakeElements(static_cast<std::size_t>(path_.elementCount()) * costOfElement);
   pen.Pen.setWidthF(std::clamp(pen.Width, 1.0, 30000.0));
   path_ = QPainterPathStroker(pen.Pen).createStroke(path_);
 }

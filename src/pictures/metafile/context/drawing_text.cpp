@@ -118,7 +118,6 @@ void Drawing::DrawGlyphs(const TextRecord& text, const TextPlace& place) {
     const QTransform toDevice(place.GlyphAlong.x(), place.GlyphAlong.y(), place.GlyphDown.x(),
                               place.GlyphDown.y(), origin.x(), origin.y());
     path.addPath(toDevice.map(place.Face->Glyph(code).Path));
-    if (path.elementCount() > (1 << 20)) throw BadMetafile("it is too large");
   }
   if (inPath_) {
     path_.addPath(path);
@@ -151,12 +150,14 @@ void Drawing::DrawTextLines(const TextPlace& place) {
 }
 
 double Drawing::TextWidth(const TextRecord& text) {
+  Budget().TakeCharacters(text.Text.size());
   TextPlace place = PlaceText(text);
   GlyphPlaces(text, place);
   return place.Width;
 }
 
 void Drawing::Text(const TextRecord& text) {
+  Budget().TakeCharacters(text.Text.size());
   if (text.Text.size() > 0xFFFF) throw SkipRecord();
   const bool hasBox = (text.Options & TextNoBox) == 0 && !text.Box.isEmpty();
   if (hasBox && (text.Options & TextOpaque) != 0) FillBox(text.Box, State().BackgroundColor);

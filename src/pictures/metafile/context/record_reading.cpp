@@ -3,9 +3,6 @@
 namespace tarvis {
 namespace {
 
-constexpr std::size_t MostDecodedBytes = 256
-                                         << 20;  // one after the other; what is kept is limited by the list
-
 enum BrushStyle : std::uint32_t { Solid = 0, Null = 1, Hatched = 2 };
 
 }  // namespace
@@ -57,8 +54,7 @@ QImage RecordBitmaps::Decode(Bytes info, Bytes bits, std::uint32_t usage, const 
                              bool alphaByte) {
   try {
     const DibHeader header = ReadDibHeader(info, static_cast<DibColors>(usage), palette);
-    decoded_ += static_cast<std::size_t>(header.Width) * static_cast<std::size_t>(header.Height) * 4;
-    if (decoded_ > MostDecodedBytes) throw BadMetafile("its bitmaps are too large");
+    budget_.TakeDecodedBytes(DecodedSize(header, bits));
     return DecodeDib(header, bits, alphaByte);
   } catch (const BadDib&) {
     throw SkipRecord();

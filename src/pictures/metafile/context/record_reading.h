@@ -30,17 +30,19 @@ MetaPalette ReadPalette(ByteReader& reader, std::size_t count);
 // A brush without a pattern; SkipRecord if its style is unknown.
 MetaBrush MakeMetaBrush(std::uint32_t style, QColor color, std::uint32_t hatch);
 
-// Bitmaps of records, with a limit for all of a metafile together.
+// Decodes the bitmaps of records.
 class RecordBitmaps {
  public:
-  // A bitmap that can't be shown is SkipRecord; too much of them is BadMetafile.
+  explicit RecordBitmaps(PictureBudget& budget) : budget_(budget) {}
+
+  // A bitmap that can't be shown is SkipRecord; too much of them is TooCostly.
   QImage Decode(Bytes info, Bytes bits, std::uint32_t usage, const MetaPalette& palette,
                 bool alphaByte = false);
   // With the bits behind the header.
   QImage DecodePacked(Bytes bytes, std::uint32_t usage, const MetaPalette& palette);
 
  private:
-  std::size_t decoded_ = 0;
+  PictureBudget& budget_;
 };
 
 }  // namespace tarvis

@@ -18,10 +18,7 @@ void ExtSelectClipRegion(EmfPlayback& p, ByteReader& r) {
     if (mode == ClipMode::Copy) p.Draw.ResetClip();
     return;
   }
-  QPainterPath path;
-  path.setFillRule(Qt::WindingFill);
-  for (const QRectF& box : ReadEmfRegion(r, size)) path.addRect(box);
-  p.Draw.SelectClip(path, mode);
+  p.Draw.SelectClip(p.Draw.RegionPath(ReadEmfRegion(r, size)), mode);
 }
 
 const MetaBrush& BrushAt(EmfPlayback& p, MetaObject& holder, std::uint32_t index) {

@@ -9,7 +9,7 @@
 namespace tarvis {
 
 struct EmfPlayback {
-  EmfPlayback(DrawList& list, GlyphOutlines& glyphs) : Draw(list, glyphs) {}
+  EmfPlayback(DrawList& list, GlyphOutlines& glyphs) : Draw(list, glyphs), Bitmaps(list.Budget()) {}
 
   Drawing Draw;
   std::unordered_map<std::uint32_t, MetaObject> Objects;

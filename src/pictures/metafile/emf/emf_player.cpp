@@ -85,8 +85,12 @@ struct RecordTable {
 
 class EmfPlayer {
  public:
-  EmfPlayer(Bytes bytes, GlyphOutlines& glyphs, PlusUse plus)
-      : reader_(bytes), header_(reader_), playback_(list_, glyphs), plus_(playback_.Draw, plus) {
+  EmfPlayer(Bytes bytes, GlyphOutlines& glyphs, PictureBudget& budget, PlusUse plus)
+      : reader_(bytes),
+        header_(reader_),
+        list_(budget),
+        playback_(list_, glyphs),
+        plus_(playback_.Draw, plus) {
     const QRectF frame = header_.DeviceFrame();
     if (header_.Bounds.isEmpty() && header_.Frame.isEmpty()) throw BadMetafile("it has no extent");
     const double far = std::abs(frame.left()) + std::abs(frame.top()) + frame.width() + frame.height();
@@ -112,6 +116,7 @@ class EmfPlayer {
   bool PlayNext() {
     if (ended_ || reader_.Left() == 0) return false;
     const std::size_t start = reader_.Position();
+    list_.Budget().TakeRecord();
     const std::uint32_t type = reader_.U32();
     const std::size_t size = reader_.U32();
     if (size < RecordHeadSize) throw BadMetafile("a record makes no sense");
@@ -171,9 +176,9 @@ bool LooksLikeEmf(Bytes bytes) {
   return head && reader.U32() == Signature;
 }
 
-std::shared_ptr<const MetafilePicture> LoadEmf(Bytes bytes, GlyphOutlines& glyphs) {
-  const auto plain = EmfPlayer(bytes, glyphs, PlusUse::IfAlone).Play();
-  return plain != nullptr ? plain : EmfPlayer(bytes, glyphs, PlusUse::Always).Play();
+std::shared_ptr<const MetafilePicture> LoadEmf(Bytes bytes, GlyphOutlines& glyphs, PictureBudget& budget) {
+  const auto plain = EmfPlayer(bytes, glyphs, budget, PlusUse::IfAlone).Play();
+  return plain != nullptr ? plain : EmfPlayer(bytes, glyphs, budget, PlusUse::Always).Play();
 }
 
 }  // namespace tarvis

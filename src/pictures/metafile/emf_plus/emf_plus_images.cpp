@@ -1,13 +1,10 @@
-#include <QBuffer>
-#include <QImageReader>
 #include <utility>
 
 #include "pictures/metafile/emf_plus/emf_plus_objects.h"
+#include "pictures/toolkit_image.h"
 
 namespace tarvis {
 namespace {
-
-constexpr qint64 MostImagePixels = 16 << 20;
 
 QImage FromPixels(ByteReader& r, int width, int height, std::size_t stride, std::uint32_t format) {
   constexpr std::pair<std::uint32_t, QImage::Format> formats[] = {
@@ -66,16 +63,11 @@ QImage ReadPlusImage(ByteReader& r) {
   if (r.U32() != File)
     return (format & indexed) != 0 ? FromIndexes(r, width, height, stride, format)
                                    : FromPixels(r, width, height, stride, format);
-  const Bytes file = r.Rest();
-  QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(file.data()),
-                                             static_cast<qsizetype>(file.size()));
-  QBuffer buffer(&bytes);
-  QImageReader reader(&buffer);
-  const QSize size = reader.size();
-  if (qint64{size.width()} * size.height() > MostImagePixels) throw SkipRecord();
-  QImage image = reader.read();
-  if (image.isNull()) throw SkipRecord();
-  return image;
+  try {
+    return ReadToolkitImage(r.Rest());
+  } catch (const BadDib&) {
+    throw SkipRecord();
+  }
 }
 
 }  // namespace tarvis

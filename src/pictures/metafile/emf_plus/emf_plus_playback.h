@@ -62,7 +62,6 @@ class PlusPlayback {
   double pageScale_ = 1;
   std::array<PlusObject, 64> objects_;
   std::map<std::uint32_t, Saved> saved_;
-  qsizetype imageBytes_ = 0;
 };
 
 template <typename T>

@@ -19,6 +19,7 @@ void EmfPlusPlayer::Play(Bytes records, RecordCounts& counts) {
   ByteReader reader(records);
   playback_.GivesContext = false;
   while (reader.Left() >= RecordHeadSize) {
+    playback_.Draw.Budget().TakeRecord();
     const std::size_t start = reader.Position();
     const auto type = static_cast<PlusRecord>(reader.U16());
     const std::uint32_t flags = reader.U16();

@@ -5,7 +5,6 @@ namespace tarvis {
 namespace {
 
 constexpr std::size_t MostSaved = 512;
-constexpr qsizetype MostImageBytes = 96 << 20;  // in the whole file
 
 void Save(PlusPlayback& p, std::uint32_t, ByteReader& r) {
   p.Save(r.U32());
@@ -115,8 +114,8 @@ void PlusPlayback::Keep(std::uint32_t flags, Bytes bytes) {
   objects_[index] = {};
   ByteReader reader(bytes);
   objects_[index] = ReadPlusObject(static_cast<PlusKind>(flags >> 8 & 0x7F), reader);
-  if (const QImage* image = std::get_if<QImage>(&objects_[index])) imageBytes_ += image->sizeInBytes();
-  if (imageBytes_ > MostImageBytes) throw BadMetafile("its bitmaps are too large");
+  if (const QImage* image = std::get_if<QImage>(&objects_[index]))
+    Draw.Budget().TakeDecodedBytes(static_cast<std::size_t>(image->sizeInBytes()));
 }
 
 QRectF PlusPlayback::ReadRect(ByteReader& reader, std::uint32_t flags) const {

@@ -6,19 +6,13 @@
 namespace tarvis {
 namespace {
 
-constexpr std::size_t MostBytes = 120 << 20;  // vectors may hold nearly twice as much while they grow
 constexpr std::size_t PathElementBytes = 24;
 
 std::uint32_t Count(std::size_t size) {
-  return static_cast<std::uint32_t>(size);  // Account keeps all sizes far below 32 bits
+  return static_cast<std::uint32_t>(size);  // the budget keeps all sizes far below 32 bits
 }
 
 }  // namespace
-
-void DrawList::Account(std::size_t bytes) {
-  bytes_ += bytes;
-  if (bytes_ > MostBytes) throw BadMetafile("it is too large");
-}
 
 void DrawList::AddPoint(double x, double y) {
   const auto cut = [this](double value) {
@@ -30,21 +24,21 @@ void DrawList::AddPoint(double x, double y) {
 void DrawList::AddCommand(ListCommand command) {
   if (clipPending_) {
     clipPending_ = false;
-    Account(sizeof(ListCommand) + sizeof(clip_));
+    budget_->TakeKeptBytes(sizeof(ListCommand) + sizeof(clip_));
     if (clip_ == nullptr) clip_ = std::make_shared<ListClip>();
     for (const auto& path : clip_->Paths)
-      Account(64 + static_cast<std::size_t>(path->elementCount()) * PathElementBytes);
+      budget_->TakeKeptBytes(64 + static_cast<std::size_t>(path->elementCount()) * PathElementBytes);
     commands_.push_back({.Kind = ListKind::Clip, .Index = Count(clips_.size())});
     clips_.push_back(clip_);
   }
-  Account(sizeof(ListCommand));
+  budget_->TakeKeptBytes(sizeof(ListCommand));
   commands_.push_back(command);
 }
 
 std::int32_t DrawList::PenIndex(const ListPen* pen) {
   if (pen == nullptr) return -1;
   if (pens_.empty() || !(pens_.back() == *pen)) {
-    Account(256);
+    budget_->TakeKeptBytes(256);
     pens_.push_back(*pen);
   }
   return static_cast<std::int32_t>(pens_.size()) - 1;
@@ -53,7 +47,7 @@ std::int32_t DrawList::PenIndex(const ListPen* pen) {
 std::int32_t DrawList::BrushIndex(const ListBrush* brush) {
   if (brush == nullptr) return -1;
   if (brushes_.empty() || !(brushes_.back() == *brush)) {
-    Account(256 + static_cast<std::size_t>(brush->Brush.textureImage().sizeInBytes()));
+    budget_->TakeKeptBytes(256 + static_cast<std::size_t>(brush->Brush.textureImage().sizeInBytes()));
     brushes_.push_back(*brush);
   }
   return static_cast<std::int32_t>(brushes_.size()) - 1;
@@ -62,7 +56,8 @@ std::int32_t DrawList::BrushIndex(const ListBrush* brush) {
 void DrawList::AddShape(const QPainterPath& path, const ListPen* pen, const ListBrush* brush) {
   if (path.isEmpty() || (pen == nullptr && brush == nullptr)) return;
   const auto elements = static_cast<std::size_t>(path.elementCount());
-  Account(sizeof(Outline) + elements * (sizeof(ListPoint) + sizeof(Verb)));
+  budget_->TakeElements(elements);
+  budget_->TakeKeptBytes(sizeof(Outline) + elements * (sizeof(ListPoint) + sizeof(Verb)));
   Outline outline{Count(points_.size()), 0, Count(verbs_.size()), 0};
   for (int i = 0; i < path.elementCount(); ++i) {
     const QPainterPath::Element element = path.elementAt(i);
@@ -82,14 +77,15 @@ void DrawList::AddShape(const QPainterPath& path, const ListPen* pen, const List
 
 void DrawList::AddPolyline(std::span<const QPointF> points, const ListPen& pen) {
   if (points.size() < 2) return;
-  Account(sizeof(Outline) + points.size() * sizeof(ListPoint));
+  budget_->TakeElements(points.size());
+  budget_->TakeKeptBytes(sizeof(Outline) + points.size() * sizeof(ListPoint));
   outlines_.push_back({Count(points_.size()), Count(points.size()), 0, 0});
   for (const QPointF& point : points) AddPoint(point.x(), point.y());
   AddCommand({.Kind = ListKind::Shape, .Pen = PenIndex(&pen), .Index = Count(outlines_.size() - 1)});
 }
 
 void DrawList::AddImage(ListImage image) {
-  Account(sizeof(ListImage) + static_cast<std::size_t>(image.Image.sizeInBytes()));
+  budget_->TakeKeptBytes(sizeof(ListImage) + static_cast<std::size_t>(image.Image.sizeInBytes()));
   images_.push_back(std::move(image));
   AddCommand({.Kind = ListKind::Image, .Index = Count(images_.size() - 1)});
 }

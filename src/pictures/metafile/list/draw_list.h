@@ -14,6 +14,8 @@
 #include <stdexcept>
 #include <vector>
 
+#include "pictures/picture_budget.h"
+
 namespace tarvis {
 
 // A metafile that can't be shown at all; the text says why.
@@ -91,6 +93,10 @@ struct ListCommand {
 
 class DrawList {
  public:
+  // What is added is taken from `budget`, which must outlive the loading but not the list.
+  explicit DrawList(PictureBudget& budget) : budget_(&budget) {}
+
+  PictureBudget& Budget() { return *budget_; }
   // Coordinates are cut off two hundred times as far from the origin as the picture's frame extends.
   void SetFrameExtent(double extent) { reach_ = extent * ReachInFrames; }
 
@@ -125,10 +131,10 @@ class DrawList {
 
   void AddPoint(double x, double y);
   void AddCommand(ListCommand command);
-  void Account(std::size_t bytes);
   std::int32_t PenIndex(const ListPen* pen);
   std::int32_t BrushIndex(const ListBrush* brush);
 
+  PictureBudget* budget_;
   std::vector<ListCommand> commands_;
   std::vector<ListPoint> points_;
   std::vector<Verb> verbs_;
@@ -141,7 +147,6 @@ class DrawList {
   std::shared_ptr<const ListClip> clip_;
   bool clipPending_ = false;
   double reach_ = 1e9;
-  std::size_t bytes_ = 0;
 };
 
 }  // namespace tarvis

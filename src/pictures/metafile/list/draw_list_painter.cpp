@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "pictures/image_picture.h"
+#include "pictures/metafile/list/area_coverage.h"
 #include "pictures/metafile/list/line_thinning.h"
 
 namespace tarvis {
@@ -14,6 +15,7 @@ namespace {
 constexpr double HairlineInches = 0.005;
 constexpr double ScreenDotsPerInch = 96;
 constexpr double MostDashes = 20000;  // in one line; beyond, a dash is no longer seen as one
+constexpr int DenseArea = 1000;       // corners
 constexpr double WidestPen = 32000;   // of the toolkit
 
 double ScaleOf(const QTransform& transform) {
@@ -160,6 +162,8 @@ void DrawListPainter::Fill(const QPainterPath& path, const ListBrush& listBrush)
   }
   const QRectF box =
       units_.OnScreen && painter_.deviceTransform().type() <= QTransform::TxScale ? AsBox(path) : QRectF();
+  const bool isDense = box.isEmpty() && units_.OnScreen && path.elementCount() > DenseArea;
+  if (isDense && FillDense(path, brush)) return;
   if (box.isEmpty()) {
     painter_.fillPath(path, brush);
     return;
@@ -167,6 +171,25 @@ void DrawListPainter::Fill(const QPainterPath& path, const ListBrush& listBrush)
   painter_.setRenderHint(QPainter::Antialiasing, false);
   painter_.fillRect(OnPixels(box), brush);
   painter_.setRenderHint(QPainter::Antialiasing, true);
+}
+
+// Points closer than a quarter of a pixel are told apart by no eye.
+bool DrawListPainter::FillDense(const QPainterPath& path, const QBrush& brush) {
+  const QTransform& toDevice = painter_.deviceTransform();
+  if (brush.style() != Qt::SolidPattern || toDevice.type() > QTransform::TxScale) return false;
+  const QRect paper(0, 0, painter_.device()->width(), painter_.device()->height());
+  QRectF seen = toDevice.mapRect(path.boundingRect() & target_);
+  if (painter_.hasClipping()) seen &= toDevice.mapRect(painter_.clipBoundingRect());
+  const QRect pixels = seen.toAlignedRect() & paper;
+  if (pixels.isEmpty()) return true;
+  std::vector<QPolygonF> area;
+  for (const QPolygonF& polygon : path.toSubpathPolygons(toDevice))
+    area.push_back(ThinnedLine(polygon, 0.25));
+  const QImage image = AreaInColor(area, path.fillRule(), pixels, brush.color());
+  painter_.setWorldMatrixEnabled(false);
+  painter_.drawImage(pixels.topLeft(), image);
+  painter_.setWorldMatrixEnabled(true);
+  return true;
 }
 
 // Boxes that touch must leave no seam between them on a screen, however thin they are; so each takes whole

@@ -22,6 +22,8 @@ class DrawListPainter {
   QPen MakePen(const ListPen& pen, double length) const;
   void Shape(const ListCommand& command);
   void Fill(const QPainterPath& path, const ListBrush& brush);
+  // False if it is left to the toolkit.
+  bool FillDense(const QPainterPath& path, const QBrush& brush);
   QRectF OnPixels(const QRectF& box) const;
   void Image(const ListImage& image);
   void Clip(const ListClip& clip);

@@ -34,8 +34,8 @@ class MetafilePicture : public PaintablePicture {
 bool LooksLikeEmf(Bytes bytes);
 bool LooksLikeWmf(Bytes bytes);
 
-// BadMetafile or OutOfBytes if the file is broken or shows nothing.
-std::shared_ptr<const MetafilePicture> LoadEmf(Bytes bytes, GlyphOutlines& glyphs);
-std::shared_ptr<const MetafilePicture> LoadWmf(Bytes bytes, GlyphOutlines& glyphs);
+// BadMetafile or OutOfBytes if the file is broken or shows nothing, TooCostly if it passes the budget.
+std::shared_ptr<const MetafilePicture> LoadEmf(Bytes bytes, GlyphOutlines& glyphs, PictureBudget& budget);
+std::shared_ptr<const MetafilePicture> LoadWmf(Bytes bytes, GlyphOutlines& glyphs, PictureBudget& budget);
 
 }  // namespace tarvis

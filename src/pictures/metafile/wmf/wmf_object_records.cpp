@@ -120,10 +120,7 @@ const MetaBrush& BrushAt(const WmfPlayback& p, std::size_t index) {
 void SelectClipRegion(WmfPlayback& p, std::size_t index) {
   if (index == 0 && (p.Objects.empty() || !std::holds_alternative<RegionPtr>(p.Objects[0])))
     return p.Draw.ResetClip();
-  QPainterPath path;
-  path.setFillRule(Qt::WindingFill);
-  for (const QRectF& box : RegionAt(p, index)) path.addRect(box);
-  p.Draw.SelectClip(p.Draw.Dc().ToDevice().map(path), ClipMode::Copy);
+  p.Draw.SelectClip(p.Draw.Dc().ToDevice().map(p.Draw.RegionPath(RegionAt(p, index))), ClipMode::Copy);
 }
 
 void SelectObject(WmfPlayback& p, ByteReader& r) {

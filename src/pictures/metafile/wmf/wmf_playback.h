@@ -7,7 +7,7 @@
 namespace tarvis {
 
 struct WmfPlayback {
-  WmfPlayback(DrawList& list, GlyphOutlines& glyphs) : Draw(list, glyphs) {}
+  WmfPlayback(DrawList& list, GlyphOutlines& glyphs) : Draw(list, glyphs), Bitmaps(list.Budget()) {}
 
   Drawing Draw;
   std::vector<MetaObject> Objects;  // by number; freed numbers hold nothing and are given out again

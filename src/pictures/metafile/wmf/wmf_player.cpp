@@ -88,7 +88,8 @@ FirstExtents FindExtents(Bytes records) {
 
 class WmfPlayer {
  public:
-  WmfPlayer(Bytes bytes, GlyphOutlines& glyphs) : playback_(list_, glyphs) {
+  WmfPlayer(Bytes bytes, GlyphOutlines& glyphs, PictureBudget& budget)
+      : list_(budget), playback_(list_, glyphs) {
     ByteReader reader(bytes);
     if (bytes.size() >= PlaceableSize && ByteReader(bytes).U32() == PlaceableKey) {
       placeable_.emplace(reader);
@@ -144,6 +145,7 @@ class WmfPlayer {
   }
 
   void PlayRecord(Meta function, Bytes parameters) {
+    list_.Budget().TakeRecord();
     const auto found = table_.find(function);
     if (found == table_.end()) {
       ++counts_.Skipped[static_cast<std::uint16_t>(function)];
@@ -189,8 +191,8 @@ bool LooksLikeWmf(Bytes bytes) {
   return (type == 1 || type == 2) && headerWords == 9 && (version == 0x100 || version == 0x300);
 }
 
-std::shared_ptr<const MetafilePicture> LoadWmf(Bytes bytes, GlyphOutlines& glyphs) {
-  return WmfPlayer(bytes, glyphs).Play();
+std::shared_ptr<const MetafilePicture> LoadWmf(Bytes bytes, GlyphOutlines& glyphs, PictureBudget& budget) {
+  return WmfPlayer(bytes, glyphs, budget).Play();
 }
 
 }  // namespace tarvis

@@ -1,0 +1,17 @@
+// Picture formats that the toolkit reads: files of their own, or inside bitmaps and metafiles.
+#pragma once
+
+#include <QImage>
+
+#include "pictures/byte_reader.h"
+
+namespace tarvis {
+
+// How many bytes the picture will take once it is decoded; 0 if its head doesn't tell. BadDib if it is larger
+// than any picture may be, whatever the file around it says of its size.
+std::size_t ToolkitImageSize(Bytes bytes);
+
+// BadDib with the reason if it can't be shown.
+QImage ReadToolkitImage(Bytes bytes);
+
+}  // namespace tarvis
