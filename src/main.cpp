@@ -33,11 +33,12 @@ int main(int argc, char** argv) {
   PrintRun run(desktop);
   QtProgramWindows windows(run);
   SystemPrinters printers(settings->CountsPdfPrinter(), watch);
-  const EndSignals endSignals([&] {
+  EndSignals endSignals([&] {
     if (application->IsFailing()) desktop.EndProcess(ExitAfterRunTimeFailure);
     windows.StopWork();
     EndRun(run);
   });
+  windows.AnswerEndRequestsWith([&endSignals] { endSignals.Answer(); });
   application->Run([&] {
     run.Page = CodePage(settings->CodePageNumber());
     Launch(run, CommandLineText(argc, argv), {*settings, printers, windows});

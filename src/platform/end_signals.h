@@ -14,6 +14,9 @@ class EndSignals : public QObject {
   explicit EndSignals(std::function<void()> end);
   ~EndSignals() override;
 
+  // For work that keeps the event loop waiting: calls `end` if there was such a wish by now.
+  void Answer();
+
  private:
   std::function<void()> end_;
 };

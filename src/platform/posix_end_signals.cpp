@@ -40,11 +40,13 @@ void Watch(int signal) {
 EndSignals::EndSignals(std::function<void()> end) : end_(std::move(end)) {
   if (pipe2(pipeToLoop.data(), O_CLOEXEC | O_NONBLOCK) != 0) return;  // signals end the process, as ever
   auto* notifier = new QSocketNotifier(pipeToLoop[0], QSocketNotifier::Read, this);
-  connect(notifier, &QSocketNotifier::activated, this, [this] {
-    char byte = 0;
-    if (read(pipeToLoop[0], &byte, 1) == 1) end_();
-  });
+  connect(notifier, &QSocketNotifier::activated, this, [this] { Answer(); });
   for (const int signal : WatchedSignals) Watch(signal);
+}
+
+void EndSignals::Answer() {
+  char byte = 0;
+  if (read(pipeToLoop[0], &byte, 1) == 1) end_();
 }
 
 EndSignals::~EndSignals() {

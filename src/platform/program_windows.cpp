@@ -43,7 +43,10 @@ PreviewSetup SetupOf(const ActiveReport& report, const FileHeader& data,
 
 }  // namespace
 
-QtProgramWindows::QtProgramWindows(PrintRun& run) : run_(run), memory_(std::make_shared<PreviewMemory>()) {
+QtProgramWindows::QtProgramWindows(PrintRun& run)
+    : run_(run), memory_(std::make_shared<PreviewMemory>()), pictures_([this] {
+        if (answerEndRequest_) answerEndRequest_();
+      }) {
   qApp->installEventFilter(&help_);
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <functional>
 #include <memory>
 
 #include "pictures/picture_file_loader.h"
@@ -26,6 +27,9 @@ class QtProgramWindows : public QObject, public ProgramWindows {
   void UnloadMasterReport() override;
   void SetHelpFile(const std::string& path) override;
 
+  // While the windows keep the event loop waiting for long, they call `answer` again and again.
+  void AnswerEndRequestsWith(std::function<void()> answer) { answerEndRequest_ = std::move(answer); }
+
   // Calls off what the preview is saving or printing, so that the process can end without half a file left.
   void StopWork();
 
@@ -35,6 +39,7 @@ class QtProgramWindows : public QObject, public ProgramWindows {
   PrintRun& run_;
   std::shared_ptr<PreviewMemory> memory_;
   HelpOpener help_;
+  std::function<void()> answerEndRequest_;
   PictureFileLoader pictures_;
   // The master report handles the preview's events, so it lives on until the next one is shown.
   std::unique_ptr<rptTarvis> report_;

@@ -9,4 +9,7 @@ EndSignals::EndSignals(std::function<void()> end) : end_(std::move(end)) {}
 
 EndSignals::~EndSignals() = default;
 
+// A window can't be asked while the event loop waits.
+void EndSignals::Answer() {}
+
 }  // namespace tarvis
