@@ -63,6 +63,7 @@ void QtProgramWindows::ShowPrintSetting() {
 }
 
 void QtProgramWindows::ShowMasterReport() {
+  pictures_.Forget();  // the host may have drawn them anew
   report_ = std::make_unique<rptTarvis>(ReportContext{run_, pictures_}, CreateFunctionReport, *this);
   run_.Session.MasterReport = report_.get();
   const std::string title = run_.Session.ActiveHeader.TitleText;  // before overlapped data sets add to it
