@@ -88,7 +88,7 @@ void Drawing::Polyline(const Points& points) {
   Points mapped(points.size());
   for (std::size_t i = 0; i < points.size(); ++i) mapped[i] = toDevice.map(points[i]);
   list_.SetClip(State().Clip);
-  list_.AddPolyline(mapped, pen);
+  list_.AddPolyline(mapped, pen, dc_.Scale());
 }
 
 void Drawing::PolylineTo(const Points& points) {

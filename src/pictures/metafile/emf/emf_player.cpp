@@ -105,6 +105,7 @@ class EmfPlayer {
     std::size_t records = 1;
     while (PlayNext()) ++records;
     if (!ended_ && (records < header_.Records || reader_.Position() < header_.Bytes)) throw OutOfBytes();
+    list_.Finish();
     if (plus_.StoodAside() && list_.Commands().empty()) return nullptr;
     if (!counts_.Skipped.empty() && list_.Commands().empty())
       throw BadMetafile("none of its records can be shown");

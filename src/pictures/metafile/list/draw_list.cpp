@@ -2,14 +2,25 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
+
+#include "pictures/metafile/list/dash_finder.h"
 
 namespace tarvis {
 namespace {
 
 constexpr std::size_t PathElementBytes = 24;
+constexpr std::size_t MostLinesAtATime = 512;
+constexpr double FinestParts = 2000;  // of the picture's extent that the end of a dash may be off
 
 std::uint32_t Count(std::size_t size) {
   return static_cast<std::uint32_t>(size);  // the budget keeps all sizes far below 32 bits
+}
+
+// Whether two lines look the same with a joint between them as each with its ends.
+bool JoinsUnseen(const ListPen& pen) {
+  const bool isRound = pen.Pen.capStyle() == Qt::RoundCap && pen.Pen.joinStyle() == Qt::RoundJoin;
+  return (pen.Hairline || isRound) && pen.Pen.style() == Qt::SolidLine;
 }
 
 }  // namespace
@@ -55,6 +66,7 @@ std::int32_t DrawList::BrushIndex(const ListBrush* brush) {
 
 void DrawList::AddShape(const QPainterPath& path, const ListPen* pen, const ListBrush* brush) {
   if (path.isEmpty() || (pen == nullptr && brush == nullptr)) return;
+  FlushLines();
   const auto elements = static_cast<std::size_t>(path.elementCount());
   budget_->TakeElements(elements);
   budget_->TakeKeptBytes(sizeof(Outline) + elements * (sizeof(ListPoint) + sizeof(Verb)));
@@ -75,22 +87,52 @@ void DrawList::AddShape(const QPainterPath& path, const ListPen* pen, const List
               .Index = Count(outlines_.size() - 1)});
 }
 
-void DrawList::AddPolyline(std::span<const QPointF> points, const ListPen& pen) {
+void DrawList::AddPolyline(std::span<const QPointF> points, const ListPen& pen, double unit) {
   if (points.size() < 2) return;
   budget_->TakeElements(points.size());
-  budget_->TakeKeptBytes(sizeof(Outline) + points.size() * sizeof(ListPoint));
-  outlines_.push_back({Count(points_.size()), Count(points.size()), 0, 0});
+  if (!(linePen_ == pen) || lineUnit_ != unit || lines_.size() >= MostLinesAtATime) FlushLines();
+  linePen_ = pen;
+  lineUnit_ = unit;
+  const bool goesOn = !lines_.empty() && lines_.back().last() == points.front() && JoinsUnseen(pen);
+  if (!goesOn) lines_.emplace_back();
+  for (const QPointF& point : goesOn ? points.subspan(1) : points) lines_.back().append(point);
+}
+
+void DrawList::FlushLines() {
+  const std::vector<QPolygonF> lines = std::exchange(lines_, {});
+  const bool isSolid = linePen_.Pen.style() == Qt::SolidLine;
+  const double tolerance = std::min(lineUnit_, reach_ / ReachInFrames / FinestParts) * 0.75;
+  for (std::size_t i = 0; i < lines.size();) {
+    const std::span<const QPolygonF> rest = std::span(lines).subspan(i);
+    const auto dashed = isSolid ? FindDashedLine(rest, tolerance) : std::nullopt;
+    if (!dashed) {
+      EmitLine(lines[i++], linePen_);
+      continue;
+    }
+    ListPen pen = linePen_;
+    pen.PlacedDashes = true;
+    pen.Pen.setDashPattern(QList<qreal>(dashed->Dashes.begin(), dashed->Dashes.end()));
+    EmitLine(dashed->Line, pen);
+    i += dashed->Count;
+  }
+}
+
+void DrawList::EmitLine(const QPolygonF& points, const ListPen& pen) {
+  budget_->TakeKeptBytes(sizeof(Outline) + static_cast<std::size_t>(points.size()) * sizeof(ListPoint));
+  outlines_.push_back({Count(points_.size()), Count(static_cast<std::size_t>(points.size())), 0, 0});
   for (const QPointF& point : points) AddPoint(point.x(), point.y());
   AddCommand({.Kind = ListKind::Shape, .Pen = PenIndex(&pen), .Index = Count(outlines_.size() - 1)});
 }
 
 void DrawList::AddImage(ListImage image) {
+  FlushLines();
   budget_->TakeKeptBytes(sizeof(ListImage) + static_cast<std::size_t>(image.Image.sizeInBytes()));
   images_.push_back(std::move(image));
   AddCommand({.Kind = ListKind::Image, .Index = Count(images_.size() - 1)});
 }
 
 bool DrawList::DropLastImages(std::size_t count) {
+  FlushLines();
   if (commands_.size() < count) return false;
   const auto first = commands_.end() - static_cast<std::ptrdiff_t>(count);
   if (!std::all_of(first, commands_.end(), [](const ListCommand& c) { return c.Kind == ListKind::Image; }))
@@ -101,12 +143,14 @@ bool DrawList::DropLastImages(std::size_t count) {
 }
 
 void DrawList::Truncate(std::size_t first) {
+  FlushLines();
   commands_.resize(std::min(first, commands_.size()));
   asked_ = std::make_shared<ListClip>();  // whatever clip comes next is new
 }
 
 void DrawList::SetClip(std::shared_ptr<const ListClip> clip) {
   if (clip == asked_) return;
+  FlushLines();
   asked_ = clip;
   clip_ = std::move(clip);
   clipPending_ = true;

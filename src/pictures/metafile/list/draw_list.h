@@ -44,6 +44,7 @@ struct ListPen {
   QPen Pen;          // all but the width
   double Width = 0;  // units of the picture
   bool Hairline = false;
+  bool PlacedDashes = false;  // the dashes count in units of the picture, not in widths of the pen
   bool operator==(const ListPen&) const = default;
 };
 
@@ -101,7 +102,11 @@ class DrawList {
   void SetFrameExtent(double extent) { reach_ = extent * ReachInFrames; }
 
   void AddShape(const QPainterPath& path, const ListPen* pen, const ListBrush* brush);
-  void AddPolyline(std::span<const QPointF> points, const ListPen& pen);
+  // `unit` is that of the record in units of the picture: as exact as its points are. Lines that go on where
+  // the last one ended are joined, and dashes that a writer drew one by one become one dashed line.
+  void AddPolyline(std::span<const QPointF> points, const ListPen& pen, double unit);
+  // To be called after the last addition.
+  void Finish() { FlushLines(); }
   void AddImage(ListImage image);
   // Takes back the last `count` images, if nothing else was added after the first of them.
   bool DropLastImages(std::size_t count);
@@ -129,6 +134,8 @@ class DrawList {
  private:
   static constexpr double ReachInFrames = 200;
 
+  void FlushLines();
+  void EmitLine(const QPolygonF& line, const ListPen& pen);
   void AddPoint(double x, double y);
   void AddCommand(ListCommand command);
   std::int32_t PenIndex(const ListPen* pen);
@@ -146,6 +153,9 @@ class DrawList {
   std::shared_ptr<const ListClip> asked_;  // null: none
   std::shared_ptr<const ListClip> clip_;
   bool clipPending_ = false;
+  std::vector<QPolygonF> lines_;  // with one pen, not yet in the list
+  ListPen linePen_;
+  double lineUnit_ = 1;
   double reach_ = 1e9;
 };
 

@@ -14,9 +14,10 @@ namespace {
 
 constexpr double HairlineInches = 0.005;
 constexpr double ScreenDotsPerInch = 96;
-constexpr double MostDashes = 20000;  // in one line; beyond, a dash is no longer seen as one
-constexpr int DenseArea = 1000;       // corners
-constexpr double WidestPen = 32000;   // of the toolkit
+constexpr double MostDashes = 20000;    // in one line; beyond, a dash is no longer seen as one
+constexpr double FinestPrinter = 1200;  // dots to the inch
+constexpr int DenseArea = 1000;         // corners
+constexpr double WidestPen = 32000;     // of the toolkit
 
 double ScaleOf(const QTransform& transform) {
   return std::sqrt(std::abs(transform.determinant()));
@@ -60,6 +61,7 @@ DrawListPainter::DrawListPainter(const DrawList& list, QPainter& painter, const 
   units_.Pixel = 1 / deviceScale;
   units_.ScreenDot = std::max(dotsPerInch / ScreenDotsPerInch, 1.0) / deviceScale;
   units_.Hairline = std::max(1.0, dotsPerInch * HairlineInches) / deviceScale;
+  wholeUnits_ = dotsPerInch >= FinestPrinter && deviceScale == 1;
   units_.OnScreen = painter.paintEngine() != nullptr && painter.paintEngine()->type() == QPaintEngine::Raster;
 }
 
@@ -83,9 +85,11 @@ void DrawListPainter::Paint() {
   painter_.restore();
 }
 
+// In a file, places on whole units take half the room, and no printer is finer.
 QPointF DrawListPainter::Map(ListPoint point) const {
-  return {static_cast<double>(point.X) * toTarget_.m11() + toTarget_.dx(),
-          static_cast<double>(point.Y) * toTarget_.m22() + toTarget_.dy()};
+  const QPointF place(static_cast<double>(point.X) * toTarget_.m11() + toTarget_.dx(),
+                      static_cast<double>(point.Y) * toTarget_.m22() + toTarget_.dy());
+  return wholeUnits_ ? place.toPoint().toPointF() : place;
 }
 
 QPainterPath DrawListPainter::MakePath(const Outline& outline, bool winding) const {
@@ -123,11 +127,20 @@ QPen DrawListPainter::MakePen(const ListPen& listPen, double length) const {
     pen.setBrush(brush);
   }
   if (pen.style() != Qt::CustomDashLine) return pen;
-  // Dashes count in widths of the pen; those of hairlines in dots of a screen.
-  const double unit = listPen.Hairline ? units_.ScreenDot : std::max(width, units_.ScreenDot / 2);
+  // Unless they are placed, dashes count in widths of the pen; those of hairlines in dots of a screen.
+  const double unit = listPen.PlacedDashes ? penScale_
+                      : listPen.Hairline   ? units_.ScreenDot
+                                           : std::max(width, units_.ScreenDot / 2);
   QList<qreal> dashes = pen.dashPattern();
+  // A pen that is shown wider than it is must not close the gaps with its round ends.
+  const double ends =
+      listPen.PlacedDashes && shown > width && pen.capStyle() != Qt::FlatCap ? width / unit : 0;
+  if (listPen.PlacedDashes && shown > width) pen.setCapStyle(Qt::FlatCap);
   double sum = 0;
-  for (qreal& dash : dashes) sum += (dash = std::max(dash * unit / shown, 0.01));
+  for (qsizetype i = 0; i < dashes.size(); ++i) {
+    const double seen = i % 2 == 0 ? dashes[i] + ends : dashes[i] - ends;
+    sum += (dashes[i] = std::max(seen * unit / shown, 0.01));
+  }
   if (sum <= 0 || length / (sum * shown) > MostDashes) {
     pen.setStyle(Qt::SolidLine);
   } else {

@@ -34,6 +34,7 @@ class DrawListPainter {
   QTransform toTarget_;
   double penScale_ = 1;  // from widths of the picture to units of the painter
   DeviceUnits units_;
+  bool wholeUnits_ = false;
 };
 
 }  // namespace tarvis

@@ -110,6 +110,7 @@ class WmfPlayer {
     const bool ended = ForEachRecord(
         records_, [this](Meta function, Bytes parameters) { PlayRecord(function, parameters); });
     if (!ended && (words_ * 2 > records_.size() + HeaderSize || records_.empty())) throw OutOfBytes();
+    list_.Finish();
     if (list_.Commands().empty()) throw BadMetafile("it shows nothing");
     const QRectF frame = frame_.isEmpty() ? list_.Bounds() : frame_;
     return std::make_shared<MetafilePicture>(std::move(list_), frame, NaturalTwips(frame),
