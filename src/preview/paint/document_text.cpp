@@ -73,7 +73,7 @@ void ReadRow(const Cell* first, const Cell* end, PageText& text) {
       const bool alone = end - first == 1;
       Join join = alone ? Join::Break : Join::Wrap;
       if (line == 0) join = rowOpen ? Join::Cell : Join::Line;
-      text.Pieces.push_back({cell->Lines[line], line == 0 ? empty : std::uint16_t{0}, join});
+      text.Pieces.push_back({cell->Lines[line], line == 0 ? empty : std::uint16_t{0}, join, -1});
       rowOpen = true;
       empty = 0;
     }
@@ -92,20 +92,35 @@ void ReadBand(std::vector<Cell>& cells, PageText& text) {
   cells.clear();
 }
 
+// Texts of a picture follow the band that it stands in.
+void ReadPicture(const Document& document, std::uint32_t index, PageText& text) {
+  const PicturePtr& picture = document.Pictures[document.Items[index].Source];
+  if (picture == nullptr) return;
+  for (std::size_t number = 0; number < picture->Texts().size(); ++number)
+    text.Pieces.push_back({index, 0, Join::Line, static_cast<std::int32_t>(number)});
+}
+
 }  // namespace
 
 PageText ReadPage(const Document& document, std::size_t page) {
   PageText text;
   std::vector<Cell> cells;
+  std::vector<std::uint32_t> pictures;
+  const auto endBand = [&] {
+    ReadBand(cells, text);
+    for (const std::uint32_t picture : pictures) ReadPicture(document, picture, text);
+    pictures.clear();
+  };
   const tarvis::Page& range = document.Pages[page];
   std::uint32_t band = 0;
   for (std::uint32_t index = range.FirstItem; index < range.FirstItem + range.ItemCount; ++index) {
     const Item& item = document.Items[index];
-    if (item.Band != band) ReadBand(cells, text);
+    if (item.Band != band) endBand();
     band = item.Band;
     AddItem(cells, item, index);
+    if (item.Kind == ItemKind::Picture) pictures.push_back(index);
   }
-  ReadBand(cells, text);
+  endBand();
   return text;
 }
 

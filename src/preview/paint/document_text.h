@@ -24,6 +24,8 @@ struct ReadPiece {
   std::uint16_t EmptyCells =
       0;  // cells without text between the piece before and this one, or before it in its row
   Join Before = Join::Line;
+  // Index of the texts of the picture that the item is; below 0 if the item is a text itself.
+  std::int32_t PictureText = -1;
 };
 
 struct PageText {

@@ -106,6 +106,7 @@ void PutTextsInReadingOrder(const Document& document, std::size_t page, std::vec
   std::vector<std::uint32_t> ranks(document.Pages[page].ItemCount);
   std::uint32_t rank = 0;
   for (const ReadPiece& piece : ReadPage(document, page).Pieces) {
+    if (piece.PictureText >= 0) continue;  // pictures paint their own
     ranks[piece.Item - document.Pages[page].FirstItem] = rank++;
   }
   const Item* first = document.Items.data() + document.Pages[page].FirstItem;

@@ -1,19 +1,28 @@
-// Where the characters of printed text stand.
+// What the texts of a page say and where their characters stand, be they of reports or inside pictures. A
+// piece of text is told as the reading order has it; places are in twips from the top left corner of the
+// paper.
 #pragma once
 
+#include <QPointF>
 #include <QRectF>
-#include <cstdint>
+#include <string_view>
 
-#include "report/engine/document.h"
+#include "preview/paint/document_text.h"
 
 namespace tarvis {
 
-// The rectangle (twips) of characters `first` to before `end` of a text item, told by its index.
-QRectF BoxOfCharacters(const Document& document, std::uint32_t item, std::size_t first, std::size_t end);
+// UTF-8; lives as long as the document.
+std::string_view TextOf(const Document& document, const ReadPiece& piece);
 
-// The number of characters of a text item that stand left of `x` (twips), to the nearer edge.
-std::size_t CharacterAt(const Document& document, std::uint32_t item, double x);
+// The box of the whole line.
+QRectF BoxOfLine(const Document& document, const ReadPiece& piece);
 
-std::size_t CharacterCount(const Document& document, std::uint32_t item);
+// The box of characters `first` to before `end`.
+QRectF BoxOfCharacters(const Document& document, const ReadPiece& piece, std::size_t first, std::size_t end);
+
+// The number of characters that stand before `point` along the line, to the nearer edge.
+std::size_t CharacterAt(const Document& document, const ReadPiece& piece, QPointF point);
+
+std::size_t CharacterCount(const Document& document, const ReadPiece& piece);
 
 }  // namespace tarvis

@@ -13,7 +13,7 @@ struct CellText {
   QString Text;
   struct Line {
     qsizetype Start;
-    std::uint32_t Item;
+    ReadPiece Piece;
   };
   std::vector<Line> Lines;
 };
@@ -29,8 +29,8 @@ bool IsWholeWord(const QString& text, qsizetype start, qsizetype length) {
   return !startsInside && !endsInside;
 }
 
-QString TextOf(const Document& document, std::uint32_t item) {
-  const std::string_view text = document.Texts[document.Items[item].Source].Text;
+QString WordsOf(const Document& document, const ReadPiece& piece) {
+  const std::string_view text = TextOf(document, piece);
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
@@ -52,8 +52,8 @@ class Searcher {
         cell.Lines.clear();
       }
       if (!cell.Lines.empty()) cell.Text += QLatin1Char(' ');
-      cell.Lines.push_back({cell.Text.size(), piece.Item});
-      cell.Text += TextOf(document_, piece.Item);
+      cell.Lines.push_back({cell.Text.size(), piece});
+      cell.Text += WordsOf(document_, piece);
     }
     SearchCell(page, cell, hits);
   }
@@ -77,7 +77,7 @@ class Searcher {
       const auto characters = [&](qsizetype unit) {
         return static_cast<std::size_t>(QStringView(cell.Text).mid(first, unit - first).toUcs4().size());
       };
-      boxes.push_back(BoxOfCharacters(document_, cell.Lines[line].Item, characters(std::max(start, first)),
+      boxes.push_back(BoxOfCharacters(document_, cell.Lines[line].Piece, characters(std::max(start, first)),
                                       characters(std::min(end, last))));
     }
     return boxes;

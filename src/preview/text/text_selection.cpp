@@ -9,18 +9,16 @@
 namespace tarvis {
 namespace {
 
-QList<uint> CharactersOf(const Document& document, std::uint32_t item) {
-  const std::string_view text = document.Texts[document.Items[item].Source].Text;
+QList<uint> CharactersOf(const Document& document, const ReadPiece& piece) {
+  const std::string_view text = TextOf(document, piece);
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).toUcs4();
 }
 
 // How far `point` is from `box`; beside its line counts as nearer than above or below.
-double Distance(const Rect& box, QPointF point) {
+double Distance(const QRectF& box, QPointF point) {
   constexpr double LineWeight = 4;
-  const auto left = static_cast<double>(box.Left);
-  const auto top = static_cast<double>(box.Top);
-  const double across = std::max({left - point.x(), point.x() - static_cast<double>(box.Right()), 0.0});
-  const double down = std::max({top - point.y(), point.y() - static_cast<double>(box.Bottom()), 0.0});
+  const double across = std::max({box.left() - point.x(), point.x() - box.right(), 0.0});
+  const double down = std::max({box.top() - point.y(), point.y() - box.bottom(), 0.0});
   return across + LineWeight * down;
 }
 
@@ -51,12 +49,12 @@ TextPosition TextSelection::PositionAt(int page, QPointF point) const {
   TextPosition best{page, 0, 0};
   double bestDistance = std::numeric_limits<double>::max();
   for (std::size_t piece = 0; piece < text.Pieces.size(); ++piece) {
-    const double distance = Distance(document.Items[text.Pieces[piece].Item].Box, point);
+    const double distance = Distance(BoxOfLine(document, text.Pieces[piece]), point);
     if (distance >= bestDistance) continue;
     bestDistance = distance;
     best.Piece = piece;
   }
-  if (!text.Pieces.empty()) best.Character = CharacterAt(document, text.Pieces[best.Piece].Item, point.x());
+  if (!text.Pieces.empty()) best.Character = CharacterAt(document, text.Pieces[best.Piece], point);
   return best;
 }
 
@@ -72,7 +70,7 @@ void TextSelection::SelectWord(int page, QPointF point) {
   anchor_ = end_ = PositionAt(page, point);
   const PageText& text = text_.Page(page);
   if (text.Pieces.empty()) return;
-  const QList<uint> characters = CharactersOf(text_.Source(), text.Pieces[anchor_.Piece].Item);
+  const QList<uint> characters = CharactersOf(text_.Source(), text.Pieces[anchor_.Piece]);
   const auto isWord = [&](std::size_t index) {
     return IsWordCharacter(characters[static_cast<qsizetype>(index)]);
   };
@@ -92,7 +90,7 @@ TextSelection::Part TextSelection::PartOf(int page, std::size_t piece, const Rea
   const TextPosition last = Last();
   if (TextPosition{page, piece, std::numeric_limits<std::size_t>::max()} < first) return {};
   if (TextPosition{page, piece, 0} >= last) return {};
-  const std::size_t count = CharacterCount(text_.Source(), read.Item);
+  const std::size_t count = CharacterCount(text_.Source(), read);
   const bool startsHere = first.Page == page && first.Piece == piece;
   const bool endsHere = last.Page == page && last.Piece == piece;
   return {startsHere ? first.Character : 0, endsHere ? last.Character : count};
@@ -105,7 +103,7 @@ std::vector<QRectF> TextSelection::Boxes(int page) const {
   for (std::size_t piece = 0; piece < text.Pieces.size(); ++piece) {
     const Part part = PartOf(page, piece, text.Pieces[piece]);
     if (part.First < part.End) {
-      boxes.push_back(BoxOfCharacters(text_.Source(), text.Pieces[piece].Item, part.First, part.End));
+      boxes.push_back(BoxOfCharacters(text_.Source(), text.Pieces[piece], part.First, part.End));
     }
   }
   return boxes;
@@ -121,7 +119,7 @@ QString TextSelection::Text() const {
     for (std::size_t piece = 0; piece < text.Pieces.size(); ++piece) {
       const Part part = PartOf(page, piece, text.Pieces[piece]);
       if (part.First >= part.End) continue;
-      const QList<uint> characters = CharactersOf(text_.Source(), text.Pieces[piece].Item);
+      const QList<uint> characters = CharactersOf(text_.Source(), text.Pieces[piece]);
       copied += Separator(text.Pieces[piece], first);
       for (std::size_t index = part.First; index < part.End; ++index) {
         const auto character = static_cast<char32_t>(characters[static_cast<qsizetype>(index)]);
