@@ -28,8 +28,9 @@ void DrawGlyphs(QPainter& painter, const PdfGlyphs& glyphs, ReportFont& font) {
   }
 }
 
-// First page: every glyph in order of its code, face by face. Then a page for each picture.
-QByteArray PaintHelperFile(const PdfGlyphs& glyphs, const PdfPictures& pictures, ReportFont& font) {
+// Makes a file in memory by what `paint` does with a writer and its painter.
+template <typename Paint>
+QByteArray PaintHelperFile(Paint paint) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
@@ -38,7 +39,27 @@ QByteArray PaintHelperFile(const PdfGlyphs& glyphs, const PdfPictures& pictures,
   writer.setPageMargins({});
   QPainter painter(&writer);
   painter.setRenderHint(QPainter::LosslessImageRendering);
-  DrawGlyphs(painter, glyphs, font);
+  paint(writer, painter);
+  painter.end();
+  return bytes;
+}
+
+class HelperFile {
+ public:
+  explicit HelperFile(const QByteArray& bytes) : bytes_(bytes) {
+    file_.processMemoryFile("helper", bytes_.constData(), static_cast<std::size_t>(bytes_.size()));
+    file_.setImmediateCopyFrom(true);  // it is gone when the PDF is written
+  }
+  std::vector<QPDFPageObjectHelper> Pages() { return QPDFPageDocumentHelper(file_).getAllPages(); }
+
+ private:
+  QByteArray bytes_;
+  QPDF file_;
+};
+
+// A page for each picture, after an empty one. Text of pictures has fonts of its own in this file: those of
+// the pages are told by glyphs and widths that pictures don't share.
+void PaintPictures(const PdfPictures& pictures, QPdfWriter& writer, QPainter& painter) {
   for (const PdfPicture& picture : pictures.All()) {
     const QSizeF points(std::floor(static_cast<double>(picture.Width) / 20) + 1,
                         PdfPictureHeight(picture.Height));
@@ -51,8 +72,6 @@ QByteArray PaintHelperFile(const PdfGlyphs& glyphs, const PdfPictures& pictures,
                      QRectF(0, 0, static_cast<double>(picture.Width), static_cast<double>(picture.Height)));
     painter.restore();
   }
-  painter.end();
-  return bytes;
 }
 
 // Name of the font and code of each glyph that a content stream shows, in order.
@@ -175,14 +194,15 @@ QPDFObjectHandle TakeForm(QPDF& pdf, QPDFPageObjectHelper& page) {
 
 QPDFObjectHandle MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPictures& pictures,
                                ReportFont& font) {
-  const QByteArray bytes = PaintHelperFile(glyphs, pictures, font);
-  QPDF helper;
-  helper.processMemoryFile("helper", bytes.constData(), static_cast<std::size_t>(bytes.size()));
-  helper.setImmediateCopyFrom(true);  // `bytes` are gone when the PDF is written
-  std::vector<QPDFPageObjectHelper> pages = QPDFPageDocumentHelper(helper).getAllPages();
+  HelperFile glyphFile(
+      PaintHelperFile([&](QPdfWriter&, QPainter& painter) { DrawGlyphs(painter, glyphs, font); }));
+  HelperFile pictureFile(PaintHelperFile(
+      [&](QPdfWriter& writer, QPainter& painter) { PaintPictures(pictures, writer, painter); }));
+  std::vector<QPDFPageObjectHelper> glyphPages = glyphFile.Pages();
   QPDFObjectHandle resources = QPDFObjectHandle::newDictionary();
-  resources.replaceKey("/Font", TakeFonts(pdf, pages.at(0), glyphs));
+  resources.replaceKey("/Font", TakeFonts(pdf, glyphPages.at(0), glyphs));
   QPDFObjectHandle forms = QPDFObjectHandle::newDictionary();
+  std::vector<QPDFPageObjectHelper> pages = pictureFile.Pages();
   for (std::size_t number = 0; number < pictures.All().size(); ++number) {
     forms.replaceKey("/P" + std::to_string(number), TakeForm(pdf, pages.at(number + 1)));
   }

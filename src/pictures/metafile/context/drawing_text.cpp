@@ -35,6 +35,7 @@ double AlignedBaseline(std::uint32_t align, double ascent, double descent) {
 // both in device units; a glyph's own axes differ where the mapping stretches, for glyphs keep their
 // proportions.
 struct Drawing::TextPlace {
+  OutlineFont Font;
   OutlineFace* Face = nullptr;
   QPointF Start;  // of the baseline, device units
   QPointF Along, Down;
@@ -48,7 +49,8 @@ struct Drawing::TextPlace {
 Drawing::TextPlace Drawing::PlaceText(const TextRecord& text) {
   const MetaFont& font = *State().Font;
   TextPlace place;
-  place.Face = &glyphs_.Face(QString::fromStdU16String(font.Face), font.Weight >= BoldWeight, font.Italic);
+  place.Font = {QString::fromStdU16String(font.Face), font.Weight >= BoldWeight, font.Italic};
+  place.Face = &glyphs_.Face(place.Font);
   const QTransform page = dc_.PageToDevice();
   const double signX = page.m11() < 0 ? -1 : 1;
   const double signY = page.m22() < 0 ? -1 : 1;
@@ -109,22 +111,32 @@ void Drawing::DrawGlyphs(const TextRecord& text, const TextPlace& place) {
   QPainterPath path;
   path.setFillRule(Qt::WindingFill);
   bool unknown = false;
+  ListText shown{.Characters = {},
+                 .Font = line.Font,
+                 .Origins = {},
+                 .Em = QTransform(line.GlyphAlong.x(), line.GlyphAlong.y(), line.GlyphDown.x(),
+                                  line.GlyphDown.y(), 0, 0),
+                 .Up = -line.Down * line.Ascent,
+                 .Down = line.Down * line.Descent,
+                 .Color = State().TextColor};
   const SymbolSet symbols = FindSymbolSet(State().Font->Face, State().Font->Charset);
   for (std::size_t i = 0; i < places.size(); ++i) {
     const char32_t code = SymbolCharacter(symbols, text.Text[i].Code);
     unknown = unknown || (code == 0 && text.Text[i].Code != 0);
-    if (code <= U' ') continue;
-    const QPointF origin = place.Start + place.Along * places[i].x() - place.Down * places[i].y();
-    const QTransform toDevice(place.GlyphAlong.x(), place.GlyphAlong.y(), place.GlyphDown.x(),
-                              place.GlyphDown.y(), origin.x(), origin.y());
-    path.addPath(toDevice.map(place.Face->Glyph(code).Path));
+    if (code < U' ') continue;
+    const QPointF origin = line.Start + line.Along * places[i].x() - line.Down * places[i].y();
+    shown.Characters += code;
+    shown.Origins.push_back(origin);
+    if (code != U' ')
+      path.addPath(
+          (shown.Em * QTransform::fromTranslate(origin.x(), origin.y())).map(line.Face->Glyph(code).Path));
   }
   if (inPath_) {
     path_.addPath(path);
   } else {
-    const ListBrush brush{QBrush(State().TextColor)};
+    shown.Origins.push_back(line.Start + line.Along * line.Width - line.Down * line.Rise);
     list_.SetClip(State().Clip);
-    list_.AddShape(path, nullptr, &brush);
+    list_.AddText(path, std::move(shown));
   }
   if (unknown) throw SkipRecord();
 }

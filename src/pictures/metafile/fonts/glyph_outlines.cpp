@@ -9,25 +9,6 @@ constexpr int EmPixels = 256;
 constexpr std::size_t MostFaces = 64;     // kept at a time
 constexpr std::size_t MostGlyphs = 4096;  // of a face, kept at a time
 
-// Families whose usual stand-ins the font system may not know.
-QString KnownFamily(const QString& family) {
-  static const std::map<QString, QString> standIns = {{"helv", "Arial"},
-                                                      {"ms sans serif", "Arial"},
-                                                      {"ms shell dlg", "Arial"},
-                                                      {"system", "Arial"},
-                                                      {"helvetica", "Arial"},
-                                                      {"tms rmn", "Times New Roman"},
-                                                      {"times", "Times New Roman"},
-                                                      {"ms serif", "Times New Roman"},
-                                                      {"courier", "Courier New"},
-                                                      {"fixedsys", "Courier New"},
-                                                      {"terminal", "Courier New"},
-                                                      {"symbol", "Times New Roman"},
-                                                      {"wingdings", "DejaVu Sans"}};
-  const auto found = standIns.find(family.toLower());
-  return family.isEmpty() ? QString("Arial") : found == standIns.end() ? family : found->second;
-}
-
 // How often letters and the blank stand in a thousand characters of Latin text, as the mean width that font
 // files tell was once defined. Writers of metafiles mean this width, not the mean of all glyphs of a font.
 struct LetterWeight {
@@ -53,9 +34,6 @@ double MeanWidth(const QFontMetricsF& metrics) {
 }  // namespace
 
 OutlineFace::OutlineFace(const QFont& font) : font_(font) {
-  font_.setPixelSize(EmPixels);
-  font_.setHintingPreference(QFont::PreferNoHinting);
-  font_.setKerning(false);
   const QFontMetricsF metrics(font_);
   Ascent = metrics.ascent() / EmPixels;
   Descent = metrics.descent() / EmPixels;
@@ -74,14 +52,10 @@ const GlyphOutline& OutlineFace::Glyph(char32_t character) {
   return glyphs_.emplace(character, std::move(glyph)).first->second;
 }
 
-OutlineFace& GlyphOutlines::Face(const QString& family, bool bold, bool italic) {
-  const Key key{family, bold, italic};
-  if (const auto known = faces_.find(key); known != faces_.end()) return *known->second;
+OutlineFace& GlyphOutlines::Face(const OutlineFont& font) {
+  if (const auto known = faces_.find(font); known != faces_.end()) return *known->second;
   if (faces_.size() >= MostFaces) faces_.clear();
-  QFont font(KnownFamily(family.startsWith('@') ? family.mid(1) : family));
-  font.setBold(bold);
-  font.setItalic(italic);
-  return *faces_.emplace(key, std::make_unique<OutlineFace>(font)).first->second;
+  return *faces_.emplace(font, std::make_unique<OutlineFace>(InstalledFont(font, EmPixels))).first->second;
 }
 
 }  // namespace tarvis

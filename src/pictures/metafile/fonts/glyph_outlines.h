@@ -1,14 +1,12 @@
 // Outlines of characters, so that text looks alike on every device and can be painted on any thread.
 #pragma once
 
-#include <QFont>
 #include <QPainterPath>
-#include <QString>
 #include <map>
 #include <memory>
-#include <string>
-#include <tuple>
 #include <unordered_map>
+
+#include "pictures/metafile/fonts/outline_font.h"
 
 namespace tarvis {
 
@@ -38,11 +36,10 @@ class OutlineFace {
 // Keeps the faces and glyphs of all metafiles that are loaded with it. To be used by one thread.
 class GlyphOutlines {
  public:
-  OutlineFace& Face(const QString& family, bool bold, bool italic);
+  OutlineFace& Face(const OutlineFont& font);
 
  private:
-  using Key = std::tuple<QString, bool, bool>;  // family, bold, italic
-  std::map<Key, std::unique_ptr<OutlineFace>> faces_;
+  std::map<OutlineFont, std::unique_ptr<OutlineFace>> faces_;
 };
 
 }  // namespace tarvis

@@ -87,6 +87,15 @@ void DrawList::AddShape(const QPainterPath& path, const ListPen* pen, const List
               .Index = Count(outlines_.size() - 1)});
 }
 
+void DrawList::AddText(const QPainterPath& outline, ListText text) {
+  const ListBrush brush{QBrush(text.Color)};
+  if (outline.isEmpty()) return;  // nothing but blanks
+  AddShape(outline, nullptr, &brush);
+  budget_->TakeKeptBytes(sizeof(ListText) + text.Characters.size() * (sizeof(char32_t) + sizeof(QPointF)));
+  commands_.back().Text = static_cast<std::int32_t>(texts_.size());
+  texts_.push_back(std::move(text));
+}
+
 void DrawList::AddPolyline(std::span<const QPointF> points, const ListPen& pen, double unit) {
   if (points.size() < 2) return;
   budget_->TakeElements(points.size());

@@ -14,6 +14,7 @@
 #include <stdexcept>
 #include <vector>
 
+#include "pictures/metafile/fonts/outline_font.h"
 #include "pictures/picture_budget.h"
 
 namespace tarvis {
@@ -82,6 +83,16 @@ struct ListImage {
   QTransform Place;  // from pixels of the image to the picture
 };
 
+// A line of text in one font. All places are those of the picture.
+struct ListText {
+  std::u32string Characters;
+  OutlineFont Font;
+  std::vector<QPointF> Origins;  // of each character on the baseline, and where the line ends
+  QTransform Em;                 // from ems along the baseline and down from it; without a translation
+  QPointF Up, Down;              // from the baseline to the top of the line, and to its bottom
+  QColor Color;
+};
+
 enum class ListKind : std::uint8_t { Shape, Image, Clip };
 
 struct ListCommand {
@@ -90,6 +101,7 @@ struct ListCommand {
   std::int32_t Pen = -1;    // none if below 0
   std::int32_t Brush = -1;  // none if below 0
   std::uint32_t Index = 0;  // of the outline, image or clip
+  std::int32_t Text = -1;   // that the outline shows; none if below 0
 };
 
 class DrawList {
@@ -102,6 +114,8 @@ class DrawList {
   void SetFrameExtent(double extent) { reach_ = extent * ReachInFrames; }
 
   void AddShape(const QPainterPath& path, const ListPen* pen, const ListBrush* brush);
+  // Text with its outline, for devices without fonts.
+  void AddText(const QPainterPath& outline, ListText text);
   // `unit` is that of the record in units of the picture: as exact as its points are. Lines that go on where
   // the last one ended are joined, and dashes that a writer drew one by one become one dashed line.
   void AddPolyline(std::span<const QPointF> points, const ListPen& pen, double unit);
@@ -121,6 +135,8 @@ class DrawList {
   const std::vector<ListCommand>& Commands() const { return commands_; }
   const ListPen& Pen(std::int32_t index) const { return pens_[static_cast<std::size_t>(index)]; }
   const ListBrush& Brush(std::int32_t index) const { return brushes_[static_cast<std::size_t>(index)]; }
+  const ListText& Text(std::int32_t index) const { return texts_[static_cast<std::size_t>(index)]; }
+  const std::vector<ListText>& Texts() const { return texts_; }
   const ListImage& Image(std::uint32_t index) const { return images_[index]; }
   const ListClip& Clip(std::uint32_t index) const { return *clips_[index]; }
   const Outline& OutlineAt(std::uint32_t index) const { return outlines_[index]; }
@@ -149,6 +165,7 @@ class DrawList {
   std::vector<ListPen> pens_;
   std::vector<ListBrush> brushes_;
   std::vector<ListImage> images_;
+  std::vector<ListText> texts_;
   std::vector<std::shared_ptr<const ListClip>> clips_;
   std::shared_ptr<const ListClip> asked_;  // null: none
   std::shared_ptr<const ListClip> clip_;

@@ -1,5 +1,6 @@
 #include "pictures/metafile/list/draw_list_painter.h"
 
+#include <QGlyphRun>
 #include <QPaintDevice>
 #include <QPaintEngine>
 #include <algorithm>
@@ -14,7 +15,8 @@ namespace {
 
 constexpr double HairlineInches = 0.005;
 constexpr double ScreenDotsPerInch = 96;
-constexpr double MostDashes = 20000;    // in one line; beyond, a dash is no longer seen as one
+constexpr double MostDashes = 20000;  // in one line; beyond, a dash is no longer seen as one
+constexpr int FontPixels = 1000;
 constexpr double FinestPrinter = 1200;  // dots to the inch
 constexpr int DenseArea = 1000;         // corners
 constexpr double WidestPen = 32000;     // of the toolkit
@@ -150,6 +152,7 @@ QPen DrawListPainter::MakePen(const ListPen& listPen, double length) const {
 }
 
 void DrawListPainter::Shape(const ListCommand& command) {
+  if (command.Text >= 0 && !units_.OnScreen && Text(list_.Text(command.Text))) return;
   const Outline& outline = list_.OutlineAt(command.Index);
   if (outline.VerbCount == 0) {
     const QPolygonF line = MakeLine(outline);
@@ -162,6 +165,40 @@ void DrawListPainter::Shape(const ListCommand& command) {
   if (command.Pen < 0) return;
   const ListPen& pen = list_.Pen(command.Pen);
   painter_.strokePath(path, MakePen(pen, pen.Pen.style() == Qt::SolidLine ? 0 : path.length()));
+}
+
+// On paper and in files text is text, which can be searched there and weighs little. On a screen its outline
+// looks the same and may be painted on any thread.
+bool DrawListPainter::Text(const ListText& text) {
+  const auto known = fonts_.find(text.Font);
+  const QRawFont& font =
+      known != fonts_.end()
+          ? known->second
+          : fonts_.emplace(text.Font, QRawFont::fromFont(InstalledFont(text.Font, FontPixels))).first->second;
+  const QTransform toPaper(toTarget_.m11(), 0, 0, toTarget_.m22(), 0, 0);
+  const QTransform fontToPaper =
+      QTransform::fromScale(1.0 / FontPixels, 1.0 / FontPixels) * text.Em * toPaper;
+  if (!fontToPaper.isInvertible() || text.Characters.empty()) return false;
+  const QTransform paperToFont = fontToPaper.inverted();
+  const QPointF start = toTarget_.map(text.Origins[0]);
+  QList<quint32> glyphs;
+  QList<QPointF> places;
+  for (std::size_t i = 0; i < text.Characters.size(); ++i) {
+    const QList<quint32> glyph = font.glyphIndexesForString(QString::fromUcs4(&text.Characters[i], 1));
+    if (glyph.size() != 1 || glyph[0] == 0) return false;
+    glyphs += glyph;
+    places << paperToFont.map(toTarget_.map(text.Origins[i]) - start).toPoint().toPointF();
+  }
+  QGlyphRun run;
+  run.setRawFont(font);
+  run.setGlyphIndexes(glyphs);
+  run.setPositions(places);
+  painter_.save();
+  painter_.setTransform(fontToPaper * QTransform::fromTranslate(start.x(), start.y()), true);
+  painter_.setPen(text.Color);
+  painter_.drawGlyphRun({}, run);
+  painter_.restore();
+  return true;
 }
 
 void DrawListPainter::Fill(const QPainterPath& path, const ListBrush& listBrush) {

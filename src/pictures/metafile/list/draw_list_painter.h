@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QPainter>
+#include <QRawFont>
+#include <map>
 
 #include "pictures/metafile/list/draw_list.h"
 #include "pictures/metafile/list/hatch_painter.h"
@@ -21,6 +23,8 @@ class DrawListPainter {
   QPolygonF MakeLine(const Outline& outline) const;
   QPen MakePen(const ListPen& pen, double length) const;
   void Shape(const ListCommand& command);
+  // False if no installed font has all its characters.
+  bool Text(const ListText& text);
   void Fill(const QPainterPath& path, const ListBrush& brush);
   // False if it is left to the toolkit.
   bool FillDense(const QPainterPath& path, const QBrush& brush);
@@ -35,6 +39,7 @@ class DrawListPainter {
   double penScale_ = 1;  // from widths of the picture to units of the painter
   DeviceUnits units_;
   bool wholeUnits_ = false;
+  std::map<OutlineFont, QRawFont> fonts_;  // at FontPixels to the em
 };
 
 }  // namespace tarvis

@@ -13,6 +13,24 @@ MetafilePicture::MetafilePicture(DrawList list, const QRectF& frame, const QSize
   if (!usable(frame.width()) || !usable(frame.height()) || !usable(natural.width()) ||
       !usable(natural.height()))
     throw BadMetafile("it has no extent");
+  AddTexts();
+}
+
+void MetafilePicture::AddTexts() {
+  const auto part = [this](QPointF size) {
+    return PictureText::Place{static_cast<float>(size.x() / frame_.width()),
+                              static_cast<float>(size.y() / frame_.height())};
+  };
+  for (const ListText& text : list_.Texts()) {
+    if (!frame_.contains(text.Origins.front())) continue;
+    PictureText told;
+    told.Text = QString::fromUcs4(text.Characters.data(), static_cast<qsizetype>(text.Characters.size()))
+                    .toStdString();
+    for (const QPointF& origin : text.Origins) told.Edges.push_back(part(origin - frame_.topLeft()));
+    told.Up = part(text.Up);
+    told.Down = part(text.Down);
+    texts_.push_back(std::move(told));
+  }
 }
 
 void MetafilePicture::Paint(QPainter& painter, const QRectF& target) const {

@@ -25,6 +25,8 @@ class MetafilePicture : public PaintablePicture {
   const DrawList& List() const { return list_; }
 
  private:
+  void AddTexts();
+
   DrawList list_;
   QRectF frame_;
   QSizeF natural_;

@@ -1,0 +1,40 @@
+#include "pictures/metafile/fonts/outline_font.h"
+
+#include <map>
+
+namespace tarvis {
+namespace {
+
+// Families whose usual stand-ins the font system may not know.
+QString KnownFamily(const QString& family) {
+  static const std::map<QString, QString> standIns = {{"helv", "Arial"},
+                                                      {"ms sans serif", "Arial"},
+                                                      {"ms shell dlg", "Arial"},
+                                                      {"system", "Arial"},
+                                                      {"helvetica", "Arial"},
+                                                      {"tms rmn", "Times New Roman"},
+                                                      {"times", "Times New Roman"},
+                                                      {"ms serif", "Times New Roman"},
+                                                      {"courier", "Courier New"},
+                                                      {"fixedsys", "Courier New"},
+                                                      {"terminal", "Courier New"},
+                                                      {"symbol", "Times New Roman"},
+                                                      {"wingdings", "DejaVu Sans"}};
+  const auto found = standIns.find(family.toLower());
+  return family.isEmpty() ? QString("Arial") : found == standIns.end() ? family : found->second;
+}
+
+}  // namespace
+
+QFont InstalledFont(const OutlineFont& font, int emPixels) {
+  // A name after @ is that of the same font for upright text.
+  QFont installed(KnownFamily(font.Family.startsWith('@') ? font.Family.mid(1) : font.Family));
+  installed.setBold(font.Bold);
+  installed.setItalic(font.Italic);
+  installed.setPixelSize(emPixels);
+  installed.setHintingPreference(QFont::PreferNoHinting);
+  installed.setKerning(false);
+  return installed;
+}
+
+}  // namespace tarvis

@@ -1,0 +1,24 @@
+// The font that a record names, and the installed one that stands in for it.
+#pragma once
+
+#include <QFont>
+#include <QString>
+#include <tuple>
+
+namespace tarvis {
+
+struct OutlineFont {
+  QString Family;
+  bool Bold = false;
+  bool Italic = false;
+
+  bool operator==(const OutlineFont&) const = default;
+  bool operator<(const OutlineFont& other) const {
+    return std::tie(Family, Bold, Italic) < std::tie(other.Family, other.Bold, other.Italic);
+  }
+};
+
+// With `emPixels` to the em, without hints and kerning.
+QFont InstalledFont(const OutlineFont& font, int emPixels);
+
+}  // namespace tarvis
