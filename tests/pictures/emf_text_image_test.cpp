@@ -51,6 +51,20 @@ TEST(EmfText, AWidthThatIsTheMeanOfTheFontChangesNothing) {
   EXPECT_NEAR(widthOf("Arial", 220), widthOf("Arial", 0) / 2.0, 6);
 }
 
+TEST(EmfText, TellsItsCharactersAndWhereTheyStand) {
+  const auto picture = Play(TextEmf(-20).Set(22, 24).Text(10, 60, "Ab c", {14, 12, 6, 10}).Bytes());
+  ASSERT_EQ(picture->Texts().size(), 1u);
+  const PictureText& text = picture->Texts()[0];
+  EXPECT_EQ(text.Text, "Ab c");
+  ASSERT_EQ(text.Edges.size(), 5u);
+  EXPECT_NEAR(text.Edges[0].X, 0.10F, 1e-3);
+  EXPECT_NEAR(text.Edges[1].X, 0.24F, 1e-3);
+  EXPECT_NEAR(text.Edges[4].X, 0.52F, 1e-3);
+  EXPECT_NEAR(text.Edges[0].Y, 0.60F, 1e-3);
+  EXPECT_NEAR(text.Up.Y, -0.181F, 5e-3);
+  EXPECT_NEAR(text.Down.Y, 0.042F, 5e-3);
+}
+
 TEST(EmfText, AlignsLeftRightAndCentred) {
   const QRect left = Ink(TextEmf().Text(50, 20, "H").Show());
   const QRect right = Ink(TextEmf().Set(22, 2).Text(50, 20, "H").Show());

@@ -1,0 +1,85 @@
+// Text inside pictures is text: it is found, selected and copied, and is text in a PDF.
+#include <QClipboard>
+#include <QLabel>
+#include <QTemporaryDir>
+
+#include "pictures/metafile_writer.h"
+#include "preview/output/pdf_export.h"
+#include "preview/pdf_file.h"
+#include "preview/text/text_search.h"
+#include "preview/window_fixture.h"
+
+namespace tarvis {
+namespace {
+
+constexpr Rect Place{1440, 2000, 4000, 4000};
+constexpr double Unit = 40;  // twips of the page to a unit of the picture
+
+std::shared_ptr<const Document> Graph() {
+  EmfWriter emf;
+  emf.Set(18, 1).Pen(0, 1).Rectangle(20, 10, 90, 80);
+  emf.Font(-10, "Arial").Text(20, 82, "Velocity [rpm]");
+  emf.Set(22, 24).Font(-10, "Arial", 900).Text(15, 80, "Torque");
+  PictureFileLoader loader;
+  DocumentBuilder builder;
+  builder.Page()
+      .Text("Graph of the trace", 1440, 1000)
+      .Picture(loader.LoadBytes("graph", emf.Bytes()), Place);
+  return builder.Build();
+}
+
+class PictureText : public WindowTest {};
+
+TEST_F(PictureText, is_found_where_its_letters_stand) {
+  Open(Graph());
+  Press(Qt::Key_F, Qt::ControlModifier);
+  Type("rpm");
+  EXPECT_EQ(Find<QLabel>("findCount").text(), QStringLiteral("1 of 1"));
+  const auto document = Graph();
+  DocumentText words(*document);
+  const auto hits = Search(words, QStringLiteral("velocity"), {});
+  ASSERT_EQ(hits.size(), 1U);
+  const QRectF box = hits[0].Boxes[0];
+  EXPECT_NEAR(box.left(), 1440 + 20 * Unit, 20);
+  EXPECT_NEAR(box.top(), 2000 + 82 * Unit, 20);
+  EXPECT_NEAR(box.height(), 11.17 * Unit, 20);
+}
+
+TEST_F(PictureText, that_runs_upwards_is_marked_upright) {
+  const auto document = Graph();
+  DocumentText words(*document);
+  const auto hits = Search(words, QStringLiteral("Torque"), {});
+  ASSERT_EQ(hits.size(), 1U);
+  const QRectF box = hits[0].Boxes[0];
+  EXPECT_GT(box.height(), 2 * box.width());
+  EXPECT_NEAR(box.bottom(), 2000 + 80 * Unit, 20);
+}
+
+TEST_F(PictureText, is_copied_after_the_text_above_it) {
+  Open(Graph());
+  Press(Qt::Key_A, Qt::ControlModifier);
+  Press(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("Graph of the trace\nVelocity [rpm]\nTorque"));
+}
+
+TEST_F(PictureText, is_selected_with_the_mouse_in_the_direction_in_which_it_runs) {
+  Open(Graph());
+  const int x = static_cast<int>(1440 + 12 * Unit);
+  QTest::mouseDClick(View().viewport(), Qt::LeftButton, Qt::NoModifier,
+                     At(0, x, static_cast<int>(2000 + 70 * Unit)));
+  Press(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("Torque"));
+}
+
+TEST_F(PictureText, is_text_in_a_pdf) {
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("out.pdf"));
+  ASSERT_EQ(ExportPdf(*Graph(), path, {}, [](int, int) { return true; }), QString());
+  const QString text = RunTool("pdftotext", {QStringLiteral("-raw"), path, QStringLiteral("-")});
+  EXPECT_TRUE(text.contains(QStringLiteral("Graph of the trace"))) << text.toStdString();
+  EXPECT_TRUE(text.contains(QStringLiteral("Velocity [rpm]"))) << text.toStdString();
+  EXPECT_TRUE(text.contains(QStringLiteral("Torque"))) << text.toStdString();
+}
+
+}  // namespace
+}  // namespace tarvis
