@@ -65,6 +65,42 @@ TEST(EmfText, TellsItsCharactersAndWhereTheyStand) {
   EXPECT_NEAR(text.Down.Y, 0.042F, 5e-3);
 }
 
+constexpr std::uint32_t GlyphIndexes = 0x10;
+
+// Glyphs of ASCII have their code less 29 in these fonts.
+std::string AsGlyphs(std::string text) {
+  for (char& c : text) c = static_cast<char>(c - 29);
+  return text;
+}
+
+TEST(EmfText, ByNumbersOfGlyphsIsDrawnWhereTheFontOrItsTwinIsThere) {
+  const EmfWriter letters = TextEmf(-20).Text(5, 20, "Time");
+  const EmfWriter glyphs = TextEmf(-20).Text(5, 20, AsGlyphs("Time"), {}, GlyphIndexes);
+  EXPECT_EQ(glyphs.Show(), letters.Show());
+  EXPECT_EQ(Play(glyphs.Bytes())->Texts()[0].Text, "Time");
+}
+
+std::string ReasonOf(const std::string& bytes) {
+  try {
+    Play(bytes);
+  } catch (const BadMetafile& failure) {
+    return failure.what();
+  }
+  return "it loads";
+}
+
+TEST(EmfText, ByNumbersOfGlyphsOfAnotherFontRefusesThePictureWithItsName) {
+  EmfWriter emf;
+  emf.Pen(0, 3).Rectangle(5, 5, 90, 90).Font(-20, "Frutiger Next");
+  const std::string reason = ReasonOf(emf.Text(5, 20, AsGlyphs("Time"), {}, GlyphIndexes).Bytes());
+  EXPECT_NE(reason.find("Frutiger Next"), std::string::npos) << reason;
+}
+
+TEST(EmfText, ByNumbersOfGlyphsThatAreAsWideAsOtherLettersIsRefused) {
+  const auto reason = ReasonOf(TextEmf(-20).Text(5, 20, AsGlyphs("iii"), {14, 14, 14}, GlyphIndexes).Bytes());
+  EXPECT_NE(reason.find("Arial"), std::string::npos) << reason;
+}
+
 TEST(EmfText, AlignsLeftRightAndCentred) {
   const QRect left = Ink(TextEmf().Text(50, 20, "H").Show());
   const QRect right = Ink(TextEmf().Set(22, 2).Text(50, 20, "H").Show());

@@ -58,6 +58,13 @@ TEST(HostileMetafile, ThatShowsNothingAtAllIsRefused) {
   ExpectRefused(WmfWriter().Window(0, 0, 100, 100).Bytes(), "no drawing");
 }
 
+TEST(HostileMetafile, OfWhichOnlyAWhiteGroundCouldBePlayedIsRefused) {
+  EmfWriter emf;
+  emf.NoPen().Brush(Rgb(255, 255, 255)).Rectangle(0, 0, 100, 100);
+  EXPECT_FALSE(emf.Show().isNull());  // an empty picture may be meant so
+  ExpectRefused(emf.Add(200).Bytes(), "white ground");
+}
+
 TEST(HostileMetafile, CountsPastTheRecordAreRefused) {
   for (const std::uint32_t type : {2u, 3u, 4u, 5u, 6u, 56u, 85u, 86u, 87u, 88u, 89u, 92u})
     ExpectRefused(EmfWriter().Add(type, Box32(0, 0, 0, 0).U32(0xFFFFFFFF).U32(0)).Bytes(),

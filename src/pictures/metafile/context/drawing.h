@@ -127,6 +127,7 @@ class Drawing {
   void DrawTextLines(const TextPlace& place);
   std::vector<QPointF> GlyphPlaces(const TextRecord& text, TextPlace& place);
   TextPlace PlaceText(const TextRecord& text);
+  TextRecord WithCharacters(const TextRecord& text);
   bool MergeMask(const LastBlock& block);
   void FollowXorFill(const QPainterPath& device);
   void FollowCopyFill(const QPainterPath& device);

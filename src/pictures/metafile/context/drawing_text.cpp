@@ -161,6 +161,30 @@ void Drawing::DrawTextLines(const TextPlace& place) {
   if (font.StrikeOut) bar(-em * 0.26, -em * 0.2, State().TextColor);
 }
 
+// Text by numbers of glyphs is turned into characters. Letters that aren't known, or that are as wide as no
+// letter of the font that is there, must not show wrong ones.
+TextRecord Drawing::WithCharacters(const TextRecord& text) {
+  const std::string face = QString::fromStdU16String(State().Font->Face).toStdString();
+  const BadMetafile refusal("its text is told by numbers of glyphs of the font \"" + face +
+                            "\", which isn't installed");
+  TextRecord told = text;
+  told.Options &= ~TextGlyphIndexes;
+  TextPlace place = PlaceText(told);
+  for (TextCharacter& character : told.Text) {
+    character.Code = place.Face->CharacterOf(static_cast<std::uint32_t>(character.Code));
+    if (character.Code == 0) throw refusal;
+  }
+  if (told.Advances.empty()) return told;
+  constexpr double mostSpread = 0.25;  // writers space letters out, but not to other letters' widths
+  GlyphPlaces(told, place);
+  TextRecord natural = told;
+  natural.Advances.clear();
+  TextPlace own = place;
+  GlyphPlaces(natural, own);
+  if (std::abs(place.Width - own.Width) > mostSpread * std::abs(own.Width)) throw refusal;
+  return told;
+}
+
 double Drawing::TextWidth(const TextRecord& text) {
   Budget().TakeCharacters(text.Text.size());
   TextPlace place = PlaceText(text);
@@ -174,7 +198,7 @@ void Drawing::Text(const TextRecord& text) {
   const bool hasBox = (text.Options & TextNoBox) == 0 && !text.Box.isEmpty();
   if (hasBox && (text.Options & TextOpaque) != 0) FillBox(text.Box, State().BackgroundColor);
   if (text.Text.empty()) return;
-  if ((text.Options & TextGlyphIndexes) != 0) throw SkipRecord();
+  if ((text.Options & TextGlyphIndexes) != 0) return Text(WithCharacters(text));
   const auto clip = State().Clip;
   if (hasBox && (text.Options & TextClipped) != 0) IntersectClip(text.Box);
   TextPlace place = PlaceText(text);

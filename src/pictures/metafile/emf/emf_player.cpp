@@ -107,8 +107,7 @@ class EmfPlayer {
     if (!ended_ && (records < header_.Records || reader_.Position() < header_.Bytes)) throw OutOfBytes();
     list_.Finish();
     if (plus_.StoodAside() && list_.Commands().empty()) return nullptr;
-    if (!counts_.Skipped.empty() && list_.Commands().empty())
-      throw BadMetafile("none of its records can be shown");
+    if (!counts_.Skipped.empty() && !list_.ShowsInk()) throw BadMetafile("none of its records can be shown");
     return std::make_shared<MetafilePicture>(std::move(list_), header_.DeviceFrame(), header_.NaturalTwips(),
                                              std::move(counts_));
   }

@@ -76,7 +76,7 @@ void DrawDriverString(PlusPlayback& p, std::uint32_t flags, ByteReader& r) {
   const bool hasMatrix = r.U32() != 0;
   const std::size_t count = r.U32();
   if (count > r.Left() / 2) throw OutOfBytes();
-  if ((options & Characters) == 0 || (options & Vertical) != 0 || hasMatrix) throw SkipRecord();
+  if ((options & Vertical) != 0 || hasMatrix) throw SkipRecord();
   const Bytes codes = r.Take(count * 2);
   SetFont(p, flags, brush);
   p.Draw.State().TextAlign = AlignBaseline;
@@ -85,7 +85,7 @@ void DrawDriverString(PlusPlayback& p, std::uint32_t flags, ByteReader& r) {
     TextRecord text;
     text.Text = DecodeUnits(codes.subspan(i * 2, piece * 2));
     text.Reference = ReadPointF(r);
-    text.Options = TextNoBox;
+    text.Options = (options & Characters) != 0 ? TextNoBox : TextNoBox | TextGlyphIndexes;
     p.Draw.Text(text);
   }
 }

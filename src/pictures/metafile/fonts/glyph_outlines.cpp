@@ -1,6 +1,7 @@
 #include "pictures/metafile/fonts/glyph_outlines.h"
 
 #include <QFontMetricsF>
+#include <QRawFont>
 
 namespace tarvis {
 namespace {
@@ -33,7 +34,7 @@ double MeanWidth(const QFontMetricsF& metrics) {
 
 }  // namespace
 
-OutlineFace::OutlineFace(const QFont& font) : font_(font) {
+OutlineFace::OutlineFace(const QFont& font, const QString& wanted) : font_(font), wanted_(wanted) {
   const QFontMetricsF metrics(font_);
   Ascent = metrics.ascent() / EmPixels;
   Descent = metrics.descent() / EmPixels;
@@ -52,10 +53,30 @@ const GlyphOutline& OutlineFace::Glyph(char32_t character) {
   return glyphs_.emplace(character, std::move(glyph)).first->second;
 }
 
+char32_t OutlineFace::CharacterOf(std::uint32_t glyph) {
+  if (!knowsGlyphNumbers_) ReadGlyphNumbers();
+  const auto found = characters_.find(glyph);
+  return found == characters_.end() ? 0 : found->second;
+}
+
+void OutlineFace::ReadGlyphNumbers() {
+  constexpr char32_t lastOfFont = 0xFFFF, lastOfTwin = 0x7E;
+  knowsGlyphNumbers_ = true;
+  const QRawFont font = QRawFont::fromFont(font_);
+  const bool isItself = font.familyName().compare(wanted_, Qt::CaseInsensitive) == 0;
+  if (!isItself && !AreMetricTwins(wanted_, font.familyName())) return;
+  for (char32_t code = U' '; code <= (isItself ? lastOfFont : lastOfTwin); ++code) {
+    if (code >= 0xD800 && code < 0xE000) continue;
+    const QList<quint32> glyph = font.glyphIndexesForString(QString(QChar(static_cast<char16_t>(code))));
+    if (glyph.size() == 1 && glyph[0] != 0) characters_.try_emplace(glyph[0], code);
+  }
+}
+
 OutlineFace& GlyphOutlines::Face(const OutlineFont& font) {
   if (const auto known = faces_.find(font); known != faces_.end()) return *known->second;
   if (faces_.size() >= MostFaces) faces_.clear();
-  return *faces_.emplace(font, std::make_unique<OutlineFace>(InstalledFont(font, EmPixels))).first->second;
+  return *faces_.emplace(font, std::make_unique<OutlineFace>(InstalledFont(font, EmPixels), font.Family))
+              .first->second;
 }
 
 }  // namespace tarvis

@@ -20,17 +20,27 @@ struct GlyphOutline {
 // A face, in ems.
 class OutlineFace {
  public:
-  explicit OutlineFace(const QFont& font);
+  // `wanted` is the family that a record names.
+  OutlineFace(const QFont& font, const QString& wanted);
 
   double Ascent = 0;
   double Descent = 0;
   double AverageWidth = 0;  // of Latin text, as letters and blanks are frequent in it
 
   const GlyphOutline& Glyph(char32_t character);
+  // The character that a record means by a number of a glyph in its font; 0 if that isn't known. It is known
+  // where the font itself is installed, and for the first characters of its metric twins, which have the same
+  // numbers.
+  char32_t CharacterOf(std::uint32_t glyph);
 
  private:
+  void ReadGlyphNumbers();
+
   QFont font_;
+  QString wanted_;
   std::unordered_map<char32_t, GlyphOutline> glyphs_;
+  std::unordered_map<std::uint32_t, char32_t> characters_;  // by number of the glyph
+  bool knowsGlyphNumbers_ = false;
 };
 
 // Keeps the faces and glyphs of all metafiles that are loaded with it. To be used by one thread.

@@ -1,6 +1,8 @@
 #include "pictures/metafile/fonts/outline_font.h"
 
+#include <algorithm>
 #include <map>
+#include <utility>
 
 namespace tarvis {
 namespace {
@@ -25,6 +27,16 @@ QString KnownFamily(const QString& family) {
 }
 
 }  // namespace
+
+bool AreMetricTwins(const QString& family, const QString& other) {
+  constexpr std::pair<const char*, const char*> twins[] = {{"arial", "liberation sans"},
+                                                           {"times new roman", "liberation serif"},
+                                                           {"courier new", "liberation mono"}};
+  const QString a = family.toLower(), b = other.toLower();
+  return std::ranges::any_of(twins, [&](const auto& pair) {
+    return (a == pair.first && b == pair.second) || (a == pair.second && b == pair.first);
+  });
+}
 
 QFont InstalledFont(const OutlineFont& font, int emPixels) {
   // A name after @ is that of the same font for upright text.

@@ -18,6 +18,9 @@ struct OutlineFont {
   }
 };
 
+// Whether two families were designed with the same widths, and so number their first glyphs alike.
+bool AreMetricTwins(const QString& family, const QString& other);
+
 // With `emPixels` to the em, without hints and kerning.
 QFont InstalledFont(const OutlineFont& font, int emPixels);
 

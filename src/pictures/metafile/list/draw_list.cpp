@@ -165,6 +165,19 @@ void DrawList::SetClip(std::shared_ptr<const ListClip> clip) {
   clipPending_ = true;
 }
 
+bool DrawList::ShowsInk() const {
+  const auto isInk = [](const QBrush& brush) {
+    const bool isPlain = brush.style() == Qt::SolidPattern;
+    return !isPlain || (brush.color() != QColor(Qt::white) && brush.color().alpha() > 0);
+  };
+  return std::ranges::any_of(commands_, [&](const ListCommand& command) {
+    if (command.Kind == ListKind::Image) return true;
+    if (command.Kind == ListKind::Clip) return false;
+    return (command.Pen >= 0 && isInk(Pen(command.Pen).Pen.brush())) ||
+           (command.Brush >= 0 && (HasDots(Brush(command.Brush).Dots) || isInk(Brush(command.Brush).Brush)));
+  });
+}
+
 QRectF DrawList::Bounds() const {
   QRectF bounds;
   for (const ListImage& image : images_) bounds |= image.Place.mapRect(image.Source);

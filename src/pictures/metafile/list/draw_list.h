@@ -129,6 +129,8 @@ class DrawList {
   // Holds for what is added after it.
   void SetClip(std::shared_ptr<const ListClip> clip);
 
+  // Whether anything is drawn that white paper shows.
+  bool ShowsInk() const;
   // The box around everything that is drawn, pens left aside.
   QRectF Bounds() const;
 

@@ -112,6 +112,7 @@ class WmfPlayer {
     if (!ended && (words_ * 2 > records_.size() + HeaderSize || records_.empty())) throw OutOfBytes();
     list_.Finish();
     if (list_.Commands().empty()) throw BadMetafile("it shows nothing");
+    if (!counts_.Skipped.empty() && !list_.ShowsInk()) throw BadMetafile("none of its records can be shown");
     const QRectF frame = frame_.isEmpty() ? list_.Bounds() : frame_;
     return std::make_shared<MetafilePicture>(std::move(list_), frame, NaturalTwips(frame),
                                              std::move(counts_));

@@ -22,6 +22,7 @@ void ExtTextOut(WmfPlayback& p, ByteReader& r) {
   text.Reference = ReadYX(r);
   const std::size_t length = r.U16();
   text.Options = r.U16();
+  if ((text.Options & TextGlyphIndexes) != 0) throw SkipRecord();  // no writer is known to do so
   if ((text.Options & (TextOpaque | TextClipped)) != 0) {
     const QPointF leftTop = ReadPoint16(r);
     text.Box = BoxOf(leftTop, ReadPoint16(r));
