@@ -20,6 +20,8 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
 namespace tarvis {
 namespace {
 
+constexpr int MostSeconds = 2;
+
 void PaintOnPage(const Picture& picture) {
   QImage page(200, 150, QImage::Format_RGB32);
   page.fill(Qt::white);
@@ -34,7 +36,7 @@ void FuzzPicture(
     Bytes bytes) {
   static GlyphOutlines glyphs;
   try {
-    PictureBudget budget;
+    PictureBudget budget({}, MostSeconds);
     PaintOnPage(*load(bytes, glyphs, budget));
   } catch (const RunTimeFailure&) {  // all of these are refusals with a reason
   } catch (const TooCostly&) {

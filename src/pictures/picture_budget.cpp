@@ -45,7 +45,7 @@ void PictureBudget::TakeSteps(std::size_t count) {
   if (steps_ < StepsBetweenLooks) return;
   steps_ = 0;
   if (answerEndRequest_) answerEndRequest_();
-  if (std::clock() - start_ > MostSeconds * CLOCKS_PER_SEC) throw TooCostly("it takes too long to draw");
+  if (std::clock() - start_ > mostSeconds_ * CLOCKS_PER_SEC) throw TooCostly("it takes too long to draw");
 }
 
 }  // namespace tarvis

@@ -23,11 +23,11 @@ class PictureBudget {
   static constexpr std::size_t MostDecodedBytes = std::size_t{192} << 20;
   static constexpr std::size_t MostElements = std::size_t{16} << 20;
   static constexpr std::size_t MostCharacters = 100000;
-  static constexpr int MostSeconds = 5;  // of computing
+  static constexpr int MostSeconds = 5;  // of computing, unless told otherwise
 
   // `answerEndRequest` is called again and again; it may end the process and not return.
-  explicit PictureBudget(std::function<void()> answerEndRequest = {})
-      : answerEndRequest_(std::move(answerEndRequest)), start_(std::clock()) {}
+  explicit PictureBudget(std::function<void()> answerEndRequest = {}, int mostSeconds = MostSeconds)
+      : answerEndRequest_(std::move(answerEndRequest)), mostSeconds_(mostSeconds), start_(std::clock()) {}
 
   // Memory for what is kept to be painted.
   void TakeKeptBytes(std::size_t count);
@@ -43,6 +43,7 @@ class PictureBudget {
   void TakeSteps(std::size_t count);
 
   std::function<void()> answerEndRequest_;
+  int mostSeconds_;
   std::clock_t start_;
   std::size_t kept_ = 0;
   std::size_t decoded_ = 0;
