@@ -296,6 +296,27 @@ TEST_F(ProgramTablePage, LettersAreThrownAwayAndFullWidthDigitsAreRefusedLater) 
   ExpectHeldIn("TextStart");
 }
 
+TEST_F(ProgramTablePage, AStepIsSelectedAndPastedByKeyboardAndFilteredAsIfTyped) {
+  OpenTable(128);
+  Click(Find("optRange_2"));
+  TypeRange("11", "22");
+  auto& start = Find<StepBox>("TextStart");
+  start.setFocus();
+  Key(Qt::Key_A, Qt::ControlModifier);
+  EXPECT_EQ(start.selectedText(), "11");
+  Key(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), "11");
+  QGuiApplication::clipboard()->setText("step 1/7\r\n8");
+  Key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(start.Text(), "17");
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(start.Text(), "11");
+  QInputMethodEvent typed;
+  typed.setCommitString("a5");
+  QApplication::sendEvent(&start, &typed);
+  EXPECT_EQ(start.Text(), "115");
+}
+
 TEST_F(ProgramTablePage, AThreeDigitEndPassesInTheSettingsAndAFourthDigitIsStopped) {
   OpenSettings();
   Click(Find("optRange_2"));

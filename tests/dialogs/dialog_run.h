@@ -110,6 +110,9 @@ class DialogRun : public testing::Test {
     ASSERT_NE(QApplication::focusWidget(), nullptr);
     QTest::keyClick(QApplication::focusWidget(), key, modifiers);
   }
+  static void Key(Qt::Key key, Qt::KeyboardModifiers modifiers, QWidget& receiver) {
+    QTest::keyClick(&receiver, key, modifiers);
+  }
   static std::string FocusName() {
     const QWidget* focus = QApplication::focusWidget();
     return focus == nullptr ? "" : focus->objectName().toStdString();

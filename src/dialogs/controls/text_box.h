@@ -1,6 +1,7 @@
 // Text boxes whose maximum length holds for what the user types, never for what the program writes.
 #pragma once
 
+#include <QClipboard>
 #include <QLineEdit>
 #include <string>
 
@@ -24,7 +25,7 @@ class InputBox {
   virtual void GiveFocus() = 0;
 };
 
-// A text box of one line.
+// A text box of one line: of a text of several lines it takes the first one, whichever way the text comes in.
 class LineBox : public QLineEdit, public InputBox {
   Q_OBJECT
 
@@ -41,7 +42,18 @@ class LineBox : public QLineEdit, public InputBox {
   // As if the user had typed it over the old text: it can be undone.
   void TypeOver(const QString& text);
 
+ protected:
+  // What the box takes of a piece of text that is pasted, dropped or composed by an input method.
+  virtual QString Accepted(const QString& piece) const;
+
+  void keyPressEvent(QKeyEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+
  private:
+  void PasteFrom(QClipboard::Mode source);
   void ApplyMaximumLength(qsizetype length);
 
   int maximumLength_;

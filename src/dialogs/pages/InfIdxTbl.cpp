@@ -42,10 +42,18 @@ bool IsDialogKey(int key) {
          key == Qt::Key_Backtab;
 }
 
+// Keys that work on the text as a whole enter no character by themselves.
+bool IsEditingKey(const QKeyEvent& event) {
+  static constexpr std::array Keys{QKeySequence::SelectAll, QKeySequence::Copy, QKeySequence::Cut,
+                                   QKeySequence::Paste,     QKeySequence::Undo, QKeySequence::Redo};
+  return std::any_of(Keys.begin(), Keys.end(),
+                     [&event](QKeySequence::StandardKey key) { return event.matches(key); });
+}
+
 }  // namespace
 
 void StepBox::keyPressEvent(QKeyEvent* event) {
-  const bool sendsCode = !event->text().isEmpty() && !IsDialogKey(event->key());
+  const bool sendsCode = !event->text().isEmpty() && !IsDialogKey(event->key()) && !IsEditingKey(*event);
   if (!sendsCode || !IsThrownAway(KeyCode(*event))) LineBox::keyPressEvent(event);
 }
 
@@ -54,6 +62,14 @@ void StepBox::focusOutEvent(QFocusEvent* event) {
   const Qt::FocusReason reason = event->reason();
   const bool elsewhere = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
   if (!elsewhere) emit Left();
+}
+
+QString StepBox::Accepted(const QString& piece) const {
+  QString kept;
+  for (const QChar c : LineBox::Accepted(piece)) {
+    if (c != u'\b' && !IsThrownAway(static_cast<std::int16_t>(c.unicode()))) kept += c;
+  }
+  return kept;
 }
 
 InfIdxTbl::InfIdxTbl(PrintRun& run, QWidget* parent)

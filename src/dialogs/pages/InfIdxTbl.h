@@ -8,7 +8,7 @@
 
 namespace tarvis {
 
-// A box for a step number: takes digits only, and tells when the user leaves it.
+// A box for a step number: throws away what is no digit, and tells when the user leaves it.
 class StepBox : public LineBox {
   Q_OBJECT
 
@@ -20,6 +20,7 @@ class StepBox : public LineBox {
   void Left();
 
  protected:
+  QString Accepted(const QString& piece) const override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 };
