@@ -48,8 +48,8 @@ constexpr const char* GreetingHint =
 
 }  // namespace
 
-EditCover::EditCover(PrintRun& run, QWidget* parent, FileChoice chooseFile)
-    : QDialog(parent), run_(run), chooseFile_(std::move(chooseFile)) {
+EditCover::EditCover(PrintRun& run, QWidget* parent, EditCoverServices services)
+    : QDialog(parent), run_(run), services_(std::move(services)) {
   setObjectName(QString::fromLatin1("EditCover"));
   setWindowTitle(QString::fromLatin1("Cover"));
   setFont(DialogFont());
@@ -105,8 +105,10 @@ void EditCover::BuildLogo(QWidget* tab) {
   QPushButton* choose = MakeButton("cmdConpare", "&Reference ", {6345, 4005, 915, 345}, tab);
   choose->setAutoDefault(false);
   connect(choose, &QPushButton::clicked, this, &EditCover::ChooseLogo);
-  preview_ = new LogoPreview({6345, 2550, 1800, 1350}, tab);
-  connect(logo_, &PathBox::textChanged, this, [this] { preview_->ShowFile(logo_->Text()); });
+  preview_ = new LogoPreview({6345, 2550, 1800, 1350}, services_.Read, tab);
+  connect(logo_, &PathBox::textChanged, preview_, &LogoPreview::Forget);
+  connect(logo_, &PathBox::editingFinished, this, &EditCover::ShowLogo);
+  connect(logo_, &PathBox::FileDropped, this, &EditCover::ShowLogo);
 }
 
 void EditCover::BuildAddresseeTab(int block) {
@@ -172,6 +174,7 @@ void EditCover::Load() {
   SetHelpContext(*this, run_.Session.HelpContextId);
   for (const Field& field : fields_) field.Box->SetText(*field.Stored);
   lblGreeting_->setText(QString::fromLatin1(GreetingHint));
+  ShowLogo();
 }
 
 // Bytes first; lines only of a text that passed. So one field gives one message.
@@ -207,8 +210,14 @@ void EditCover::OkClicked() {
 }
 
 void EditCover::ChooseLogo() {
-  const QString file = chooseFile_(this, QString::fromLatin1(LogoFilter));
-  if (!file.isEmpty()) logo_->TypeOver(file);
+  const QString file = services_.Choose(this, QString::fromLatin1(LogoFilter), logo_->Text());
+  if (file.isEmpty()) return;
+  logo_->TypeOver(file);
+  ShowLogo();
+}
+
+void EditCover::ShowLogo() {
+  preview_->ShowFile(logo_->Text());
 }
 
 }  // namespace tarvis

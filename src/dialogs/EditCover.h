@@ -18,6 +18,12 @@ class FocusGuard;
 class MemoBox;
 class PathBox;
 
+// What the editor asks of the system around it.
+struct EditCoverServices {
+  FileChoice Choose = ChooseFile;
+  PictureReader Read = ReadPicture;
+};
+
 // Works on a copy: filled from the options when it is built, and nothing goes back until every field has
 // passed its check and the user confirms. A field that fails its check holds the focus until it passes or the
 // user cancels.
@@ -25,7 +31,7 @@ class EditCover : public QDialog {
   Q_OBJECT
 
  public:
-  EditCover(PrintRun& run, QWidget* parent, FileChoice chooseFile = ChooseFile);
+  EditCover(PrintRun& run, QWidget* parent, EditCoverServices services = {});
   ~EditCover() override;
 
  private:
@@ -54,9 +60,10 @@ class EditCover : public QDialog {
   bool RefuseToLeave(const QWidget& left, const QWidget& entered);
   void OkClicked();
   void ChooseLogo();
+  void ShowLogo();
 
   PrintRun& run_;
-  FileChoice chooseFile_;
+  EditCoverServices services_;
   TabControl* tabs_ = nullptr;
   std::vector<Field> fields_;  // in the order in which they are checked and stored
   PathBox* logo_ = nullptr;

@@ -1,9 +1,5 @@
 #include "dialogs/EditCover.h"
 
-#include <QDropEvent>
-#include <QMimeData>
-#include <QUrl>
-
 #include "dialogs/cover_editor.h"
 
 namespace tarvis {
@@ -51,61 +47,6 @@ TEST_F(CoverEditor, ALogoPathOfAnyLengthPasses) {
   QTest::keyClicks(&In("txtDrow_8"), "yz");
   Click(In("cmdOK"));
   EXPECT_EQ(Run.Options.DrowLogo, Repeat("x", 4000) + "yz");
-}
-
-TEST_F(CoverEditor, TheFileDialogSuppliesTheLogoAndItsCancelLeavesIt) {
-  Run.Options.DrowLogo = "old.bmp";
-  OpenEditor();
-  Click(In("cmdConpare"));
-  EXPECT_EQ(Box("txtDrow_8").Text(), "old.bmp");
-  EXPECT_EQ(AskedFilter,
-            "All Images of |*.BMP;*.DIB;*.JPG;*.GIF;*.WMF;*.EMF;*.ICO;*.CUR|BMP Image (*.BMP)|*.BMP|DIB "
-            "Image (*.DIB)|*.DIB|"
-            "JPG Image (*.JPG)|*.JPG|GIF Image (*.GIF)|*.GIF|WMF Image (*.WMF)|*.WMF|EMF Image (*.EMF)|*.EMF|"
-            "ICO Image (*.ICO)|*.ICO|CUR Image (*.CUR)|*.CUR");
-  Chosen = "/pictures/new.bmp";
-  Click(In("cmdConpare"));
-  EXPECT_EQ(Box("txtDrow_8").Text(), "/pictures/new.bmp");
-  EXPECT_EQ(Run.Options.DrowLogo, "old.bmp");
-  Enter("txtDrow_8", 0);
-  Key(Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ(Box("txtDrow_8").Text(), "old.bmp");
-}
-
-TEST(FileFilter, OffersEachPatternInBothCases) {
-  EXPECT_EQ(ToolkitFilter("All Images of |*.BMP;*.GIF|BMP Image (*.BMP)|*.BMP").toStdString(),
-            "All Images of (*.BMP *.bmp *.GIF *.gif);;BMP Image (*.BMP *.bmp)");
-}
-
-TEST_F(CoverEditor, AFileDroppedOnThePathReplacesIt) {
-  Run.Options.DrowLogo = "old.bmp";
-  OpenEditor();
-  QMimeData dragged;
-  dragged.setUrls({QUrl("https://example.invalid/x.bmp"), QUrl::fromLocalFile("/pictures/my logo.gif")});
-  QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, {});
-  QApplication::sendEvent(&In("txtDrow_8"), &enter);
-  QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, {});
-  QApplication::sendEvent(&In("txtDrow_8"), &drop);
-  EXPECT_TRUE(drop.isAccepted());
-  EXPECT_EQ(Box("txtDrow_8").Text(), "/pictures/my logo.gif");
-}
-
-TEST_F(CoverEditor, TheLogoIsShownBesideItsPath) {
-  QImage logo(40, 20, QImage::Format_RGB32);
-  logo.fill(Qt::red);
-  ASSERT_TRUE(logo.save(QString::fromStdString(Folder() + "/logo.bmp")));
-  WriteFile("letter.bmp", "no picture");
-  OpenEditor();
-  auto& preview = dynamic_cast<LogoPreview&>(In("imgLogo"));
-  EXPECT_EQ(preview.Words(), "No logo");
-  Box("txtDrow_8").SetText(Folder() + "/missing.bmp");
-  EXPECT_EQ(preview.Words(), "No such file");
-  Box("txtDrow_8").SetText(Folder() + "/letter.bmp");
-  EXPECT_TRUE(preview.Words().startsWith("Not shown")) << preview.Words().toStdString();
-  Box("txtDrow_8").SetText(Folder() + "\\logo.bmp");
-  EXPECT_EQ(preview.Words(), "");
-  const QImage seen = preview.grab().toImage();
-  EXPECT_EQ(seen.pixelColor(seen.width() / 2, seen.height() / 2), QColor(Qt::red));
 }
 
 TEST_F(CoverEditor, LineBreaksComeBackAsTheyWere) {

@@ -54,10 +54,14 @@ class CoverEditor : public DialogRun {
 
   void OpenEditor() {
     delete Editor.data();
-    Editor = new EditCover(Run, nullptr, [this](QWidget*, const QString& filter) {
-      AskedFilter = filter.toStdString();
-      return Chosen;
-    });
+    Editor = new EditCover(Run, nullptr,
+                           {.Choose =
+                                [this](QWidget*, const QString& filter, const std::string& present) {
+                                  AskedFilter = filter.toStdString();
+                                  AskedFrom = present;
+                                  return Chosen;
+                                },
+                            .Read = Read});
     Editor->show();
     Editor->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(Editor));
@@ -89,6 +93,8 @@ class CoverEditor : public DialogRun {
   QPointer<EditCover> Editor;
   QString Chosen;
   std::string AskedFilter;
+  std::string AskedFrom;
+  PictureReader Read = ReadPicture;
 };
 
 }  // namespace tarvis

@@ -1,4 +1,5 @@
 """The cover letter, edited by keys down to the choice of its logo in the file dialog, and help on the way."""
+import os
 import unittest
 
 from program_case import ProgramCase  # also finds the demo's modules
@@ -83,6 +84,28 @@ class CoverEditing(ProgramCase):
         self.assertEqual(shown, {"our logo.bmp"})
         kinds = [name.split()[0] for name in self.names_in_the_file_dialog() if " Image (" in name]
         self.assertEqual(sorted(kinds), ["BMP", "CUR", "DIB", "EMF", "GIF", "ICO", "JPG", "WMF"])
+
+    def test_the_file_dialog_starts_in_the_folder_of_the_present_logo(self):
+        self.host.write_cover(named=self.pictures / "old logo.bmp")
+        session = self.start("JogTbl")
+        session.wait_for(DIALOG)
+        self.user.press("alt+e")
+        session.wait_for(EDITOR)
+        self.user.press("alt+r")
+        session.wait_for(FILE_CHOICE)
+        wait_until(lambda: "our logo.bmp" in self.names_in_the_file_dialog(), "the files beside the present logo")
+
+    def test_a_path_that_never_answers_is_not_felt(self):
+        pipe = self.pictures / "pipe.bmp"
+        os.mkfifo(pipe)
+        session = self.open_editor()
+        self.user.press("alt+p")
+        self.user.fill_in(str(pipe))
+        self.user.press("alt+o")
+        session.wait_for(DIALOG)
+        self.user.press("alt+e")
+        session.wait_for(EDITOR)
+        self.assertEqual(self.logo_text(), str(pipe))
 
     def names_in_the_file_dialog(self):
         return {widget.name for widget in self.program.window(FILE_CHOICE).all()}

@@ -3,11 +3,40 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QStringList>
+#include <chrono>
+#include <future>
+#include <memory>
+
+#include "dialogs/controls/unawaited.h"
+#include "text/native_path.h"
 
 namespace tarvis {
 
-QString ChooseFile(QWidget* parent, const QString& filter) {
-  return QDir::toNativeSeparators(QFileDialog::getOpenFileName(parent, {}, {}, ToolkitFilter(filter)));
+namespace {
+
+constexpr std::chrono::milliseconds LongestAnswer{300};
+
+// False also if the answer takes long.
+bool IsFolder(const std::filesystem::path& folder) {
+  const auto answer = std::make_shared<std::promise<bool>>();
+  std::future<bool> isFolder = answer->get_future();
+  const bool asked = RunUnawaited([answer, folder] {
+    std::error_code unreadable;
+    answer->set_value(std::filesystem::is_directory(folder, unreadable));
+  });
+  return asked && isFolder.wait_for(LongestAnswer) == std::future_status::ready && isFolder.get();
+}
+
+}  // namespace
+
+QString ChooseFile(QWidget* parent, const QString& filter, const std::string& present) {
+  return QDir::toNativeSeparators(
+      QFileDialog::getOpenFileName(parent, {}, FolderOf(present), ToolkitFilter(filter)));
+}
+
+QString FolderOf(const std::string& path) {
+  const std::filesystem::path folder = NativePath(path).parent_path();
+  return folder.is_absolute() && IsFolder(folder) ? QString::fromStdU16String(folder.u16string()) : QString();
 }
 
 QString ToolkitFilter(const QString& filter) {

@@ -3,19 +3,24 @@
 
 #include <QString>
 #include <functional>
+#include <string>
 
 class QWidget;
 
 namespace tarvis {
 
 // Shows the dialog for opening a file over `parent` and returns the chosen path, empty if the user cancels.
-// `filter` is pairs of description and patterns: "Text (*.TXT)|*.TXT|Notes|*.N;*.NOTE".
-using FileChoice = std::function<QString(QWidget* parent, const QString& filter)>;
+// `filter` is pairs of description and patterns: "Text (*.TXT)|*.TXT|Notes|*.N;*.NOTE". The dialog starts in
+// the folder of `present`, the path that was chosen before.
+using FileChoice = std::function<QString(QWidget* parent, const QString& filter, const std::string& present)>;
 
-QString ChooseFile(QWidget* parent, const QString& filter);
+QString ChooseFile(QWidget* parent, const QString& filter, const std::string& present);
 
 // The filter as the toolkit takes it. Each pattern stands there twice, since file names may be of either
 // case.
 QString ToolkitFilter(const QString& filter);
+
+// The folder of a path; empty if there is none, or if its file system doesn't answer at once.
+QString FolderOf(const std::string& path);
 
 }  // namespace tarvis

@@ -1,11 +1,14 @@
 #include "dialogs/controls/logo_preview.h"
 
+#include <QMetaObject>
 #include <QPainter>
+#include <mutex>
+#include <utility>
 
 #include "dialogs/controls/controls.h"
+#include "dialogs/controls/unawaited.h"
 #include "pictures/picture_file_loader.h"
 #include "text/native_path.h"
-#include "text/run_time_failure.h"
 
 namespace tarvis {
 
@@ -25,40 +28,77 @@ QRectF Fitted(const PaintablePicture& picture, const QRectF& room) {
 
 }  // namespace
 
-LogoPreview::LogoPreview(const Bounds& bounds, QWidget* parent) : QFrame(parent) {
+// Where the thread that reads leaves the picture.
+struct LogoPreview::Mailbox : std::enable_shared_from_this<Mailbox> {
+  std::mutex Mutex;
+  LogoPreview* Reader;  // nullptr once nobody awaits the picture any more
+
+  explicit Mailbox(LogoPreview* reader) : Reader(reader) {}
+
+  void Close() {
+    const std::lock_guard lock(Mutex);
+    Reader = nullptr;
+  }
+  void Deliver(std::shared_ptr<const PaintablePicture> picture) {
+    const std::lock_guard lock(Mutex);
+    if (Reader == nullptr) return;
+    QMetaObject::invokeMethod(
+        Reader,
+        [mailbox = shared_from_this(), picture = std::move(picture)] {
+          if (mailbox->Reader != nullptr) mailbox->Reader->Show(picture);
+        },
+        Qt::QueuedConnection);
+  }
+};
+
+std::shared_ptr<const PaintablePicture> ReadPicture(const std::string& path) {
+  try {
+    if (!FileExists(path)) return nullptr;
+    return std::dynamic_pointer_cast<const PaintablePicture>(PictureFileLoader().Load(path));
+  } catch (const std::exception&) {
+    return nullptr;  // the cover letter tells what is wrong with the file
+  }
+}
+
+LogoPreview::LogoPreview(const Bounds& bounds, PictureReader read, QWidget* parent)
+    : QFrame(parent), read_(std::move(read)) {
   NameControl(*this, "imgLogo", NoFamily, QString::fromLatin1("Logo"));
   setFrameShape(QFrame::StyledPanel);
   Place(*this, bounds);
-  ShowFile({});
+  hide();
+}
+
+LogoPreview::~LogoPreview() {
+  if (mailbox_ != nullptr) mailbox_->Close();
 }
 
 void LogoPreview::ShowFile(const std::string& path) {
-  picture_.reset();
-  words_.clear();
-  if (path.empty()) {
-    words_ = QString::fromLatin1("No logo");
-  } else if (!FileExists(path)) {
-    words_ = QString::fromLatin1("No such file");
-  } else {
-    try {
-      picture_ = std::dynamic_pointer_cast<const PaintablePicture>(PictureFileLoader().Load(path));
-    } catch (const RunTimeFailure& failure) {
-      words_ = QString::fromLatin1("Not shown: ") + QString::fromStdString(failure.Reason());
-    }
-  }
-  setAccessibleDescription(words_);
+  if (path == path_) return;
+  Forget();
+  if (path.empty()) return;
+  path_ = path;
+  mailbox_ = std::make_shared<Mailbox>(this);
+  RunUnawaited([read = read_, path, mailbox = mailbox_] { mailbox->Deliver(read(path)); });
+}
+
+void LogoPreview::Forget() {
+  if (mailbox_ != nullptr) mailbox_->Close();
+  mailbox_.reset();
+  path_.clear();
+  Show(nullptr);
+}
+
+void LogoPreview::Show(std::shared_ptr<const PaintablePicture> picture) {
+  picture_ = std::move(picture);
+  setVisible(picture_ != nullptr);
   update();
 }
 
 void LogoPreview::paintEvent(QPaintEvent* event) {
   QFrame::paintEvent(event);
+  if (picture_ == nullptr) return;
   QPainter painter(this);
   const QRect room = contentsRect().adjusted(MarginPixels, MarginPixels, -MarginPixels, -MarginPixels);
-  if (picture_ == nullptr) {
-    painter.setPen(palette().color(QPalette::Disabled, QPalette::WindowText));
-    painter.drawText(room, Qt::AlignCenter | Qt::TextWordWrap, words_);
-    return;
-  }
   painter.fillRect(contentsRect(), Qt::white);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
   picture_->Paint(painter, Fitted(*picture_, QRectF(room)));

@@ -1,8 +1,8 @@
-// Shows the picture that a path names, as it will stand on the cover letter.
+// A courtesy beside the path of the logo: the picture as it will be on the cover letter.
 #pragma once
 
 #include <QFrame>
-#include <QString>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -12,23 +12,38 @@ namespace tarvis {
 
 class PaintablePicture;
 
+// Reads a picture; nullptr if there is none that can be shown. Is called in a thread of its own, which may
+// live longer than the program's windows, and never throws.
+using PictureReader = std::function<std::shared_ptr<const PaintablePicture>(const std::string& path)>;
+
+// Opens regular files only.
+std::shared_ptr<const PaintablePicture> ReadPicture(const std::string& path);
+
+// Says nothing about a path that names no picture: the report does that. It can't be seen then.
 class LogoPreview : public QFrame {
   Q_OBJECT
 
  public:
-  LogoPreview(const Bounds& bounds, QWidget* parent);
+  LogoPreview(const Bounds& bounds, PictureReader read, QWidget* parent);
+  ~LogoPreview() override;
 
-  // A path that names no file, or no picture, shows words instead. Never throws.
+  // Returns at once and shows the picture when it has been read, unless another path has been named by then.
   void ShowFile(const std::string& path);
-  // What is shown in place of a picture; empty while there is one.
-  QString Words() const { return words_; }
+  // The path isn't what it was, and not known yet.
+  void Forget();
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  struct Mailbox;
+
+  void Show(std::shared_ptr<const PaintablePicture> picture);
+
+  PictureReader read_;
+  std::string path_;
+  std::shared_ptr<Mailbox> mailbox_;  // of the reading that is awaited
   std::shared_ptr<const PaintablePicture> picture_;
-  QString words_;
 };
 
 }  // namespace tarvis

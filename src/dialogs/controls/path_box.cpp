@@ -33,6 +33,7 @@ void PathBox::dropEvent(QDropEvent* event) {
   const QString file = DraggedFile(event->mimeData());
   if (file.isEmpty()) return LineBox::dropEvent(event);
   TypeOver(file);
+  emit FileDropped();
   event->acceptProposedAction();
 }
 

@@ -11,6 +11,10 @@ class PathBox : public LineBox {
  public:
   using LineBox::LineBox;
 
+ signals:
+  // The box now holds the path of a file that was dropped on it.
+  void FileDropped();
+
  protected:
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dragMoveEvent(QDragMoveEvent* event) override;

@@ -1,0 +1,18 @@
+#include "dialogs/controls/unawaited.h"
+
+#include <system_error>
+#include <thread>
+#include <utility>
+
+namespace tarvis {
+
+bool RunUnawaited(std::function<void()> work) {
+  try {
+    std::thread(std::move(work)).detach();
+    return true;
+  } catch (const std::system_error&) {
+    return false;
+  }
+}
+
+}  // namespace tarvis

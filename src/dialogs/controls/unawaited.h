@@ -1,0 +1,12 @@
+// Work that nobody waits for, since a file system that has stopped answering may hold it for minutes.
+#pragma once
+
+#include <functional>
+
+namespace tarvis {
+
+// Runs `work` in a thread of its own, which may live longer than everything else in the program, so `work`
+// must own what it uses and must not throw. False if the system has no thread left.
+bool RunUnawaited(std::function<void()> work);
+
+}  // namespace tarvis

@@ -1,0 +1,224 @@
+#include <QDropEvent>
+#include <QMimeData>
+#include <QUrl>
+#include <condition_variable>
+#include <mutex>
+
+#include "dialogs/cover_editor.h"
+#include "pictures/picture_file_loader.h"
+
+namespace tarvis {
+namespace {
+
+TEST_F(CoverEditor, TheFileDialogSuppliesTheLogoAndItsCancelLeavesIt) {
+  Run.Options.DrowLogo = "old.bmp";
+  OpenEditor();
+  Click(In("cmdConpare"));
+  EXPECT_EQ(Box("txtDrow_8").Text(), "old.bmp");
+  EXPECT_EQ(AskedFilter,
+            "All Images of |*.BMP;*.DIB;*.JPG;*.GIF;*.WMF;*.EMF;*.ICO;*.CUR|BMP Image (*.BMP)|*.BMP|DIB "
+            "Image (*.DIB)|*.DIB|"
+            "JPG Image (*.JPG)|*.JPG|GIF Image (*.GIF)|*.GIF|WMF Image (*.WMF)|*.WMF|EMF Image (*.EMF)|*.EMF|"
+            "ICO Image (*.ICO)|*.ICO|CUR Image (*.CUR)|*.CUR");
+  EXPECT_EQ(AskedFrom, "old.bmp");
+  Chosen = "/pictures/new.bmp";
+  Click(In("cmdConpare"));
+  EXPECT_EQ(Box("txtDrow_8").Text(), "/pictures/new.bmp");
+  EXPECT_EQ(Run.Options.DrowLogo, "old.bmp");
+  Enter("txtDrow_8", 0);
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Box("txtDrow_8").Text(), "old.bmp");
+}
+
+TEST(FileFilter, OffersEachPatternInBothCases) {
+  EXPECT_EQ(ToolkitFilter("All Images of |*.BMP;*.GIF|BMP Image (*.BMP)|*.BMP").toStdString(),
+            "All Images of (*.BMP *.bmp *.GIF *.gif);;BMP Image (*.BMP *.bmp)");
+}
+
+TEST_F(CoverEditor, AFileDroppedOnThePathReplacesIt) {
+  Run.Options.DrowLogo = "old.bmp";
+  OpenEditor();
+  QMimeData dragged;
+  dragged.setUrls({QUrl("https://example.invalid/x.bmp"), QUrl::fromLocalFile("/pictures/my logo.gif")});
+  QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, {});
+  QApplication::sendEvent(&In("txtDrow_8"), &enter);
+  QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, {});
+  QApplication::sendEvent(&In("txtDrow_8"), &drop);
+  EXPECT_TRUE(drop.isAccepted());
+  EXPECT_EQ(Box("txtDrow_8").Text(), "/pictures/my logo.gif");
+}
+
+// A share that answers when it is released. The threads that ask it may outlive the test.
+class Share {
+ public:
+  PictureReader Reader() const {
+    return [state = state_](const std::string& path) {
+      {
+        std::unique_lock lock(state->Mutex);
+        state->Asked.push_back(path);
+        state->Changed.wait(lock, [&state] { return state->Released; });
+      }
+      auto picture = ReadPicture(path);
+      const std::lock_guard lock(state->Mutex);
+      ++state->Answered;
+      return picture;
+    };
+  }
+  void Release() {
+    const std::lock_guard lock(state_->Mutex);
+    state_->Released = true;
+    state_->Changed.notify_all();
+  }
+  std::vector<std::string> Asked() const {
+    const std::lock_guard lock(state_->Mutex);
+    return state_->Asked;
+  }
+  std::size_t Answered() const {
+    const std::lock_guard lock(state_->Mutex);
+    return state_->Answered;
+  }
+
+ private:
+  struct State {
+    std::mutex Mutex;
+    std::condition_variable Changed;
+    std::vector<std::string> Asked;
+    std::size_t Answered = 0;
+    bool Released = false;
+  };
+  std::shared_ptr<State> state_ = std::make_shared<State>();
+};
+
+class LogoPicture : public CoverEditor {
+ protected:
+  std::string SavePicture(const std::string& name, const QColor& colour) const {
+    QImage logo(40, 20, QImage::Format_RGB32);
+    logo.fill(colour);
+    EXPECT_TRUE(logo.save(QString::fromStdString(Folder() + "/" + name)));
+    return Folder() + "/" + name;
+  }
+  QColor Seen() {
+    const QWidget& preview = In("imgLogo");
+    if (!preview.isVisible()) return {};
+    const QImage seen = const_cast<QWidget&>(preview).grab().toImage();
+    return seen.pixelColor(seen.width() / 2, seen.height() / 2);
+  }
+  void TypePath(const std::string& path) {
+    Enter("txtDrow_8", 0);
+    Key(Qt::Key_A, Qt::ControlModifier);
+    Paste(path);
+  }
+  void LeavePath() { Key(Qt::Key_Tab); }
+};
+
+TEST_F(LogoPicture, IsShownWhenTheDialogOpens) {
+  Run.Options.DrowLogo = SavePicture("logo.bmp", Qt::red);
+  OpenEditor();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Seen() == QColor(Qt::red); }));
+}
+
+TEST_F(LogoPicture, IsReadWhenTheBoxIsLeftAndNotAtEachLetter) {
+  Share share;
+  Read = share.Reader();
+  share.Release();
+  const std::string path = SavePicture("logo.bmp", Qt::red);
+  OpenEditor();
+  Enter("txtDrow_8", 0);
+  QTest::keyClicks(&In("txtDrow_8"), QString::fromStdString(path));
+  QApplication::processEvents();
+  EXPECT_TRUE(share.Asked().empty());
+  LeavePath();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Seen() == QColor(Qt::red); }));
+  EXPECT_THAT(share.Asked(), testing::ElementsAre(path));
+}
+
+TEST_F(LogoPicture, IsShownWhenItWasChosenOrDropped) {
+  OpenEditor();
+  Chosen = QString::fromStdString(SavePicture("red.bmp", Qt::red));
+  Click(In("cmdConpare"));
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Seen() == QColor(Qt::red); }));
+  QMimeData dragged;
+  dragged.setUrls({QUrl::fromLocalFile(QString::fromStdString(SavePicture("blue.bmp", Qt::blue)))});
+  QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, {});
+  QApplication::sendEvent(&In("txtDrow_8"), &drop);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Seen() == QColor(Qt::blue); }));
+}
+
+TEST_F(LogoPicture, GoesAsSoonAsThePathIsAnotherOne) {
+  Run.Options.DrowLogo = SavePicture("logo.bmp", Qt::red);
+  OpenEditor();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return Seen() == QColor(Qt::red); }));
+  Enter("txtDrow_8", 0);
+  Key(Qt::Key_Backspace);
+  EXPECT_FALSE(In("imgLogo").isVisible());
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  LeavePath();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Seen() == QColor(Qt::red); }));
+}
+
+// No path at all, no file, a file that is no picture, a folder.
+TEST_F(LogoPicture, OfAPathThatNamesNoneIsNothingAtAll) {
+  WriteFile("letter.bmp", "no picture");
+  for (const std::string& path : {Folder() + "/missing.bmp", Folder() + "/letter.bmp", Folder()}) {
+    SCOPED_TRACE(path);
+    EXPECT_EQ(ReadPicture(path), nullptr);
+  }
+  Share share;
+  Read = share.Reader();
+  share.Release();
+  Run.Options.DrowLogo = Folder() + "/letter.bmp";
+  OpenEditor();
+  ASSERT_TRUE(QTest::qWaitFor([&share] { return share.Answered() == 1; }));
+  QApplication::processEvents();
+  EXPECT_FALSE(In("imgLogo").isVisible());
+  EXPECT_TRUE(Desktop.Messages.empty());
+}
+
+#ifdef Q_OS_UNIX
+// Opening a pipe that nobody writes to would take for ever.
+TEST_F(LogoPicture, OfAPipeIsNeverRead) {
+  const std::string pipe = Folder() + "/pipe.bmp";
+  ASSERT_EQ(std::system(("mkfifo '" + pipe + "'").c_str()), 0);
+  EXPECT_EQ(ReadPicture(pipe), nullptr);
+}
+#endif
+
+TEST_F(LogoPicture, OnADeadShareIsNotFelt) {
+  Share share;
+  Read = share.Reader();
+  Run.Options.DrowLogo = "/share/logo.bmp";
+  OpenEditor();
+  const std::string next = SavePicture("red.bmp", Qt::red);
+  TypePath(next);
+  LeavePath();
+  ASSERT_TRUE(QTest::qWaitFor([&share] { return share.Asked().size() == 2; }));
+  Click(In("cmdOK"));
+  EXPECT_FALSE(Editor->isVisible());
+  EXPECT_EQ(Run.Options.DrowLogo, next);
+  delete Editor.data();
+  share.Release();
+  EXPECT_TRUE(QTest::qWaitFor([&share] { return share.Answered() == 2; }));
+}
+
+TEST_F(LogoPicture, ThatComesLateForAnotherPathIsNotShown) {
+  Share share;
+  Read = share.Reader();
+  Run.Options.DrowLogo = SavePicture("red.bmp", Qt::red);
+  OpenEditor();
+  ASSERT_TRUE(QTest::qWaitFor([&share] { return share.Asked().size() == 1; }));
+  TypePath(Folder() + "/missing.bmp");
+  share.Release();
+  ASSERT_TRUE(QTest::qWaitFor([&share] { return share.Answered() == 1; }));
+  QApplication::processEvents();
+  EXPECT_FALSE(In("imgLogo").isVisible());
+}
+
+TEST_F(LogoPicture, IsChosenFromTheFolderOfThePresentOne) {
+  EXPECT_EQ(FolderOf(Folder() + "\\logo.bmp").toStdString(), Folder());
+  EXPECT_EQ(FolderOf(Folder() + "/missing/logo.bmp"), QString());
+  EXPECT_EQ(FolderOf("logo.bmp"), QString());
+  EXPECT_EQ(FolderOf(""), QString());
+}
+
+}  // namespace
+}  // namespace tarvis
