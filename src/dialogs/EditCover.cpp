@@ -24,7 +24,7 @@ struct EditCover::FieldPlan {
 
 namespace {
 
-constexpr Bounds DialogBounds{0, 0, 8505, 5400};
+constexpr FittedDialog::Plan DialogPlan{.Width = 8505, .Height = 5400, .ButtonsTop = 4750};
 constexpr int LabelLeft = 120;
 constexpr int LabelWidth = 1350;
 constexpr int AddressLines = 2;
@@ -49,13 +49,9 @@ constexpr const char* GreetingHint =
 }  // namespace
 
 EditCover::EditCover(PrintRun& run, QWidget* parent, EditCoverServices services)
-    : QDialog(parent), run_(run), services_(std::move(services)) {
-  setObjectName(QString::fromLatin1("EditCover"));
-  setWindowTitle(QString::fromLatin1("Cover"));
-  setFont(DialogFont());
-  setFixedSize(PixelRect(DialogBounds).size());
+    : FittedDialog("EditCover", "Cover", DialogPlan, parent), run_(run), services_(std::move(services)) {
   setModal(true);
-  tabs_ = new TabControl({120, 120, 8265, 4590}, this);
+  tabs_ = new TabControl({120, 120, 8265, 4590}, Upper());
   BuildSubmitterTab();
   for (int block = 0; block < 3; ++block) BuildAddresseeTab(block);
   BuildGreetingTab();
@@ -163,9 +159,9 @@ void EditCover::BuildGreetingTab() {
 }
 
 void EditCover::BuildButtons() {
-  cmdOK_ = MakeButton("cmdOK", "&OK", {2340, 4890, 1455, 375}, this);
+  cmdOK_ = AddButton("cmdOK", "&OK", {2340, 4890, 1455, 375});
   cmdOK_->setDefault(true);
-  cmdCancel_ = MakeButton("cmdCancel", "&Cancel", {4515, 4890, 1455, 375}, this);
+  cmdCancel_ = AddButton("cmdCancel", "&Cancel", {4515, 4890, 1455, 375});
   connect(cmdOK_, &QPushButton::clicked, this, &EditCover::OkClicked);
   connect(cmdCancel_, &QPushButton::clicked, this, &EditCover::reject);
 }

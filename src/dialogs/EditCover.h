@@ -1,12 +1,12 @@
 // "Cover": edits the texts of the cover letter.
 #pragma once
 
-#include <QDialog>
 #include <string>
 #include <vector>
 
 #include "dialogs/controls/controls.h"
 #include "dialogs/controls/file_choice.h"
+#include "dialogs/controls/fitted_dialog.h"
 #include "dialogs/controls/logo_preview.h"
 #include "dialogs/controls/tab_control.h"
 #include "dialogs/controls/text_box.h"
@@ -27,12 +27,15 @@ struct EditCoverServices {
 // Works on a copy: filled from the options when it is built, and nothing goes back until every field has
 // passed its check and the user confirms. A field that fails its check holds the focus until it passes or the
 // user cancels.
-class EditCover : public QDialog {
+class EditCover : public FittedDialog {
   Q_OBJECT
 
  public:
   EditCover(PrintRun& run, QWidget* parent, EditCoverServices services = {});
   ~EditCover() override;
+
+ protected:
+  TabControl& FrontTabs() const override { return *tabs_; }
 
  private:
   // One text of the letter, with its box and its limits.

@@ -23,7 +23,7 @@ namespace tarvis {
 
 namespace {
 
-constexpr Bounds DialogBounds{0, 0, 5535, 8130};
+constexpr FittedDialog::Plan DialogPlan{.Width = 5535, .Height = 8130, .ButtonsTop = 7510};
 constexpr int PageCount = 10;
 constexpr std::int16_t StepsWithoutTable = 1000;
 constexpr int ProgramTableEntry = 2;
@@ -41,11 +41,9 @@ Control& Member(const std::array<Control*, Count>& family, const char* name, int
 }  // namespace
 
 PrintSetting::PrintSetting(PrintRun& run, PrintSettingServices services)
-    : run_(run), services_(std::move(services)) {
-  setObjectName(QString::fromLatin1("PrintSetting"));
-  setWindowTitle(QString::fromLatin1("Printing Item Setting"));
-  setFont(DialogFont());
-  setFixedSize(PixelRect(DialogBounds).size());
+    : FittedDialog("PrintSetting", "Printing Item Setting", DialogPlan, nullptr),
+      run_(run),
+      services_(std::move(services)) {
   BuildCoverGroup();
   BuildFunctionGroup();
   BuildColorGroup();
@@ -60,7 +58,7 @@ PrintSetting::~PrintSetting() {
 }
 
 void PrintSetting::BuildCoverGroup() {
-  auto* frame = new GroupFrame("Frame1", "Cover", {120, 45, 5300, 2640}, this);
+  auto* frame = new GroupFrame("Frame1", "Cover", {120, 45, 5300, 2640}, Upper());
   chkCover_ = new TickBox("chkCover", NoFamily, "&Attaching the Cover", {240, 225, 1815, 375}, frame);
   cmdEdit_ = MakeButton("cmdEdit", "Cover &Editing", {2640, 240, 1695, 495}, frame);
   cmdEdit_->setEnabled(false);
@@ -79,7 +77,7 @@ void PrintSetting::BuildCoverGroup() {
 }
 
 void PrintSetting::BuildFunctionGroup() {
-  auto* frame = new GroupFrame("Frame2", "Data for each f&unction", {135, 2800, 5300, 3980}, this);
+  auto* frame = new GroupFrame("Frame2", "Data for each f&unction", {135, 2800, 5300, 3980}, Upper());
   cmbFunc_ = new QComboBox(frame);
   NameControl(*cmbFunc_, "cmbFunc", NoFamily, QString::fromLatin1("Function"));
   Place(*cmbFunc_, {480, 360, 3975, 330});
@@ -88,16 +86,16 @@ void PrintSetting::BuildFunctionGroup() {
 }
 
 void PrintSetting::BuildColorGroup() {
-  auto* frame = new GroupFrame("Frame3", "Color Selection", {135, 6850, 5300, 615}, this);
+  auto* frame = new GroupFrame("Frame3", "Color Selection", {135, 6850, 5300, 615}, Upper());
   optColor_ = {new OptionButton("optColor", 0, "&Black and White", {480, 240, 1815, 255}, frame),
                new OptionButton("optColor", 1, "&Color", {2400, 240, 855, 255}, frame)};
   optColor_[0]->setChecked(true);
 }
 
 void PrintSetting::BuildButtons() {
-  cmdOK_ = MakeButton("cmdOK", "&OK", {975, 7650, 1455, 375}, this);
+  cmdOK_ = AddButton("cmdOK", "&OK", {975, 7650, 1455, 375});
   cmdOK_->setDefault(true);
-  cmdCancel_ = MakeButton("cmdCancel", "Ca&ncel", {3015, 7650, 1455, 375}, this);
+  cmdCancel_ = AddButton("cmdCancel", "Ca&ncel", {3015, 7650, 1455, 375});
 }
 
 void PrintSetting::Connect() {
@@ -287,6 +285,10 @@ void PrintSetting::OkClicked() {
   hide();
   deleteLater();
   showPrintPreview();
+}
+
+TabControl& PrintSetting::FrontTabs() const {
+  return shown_->Tabs();
 }
 
 void PrintSetting::reject() {

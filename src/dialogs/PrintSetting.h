@@ -3,7 +3,6 @@
 
 #include <QButtonGroup>
 #include <QComboBox>
-#include <QDialog>
 #include <array>
 #include <cstdint>
 #include <functional>
@@ -13,6 +12,7 @@
 
 #include "dialogs/controls/addressee_grid.h"
 #include "dialogs/controls/controls.h"
+#include "dialogs/controls/fitted_dialog.h"
 #include "dialogs/pages/ItemPage.h"
 #include "dialogs/pages/function_list.h"
 
@@ -38,7 +38,7 @@ struct PrintSettingServices {
 //
 // Create it with new and show it modeless. When the user confirms it deletes itself; every other way out of
 // it ends the run.
-class PrintSetting : public QDialog {
+class PrintSetting : public FittedDialog {
   Q_OBJECT
 
  public:
@@ -48,6 +48,9 @@ class PrintSetting : public QDialog {
 
   // Esc and the window's close box: as cmdCancel.
   void reject() override;
+
+ protected:
+  TabControl& FrontTabs() const override;
 
  private:
   void BuildCoverGroup();

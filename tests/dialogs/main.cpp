@@ -15,5 +15,6 @@ extern "C" const char* __lsan_default_suppressions() {
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   tarvis::TestApplication application(argc, argv);
+  tarvis::SetUserFont(tarvis::DrawnFontPixels);
   return RUN_ALL_TESTS();
 }

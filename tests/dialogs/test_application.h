@@ -3,10 +3,20 @@
 #pragma once
 
 #include <QApplication>
+#include <QFont>
 #include <exception>
 #include <utility>
 
+#include "dialogs/controls/place.h"
+
 namespace tarvis {
+
+// Sets the size of the desktop's font.
+inline void SetUserFont(int pixels) {
+  QFont font = QApplication::font();
+  font.setPixelSize(pixels);
+  QApplication::setFont(font);
+}
 
 class TestApplication : public QApplication {
  public:

@@ -12,7 +12,7 @@ namespace {
 constexpr std::array RowNames{"Title", "Company Name", "Department Name", "Name"};
 constexpr int NameColumn = 0;
 constexpr int ValueColumn = 1;
-constexpr int NameColumnPixels = 120;
+constexpr int NameColumnWidth = 1800;
 constexpr QColor NameBackground(0xC0, 0xC0, 0xC0);
 
 QTableWidgetItem* MakeCell(const QString& text) {
@@ -35,7 +35,7 @@ AddresseeGrid::AddresseeGrid(const Bounds& bounds, QWidget* parent) : QTableWidg
   horizontalHeader()->setFixedHeight(inside - 4 * rowHeight);
   horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   horizontalHeader()->setStretchLastSection(true);
-  setColumnWidth(NameColumn, NameColumnPixels);
+  setColumnWidth(NameColumn, Pixels(NameColumnWidth, *this));
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setEditTriggers(QAbstractItemView::NoEditTriggers);

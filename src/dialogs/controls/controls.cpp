@@ -1,5 +1,6 @@
 #include "dialogs/controls/controls.h"
 
+#include <QApplication>
 #include <QStyle>
 #include <QStyleOptionButton>
 #include <QStylePainter>
@@ -11,9 +12,9 @@ namespace tarvis {
 
 namespace {
 
-constexpr int FontPixels = 11;
-constexpr int TitleInset = 9;          // of the title of a group
-constexpr int RowTolerancePixels = 8;  // controls of one row may be out of line by this
+constexpr int SmallestFontPixels = 8;  // below this nobody can read
+constexpr int TitleInset = 135;        // twips, of the title of a group
+constexpr int RowTolerance = 120;      // twips by which controls of one row may be out of line
 
 // The parts of a check box or an option button, as the style draws them.
 struct ButtonParts {
@@ -44,7 +45,7 @@ void PaintWrapped(QAbstractButton& button, QStyleOptionButton option, const Butt
 
 // Sets the geometry and returns whether the caption takes two lines.
 bool PlaceCaption(QAbstractButton& button, const Bounds& bounds) {
-  QRect place = PixelRect(bounds);
+  QRect place = PixelRect(bounds, button);
   const int wanted = button.sizeHint().width();
   const int lineHeight = button.fontMetrics().height();
   const bool roomForTwo = place.height() >= 2 * lineHeight - 2;
@@ -76,7 +77,7 @@ void NameControl(QWidget& control, const char* name, int index, const QString& a
 QFont DialogFont() {
   QFont font(QString::fromLatin1("Arial"));
   font.setStyleHint(QFont::SansSerif);
-  font.setPixelSize(FontPixels);
+  font.setPixelSize(std::max(QFontInfo(QApplication::font()).pixelSize(), SmallestFontPixels));
   return font;
 }
 
@@ -88,10 +89,9 @@ void SetReadingOrder(QWidget& container) {
   std::stable_sort(controls.begin(), controls.end(),
                    [](const QWidget* a, const QWidget* b) { return a->y() < b->y(); });
   for (auto row = controls.begin(); row != controls.end();) {
-    const int top = (*row)->y();
-    const auto next = std::find_if(row, controls.end(), [top](const QWidget* control) {
-      return control->y() > top + RowTolerancePixels;
-    });
+    const int lowest = (*row)->y() + Pixels(RowTolerance, container);
+    const auto next =
+        std::find_if(row, controls.end(), [lowest](const QWidget* control) { return control->y() > lowest; });
     std::stable_sort(row, next, [](const QWidget* a, const QWidget* b) { return a->x() < b->x(); });
     row = next;
   }
@@ -171,7 +171,7 @@ void GroupFrame::paintEvent(QPaintEvent*) {
   QStylePainter painter(this);
   const int titleHeight = fontMetrics().height();
   const int titleWidth = fontMetrics().horizontalAdvance(PlainCaption(title()));
-  const QRect titleBox(TitleInset, 0, titleWidth, titleHeight);
+  const QRect titleBox(Pixels(TitleInset, *this), 0, titleWidth, titleHeight);
   painter.setClipRegion(QRegion(rect()) - QRegion(titleBox.adjusted(-3, 0, 3, 0)));
   painter.setPen(palette().color(QPalette::Mid));
   const int lineAt = titleHeight / 2;
@@ -187,7 +187,7 @@ QLabel* MakeLabel(const char* name, int index, const char* caption, const Bounds
   label->setTextFormat(Qt::PlainText);
   NameControl(*label, name, index, PlainCaption(label->text()));
   label->setWordWrap(wordWrap);
-  QRect place = PixelRect(bounds);
+  QRect place = PixelRect(bounds, *label);
   const QSize wanted = label->sizeHint();
   if (wordWrap) {
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);

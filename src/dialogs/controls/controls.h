@@ -22,7 +22,7 @@ QString PlainCaption(const QString& caption);
 void NameControl(QWidget& control, const char* name, int index, const QString& accessibleName);
 constexpr int NoFamily = -1;
 
-// Arial in the size for which the dialogs are drawn.
+// Arial in the size of the user's font.
 QFont DialogFont();
 
 // Chains the focusable children of `container` row by row, each row from left to right.

@@ -1,6 +1,8 @@
-// Geometry of the dialogs: told in twips, 1440 to the inch, and laid out at 96 dots to the inch.
+// Geometry of the dialogs: told in twips, 1440 to the inch, and drawn at 96 dots to the inch in a font of 11
+// pixels. In a larger font the dialogs are drawn larger as a whole.
 #pragma once
 
+#include <QFontInfo>
 #include <QRect>
 #include <QWidget>
 
@@ -15,21 +17,29 @@ struct Bounds {
 };
 
 constexpr int TwipsPerPixel = 15;
+constexpr int DrawnFontPixels = 11;
 
-constexpr int Pixels(int twips) {
-  return (twips + TwipsPerPixel / 2) / TwipsPerPixel;
+constexpr int Pixels(int twips, int fontPixels) {
+  constexpr int Divisor = TwipsPerPixel * DrawnFontPixels;
+  return (twips * fontPixels + Divisor / 2) / Divisor;
+}
+
+// How long something in `widget` is, which has its font already, most often from its parent.
+inline int Pixels(int twips, const QWidget& widget) {
+  return Pixels(twips, QFontInfo(widget.font()).pixelSize());
 }
 
 // Edges are rounded, not sizes, so that controls which meet in twips also meet on the screen.
-inline QRect PixelRect(const Bounds& bounds) {
-  const int left = Pixels(bounds.Left);
-  const int top = Pixels(bounds.Top);
-  return QRect(left, top, Pixels(bounds.Left + bounds.Width) - left,
-               Pixels(bounds.Top + bounds.Height) - top);
+inline QRect PixelRect(const Bounds& bounds, const QWidget& widget) {
+  const int fontPixels = QFontInfo(widget.font()).pixelSize();
+  const int left = Pixels(bounds.Left, fontPixels);
+  const int top = Pixels(bounds.Top, fontPixels);
+  return QRect(left, top, Pixels(bounds.Left + bounds.Width, fontPixels) - left,
+               Pixels(bounds.Top + bounds.Height, fontPixels) - top);
 }
 
 inline void Place(QWidget& widget, const Bounds& bounds) {
-  widget.setGeometry(PixelRect(bounds));
+  widget.setGeometry(PixelRect(bounds, widget));
 }
 
 }  // namespace tarvis

@@ -1,7 +1,6 @@
 #include "dialogs/controls/tab_control.h"
 
 #include <QApplication>
-#include <QKeyEvent>
 #include <QProxyStyle>
 #include <QSignalBlocker>
 #include <QStyleOptionTabWidgetFrame>
@@ -13,9 +12,9 @@ namespace tarvis {
 
 namespace {
 
-constexpr int BarPixels = 22;  // the topmost controls of the pages begin at 24
-constexpr int CaptionPadding =
-    10;  // both sides together; narrower than the styles have it, so that five tabs fit
+// Twips.
+constexpr int BarHeight = 330;       // the topmost controls of the pages begin at 360
+constexpr int CaptionPadding = 150;  // both sides; narrower than the styles have it, so that five tabs fit
 
 class LowTabBar : public QTabBar {
  public:
@@ -23,7 +22,7 @@ class LowTabBar : public QTabBar {
 
  protected:
   QSize tabSizeHint(int index) const override {
-    return QSize(QTabBar::tabSizeHint(index).width(), BarPixels);
+    return QSize(QTabBar::tabSizeHint(index).width(), Pixels(BarHeight, *this));
   }
   QSize minimumTabSizeHint(int index) const override { return tabSizeHint(index); }
 };
@@ -31,7 +30,8 @@ class LowTabBar : public QTabBar {
 class NarrowTabs : public QProxyStyle {
  public:
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
-    return metric == PM_TabBarTabHSpace ? CaptionPadding : QProxyStyle::pixelMetric(metric, option, widget);
+    if (metric == PM_TabBarTabHSpace && widget != nullptr) return Pixels(CaptionPadding, *widget);
+    return QProxyStyle::pixelMetric(metric, option, widget);
   }
 };
 
@@ -48,7 +48,7 @@ TabControl::TabControl(const Bounds& bounds, QWidget* parent) : QWidget(parent),
   bar_->setUsesScrollButtons(false);
   bar_->setElideMode(Qt::ElideNone);
   bar_->setExpanding(true);
-  bar_->setGeometry(0, 0, width(), BarPixels);
+  bar_->setGeometry(0, 0, width(), Pixels(BarHeight, *this));
   connect(bar_, &QTabBar::currentChanged, this, &TabControl::BringForward);
 }
 
@@ -67,6 +67,11 @@ QWidget* TabControl::AddTab(const char* caption) {
 
 void TabControl::SetCurrentTab(int index) {
   bar_->setCurrentIndex(index);
+}
+
+void TabControl::Turn(int tabs) {
+  const int count = bar_->count();
+  SetCurrentTab((current_ + tabs + count) % count);
 }
 
 void TabControl::BringForward(int index) {
@@ -95,16 +100,8 @@ void TabControl::paintEvent(QPaintEvent*) {
   option.tabBarSize = bar_->size();
   option.tabBarRect = bar_->geometry();
   option.selectedTabRect = bar_->tabRect(bar_->currentIndex());
-  option.rect = rect().adjusted(0, BarPixels - 1, 0, 0);
+  option.rect = rect().adjusted(0, bar_->height() - 1, 0, 0);
   painter.drawPrimitive(QStyle::PE_FrameTabWidget, option);
-}
-
-void TabControl::keyPressEvent(QKeyEvent* event) {
-  const bool back = event->key() == Qt::Key_Backtab || event->modifiers().testFlag(Qt::ShiftModifier);
-  const bool tabKey = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
-  if (!tabKey || !event->modifiers().testFlag(Qt::ControlModifier)) return QWidget::keyPressEvent(event);
-  const int count = bar_->count();
-  SetCurrentTab((current_ + (back ? count - 1 : 1)) % count);
 }
 
 }  // namespace tarvis

@@ -21,6 +21,8 @@ class TabControl : public QWidget {
   QWidget* AddTab(const char* caption);
   int CurrentTab() const { return current_; }
   void SetCurrentTab(int index);
+  // Goes on by so many tabs, from the last one to the first.
+  void Turn(int tabs);
   QWidget* Page(int index) const { return pages_.at(static_cast<std::size_t>(index)); }
   QTabBar* Bar() const { return bar_; }
 
@@ -30,7 +32,6 @@ class TabControl : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void BringForward(int index);

@@ -35,8 +35,8 @@ void AddRule(const QLabel& heading) {
   auto* rule = new QFrame(heading.parentWidget());
   rule->setFrameShape(QFrame::HLine);
   rule->setFrameShadow(QFrame::Sunken);
-  const int left = heading.geometry().right() + Pixels(RuleGap);
-  const int right = Pixels(TabBounds.Width - RuleGap);
+  const int left = heading.geometry().right() + Pixels(RuleGap, heading);
+  const int right = Pixels(TabBounds.Width - RuleGap, heading);
   rule->setGeometry(left, heading.geometry().center().y(), right - left, 2);
 }
 
