@@ -151,7 +151,7 @@ void EditCover::AddField(const FieldPlan& plan, const char* family, const char* 
 
 void EditCover::BuildGreetingTab() {
   QWidget* tab = tabs_->AddTab("&Greeting Sentences");
-  lblGreeting_ = MakeLabel("lblGreeting", NoFamily, "", {315, 675, 7500, 720}, tab, true);
+  lblGreeting_ = MakeLabel("lblGreeting", NoFamily, "", {315, 675, 5775, 825}, tab, true);
   auto* box =
       new MemoBox("txtGreeting", NoFamily, "Greeting Sentences", GreetingLimit, {135, 1440, 7700, 2100}, tab);
   box->LimitEnterKey(GreetingLines - 1);

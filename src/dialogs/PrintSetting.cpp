@@ -79,6 +79,7 @@ void PrintSetting::BuildCoverGroup() {
 void PrintSetting::BuildFunctionGroup() {
   auto* frame = new GroupFrame("Frame2", "Data for each f&unction", {135, 2800, 5300, 3980}, Upper());
   cmbFunc_ = new QComboBox(frame);
+  frame->SetBuddy(cmbFunc_);
   NameControl(*cmbFunc_, "cmbFunc", NoFamily, QString::fromLatin1("Function"));
   Place(*cmbFunc_, {480, 360, 3975, 330});
   for (int id = 0; id < PageCount; ++id) pages_.push_back(MakeItemPage(static_cast<PageId>(id), run_, frame));

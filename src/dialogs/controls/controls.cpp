@@ -167,6 +167,13 @@ GroupFrame::GroupFrame(const char* name, const char* caption, const Bounds& boun
   Place(*this, bounds);
 }
 
+bool GroupFrame::event(QEvent* event) {
+  if (event->type() != QEvent::Shortcut || buddy_ == nullptr || !buddy_->isEnabled())
+    return QGroupBox::event(event);
+  buddy_->setFocus(Qt::ShortcutFocusReason);
+  return true;
+}
+
 void GroupFrame::paintEvent(QPaintEvent*) {
   QStylePainter painter(this);
   const int titleHeight = fontMetrics().height();

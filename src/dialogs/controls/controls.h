@@ -76,8 +76,16 @@ class GroupFrame : public QGroupBox {
  public:
   GroupFrame(const char* name, const char* caption, const Bounds& bounds, QWidget* parent);
 
+  // The control inside to which the mnemonic of the title leads. The toolkit would go back to the one that
+  // had the focus last.
+  void SetBuddy(QWidget* control) { buddy_ = control; }
+
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QWidget* buddy_ = nullptr;
 };
 
 // Grows to the right and to the height of its font; `wordWrap` keeps the width instead.

@@ -3,6 +3,8 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QStyleOptionFrame>
+#include <QStylePainter>
 #include <QTextCursor>
 #include <algorithm>
 
@@ -108,8 +110,26 @@ void MemoBox::insertFromMimeData(const QMimeData* source) {
   ensureCursorVisible();
 }
 
+// The frame is that of a box of one line, which shows the focus.
+bool MemoBox::event(QEvent* event) {
+  if (event->type() != QEvent::Paint) return QPlainTextEdit::event(event);
+  QStylePainter painter(this);
+  QStyleOptionFrame option;
+  initStyleOption(&option);
+  option.state.setFlag(QStyle::State_Sunken);
+  option.state.setFlag(QStyle::State_HasFocus, hasFocus());
+  painter.drawPrimitive(QStyle::PE_PanelLineEdit, option);
+  return true;
+}
+
+void MemoBox::focusOutEvent(QFocusEvent* event) {
+  QPlainTextEdit::focusOutEvent(event);
+  update();
+}
+
 void MemoBox::focusInEvent(QFocusEvent* event) {
   QPlainTextEdit::focusInEvent(event);
+  update();
   const Qt::FocusReason reason = event->reason();
   if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason) selectAll();
 }

@@ -22,9 +22,9 @@ struct HeaderBoxPlan {
   Bounds Place;
 };
 
-// The first box ends where the title's text box begins.
+// The title's text box lies on the end of the first box.
 constexpr std::array<HeaderBoxPlan, 4> HeaderBoxes{{
-    {"&Title", &HeaderOptions::Title, {330, 660, 975, 255}},
+    {"&Title", &HeaderOptions::Title, {330, 660, 1215, 255}},
     {"&Models Info", &HeaderOptions::ModelsInfo, {330, 1020, 1215, 255}},
     {"Printing &Date", &HeaderOptions::PrintDate, {330, 1380, 1215, 255}},
     {"&File Name", &HeaderOptions::FileName, {330, 1710, 1215, 255}},
