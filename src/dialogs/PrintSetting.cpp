@@ -1,6 +1,5 @@
 #include "dialogs/PrintSetting.h"
 
-#include <QApplication>
 #include <QSignalBlocker>
 #include <utility>
 
@@ -79,8 +78,8 @@ void PrintSetting::BuildCoverGroup() {
 void PrintSetting::BuildFunctionGroup() {
   auto* frame = new GroupFrame("Frame2", "Data for each f&unction", {135, 2800, 5300, 3980}, Upper());
   cmbFunc_ = new QComboBox(frame);
-  frame->SetBuddy(cmbFunc_);
   NameControl(*cmbFunc_, "cmbFunc", NoFamily, QString::fromLatin1("Function"));
+  frame->SetBuddy(cmbFunc_);
   Place(*cmbFunc_, {480, 360, 3975, 330});
   for (int id = 0; id < PageCount; ++id) pages_.push_back(MakeItemPage(static_cast<PageId>(id), run_, frame));
   infIdxTbl_ = qobject_cast<InfIdxTbl*>(pages_.at(static_cast<std::size_t>(PageId::InfIdxTbl)));
@@ -189,16 +188,18 @@ void PrintSetting::SelectFunction(int index) {
   FunctionClicked();
 }
 
-// A page that holds the focus gives it up before it goes, which its range may refuse.
+// A page that holds the focus gives it up before it goes, which its range may refuse. The application has no
+// focus just after a message, the dialog has.
 void PrintSetting::FunctionClicked() {
-  if (shown_ != nullptr && shown_->isAncestorOf(QApplication::focusWidget()) && !guard_->Enter(*cmbFunc_))
-    return;
+  if (shown_ != nullptr && shown_->isAncestorOf(focusWidget()) && !guard_->Enter(*cmbFunc_)) return;
   const FunctionEntry& entry = entries_[static_cast<std::size_t>(cmbFunc_->currentIndex())];
   ShowPage(*pages_.at(static_cast<std::size_t>(PageOf(entry))));
 }
 
 // True if the focus has left the page of the program table with a bad range; the user is back at it then.
+// The check of the box that was left comes first.
 bool PrintSetting::RefuseToLeaveRange(const QWidget& left, const QWidget& entered) {
+  infIdxTbl_->ControlLeft(left);
   if (!infIdxTbl_->isAncestorOf(&left) || infIdxTbl_->isAncestorOf(&entered)) return false;
   if (&entered == cmdCancel_) return false;
   if (run_.Session.Mode != "PrnSetting" && run_.Session.Mode != "IdxTbl") return false;

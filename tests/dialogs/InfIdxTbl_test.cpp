@@ -1,52 +1,11 @@
 #include "dialogs/pages/InfIdxTbl.h"
 
-#include <QClipboard>
 #include <QInputMethodEvent>
 
-#include "dialogs/dialog_run.h"
+#include "dialogs/program_table_page.h"
 
 namespace tarvis {
 namespace {
-
-const std::string WrongStep = "Input Error|Wrong the inputted STEP number.Please input again.";
-
-class ProgramTablePage : public DialogRun {
- protected:
-  // A print of the table at hand with this many steps, its second tab in front.
-  void OpenTable(int steps) {
-    WriteFile("IdxIdxTbl.tmp", "IndexCnt," + std::to_string(steps) + "\r\n");
-    Open(2, "", "IdxTbl");
-    ClickTab(Page("InfIdxTbl").Tabs(), 1);
-  }
-  void OpenSettings() {
-    Open(2, "", "PrnSetting");
-    ChooseFunction(2);
-    ClickTab(Page("InfIdxTbl").Tabs(), 1);
-  }
-  void TypeRange(const char* start, const char* end) {
-    Type("TextStart", start);
-    Type("TextEnd", end);
-  }
-  void Type(const char* box, const char* text) {
-    auto& field = Find<StepBox>(box);
-    QTest::mouseClick(&field, Qt::LeftButton);
-    field.selectAll();
-    Key(Qt::Key_Backspace);
-    QTest::keyClicks(&field, QString::fromLatin1(text));
-  }
-  std::string Range() { return Find<StepBox>("TextStart").Text() + "-" + Find<StepBox>("TextEnd").Text(); }
-  std::string Stored() const { return Run.Options.IdxTblOption.First + "-" + Run.Options.IdxTblOption.Last; }
-  std::string Flags() const {
-    return std::to_string(Run.Session.StepStartValid) + "," + std::to_string(Run.Session.StepEndValid);
-  }
-  void ExpectHeldIn(const char* box) {
-    EXPECT_THAT(Desktop.Messages, testing::ElementsAre(WrongStep));
-    EXPECT_EQ(FocusName(), box);
-    EXPECT_EQ(Page("InfIdxTbl").Tabs().CurrentTab(), 1);
-    EXPECT_EQ(ShownPages(), "InfIdxTbl");
-    Desktop.Messages.clear();
-  }
-};
 
 TEST_F(ProgramTablePage, AFirstRunPrintsAllSteps) {
   OpenTable(128);
@@ -222,18 +181,6 @@ TEST_F(ProgramTablePage, AFlagThatTheCheckDoesntReachKeepsItsValue) {
   Type("TextStart", "");
   Key(Qt::Key_Tab);
   EXPECT_EQ(Flags(), "0,0");
-}
-
-TEST_F(ProgramTablePage, ABadRangeHoldsTheUserWhoTurnsTheWheelOverTheFunctionList) {
-  OpenSettings();
-  Click(Find("optRange_2"));
-  TypeRange("9", "5");
-  auto& list = Find<QComboBox>("cmbFunc");
-  QWheelEvent wheel(QPointF(5, 5), list.mapToGlobal(QPointF(5, 5)), {}, QPoint(0, -120), Qt::NoButton, {},
-                    Qt::NoScrollPhase, false);
-  QApplication::sendEvent(&list, &wheel);
-  EXPECT_EQ(list.currentIndex(), 2);
-  ExpectHeldIn("TextStart");
 }
 
 TEST_F(ProgramTablePage, ABadRangeHoldsTheUserWhoOpensTheFunctionList) {

@@ -14,10 +14,10 @@
 #include <string>
 
 #include "dialogs/PrintSetting.h"
+#include "dialogs/box_desktop.h"
 #include "dialogs/test_application.h"
 #include "printfiles/print_options_file.h"
 #include "run/print_run.h"
-#include "support/fake_desktop.h"
 #include "support/pinned_time.h"
 
 namespace tarvis {
@@ -129,7 +129,7 @@ class DialogRun : public testing::Test {
     }
   }
 
-  FakeDesktop Desktop;
+  BoxDesktop Desktop;
   PrintRun Run{Desktop};
   QPointer<PrintSetting> Dialog;
   std::vector<bool> PreviewDialogVisible;  // one entry for each call of the preview

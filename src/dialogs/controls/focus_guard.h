@@ -2,14 +2,16 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QWidget>
 #include <functional>
 
 namespace tarvis {
 
-// Asks `refuse` whenever the focus has moved from one control of the window to another one of it; switching
-// to another window or program is no leave. Who refuses returns true and has put the focus back and told the
-// user; the press or the shortcut that moved the focus then does nothing more.
+// Asks `refuse` whenever the focus has moved from one control of the window to another one of it, also while
+// another window was in front in between; switching to another window or program alone is no leave. Who
+// refuses returns true and has put the focus back and told the user; the press, the turn of the wheel or the
+// shortcut that moved the focus then does nothing more.
 // Mnemonics of buttons click at once.
 class FocusGuard : public QObject {
   Q_OBJECT
@@ -28,14 +30,16 @@ class FocusGuard : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void FocusMoved(QWidget* left, QWidget* entered);
+  void FocusMoved(QWidget* entered);
+  void Ask(QWidget& left, QWidget& entered);
   bool IsOfWindow(const QWidget* control) const;
 
   QWidget& window_;
   Refuse refuse_;
+  QPointer<QWidget> inside_;  // the control that has the focus while the window is active
   bool asking_ = false;
   bool refused_ = false;
-  bool swallowPress_ = false;
+  bool swallowInput_ = false;
 };
 
 }  // namespace tarvis

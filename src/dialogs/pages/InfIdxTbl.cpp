@@ -1,6 +1,5 @@
 #include "dialogs/pages/InfIdxTbl.h"
 
-#include <QFocusEvent>
 #include <QKeyEvent>
 #include <algorithm>
 
@@ -57,13 +56,6 @@ void StepBox::keyPressEvent(QKeyEvent* event) {
   if (!sendsCode || !IsThrownAway(KeyCode(*event))) LineBox::keyPressEvent(event);
 }
 
-void StepBox::focusOutEvent(QFocusEvent* event) {
-  LineBox::focusOutEvent(event);
-  const Qt::FocusReason reason = event->reason();
-  const bool elsewhere = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
-  if (!elsewhere) emit Left();
-}
-
 QString StepBox::Accepted(const QString& piece) const {
   QString kept;
   for (const QChar c : LineBox::Accepted(piece)) {
@@ -88,8 +80,6 @@ InfIdxTbl::InfIdxTbl(PrintRun& run, QWidget* parent)
               if (on) RangeClicked(index);
             });
   }
-  connect(textStart_, &StepBox::Left, this, &InfIdxTbl::CheckStepRange);
-  connect(textEnd_, &StepBox::Left, this, &InfIdxTbl::CheckStepRange);
   connect(chkItemEtc_, &TickBox::ValueChanged, this, &InfIdxTbl::CommentsClicked);
   connect(&Tabs(), &TabControl::TabChanged, this, &InfIdxTbl::TabLeft);
 }
@@ -115,6 +105,10 @@ void InfIdxTbl::TabChg(std::int16_t tab) {
 void InfIdxTbl::SetStepFocus(std::int16_t field) {
   if (field == 1) textStart_->GiveFocus();
   if (field == 2) textEnd_->GiveFocus();
+}
+
+void InfIdxTbl::ControlLeft(const QWidget& control) {
+  if (&control == textStart_ || &control == textEnd_) CheckStepRange();
 }
 
 bool InfIdxTbl::RangeIsValid() const {

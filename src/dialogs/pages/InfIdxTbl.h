@@ -8,21 +8,16 @@
 
 namespace tarvis {
 
-// A box for a step number: throws away what is no digit, and tells when the user leaves it.
+// A box for a step number, which throws away what is no digit.
 class StepBox : public LineBox {
   Q_OBJECT
 
  public:
   using LineBox::LineBox;
 
- signals:
-  // Not for a switch to another window or program.
-  void Left();
-
  protected:
   QString Accepted(const QString& piece) const override;
   void keyPressEvent(QKeyEvent* event) override;
-  void focusOutEvent(QFocusEvent* event) override;
 };
 
 class InfIdxTbl : public ItemPage {
@@ -36,6 +31,9 @@ class InfIdxTbl : public ItemPage {
   // 1 for the start, 2 for the end; anything else does nothing.
   void SetStepFocus(std::int16_t field);
 
+  // Runs the check of `control` if it is one of the boxes for a step. To be called when the focus has moved
+  // from it to another control of the dialog.
+  void ControlLeft(const QWidget& control);
   // Whether both steps passed the check that ran last.
   bool RangeIsValid() const;
   // Puts the user back to the field that failed and tells him.
