@@ -8,6 +8,8 @@ import time
 
 
 DESKTOPS = 3  # another number than any window manager starts with
+MIDDLE_BUTTON = 2
+WHEEL_DOWN = 5
 
 
 class Timeout(AssertionError):
@@ -127,20 +129,30 @@ class User:
         self._copy(text)
         self.press("ctrl+a", "ctrl+v")
 
-    def _copy(self, text):
+    def select(self, text):
+        """Selects a text somewhere else, for the middle button of the mouse."""
+        self._copy(text, "primary")
+
+    def _copy(self, text, selection="clipboard"):
         if self._clipboard:
             self._clipboard.kill()
             self._clipboard.wait()
-        self._clipboard = subprocess.Popen(["xclip", "-quiet", "-selection", "clipboard"], env=self._environment,
+        self._clipboard = subprocess.Popen(["xclip", "-quiet", "-selection", selection], env=self._environment,
                                            stdin=subprocess.PIPE, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
                                            text=True, preexec_fn=end_with_parent)
         with self._clipboard.stdin as told:
             told.write(text)
-        wait_until(lambda: self._run("xclip", "-o", "-selection", "clipboard", check=False) == text, "the clipboard")
+        wait_until(lambda: self._run("xclip", "-o", "-selection", selection, check=False) == text, "the clipboard")
 
-    def click(self, window, x, y):
-        """Clicks at pixels from the window's top left corner."""
-        self._run("xdotool", "mousemove", "--window", window, str(x), str(y), "click", "1")
+    def click(self, window, x, y, button=1):
+        """Clicks at pixels from the window's top left corner; a notch of the wheel is a click of WHEEL_DOWN."""
+        self._run("xdotool", "mousemove", "--window", window, str(x), str(y), "click", str(button))
+
+    def place(self, window):
+        """Left, top, width and height of a window's inside, in pixels of the display."""
+        told = self._run("xdotool", "getwindowgeometry", "--shell", window)
+        values = dict(line.split("=") for line in told.splitlines())
+        return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
 
     def screenshot(self, path, window="root", framed=False):
         """Of a window's inside, or with its title and frame."""
