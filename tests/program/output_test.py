@@ -82,7 +82,7 @@ class SavedFile(Output):
         self.assertEqual(session.close_preview(), 0)
         self.assertEqual(self.files_at_home(), [target.name])
 
-    def test_is_opened_from_the_line_that_says_where_it_is(self):
+    def test_is_opened_or_its_folder_from_the_line_that_says_where_it_is(self):
         opened = self.folder / "opened"
         session = self.start_preview(environment=self.note_opened(opened))
         target = self.home / "saved.pdf"
@@ -91,6 +91,9 @@ class SavedFile(Output):
         self.widget(PREVIEW, "push button", "Open").press()
         wait_until(opened.exists, "the file to be opened")
         self.assertEqual(opened.read_text().strip(), f"file://{target}")
+        self.widget(PREVIEW, "push button", "Show in folder").press()
+        wait_until(lambda: len(opened.read_text().split()) == 2, "the folder to be opened")
+        self.assertEqual(opened.read_text().split()[1], f"file://{self.home}")
         self.assertEqual(session.close_preview(), 0)
 
     def test_never_takes_the_place_of_a_fifo(self):
