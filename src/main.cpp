@@ -10,6 +10,7 @@
 #include "platform/process_guard.h"
 #include "platform/program_windows.h"
 #include "platform/qt_desktop.h"
+#include "platform/settle_file.h"
 #include "platform/system_printers.h"
 #include "run/failures.h"
 #include "run/print_run.h"
@@ -31,6 +32,7 @@ int main(int argc, char** argv) {
   // toolkit has lost its display.
   const std::unique_ptr<HostSettings> settings = OpenHostSettings(desktop);
   PrintRun run(desktop);
+  run.SettleFile = SettleFile;
   QtProgramWindows windows(run);
   SystemPrinters printers(settings->CountsPdfPrinter(), watch);
   EndSignals endSignals([&] {

@@ -1,9 +1,9 @@
 #include "printfiles/print_options_file.h"
 
-#include <filesystem>
-#include <fstream>
+#include <string>
 
 #include "printfiles/option_lines.h"
+#include "printfiles/replace_file.h"
 #include "run/print_run.h"
 #include "text/date_text.h"
 #include "text/native_path.h"
@@ -57,17 +57,12 @@ void DefaultPrintOptions(PrintRun& run) {
 }
 
 bool WritePrintOptionsFile(PrintRun& run, std::string_view path) {
-  std::error_code error;
-  if (FileExists(run.Session.SystemFolder + "PrintOption.ToT"))
-    std::filesystem::remove(NativePath(path), error);
-  if (error) return false;
   run.Options.FileSpec = FileSpec;
-  std::ofstream file(NativePath(path), std::ios::binary | std::ios::trunc);
+  std::string bytes;
   for (const OptionLine& line : OptionLines(run.Options)) {
-    file << line.Key << ',' << run.Page.FromUtf8(line.Write()) << "\r\n";
+    bytes += std::string(line.Key) + ',' + run.Page.FromUtf8(line.Write()) + "\r\n";
   }
-  file.close();
-  return !file.fail();
+  return ReplaceFile(NativePath(path), bytes, run.SettleFile);
 }
 
 }  // namespace tarvis

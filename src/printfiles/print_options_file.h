@@ -15,8 +15,8 @@ bool ReadPrintOptionsFile(PrintRun& run);
 // The options of a first run, dated now.
 void DefaultPrintOptions(PrintRun& run);
 
-// Sets `FileSpec` to the version that is written and writes the file. False on any error, with the file left
-// as far as it came. `DateTime` is the caller's.
+// Sets `FileSpec` to the version that is written and puts a new file in the place of the old one. False on
+// any error, with the old file as it was. `DateTime` is the caller's.
 bool WritePrintOptionsFile(PrintRun& run, std::string_view path);
 
 }  // namespace tarvis

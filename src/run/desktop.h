@@ -1,6 +1,8 @@
 // What the core asks of the desktop around it: how a run speaks to its user and how it ends.
 #pragma once
 
+#include <filesystem>
+#include <functional>
 #include <string>
 
 namespace tarvis {
@@ -34,6 +36,11 @@ class ProgramWindows {
   // Sets the application's help file; empty for none.
   virtual void SetHelpFile(const std::string& path) = 0;
 };
+
+// What the standard library has no call for: returns when the bytes of the closed file `fresh` are on the
+// disk, and gives it the owner of `replaced`, if there is such a file. False if the bytes may be lost.
+using FileSettler =
+    std::function<bool(const std::filesystem::path& fresh, const std::filesystem::path& replaced)>;
 
 // The printers of the system.
 class Printers {

@@ -41,6 +41,7 @@ struct PrintRun {
   JogTblData JogTbl;
 
   std::function<std::tm()> Now;  // the clock, local time; the system's own unless a test pins it
+  FileSettler SettleFile;        // the program's own needs the operating system; without one it does nothing
 };
 
 }  // namespace tarvis

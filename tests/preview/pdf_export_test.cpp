@@ -11,9 +11,9 @@
 #include <QXmlStreamReader>
 
 #include "preview/document_builder.h"
-#include "preview/full_disk.h"
 #include "preview/pdf_file.h"
 #include "preview/sample_picture.h"
+#include "support/full_disk.h"
 
 namespace tarvis {
 namespace {

@@ -10,9 +10,9 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 
-#include "preview/full_disk.h"
 #include "preview/pdf_file.h"
 #include "preview/window_fixture.h"
+#include "support/full_disk.h"
 
 namespace tarvis {
 namespace {

@@ -1,4 +1,5 @@
 """Files that vanish, change or can't be written while the program runs: told where told, and nothing lost."""
+import os
 import shutil
 import unittest
 
@@ -167,6 +168,14 @@ class Picture(FileFaults):
 
 
 class OptionsFile(FileFaults):
+    def setUp(self):
+        super().setUp()
+        self.before = [self.host.options_file, *self.host.system_folder.iterdir()]
+
+    def beside_options(self):
+        """Files that the host didn't put beside the options."""
+        return [path.name for path in self.host.system_folder.iterdir() if path not in self.before]
+
     def run_to_the_end(self, through):
         """Nobody is told, the choice holds for this run, and the preview comes."""
         self.host.write_data("JogTbl")
@@ -196,15 +205,48 @@ class OptionsFile(FileFaults):
         self.in_a_folder_without_leave()
         self.assertEqual(self.host.options_file.read_bytes(), OPTIONS_BEFORE)
 
-    def test_on_a_full_disk_ends_where_the_disk_does(self):
-        self.run_to_the_end(())
-        whole = self.host.options_file.read_bytes()
-        self.host.options_file.unlink()
+    def test_on_a_full_disk_stays_as_it_is(self):
+        self.host.options_file.write_bytes(OPTIONS_BEFORE)
         self.run_to_the_end(ON_A_FULL_DISK)
-        part = self.host.options_file.read_bytes()
-        self.assertTrue(0 < len(part) < len(whole))
-        same_day = len(b"File-Spec,4\r\nFileType,PrintOption TmpFile For Print\r\nMade-by,Quillex Ver2.00\r\nDateTime,")
-        self.assertEqual(part[:same_day], whole[:same_day])
+        self.assertEqual(self.host.options_file.read_bytes(), OPTIONS_BEFORE)
+        self.assertEqual(self.beside_options(), [])
+
+    def test_on_a_full_disk_is_not_made(self):
+        self.run_to_the_end(ON_A_FULL_DISK)
+        self.assertFalse(self.host.options_file.exists())
+        self.assertEqual(self.beside_options(), [])
+
+    def test_keeps_mode_and_owner(self):
+        self.host.options_file.write_bytes(OPTIONS_BEFORE)
+        self.host.options_file.chmod(0o640)
+        if os.geteuid() == 0:  # anyone else owns whatever he writes
+            os.chown(self.host.options_file, 12345, 12345)
+        before = self.host.options_file.stat()
+        self.run_to_the_end(())
+        after = self.host.options_file.stat()
+        self.assertNotEqual(self.host.options_file.read_bytes(), OPTIONS_BEFORE)
+        self.assertEqual((after.st_mode, after.st_uid, after.st_gid), (before.st_mode, before.st_uid, before.st_gid))
+        self.assertEqual(self.beside_options(), [])
+
+    def test_behind_a_link_is_written_where_it_lies(self):
+        real = self.folder / "my options"
+        real.write_bytes(OPTIONS_BEFORE)
+        self.host.options_file.symlink_to(real)
+        self.run_to_the_end(())
+        self.assertTrue(self.host.options_file.is_symlink())
+        self.assertIn(b"DrowCorp,Northport Motion Ltd.\r\n", real.read_bytes())
+        self.assertIn(b"ColorType,1\r\n", real.read_bytes())
+
+    def test_with_a_link_to_nowhere_in_its_place_is_as_good_as_none(self):
+        self.host.options_file.symlink_to(self.folder / "nowhere")
+        self.run_to_the_end(())
+        self.assertTrue(self.host.options_file.is_symlink())
+        self.assertFalse((self.folder / "nowhere").exists())
+
+    def test_with_a_pipe_in_its_place_is_as_good_as_none(self):
+        os.mkfifo(self.host.options_file)
+        self.run_to_the_end(())
+        self.assertTrue(self.host.options_file.is_fifo())
 
     def test_that_may_not_be_read_is_failure_10_and_stays(self):
         self.host.options_file.write_bytes(OPTIONS_BEFORE)

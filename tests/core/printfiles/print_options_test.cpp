@@ -279,6 +279,15 @@ TEST_F(PrintOptionsFile, ReplacesTheFileBefore) {
   EXPECT_EQ(Written(), kDefaultFile);
 }
 
+TEST_F(PrintOptionsFile, StaysWholeWhereTheNewOneCanNotBeWritten) {
+  DefaultPrintOptions(Run);
+  Written();
+  Run.Options.DrowCorp = "Northport Motion";
+  Run.SettleFile = [](const auto&, const auto&) { return false; };
+  EXPECT_FALSE(WritePrintOptionsFile(Run, Path()));
+  EXPECT_EQ(Folder.Read("PrintOption.ToT"), kDefaultFile);
+}
+
 TEST_F(PrintOptionsFile, ThatCanNotBeWrittenGivesFalseAndNothingElse) {
   EXPECT_FALSE(WritePrintOptionsFile(Run, Folder.HostPath("no\\such\\folder\\PrintOption.ToT")));
   std::filesystem::create_directory(Folder.Path() / "PrintOption.ToT");
