@@ -1,6 +1,7 @@
 #include "printfiles/option_lines.h"
 
 #include <memory>
+#include <type_traits>
 #include <utility>
 
 namespace tarvis {
@@ -10,11 +11,23 @@ namespace {
 constexpr std::int16_t NoTraceDetail = 2;
 constexpr std::int16_t NoSimComparison = 3;
 
+// What is written of a text is what the reader finds again. A CR would end the line, and what stands after it
+// would be a line of its own, with a key that the reader refuses.
 std::string Written(const std::string& text) {
-  return text;
+  return text.substr(0, text.find('\r'));
 }
+
+// A CR alone ends a line of the text as CR LF does, but only the pair has an escape.
 std::string Written(Escaped text) {
-  return EscapeNewlines(text.Text);
+  std::string pairs;
+  bool openPair = false;
+  for (const char character : text.Text) {
+    if (openPair && character != '\n') pairs += '\n';
+    pairs += character;
+    openPair = character == '\r';
+  }
+  if (openPair) pairs += '\n';
+  return EscapeNewlines(pairs);
 }
 std::string Written(std::int16_t number) {
   return std::to_string(number);
@@ -34,9 +47,20 @@ OptionLine Whole(std::string_view key, Part&& part) {
   return {key, Rest(static_cast<Part>(std::get<0>(kept))), [kept] { return Written(std::get<0>(kept)); }};
 }
 
+// An element that others follow also ends at its first comma, so that the reader finds the others in place.
+template <typename Part>
+std::string WrittenBeforeOthers(const Part& part) {
+  if constexpr (std::is_same_v<Part, std::string>) return Written(part.substr(0, part.find(',')));
+  return Written(part);
+}
+
 template <typename First, typename... Parts>
 std::string Joined(const First& first, const Parts&... parts) {
-  return (Written(first) + ... + ("," + Written(parts)));
+  if constexpr (sizeof...(parts) == 0) {
+    return Written(first);
+  } else {
+    return WrittenBeforeOthers(first) + "," + Joined(parts...);
+  }
 }
 
 // A line of fields.

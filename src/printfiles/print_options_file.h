@@ -16,7 +16,9 @@ bool ReadPrintOptionsFile(PrintRun& run);
 void DefaultPrintOptions(PrintRun& run);
 
 // Sets `FileSpec` to the version that is written and puts a new file in the place of the old one. False on
-// any error, with the old file as it was. `DateTime` is the caller's.
+// any error, with the old file as it was. What the reader would not find again is left out of the file: what
+// follows a CR in a text of one line, and a comma in a text with other elements after it. `DateTime` is the
+// caller's.
 bool WritePrintOptionsFile(PrintRun& run, std::string_view path);
 
 }  // namespace tarvis

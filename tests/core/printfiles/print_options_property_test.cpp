@@ -105,5 +105,47 @@ TEST(PrintOptionsProperty, AnyFileOfTheProgramReadsAndWritesBackTheSame) {
   }
 }
 
+// Any text that a dialog may ever hand over, with breaks, commas and escapes anywhere.
+std::string AnyText(std::mt19937& random) {
+  static constexpr std::string_view kPieces[] = {"\r\n", "\r", "\n", ",", "\\r\\n",
+                                                 "\\",   "r",  "n",  "a", "\u8868"};
+  std::string text;
+  for (std::size_t pieces = random() % 8; pieces > 0; --pieces)
+    text += kPieces[random() % std::size(kPieces)];
+  return text;
+}
+
+void FillWithAnyTexts(PrintOptions& options, std::mt19937& random) {
+  for (std::string* text :
+       {&options.FileType, &options.MadeBy, &options.DateTime, &options.DrowCorp, &options.DrowSect,
+        &options.DrowName, &options.DrowEmail, &options.DrowZip, &options.DrowAdr, &options.DrowTEL,
+        &options.DrowFAX, &options.DrowLogo, &options.User[1].Title, &options.User[1].Sect, &options.Greeting,
+        &options.UserHeader.TitleText, &options.JogTblHeader.TitleText, &options.IdxTblOption.First,
+        &options.IdxTblOption.Last}) {
+    *text = AnyText(random);
+  }
+}
+
+TEST(PrintOptionsProperty, AnyTextsAreWrittenInAFileThatReadsAndIsWrittenTheSameAgain) {
+  const TempFolder folder;
+  TestRun test;
+  test.Run.Page = CodePage(932);
+  const std::string path = folder.HostPath("PrintOption.ToT");
+  std::mt19937 random(20260305);
+  for (int number = 0; number < kFiles; ++number) {
+    FillWithAnyTexts(test.Run.Options, random);
+    ASSERT_TRUE(WritePrintOptionsFile(test.Run, path));
+    const std::string file = folder.Read("PrintOption.ToT");
+    test.Run.Options = {};
+    LoadLines(test.Run, path);
+    ASSERT_TRUE(ReadPrintOptionsFile(test.Run)) << test.Run.Session.Diagnosis << "\n" << file;
+    const std::string title = test.Run.Options.JogTblHeader.TitleText;
+    ASSERT_TRUE(WritePrintOptionsFile(test.Run, path));
+    ASSERT_EQ(folder.Read("PrintOption.ToT").substr(0, file.find("UserHeader")),
+              file.substr(0, file.find("UserHeader")));
+    ASSERT_EQ(title.find(','), std::string::npos);
+  }
+}
+
 }  // namespace
 }  // namespace tarvis

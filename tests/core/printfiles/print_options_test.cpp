@@ -35,6 +35,13 @@ class PrintOptionsFile : public testing::Test, protected TestRun {
     return Folder.Read("PrintOption.ToT");
   }
 
+  // Reads what was written, as the next run does.
+  void ReadBack() {
+    Run.Options = {};
+    LoadLines(Run, Path());
+    EXPECT_TRUE(ReadPrintOptionsFile(Run)) << Run.Session.Diagnosis;
+  }
+
   TempFolder Folder;
 };
 
@@ -262,6 +269,38 @@ TEST_F(PrintOptionsFile, KeepsAMultiLineGreetingInOneLine) {
   LoadLines(Run, Path());
   ASSERT_TRUE(ReadPrintOptionsFile(Run));
   EXPECT_EQ(Run.Options.Greeting, "Dear,\r\n\r\nSir\nX");
+}
+
+// A break in a text of one line would make two lines of it, and the next run would refuse the second one.
+TEST_F(PrintOptionsFile, HoldsATextOfOneLineUpToItsLineBreak) {
+  DefaultPrintOptions(Run);
+  Run.Options.DrowCorp = "Northport\r\nMotion";
+  Run.Options.DrowLogo = "logo.bmp\rCover,7";
+  Run.Options.User[0].Title = "\r\n";
+  Run.Options.SimHeader.TitleText = "Line1\r\nLine2";
+  const std::string written = Written();
+  EXPECT_NE(written.find("\r\nDrowCorp,Northport\r\nDrowSect,"), std::string::npos);
+  ReadBack();
+  EXPECT_EQ(Run.Options.DrowCorp, "Northport");
+  EXPECT_EQ(Run.Options.DrowLogo, "logo.bmp");
+  EXPECT_EQ(Run.Options.User[0].Title, "");
+  EXPECT_EQ(Run.Options.SimHeader.TitleText, "Line1");
+}
+
+TEST_F(PrintOptionsFile, TakesALoneCarriageReturnInATextOfSeveralLinesForALineBreak) {
+  Run.Options.Greeting = "a\rb\r\rc\r\nd\ne\r";
+  Written();
+  ReadBack();
+  EXPECT_EQ(Run.Options.Greeting, "a\r\nb\r\n\r\nc\r\nd\ne\r\n");
+}
+
+TEST_F(PrintOptionsFile, HoldsAStepUpToItsComma) {
+  Run.Options.IdxTblOption = {.Range = 2, .First = "1,5", .Last = "9\r\n,x", .Comment = 1};
+  Written();
+  ReadBack();
+  EXPECT_EQ(Run.Options.IdxTblOption.First, "1");
+  EXPECT_EQ(Run.Options.IdxTblOption.Last, "9");
+  EXPECT_EQ(Run.Options.IdxTblOption.Comment, 1);
 }
 
 TEST_F(PrintOptionsFile, IsWrittenInTheCodePage) {
