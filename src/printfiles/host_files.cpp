@@ -13,11 +13,19 @@ namespace {
 
 constexpr std::int32_t LoadFailed = -1;
 
-std::optional<std::string> ReadBytes(std::string_view path) {
+// The bytes of a file; if there are none, `reason` tells why. A file that is too large isn't read at all.
+std::optional<std::string> ReadBytes(std::string_view path, std::string& reason) {
+  reason = "can't be read";
   if (!FileExists(path)) return std::nullopt;
   std::ifstream file(NativePath(path), std::ios::binary | std::ios::ate);
-  if (!file) return std::nullopt;
-  std::string bytes(static_cast<std::size_t>(file.tellg()), '\0');
+  const std::streamoff size = file.tellg();
+  if (!file || size < 0) return std::nullopt;
+  if (size > LargestFile) {
+    reason = "too large: " + std::to_string(size) + " bytes, where " + std::to_string(LargestFile) +
+             " are read at most";
+    return std::nullopt;
+  }
+  std::string bytes(static_cast<std::size_t>(size), '\0');
   file.seekg(0);
   if (!file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()))) return std::nullopt;
   return bytes;
@@ -59,12 +67,14 @@ std::int32_t LoadBytes(PrintRun& run, std::string_view path, std::string bytes) 
 }
 
 std::int32_t LoadLines(PrintRun& run, std::string_view path) {
-  if (std::optional<std::string> bytes = ReadBytes(path)) return LoadBytes(run, path, std::move(*bytes));
+  std::string reason;
+  if (std::optional<std::string> bytes = ReadBytes(path, reason))
+    return LoadBytes(run, path, std::move(*bytes));
   PrintSession& session = run.Session;
   LoadBytes(run, path, {});
   session.Lines.Clear();
   session.LineCount = LoadFailed;
-  session.Diagnosis = session.LinesFile + ": can't be read";
+  session.Diagnosis = session.LinesFile + ": " + reason;
   return session.LineCount;
 }
 

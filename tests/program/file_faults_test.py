@@ -94,6 +94,23 @@ class DataFile(FileFaults):
         self.assertIn("User.tmp", self.standard_error())
         self.assertEqual(self.files_left(), ["User.tmp"])  # only files are deleted
 
+    def test_of_five_gigabytes_is_refused_by_its_size(self):
+        data = self.host.temp_folder / "User.tmp"
+        data.touch()
+        os.truncate(data, 5_000_000_000)
+        session = self.start("User")
+        self.confirm(session)
+        self.expect_failure(session, "Parameter File is wrong.")
+        self.assertIn("tarvis: User.tmp: too large: 5000000000 bytes, where 33554432 are read at most", self.standard_error())
+        self.assertEqual(self.files_left(), [])
+
+    def test_that_is_a_pipe_is_not_waited_for(self):
+        os.mkfifo(self.host.temp_folder / "Trace.tmp")
+        session = self.start("Trace")
+        self.confirm(session)
+        self.expect_failure(session, "Tracing File is wrong.")
+        self.assertEqual(self.files_left(), [])
+
     def test_that_may_not_be_read_is_wrong(self):
         self.host.write_data("User")
         (self.host.temp_folder / "User.tmp").chmod(0)

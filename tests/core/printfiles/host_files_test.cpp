@@ -1,7 +1,9 @@
 #include "printfiles/host_files.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -96,6 +98,30 @@ TEST(LoadLines, FailsOnAMissingFileAndForgetsTheOneBefore) {
   EXPECT_EQ(test.Run.Session.LineCount, -1);
   EXPECT_EQ(test.Run.Session.Lines.HighestIndex(), -1);
   EXPECT_EQ(test.Run.Session.Diagnosis, "User.tmp: can't be read");
+}
+
+TEST(LoadLines, RefusesAFileThatIsTooLargeByItsSizeAndReadsNothingOfIt) {
+  const TempFolder folder;
+  folder.Write("User.tmp", "");
+  folder.Write("Trace.tmp", "");
+  std::filesystem::resize_file(folder.Path() / "User.tmp", 5'000'000'000);
+  std::filesystem::resize_file(folder.Path() / "Trace.tmp", LargestFile);
+  TestRun test;
+  EXPECT_EQ(LoadLines(test.Run, folder.HostPath("User.tmp")), -1);
+  EXPECT_EQ(test.Run.Session.Diagnosis,
+            "User.tmp: too large: 5000000000 bytes, where 33554432 are read at most");
+  EXPECT_EQ(LoadLines(test.Run, folder.HostPath("Trace.tmp")), 1);
+}
+
+TEST(LoadLines, FailsOnAPipeAndOnADeviceAndNobodyWaits) {
+  const TempFolder folder;
+  ASSERT_EQ(mkfifo((folder.Path() / "User.tmp").c_str(), 0600), 0);
+  std::filesystem::create_symlink("/dev/zero", folder.Path() / "Trace.tmp");
+  TestRun test;
+  for (const std::string name : {"User.tmp", "Trace.tmp"}) {
+    EXPECT_EQ(LoadLines(test.Run, folder.HostPath(name)), -1);
+    EXPECT_EQ(test.Run.Session.Diagnosis, name + ": can't be read");
+  }
 }
 
 TEST(LoadLines, FailsOnAFolder) {
