@@ -14,6 +14,7 @@
 #include "run/failures.h"
 #include "run/print_run.h"
 #include "text/date_text.h"
+#include "text/excerpt.h"
 #include "text/native_path.h"
 #include "text/numbers.h"
 #include "text/text.h"
@@ -29,12 +30,13 @@ constexpr int ProgramTableEntry = 2;
 constexpr int UnknownHost = 1;  // numbers of failures
 constexpr int UnreadableTable = 15;
 
-// A member of a family by a number that an options file may hold.
+// The member of a family that a number of the options file chooses; `first` is the number of the first one.
 template <typename Control, std::size_t Count>
-Control& Member(const std::array<Control*, Count>& family, const char* name, int index) {
+Control& Chosen(PrintRun& run, const std::array<Control*, Count>& family, const std::int16_t& option,
+                int first) {
+  const int index = option - first;
   if (index >= 0 && static_cast<std::size_t>(index) < Count) return *family[static_cast<std::size_t>(index)];
-  throw RunTimeFailure("control array element does not exist",
-                       {.File = {}, .Line = 0, .Key = name, .Text = std::to_string(index)});
+  throw RunTimeFailure("no such choice", OptionPlace(run, option));
 }
 
 }  // namespace
@@ -132,7 +134,7 @@ void PrintSetting::LoadDialog() {
   SelectByMode();
   run_.Session.StepStartValid = -1;
   run_.Session.StepEndValid = -1;
-  Member(optColor_, "optColor", run_.Options.ColorType).setChecked(true);
+  Chosen(run_, optColor_, run_.Options.ColorType, 0).setChecked(true);
   loaded_ = true;
   shown_->Load();
 }
@@ -140,14 +142,20 @@ void PrintSetting::LoadDialog() {
 void PrintSetting::LoadCover() {
   if (run_.Options.Cover == 0) return chkCover_->SetValue(0);
   chkCover_->SetValue(1);
-  if (run_.Options.SelectCover > 0)
-    Member(optDrow_, "optDrow", run_.Options.SelectCover - 1).setChecked(true);
+  if (run_.Options.SelectCover > 0) Chosen(run_, optDrow_, run_.Options.SelectCover, 1).setChecked(true);
+}
+
+void PrintSetting::RefuseHost(const std::string& reason, const std::string& text) {
+  run_.Session.Diagnosis = reason + ": '" + Excerpt(text) + "'";
+  ReportFailure(run_, UnknownHost);
 }
 
 void PrintSetting::FillFunctionList() {
   const std::int16_t edition = run_.Session.HostEdition;
   entries_ = FunctionEntries(edition, run_.Session.HostVersion);
-  if (entries_.empty() && (edition == 1 || edition == 4)) ReportFailure(run_, UnknownHost);
+  if (entries_.empty() && (edition == 1 || edition == 4)) {
+    RefuseHost("no such version of edition " + std::to_string(edition), run_.Session.HostVersion);
+  }
   const QSignalBlocker quiet(cmbFunc_);
   cmbFunc_->clear();
   for (const FunctionEntry& entry : entries_) cmbFunc_->addItem(QString::fromLatin1(entry.Caption));
@@ -157,7 +165,10 @@ void PrintSetting::FillFunctionList() {
 void PrintSetting::SelectByMode() {
   PrintSession& session = run_.Session;
   const ModeChoice* choice = FindModeChoice(session.HostEdition, session.Mode);
-  if (choice == nullptr) ReportFailure(run_, UnknownHost);
+  if (choice == nullptr) {
+    RefuseHost("command line: argument 1: no such mode of edition " + std::to_string(session.HostEdition),
+               session.Mode);
+  }
   if (session.Mode == "SimEx") {
     session.Mode = "Sim";
     session.SimExMode = 1;
@@ -181,8 +192,9 @@ void PrintSetting::ReadStepCount() {
 // Runs the handling of the list also when the index stays, which the toolkit's own setter doesn't.
 void PrintSetting::SelectFunction(int index) {
   if (index >= cmbFunc_->count()) {
-    throw RunTimeFailure("invalid list index",
-                         {.File = {}, .Line = 0, .Key = "cmbFunc", .Text = std::to_string(index)});
+    throw RunTimeFailure(
+        "no function of this version",
+        {.File = "command line", .Line = 0, .Key = "argument 1", .Text = Excerpt(run_.Session.Mode)});
   }
   cmbFunc_->setCurrentIndex(index);
   FunctionClicked();

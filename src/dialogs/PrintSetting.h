@@ -61,6 +61,8 @@ class PrintSetting : public FittedDialog {
 
   void LoadDialog();
   void LoadCover();
+  // Failure 1, with a reason and a text for standard error.
+  [[noreturn]] void RefuseHost(const std::string& reason, const std::string& text);
   void FillFunctionList();
   void SelectByMode();
   void ReadStepCount();

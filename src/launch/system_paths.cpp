@@ -44,7 +44,11 @@ std::string Value(HostRegistry& registry, const EditionKeys& keys, const char* v
 void LoadSystemPaths(PrintRun& run, HostRegistry& registry) {
   PrintSession& session = run.Session;
   const auto* keys = std::ranges::find(Editions, session.HostEdition, &EditionKeys::Edition);
-  if (keys == Editions.end()) ReportFailure(run, ArgumentIsWrong);
+  if (keys == Editions.end()) {
+    session.Diagnosis =
+        "command line: argument 4: no such edition: '" + std::to_string(session.HostEdition) + "'";
+    ReportFailure(run, ArgumentIsWrong);
+  }
   session.SystemFolder = Value(registry, *keys, keys->BaseFolder) + R"(\bin\)";
   session.TempFolder = session.SystemFolder + R"(dat\tmp\)";
   session.HostVersion = LeftCharacters(Value(registry, *keys, keys->Version), VersionLength);

@@ -21,10 +21,12 @@ class CountedBlock {
   CountedBlock(std::string_view countKey, std::int16_t& count, CheckedArray<Row>& rows)
       : state_(std::make_shared<State>(State{std::string(countKey), count, rows})) {}
 
-  // Drops the rows and sizes the block anew. The row number stays, also at a second count line of one file.
+  // Drops the rows and sizes the block anew. The row number stays, also at a second count line of one file. A
+  // count below -1 is a RunTimeFailure.
   LineHandler Count() const {
     return [state = state_](LineValue& value) -> Refusal {
       value.FieldsAndRest(state->Number);
+      if (state->Number < -1) throw RunTimeFailure("a count can't be below -1");
       state->Rows.Resize(state->Number);
       state->CountSeen = true;
       return Accepted;
@@ -64,6 +66,11 @@ class CountedBlock {
       if (Index > Rows.HighestIndex() - 1) return "one more than '" + CountKey + "' announces";
       return Accepted;
     }
+    Row& RowOrSpare() {
+      if (Index <= Rows.HighestIndex()) return Rows[Index];
+      throw RunTimeFailure(CountSeen ? "two more than '" + CountKey + "' announces"
+                                     : "stands before '" + CountKey + "'");
+    }
   };
 
   struct Rules {
@@ -78,7 +85,7 @@ class CountedBlock {
       if (rules.Announced) {
         if (Refusal refusal = state->Refuse()) return refusal;
       }
-      fill(state->Rows[state->Index], value);
+      fill(state->RowOrSpare(), value);
       if (rules.Moves) ++state->Index;
       return Accepted;
     };

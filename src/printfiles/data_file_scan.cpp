@@ -18,14 +18,18 @@ void ScanLines(const PrintRun& run,
     try {
       if (!visit(key, rest)) return;
     } catch (const RunTimeFailure& failure) {
-      throw failure.At({.File = session.LinesFile, .Line = line + 1, .Key = std::string(key), .Text = {}});
+      throw failure.AtKey({.File = session.LinesFile, .Line = line + 1, .Key = std::string(key), .Text = {}});
     }
   }
 }
 
 void ScanOverlap(PrintRun& run, std::string_view fileName) {
+  if (LoadLines(run, run.Session.TempFolder + std::string(fileName)) < 1) return;
+  ScanOverlap(run);
+}
+
+void ScanOverlap(PrintRun& run) {
   PrintSession& session = run.Session;
-  if (LoadLines(run, session.TempFolder + std::string(fileName)) < 1) return;
   session.OverlapMode = 0;
   session.OverlapNum = 0;
   int found = 0;

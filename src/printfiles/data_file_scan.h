@@ -13,8 +13,11 @@ struct PrintRun;
 void ScanLines(const PrintRun& run,
                const std::function<bool(std::string_view key, std::string_view rest)>& visit);
 
-// Sets `OverlapMode` and `OverlapNum` of the session from the data file `fileName` in the temporary folder.
-// Without such a file, or if it is empty, both keep their values.
+// Sets `OverlapMode` and `OverlapNum` of the session from the lines that were loaded last.
+void ScanOverlap(PrintRun& run);
+
+// The same from the data file `fileName` in the temporary folder. Without such a file, or if it is empty,
+// both keep their values.
 void ScanOverlap(PrintRun& run, std::string_view fileName);
 
 }  // namespace tarvis

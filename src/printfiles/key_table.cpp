@@ -44,7 +44,7 @@ bool ReadLines(PrintRun& run, const KeyTable& keys) {
         return false;
       }
     } catch (const RunTimeFailure& failure) {
-      throw failure.At(
+      throw failure.AtKey(
           {.File = session.LinesFile, .Line = index + 1, .Key = std::string(key), .Text = Excerpt(value)});
     }
   }

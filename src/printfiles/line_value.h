@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "text/numbers.h"
+#include "text/run_time_failure.h"
 #include "text/text.h"
 
 namespace tarvis {
@@ -25,9 +26,23 @@ class LineValue {
   explicit LineValue(std::string_view text) : rest_(text) {}
 
   // Up to the next comma; empty if nothing is left.
-  std::string_view Field() { return NextField(rest_); }
+  std::string_view Field() {
+    ++element_;
+    return NextField(rest_);
+  }
   // All that is left, commas included.
-  std::string_view Rest() { return std::exchange(rest_, {}); }
+  std::string_view Rest() {
+    if (element_ > 0) ++element_;
+    return std::exchange(rest_, {});
+  }
+  // The number that stands in the piece taken last. A RunTimeFailure names the element.
+  std::int16_t Number(std::string_view piece) const {
+    try {
+      return StrictInteger(piece);
+    } catch (const RunTimeFailure& failure) {
+      throw failure.At({.File = {}, .Line = 0, .Key = {}, .Element = element_});
+    }
+  }
 
   // Each part takes a field. What is left of the line is dropped.
   template <typename... Parts>
@@ -49,7 +64,7 @@ class LineValue {
  private:
   static void Store(std::string& text, std::string_view piece) { text = piece; }
   static void Store(Escaped text, std::string_view piece) { text.Text = UnescapeNewlines(piece); }
-  static void Store(std::int16_t& number, std::string_view piece) { number = StrictInteger(piece); }
+  void Store(std::int16_t& number, std::string_view piece) const { number = Number(piece); }
 
   template <typename Part>
   void TakeField(Part& part) {
@@ -61,6 +76,7 @@ class LineValue {
   }
 
   std::string_view rest_;
+  int element_ = 0;  // how many pieces of a list have been taken
 };
 
 }  // namespace tarvis

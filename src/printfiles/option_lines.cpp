@@ -40,11 +40,42 @@ std::string Written(const std::array<Element, Count>& elements) {
   return list;
 }
 
+// Counts the elements of a line until it meets a number.
+class ElementSearch {
+ public:
+  explicit ElementSearch(const std::int16_t& number) : number_(&number) {}
+
+  template <typename Part>
+  void Pass(const Part& part) {
+    ++passed_;
+    if constexpr (std::is_same_v<Part, std::int16_t>) {
+      if (&part == number_) found_ = passed_;
+    }
+  }
+  template <typename Element, std::size_t Count>
+  void Pass(const std::array<Element, Count>& elements) {
+    for (const Element& element : elements) Pass(element);
+  }
+
+  std::optional<int> Found() const { return found_; }
+
+ private:
+  const std::int16_t* number_;
+  int passed_ = 0;
+  std::optional<int> found_;
+};
+
 // A line of one part that is the whole value.
 template <typename Part>
 OptionLine Whole(std::string_view key, Part&& part) {
   const std::tuple<Part> kept(std::forward<Part>(part));
-  return {key, Rest(static_cast<Part>(std::get<0>(kept))), [kept] { return Written(std::get<0>(kept)); }};
+  return {key, Rest(static_cast<Part>(std::get<0>(kept))), [kept] { return Written(std::get<0>(kept)); },
+          [kept](const std::int16_t& number) -> std::optional<int> {
+            ElementSearch search(number);
+            search.Pass(std::get<0>(kept));
+            if (search.Found()) return 0;
+            return std::nullopt;
+          }};
 }
 
 // An element that others follow also ends at its first comma, so that the reader finds the others in place.
@@ -66,8 +97,14 @@ std::string Joined(const First& first, const Parts&... parts) {
 // A line of fields.
 template <typename... Parts>
 OptionLine List(std::string_view key, Parts&... parts) {
-  return {key, Fields(parts...), [kept = std::tie(parts...)] {
+  return {key, Fields(parts...),
+          [kept = std::tie(parts...)] {
             return std::apply([](const auto&... each) { return Joined(each...); }, kept);
+          },
+          [kept = std::tie(parts...)](const std::int16_t& number) {
+            ElementSearch search(number);
+            std::apply([&search](const auto&... each) { (search.Pass(each), ...); }, kept);
+            return search.Found();
           }};
 }
 
@@ -77,7 +114,8 @@ OptionLine Header(std::string_view key, HeaderOptions& header) {
 }
 
 OptionLine AcceptedOnly(std::string_view key) {
-  return {key, [](LineValue&) { return Accepted; }, [] { return std::string(); }};
+  return {key, [](LineValue&) { return Accepted; }, [] { return std::string(); },
+          [](const std::int16_t&) { return std::nullopt; }};
 }
 
 // Reads the elements of `numbers` from `first` to `last`, counted from 1.
@@ -96,7 +134,7 @@ std::pair<OptionLine, OptionLine> TraceAndSimOption(PrintOptions& options) {
     ReadElements(options.TraceOption, 1, 8, value);
     if (options.FileSpec <= NoTraceDetail) return Accepted;
     *element9 = value.Field();
-    if (!element9->empty()) options.TraceOption[8] = StrictInteger(*element9);
+    if (!element9->empty()) options.TraceOption[8] = value.Number(*element9);
     return Accepted;
   };
   OptionLine sim = List("SimOption", options.SimOption);

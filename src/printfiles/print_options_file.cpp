@@ -1,5 +1,6 @@
 #include "printfiles/print_options_file.h"
 
+#include <optional>
 #include <string>
 
 #include "printfiles/option_lines.h"
@@ -12,6 +13,7 @@ namespace tarvis {
 namespace {
 
 constexpr std::int16_t FileSpec = 4;
+constexpr const char* OptionsFile = "PrintOption.ToT";
 
 HeaderOptions DefaultHeader(const char* title) {
   return {.Title = 1, .ModelsInfo = 1, .PrintDate = 1, .FileName = 1, .Pages = 1, .TitleText = title};
@@ -30,12 +32,35 @@ void DefaultHeaders(PrintOptions& options) {
   options.JogTblHeader = DefaultHeader("Jog Speed Table");
 }
 
+void NoteLines(PrintSession& session) {
+  session.OptionLines.clear();
+  for (int index = 0; index < session.LineCount; ++index) {
+    std::string_view line = session.Lines[index];
+    session.OptionLines.insert_or_assign(std::string(NextField(line)), index + 1);
+  }
+}
+
 }  // namespace
 
 bool ReadPrintOptionsFile(PrintRun& run) {
   KeyTable keys;
   for (OptionLine& line : OptionLines(run.Options)) keys.Add(line.Key, std::move(line.Read));
-  return ReadLines(run, keys);
+  if (!ReadLines(run, keys)) return false;
+  NoteLines(run.Session);
+  return true;
+}
+
+FailurePlace OptionPlace(PrintRun& run, const std::int16_t& option) {
+  FailurePlace place{.File = OptionsFile, .Line = 0, .Key = {}, .Text = std::to_string(option)};
+  for (const OptionLine& line : OptionLines(run.Options)) {
+    const std::optional<int> element = line.ElementOf(option);
+    if (!element) continue;
+    place.Key = line.Key;
+    place.Element = *element;
+    const auto found = run.Session.OptionLines.find(line.Key);
+    if (found != run.Session.OptionLines.end()) place.Line = found->second;
+  }
+  return place;
 }
 
 void DefaultPrintOptions(PrintRun& run) {

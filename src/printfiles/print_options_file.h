@@ -1,7 +1,10 @@
 // PrintOption.ToT: the print options between runs, and the only file that the program writes.
 #pragma once
 
+#include <cstdint>
 #include <string_view>
+
+#include "text/run_time_failure.h"
 
 namespace tarvis {
 
@@ -11,6 +14,10 @@ struct PrintRun;
 // reason in the session's diagnosis, for a file that is refused; a strict number that fails throws
 // RunTimeFailure.
 bool ReadPrintOptionsFile(PrintRun& run);
+
+// Where the number `option` of the run's options stood in the file that was read, for a value that nothing
+// can show. The text is the number.
+FailurePlace OptionPlace(PrintRun& run, const std::int16_t& option);
 
 // The options of a first run, dated now.
 void DefaultPrintOptions(PrintRun& run);

@@ -41,6 +41,11 @@ void StartOver(SimData& sim) {
 template <typename List>
 LineHandler ValuesLine(List& list, const std::int16_t& patternCount) {
   return [&list, &patternCount](LineValue& value) -> Refusal {
+    constexpr int Room = decltype(list.Values)::HighestIndex() + 1;
+    if (patternCount > Room) {
+      throw RunTimeFailure("'PatternSetting' counts " + std::to_string(patternCount) + " values, and only " +
+                           std::to_string(Room) + " have room");
+    }
     value.Fields(list.Name, list.Unit);
     for (int index = 0; index < patternCount; ++index) value.Fields(list.Values[index]);
     return Accepted;
@@ -52,6 +57,10 @@ LineHandler ValuesLine(List& list, const std::int16_t& patternCount) {
 LineHandler CmpTimeLine(SimData& sim, const std::int16_t& overlapNum) {
   return [&sim, &overlapNum, row = std::make_shared<int>(0)](LineValue& value) -> Refusal {
     if (*row >= overlapNum) return Accepted;
+    if (*row > sim.CmpTime.HighestIndex()) {
+      throw RunTimeFailure("'OverlapNum' counts " + std::to_string(overlapNum) + " simulations, and only " +
+                           std::to_string(*row) + " have room");
+    }
     CmpTimeRow& data = sim.CmpTime[*row];
     value.Fields(data.FileName, data.SettingTime, data.ControlMode);
     ++*row;

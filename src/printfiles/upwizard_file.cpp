@@ -11,7 +11,7 @@ template <typename Slots, typename Fill>
 LineHandler SlotLine(Slots& slots, Fill fill) {
   return [&slots, fill](LineValue& value) -> Refusal {
     const std::string_view number = value.Field();
-    auto& slot = slots[StrictInteger(number)];
+    auto& slot = slots[value.Number(number)];
     slot.Slot = number;
     fill(slot, value);
     return Accepted;

@@ -7,6 +7,7 @@
 #include "printfiles/host_files.h"
 #include "printfiles/idx_tbl_file.h"
 #include "printfiles/jog_tbl_file.h"
+#include "printfiles/key_place.h"
 #include "printfiles/mecha_file.h"
 #include "printfiles/real_trace_file.h"
 #include "printfiles/sim_file.h"
@@ -96,11 +97,20 @@ Modules MechaModules(PrintRun& run) {
   return modules;
 }
 
+// The kind is converted only here, so a bad one stops nobody who doesn't print the reference setting.
+bool IsRegularPattern(const PrintRun& run) {
+  const std::string& kind = run.Sim.PatternSetting.PatternKind;
+  try {
+    return StrictReal(kind) == 0;
+  } catch (const RunTimeFailure& failure) {
+    throw failure.At(PlaceOf(run, "PatternSetting", 2, kind));
+  }
+}
+
 Modules SimModules(PrintRun& run) {
   const auto& option = run.Options.SimOption;
   Modules modules{"rptSimGraph", "rptSimInfo", "rptTraceObject"};
-  if (On(option, 1))
-    modules.emplace_back(StrictReal(run.Sim.PatternSetting.PatternKind) == 0 ? "rptSimRef1" : "rptSimRef2");
+  if (On(option, 1)) modules.emplace_back(IsRegularPattern(run) ? "rptSimRef1" : "rptSimRef2");
   AddIf(modules, On(option, 2), "rptSimSettingSvMt");
   AddIf(modules, On(option, 3), "rptSimSettingMecha");
   AddIf(modules, On(option, 4), "rptDataDate");
@@ -207,6 +217,12 @@ void SetModuleCount(PrintRun& run, int last) {
 
 void SetModuleName(PrintRun& run, int index, const std::string& name) {
   run.Session.ModuleNames[index] = name;
+}
+
+void ListFunctionModules(PrintRun& run, bool overlapResult) {
+  for (const DataSet& set : DataSets) {
+    if (run.Session.Mode == set.Mode && overlapResult == set.OverlapResult) ListModules(run, set);
+  }
 }
 
 void LoadFunctionDataSet(PrintRun& run, const std::string& suffix, bool overlapResult) {

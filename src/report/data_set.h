@@ -13,6 +13,10 @@ struct PrintRun;
 // failure.
 void LoadFunctionDataSet(PrintRun& run, const std::string& suffix, bool overlapResult);
 
+// Lists the function reports that `Mode` prints of the data file that was read last, with their column
+// switches.
+void ListFunctionModules(PrintRun& run, bool overlapResult);
+
 // Stores the highest index of the module list, keeping the names that are there.
 void SetModuleCount(PrintRun& run, int last);
 void SetModuleName(PrintRun& run, int index, const std::string& name);

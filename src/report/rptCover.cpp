@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "printfiles/print_options_file.h"
 #include "report/picture_file.h"
 #include "text/date_text.h"
 #include "text/text.h"
@@ -29,12 +30,11 @@ void AppendCaptioned(std::string& text, const char* caption, const std::string& 
 }
 
 // SelectCover counts from 1; another number is an index out of range.
-const AddresseeBlock& Addressee(const PrintOptions& options) {
+const AddresseeBlock& Addressee(PrintRun& run) {
+  const PrintOptions& options = run.Options;
   const int index = options.SelectCover - 1;
   if (index < 0 || index >= static_cast<int>(options.User.size())) {
-    throw RunTimeFailure(
-        "subscript out of range",
-        {.File = {}, .Line = 0, .Key = "SelectCover", .Text = std::to_string(options.SelectCover)});
+    throw RunTimeFailure("no such addressee", OptionPlace(run, options.SelectCover));
   }
   return options.User[static_cast<std::size_t>(index)];
 }
@@ -75,7 +75,7 @@ void rptCover::ActiveReport_ReportStart() {
 }
 
 void rptCover::FillAddressee() {
-  const AddresseeBlock& block = Addressee(Run.Options);
+  const AddresseeBlock& block = Addressee(Run);
   const auto left = [&](const std::string& text, std::size_t bytes) {
     return LeftBytes(Run.Page, text, bytes);
   };

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <map>
 #include <string>
 
 #include "text/checked_array.h"
@@ -35,6 +37,9 @@ struct PrintSession {
   std::int32_t LineCount = 0;  // -1 after a load that failed
   std::string LinesFile;       // name without folder of the file loaded last
   std::string Diagnosis;       // why a data file or a picture was refused, in one line; empty if none was
+
+  std::map<std::string, int, std::less<>>
+      OptionLines;  // where each key stood in the options file that was read
 
   ActiveReport* MasterReport = nullptr;  // the running master report; not owned
   CheckedArray<std::string> ModuleNames{"ModuleNames"};

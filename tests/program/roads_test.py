@@ -135,7 +135,7 @@ class Roads(ProgramCase):
     def run_beyond_the_list(self, mode, edition, version):
         self.host.prepare(version=version)
         self.host.write_data("User")
-        self.expect_run_time_error(self.start(mode, edition), "invalid list index")
+        self.expect_run_time_error(self.start(mode, edition), "no function of this version")
         self.assertEqual(self.files_left(), ["User.tmp"])
 
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "dialogs/controls/input_limits.h"
+#include "printfiles/print_options_file.h"
 #include "run/print_run.h"
 #include "text/numbers.h"
 
@@ -128,11 +129,10 @@ void InfIdxTbl::ResetTab() {
 void InfIdxTbl::LoadItems() {
   if (option_.Range == TypedRange) RepairRange();
   if (option_.Range < 0 || option_.Range > TypedRange) {
-    throw RunTimeFailure("control array element does not exist",
-                         {.File = {}, .Line = 0, .Key = "optRange", .Text = std::to_string(option_.Range)});
+    throw RunTimeFailure("no such choice", OptionPlace(Run(), option_.Range));
   }
   optRange_.at(static_cast<std::size_t>(option_.Range))->setChecked(true);
-  chkItemEtc_->SetValue(option_.Comment);
+  Show(*chkItemEtc_, option_.Comment);
 }
 
 // Silent. The last comparison is one of texts: "127" stands before "5".

@@ -5,6 +5,7 @@
 
 #include "dialogs/controls/help_context.h"
 #include "dialogs/controls/input_limits.h"
+#include "printfiles/print_options_file.h"
 #include "run/print_run.h"
 
 namespace tarvis {
@@ -84,12 +85,12 @@ void ItemPage::TitleChanged() {
 void ItemPage::Load() {
   SetHelpContext(*tabs_, run_.Session.HelpContextId);
   ResetTab();
-  chkHeader_[0]->SetValue(header_.Title);
+  Show(*chkHeader_[0], header_.Title);
   txtTitle_->SetText(header_.TitleText);
   for (std::size_t index = 1; index < HeaderBoxes.size(); ++index) {
-    chkHeader_[index]->SetValue(header_.*HeaderBoxes[index].Element);
+    Show(*chkHeader_[index], header_.*HeaderBoxes[index].Element);
   }
-  chkFooter_->SetValue(header_.Pages);
+  Show(*chkFooter_, header_.Pages);
   LoadItems();
 }
 
@@ -119,7 +120,15 @@ std::vector<BoundBox> ItemPage::AddComments(std::int16_t& element) {
 }
 
 void ItemPage::LoadBoxes(const std::vector<BoundBox>& boxes) {
-  for (const BoundBox& bound : boxes) bound.Box->SetValue(*bound.Element);
+  for (const BoundBox& bound : boxes) Show(*bound.Box, *bound.Element);
+}
+
+void ItemPage::Show(TickBox& box, const std::int16_t& element) {
+  try {
+    box.SetValue(element);
+  } catch (const RunTimeFailure& failure) {
+    throw failure.AtKey(OptionPlace(run_, element));
+  }
 }
 
 }  // namespace tarvis

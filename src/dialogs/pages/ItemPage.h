@@ -78,7 +78,10 @@ class ItemPage : public QWidget {
   // The second tab of a page whose only printing item is its comments.
   std::vector<BoundBox> AddComments(std::int16_t& element);
   // Applies the elements to boxes made by AddBoxes, in their order.
-  static void LoadBoxes(const std::vector<BoundBox>& boxes);
+  void LoadBoxes(const std::vector<BoundBox>& boxes);
+  // Applies an element of the options to its box. What no box can show is a RunTimeFailure that tells where
+  // it stands in the options file.
+  void Show(TickBox& box, const std::int16_t& element);
 
  private:
   void BuildFirstTab(const PageFrame& frame);

@@ -11,6 +11,8 @@ class SimCmpReport : public FunctionReport {
  protected:
   SimCmpReport(const char* name, ReportContext context, const char* caption, Keep keep);
 
+  // What the data file tells of a simulation. A row that has no room there throws RunTimeFailure.
+  const CmpTimeRow& Simulation(int row) const;
   // Without any simulation there is no table.
   void ghGuide_BeforePrint();
   // "Target", then "1", "2" and on.

@@ -16,7 +16,7 @@ class rptSimCmpFileList : public SimCmpReport {
     txtValNo.Text = SimulationNo(Row);
     // No blank before the number.
     txtValueOverlap.Text = Row == 0 ? "Overlapping target" : "Overlapping data" + std::to_string(Row);
-    txtValueFile.Text = Run.Sim.CmpTime[Row].FileName;
+    txtValueFile.Text = Simulation(Row).FileName;
     ++Row;
   }
 

@@ -13,7 +13,7 @@ class rptSimCmpTime : public SimCmpReport {
   void ActiveReport_FetchData(bool& endOfData) override {
     endOfData = Row >= Run.Session.OverlapNum;
     if (endOfData) return;
-    const CmpTimeRow& row = Run.Sim.CmpTime[Row];
+    const CmpTimeRow& row = Simulation(Row);
     txtValNo.Text = SimulationNo(Row);
     txtValueControl.Text = row.ControlMode;
     txtValueTime.Text = row.SettingTime;

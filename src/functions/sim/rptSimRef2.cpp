@@ -1,5 +1,7 @@
 #include "functions/sim/rptSimRef2.h"
 
+#include "printfiles/key_place.h"
+
 namespace tarvis {
 
 rptSimRef2::rptSimRef2(ReportContext context)
@@ -18,10 +20,21 @@ void rptSimRef2::ActiveReport_ReportStart() {
   txtTitleArrivalSpeed.Text = title(sim.ArrivalSpeed);
 }
 
+// A count above what a list holds stops the reader only if there is a list in the file.
+void rptSimRef2::RequireRoom() const {
+  const int highest = Run.Sim.StartPointTime.Values.HighestIndex();
+  if (Row <= highest) return;
+  constexpr int CountElement = 4;
+  throw RunTimeFailure(
+      "only " + std::to_string(highest + 1) + " values have room",
+      PlaceOf(Run, "PatternSetting", CountElement, std::to_string(Run.Sim.PatternSetting.PatternCount)));
+}
+
 void rptSimRef2::ActiveReport_FetchData(bool& endOfData) {
   const SimData& sim = Run.Sim;
   endOfData = Row >= sim.PatternSetting.PatternCount;
   if (endOfData) return;
+  RequireRoom();
   txtValNo.Text = std::to_string(Row + 1);
   txtValStartTime.Text = sim.StartPointTime.Values[Row];
   txtValEndTime.Text = sim.EndTime.Values[Row];

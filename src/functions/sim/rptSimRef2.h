@@ -13,6 +13,8 @@ class rptSimRef2 : public SimRefReport {
   void ActiveReport_FetchData(bool& endOfData) override;
 
  private:
+  void RequireRoom() const;
+
   static constexpr CellStyle RightAligned{.Alignment = Align::Right, .Border = true, .Filled = true};
 
   Section& ghGuide = AddGrowing(SectionKind::GroupHeader, "ghGuide", 420);

@@ -4,6 +4,8 @@
 #include <limits>
 
 #include "functions/tables/table_cells.h"
+#include "printfiles/print_options_file.h"
+#include "text/excerpt.h"
 #include "text/numbers.h"
 #include "text/text.h"
 
@@ -19,11 +21,14 @@ constexpr std::size_t LongRdst = 14;
 
 enum Range { AllSteps = 0, DefinedSteps = 1, StepRange = 2 };
 
-// The longest numeric prefix as a 16-bit number, halves to the even one.
-std::int16_t LenientStep(const std::string& text) {
+// The longest numeric prefix as a 16-bit number, halves to the even one. `element` counts from 1.
+std::int16_t LenientStep(PrintRun& run, const std::string& text, int element) {
   const double step = std::nearbyint(LenientReal(text));
   if (step < std::numeric_limits<std::int16_t>::min() || step > std::numeric_limits<std::int16_t>::max()) {
-    throw RunTimeFailure("number out of range", {.File = {}, .Line = 0, .Key = "IdxTblOption", .Text = text});
+    FailurePlace place = OptionPlace(run, run.Options.IdxTblOption.Range);
+    place.Element = element;
+    place.Text = Excerpt(text);
+    throw RunTimeFailure("number out of range", place);
   }
   return static_cast<std::int16_t>(step);
 }
@@ -72,8 +77,8 @@ void IdxTblReport::ActiveReport_ReportStart() {
     unitLabels_[line]->SetCaption(unit.Caption);
     unitFields_[line]->Text = ":  " + unit.Unit;
   }
-  FirstStep = LenientStep(Run.Options.IdxTblOption.First);
-  LastStep = LenientStep(Run.Options.IdxTblOption.Last);
+  FirstStep = LenientStep(Run, Run.Options.IdxTblOption.First, 2);
+  LastStep = LenientStep(Run, Run.Options.IdxTblOption.Last, 3);
 }
 
 // The row stays: Detail_Format moves it to the next one that is to be looked at.
@@ -100,10 +105,7 @@ void IdxTblReport::Detail_Format() {
       break;
     default:
       // The row would never move, and the data never end.
-      throw RunTimeFailure("no such print range", {.File = {},
-                                                   .Line = 0,
-                                                   .Key = "IdxTblOption",
-                                                   .Text = std::to_string(Run.Options.IdxTblOption.Range)});
+      throw RunTimeFailure("no such print range", OptionPlace(Run, Run.Options.IdxTblOption.Range));
   }
 }
 

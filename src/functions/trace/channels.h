@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 
 #include "run/print_run.h"
 
@@ -13,7 +14,8 @@ bool PrintsSimulation(const PrintRun& run);
 // Data traces 1 to 3, then I/O traces 1 to 3, of the record of the function in hand.
 std::array<const TraceItem*, 6> Channels(const PrintRun& run);
 
-// Whether the graph of a channel is displayed. A `Display` that is no 16-bit number throws RunTimeFailure.
-bool IsDisplayed(const TraceItem& channel);
+// Whether the graph of the channel with this index is displayed. A `Display` that is no 16-bit number throws
+// RunTimeFailure.
+bool IsDisplayed(const PrintRun& run, std::size_t channel);
 
 }  // namespace tarvis

@@ -39,7 +39,7 @@ void rptTraceObject::ActiveReport_FetchData(bool& endOfData) {
   txtValueName.Text = channel.Name;
   txtValueUnit.Text = channel.Unit;
   txtValueVal.Text.clear();
-  if (!channel.Name.empty()) txtValueVal.Text = IsDisplayed(channel) ? "Display" : "non-display";
+  if (!channel.Name.empty()) txtValueVal.Text = IsDisplayed(Run, index) ? "Display" : "non-display";
   ++Row;
 }
 

@@ -16,7 +16,7 @@ void rptTraceObjectOverlap::ActiveReport_FetchData(bool& endOfData) {
   const TraceItem& channel = *channels[index];
   txtValueName.Text = channel.Name;
   txtValueUnit.Text = channel.Unit;
-  CheckValue.Value = !channel.Name.empty() && IsDisplayed(channel);
+  CheckValue.Value = !channel.Name.empty() && IsDisplayed(Run, index);
   ++Row;
 }
 

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "printfiles/host_files.h"
 #include "support/report_run.h"
 #include "support/temp_folder.h"
 
@@ -115,8 +116,15 @@ TEST_F(Comparison, WithoutSimulationsUnloadsItself) {
 
 TEST_F(Comparison, TwelveSimulationsAreARunTimeFailure) {
   Session.OverlapNum = 12;
-  EXPECT_THROW(Report.ComposeAlone("rptSimCmpFileList"), RunTimeFailure);
-  EXPECT_THROW(Report.ComposeAlone("rptSimCmpTime"), RunTimeFailure);
+  LoadBytes(Report.Run, "Sim.tmp", "File-Spec,3\r\nOverlapNum,12\r\n");
+  for (const char* report : {"rptSimCmpFileList", "rptSimCmpTime"}) {
+    try {
+      Report.ComposeAlone(report);
+      ADD_FAILURE() << report;
+    } catch (const RunTimeFailure& failure) {
+      EXPECT_STREQ(failure.what(), "Sim.tmp:2: OverlapNum: only 11 simulations have room: '12'");
+    }
+  }
 }
 
 // A Sim.tmp of an overlapped run; its pictures are in `folder`.

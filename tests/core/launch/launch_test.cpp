@@ -114,14 +114,14 @@ TEST_F(LaunchTest, LeavesTheSessionFilledAndTheDialogOpen) {
 TEST_F(LaunchTest, WithoutArgumentIsFailure1AndDeletesNothing) {
   EXPECT_THAT(
       CallsOf(" "),
-      ElementsAre("beep", "beep", "beep", "beep", "beep",
+      ElementsAre("diagnose command line: no argument", "beep", "beep", "beep", "beep", "beep",
                   "message Printing Error|Argument is wrong.\nPrinting Process is canceled.", "end 0"));
   EXPECT_TRUE(Folder.Has("bin/dat/tmp/User.tmp"));
 }
 
 TEST_F(LaunchTest, WithOneToThreeArgumentsIsARunTimeFailure) {
   for (const char* line : {"User", "User help.html", "User help.html 7"}) {
-    EXPECT_EQ(RunTimeFailureOf([&] { CallsOf(line); }), "Arguments: subscript out of range: '4'") << line;
+    EXPECT_EQ(RunTimeFailureOf([&] { CallsOf(line); }), "command line: argument 4: missing") << line;
   }
   EXPECT_THAT(Desktop.Calls, IsEmpty());
 }
@@ -130,7 +130,9 @@ TEST_F(LaunchTest, WithAnUnknownEditionIsFailure1BeforeTheFoldersAreKnown) {
   for (const char* edition : {"3", "0", "-1", "5"}) {
     Desktop.Calls.clear();
     const std::vector<std::string> calls = CallsOf("User help.html 7 " + std::string(edition));
-    EXPECT_EQ(calls.at(5), "message Printing Error|Argument is wrong.\nPrinting Process is canceled.")
+    EXPECT_EQ(calls.at(0),
+              "diagnose command line: argument 4: no such edition: '" + std::string(edition) + "'");
+    EXPECT_EQ(calls.at(6), "message Printing Error|Argument is wrong.\nPrinting Process is canceled.")
         << edition;
     EXPECT_EQ(Run.Session.TempFolder, "");
   }
@@ -143,11 +145,13 @@ TEST_F(LaunchTest, RoundsTheEditionToTheEvenNumber) {
 }
 
 TEST_F(LaunchTest, StopsAtANumberThatIsNone) {
-  EXPECT_EQ(RunTimeFailureOf([&] { CallsOf("User help.html 7 one"); }), "not a number: 'one'");
+  EXPECT_EQ(RunTimeFailureOf([&] { CallsOf("User help.html 7 one"); }),
+            "command line: argument 4: not a number: 'one'");
   EXPECT_EQ(Run.Session.TempFolder, "") << "the edition is converted before the registry is read";
-  EXPECT_EQ(RunTimeFailureOf([&] { CallsOf("User help.html seven 1"); }), "not a number: 'seven'");
+  EXPECT_EQ(RunTimeFailureOf([&] { CallsOf("User help.html seven 1"); }),
+            "command line: argument 3: not a number: 'seven'");
   EXPECT_EQ(RunTimeFailureOf([&] { CallsOf("User help.html 2147483648 1"); }),
-            "number out of range: '2147483648'");
+            "command line: argument 3: number out of range: '2147483648'");
 }
 
 TEST_F(LaunchTest, KeepsTheModeAsItIsWritten) {

@@ -195,13 +195,28 @@ TEST_F(PrintOptionsFile, LeavesSimComparisonsAloneWithoutTraceDetailAhead) {
 
 TEST_F(PrintOptionsFile, StopsAtAMissingElement) {
   EXPECT_EQ(Stopped({"File-Spec,4", "TraceOption,1,1,1,1,1,1,1,1,1", "SimOption,0,0,0,0,0,0,0,0,0,0"}),
-            "PrintOption.ToT:3: SimOption: not a number: '0,0,0,0,0,0,0,0,0,0'");
-  EXPECT_EQ(Stopped({"UserHeader,1,1,1,1"}), "PrintOption.ToT:1: UserHeader: not a number: '1,1,1,1'");
-  EXPECT_EQ(Stopped({"UserOption,1,1,1,1"}), "PrintOption.ToT:1: UserOption: not a number: '1,1,1,1'");
-  EXPECT_EQ(Stopped({"IdxTblOption,1"}), "PrintOption.ToT:1: IdxTblOption: not a number: '1'");
+            "PrintOption.ToT:3: SimOption: element 11: not a number: ''");
+  EXPECT_EQ(Stopped({"UserHeader,1,1,1,1"}), "PrintOption.ToT:1: UserHeader: element 5: not a number: ''");
+  EXPECT_EQ(Stopped({"UserOption,1,1,1,1"}), "PrintOption.ToT:1: UserOption: element 5: not a number: ''");
+  EXPECT_EQ(Stopped({"IdxTblOption,1"}), "PrintOption.ToT:1: IdxTblOption: element 4: not a number: ''");
   EXPECT_EQ(Stopped({"Cover,yes"}), "PrintOption.ToT:1: Cover: not a number: 'yes'");
   EXPECT_EQ(Stopped({"Cover,1,1"}), "PrintOption.ToT:1: Cover: not a number: '1,1'")
       << "the whole value is the number";
+}
+
+TEST_F(PrintOptionsFile, TellsWhereANumberStoodThatNothingCanShow) {
+  ASSERT_TRUE(
+      Read({"File-Spec,4", "ColorType,1", "ColorType,2", "SimHeader,1,1,1,1,3,x", "MechaOption,1,1,1,1,-7"}));
+  PrintOptions& options = Run.Options;
+  const auto told = [&](const std::int16_t& option) {
+    return std::string(RunTimeFailure("no such choice", OptionPlace(Run, option)).what());
+  };
+  EXPECT_EQ(told(options.ColorType), "PrintOption.ToT:3: ColorType: no such choice: '2'");
+  EXPECT_EQ(told(options.SimHeader.Pages), "PrintOption.ToT:4: SimHeader: element 5: no such choice: '3'");
+  EXPECT_EQ(told(options.MechaOption[4]), "PrintOption.ToT:5: MechaOption: element 5: no such choice: '-7'");
+  EXPECT_EQ(told(options.IdxTblOption.Comment),
+            "PrintOption.ToT: IdxTblOption: element 4: no such choice: '0'");
+  EXPECT_EQ(told(options.SimOption[12]), "PrintOption.ToT: SimOption: element 13: no such choice: '0'");
 }
 
 TEST_F(PrintOptionsFile, HeaderWithFiveElementsHasAnEmptyTitle) {

@@ -1,7 +1,8 @@
+#include "printfiles/sim_file.h"
+
 #include <gtest/gtest.h>
 
 #include "core/support/line_cases.h"
-#include "printfiles/sim_file.h"
 
 namespace tarvis {
 namespace {
@@ -171,8 +172,9 @@ TEST_F(SimFile, StopsAtMoreValuesThanARowHolds) {
   EXPECT_TRUE(Read({PatternSettingLine(11), ValuesLine("MaxSpd", 11)}));
   EXPECT_EQ(Sim.MaxSpd.Values[10], "11");
   for (const std::string& key : kRowKeys) {
-    EXPECT_EQ(Stopped({PatternSettingLine(12), ValuesLine(key, 1)}),
-              "Sim.tmp:2: " + key + ": subscript out of range: '11'");
+    EXPECT_EQ(
+        Stopped({PatternSettingLine(12), ValuesLine(key, 1)}),
+        "Sim.tmp:2: " + key + ": 'PatternSetting' counts 12 values, and only 11 have room: 'name,unit,1'");
   }
 }
 
@@ -181,8 +183,9 @@ TEST_F(SimFile, HoldsUpTo41PointsInAList) {
   EXPECT_TRUE(Read({PatternSettingLine(41), ValuesLine("StartPointTime", 41)}));
   EXPECT_EQ(Sim.StartPointTime.Values[40], "41");
   for (const std::string& key : kListKeys) {
-    EXPECT_EQ(Stopped({PatternSettingLine(42), ValuesLine(key, 42)}),
-              "Sim.tmp:2: " + key + ": subscript out of range: '41'");
+    EXPECT_EQ(
+        Stopped({PatternSettingLine(42), ValuesLine(key, 1)}),
+        "Sim.tmp:2: " + key + ": 'PatternSetting' counts 42 values, and only 41 have room: 'name,unit,1'");
   }
 }
 
@@ -190,7 +193,7 @@ TEST_F(SimFile, TakesAKindThatIsNoNumber) {
   ASSERT_TRUE(Read({"PatternSetting,n,,name,2"}));
   EXPECT_EQ(Sim.PatternSetting.PatternKind, "");
   ASSERT_TRUE(Read({"PatternSetting,n,free,name,2"}));
-  EXPECT_EQ(Stopped({"PatternSetting,n,0,name"}), "Sim.tmp:1: PatternSetting: not a number: 'n,0,name'");
+  EXPECT_EQ(Stopped({"PatternSetting,n,0,name"}), "Sim.tmp:1: PatternSetting: element 4: not a number: ''");
 }
 
 TEST_F(SimFile, KnowsPatternRowsWhereOtherFilesHaveSettings) {
@@ -224,7 +227,8 @@ TEST_F(SimFile, StopsAtATwelfthComparisonTime) {
   EXPECT_TRUE(Read(eleven));
   std::vector<std::string> twelve = eleven;
   twelve.emplace_back("CmpTime,f,t,c");
-  EXPECT_EQ(Stopped(twelve), "Sim.tmp:12: CmpTime: subscript out of range: '11'");
+  EXPECT_EQ(Stopped(twelve),
+            "Sim.tmp:12: CmpTime: 'OverlapNum' counts 12 simulations, and only 11 have room: 'f,t,c'");
 }
 
 TEST_F(SimFile, ReadsComparedParameters) {

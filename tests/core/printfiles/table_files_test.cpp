@@ -89,9 +89,9 @@ TEST_F(TableFiles, FillAStepInItsOrder) {
 
 TEST_F(TableFiles, StopAtAStepThatIsTooShortOrTooLong) {
   EXPECT_EQ(Stopped(kIdxTblFile, {"IndexCnt,1", "Index,0,1,2,3,4,5,6,7,8,9,10"}),
-            "IdxIdxTbl.tmp:2: Index: not a number: '0,1,2,3,4,5,6,7,8,9,10'");
+            "IdxIdxTbl.tmp:2: Index: element 12: not a number: ''");
   EXPECT_EQ(Stopped(kIdxTblFile, {"IndexCnt,1", "Index,0,1,2,3,4,5,6,7,8,9,10,1,x"}),
-            "IdxIdxTbl.tmp:2: Index: not a number: '1,x'");
+            "IdxIdxTbl.tmp:2: Index: element 12: not a number: '1,x'");
 }
 
 TEST_F(TableFiles, MoveAZonesTailBehindAComma) {
@@ -108,8 +108,10 @@ TEST_F(TableFiles, KeepASpeedsCommas) {
 }
 
 TEST_F(TableFiles, StopAtAnIdThatIsNoNumber) {
-  EXPECT_EQ(Stopped(kZoneTblFile, {"ZoneCnt,1", "Zone,A,1,2"}), "IdxZoneTbl.tmp:2: Zone: not a number: 'A'");
-  EXPECT_EQ(Stopped(kJogTblFile, {"JspdCnt,1", "Jspd"}), "IdxJogTbl.tmp:2: Jspd: not a number");
+  EXPECT_EQ(Stopped(kZoneTblFile, {"ZoneCnt,1", "Zone,A,1,2"}),
+            "IdxZoneTbl.tmp:2: Zone: element 1: not a number: 'A'");
+  EXPECT_EQ(Stopped(kJogTblFile, {"JspdCnt,1", "Jspd"}),
+            "IdxJogTbl.tmp:2: Jspd: element 1: not a number: ''");
 }
 
 // A table's count key, its row key, and a row that reads.
@@ -167,7 +169,7 @@ TEST_F(TableFiles, HoldAsManyRowsAs16BitsCount) {
     lines.insert(lines.begin(), count + ",32767");
     EXPECT_TRUE(Read(file, lines));
     EXPECT_TRUE(Stopped(file, {count + ",32768"}).ends_with("number out of range: '32768'"));
-    EXPECT_TRUE(Stopped(file, {count + ",-2"}).ends_with("subscript out of range: '-2'"));
+    EXPECT_TRUE(Stopped(file, {count + ",-2"}).ends_with(count + ": a count can't be below -1: '-2'"));
   }
 }
 

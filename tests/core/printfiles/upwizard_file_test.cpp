@@ -1,7 +1,8 @@
+#include "printfiles/upwizard_file.h"
+
 #include <gtest/gtest.h>
 
 #include "core/support/line_cases.h"
-#include "printfiles/upwizard_file.h"
 
 namespace tarvis {
 namespace {
@@ -77,9 +78,9 @@ TEST_F(UPWizardFile, StopsAtASlotOutOfRange) {
 }
 
 TEST_F(UPWizardFile, StopsAtASlotThatIsNoNumber) {
-  EXPECT_EQ(Stopped("OUTNUM,one,x"), "UPWizard.tmp:1: OUTNUM: not a number: 'one'");
-  EXPECT_EQ(Stopped("OUTSTR"), "UPWizard.tmp:1: OUTSTR: not a number");
-  EXPECT_EQ(Stopped("RY,,x"), "UPWizard.tmp:1: RY: not a number: ',x'");
+  EXPECT_EQ(Stopped("OUTNUM,one,x"), "UPWizard.tmp:1: OUTNUM: element 1: not a number: 'one'");
+  EXPECT_EQ(Stopped("OUTSTR"), "UPWizard.tmp:1: OUTSTR: element 1: not a number: ''");
+  EXPECT_EQ(Stopped("RY,,x"), "UPWizard.tmp:1: RY: element 1: not a number: ''");
 }
 
 TEST_F(UPWizardFile, RoundsAndTrimsASlotButKeepsItsText) {

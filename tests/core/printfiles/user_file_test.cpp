@@ -1,3 +1,5 @@
+#include "printfiles/user_file.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -5,7 +7,6 @@
 
 #include "core/support/line_cases.h"
 #include "printfiles/host_files.h"
-#include "printfiles/user_file.h"
 
 namespace tarvis {
 namespace {
@@ -191,14 +192,14 @@ TEST_F(UserFile, PutsASurplusValueIntoTheSpareAndStopsAtTheNext) {
   EXPECT_EQ(Run.User.Prm[1].Value, "3");
   Lines twoTooMany = oneTooMany;
   twoTooMany.emplace_back("UserValue,5,6,w");
-  EXPECT_EQ(Stopped(twoTooMany), "User.tmp:5: UserData.Prm: subscript out of range: '2'");
+  EXPECT_EQ(Stopped(twoTooMany), "User.tmp:5: UserValue: two more than 'UserNum' announces: '5,6,w'");
 }
 
 TEST_F(UserFile, StopsAtLinesWithoutAnyArray) {
-  EXPECT_EQ(Stopped({"UserValue,1,2,u"}), "User.tmp:1: UserData.Prm: subscript out of range: '0'");
+  EXPECT_EQ(Stopped({"UserValue,1,2,u"}), "User.tmp:1: UserValue: stands before 'UserNum': '1,2,u'");
   for (const char* key : {"Switch0", "Switch1", "Switch2", "Switch3"}) {
     EXPECT_EQ(Stopped({std::string(key) + ",0,1,,,x"}),
-              "User.tmp:1: UserData.Switches: subscript out of range: '0'");
+              "User.tmp:1: " + std::string(key) + ": stands before 'SwitchNum': '0,1,,,x'");
   }
 }
 
@@ -219,14 +220,14 @@ TEST_F(UserFile, RefusesAfterASecondCountBelowTheIndex) {
   EXPECT_EQ(Refused({"UserNum,2", "UserValue,1,2,u", "UserValue,1,2,u", "UserNum,1", "UserName,3,c"}),
             "User.tmp:5: UserName: one more than 'UserNum' announces");
   EXPECT_EQ(Stopped({"UserNum,2", "UserValue,1,2,u", "UserValue,1,2,u", "UserNum,1", "UserValue,3,4,v"}),
-            "User.tmp:5: UserData.Prm: subscript out of range: '2'");
+            "User.tmp:5: UserValue: two more than 'UserNum' announces: '3,4,v'");
 }
 
 TEST_F(UserFile, HasNoRoomWithANegativeCount) {
   EXPECT_TRUE(Read({"UserNum,-1"}));
   EXPECT_EQ(Refused({"UserNum,-1", "UserName,1,a"}),
             "User.tmp:2: UserName: one more than 'UserNum' announces");
-  EXPECT_EQ(Stopped({"UserNum,-2"}), "User.tmp:1: UserData.Prm: subscript out of range: '-2'");
+  EXPECT_EQ(Stopped({"UserNum,-2"}), "User.tmp:1: UserNum: a count can't be below -1: '-2'");
 }
 
 TEST_F(UserFile, HoldsAsManyElementsAs16BitsCount) {
@@ -239,7 +240,7 @@ TEST_F(UserFile, StopsAtABadNumberAndSaysWhere) {
   for (const char* key : {"File-Spec", "UserNum", "SwitchNum", "CommentCnt"}) {
     EXPECT_EQ(Stopped({"FileType,x", std::string(key) + ",1,5"}),
               "User.tmp:2: " + std::string(key) + ": not a number: '1,5'");
-    EXPECT_EQ(Stopped({key}), "User.tmp:1: " + std::string(key) + ": not a number");
+    EXPECT_EQ(Stopped({key}), "User.tmp:1: " + std::string(key) + ": not a number: ''");
   }
 }
 
