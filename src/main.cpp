@@ -42,7 +42,7 @@ int main(int argc, char** argv) {
   });
   windows.AnswerEndRequestsWith([&endSignals] { endSignals.Answer(); });
   application->Run([&] {
-    run.Page = CodePage(settings->CodePageNumber());
+    run.Page = settings->Page();
     Launch(run, CommandLineText(argc, argv), {*settings, printers, windows});
   });
 }

@@ -1,35 +1,27 @@
 #include "platform/configuration_registry.h"
 
 #include <cerrno>
-#include <charconv>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <istream>
 #include <system_error>
 
+#include "text/code_page.h"
 #include "text/run_time_failure.h"
+#include "text/text.h"
 
 namespace tarvis {
 namespace {
 
 constexpr std::size_t LongestValue = 1024;  // the registry buffer of the system
-constexpr int DefaultCodePage = 1252;
 
 std::string Environment(const char* name) {
   const char* value = std::getenv(name);
   return value ? value : "";
 }
 
-// At most LongestValue characters of UTF-8.
-std::string CutValue(const std::string& text) {
-  std::size_t characters = 0;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const bool starts = (static_cast<unsigned char>(text[i]) & 0xC0) != 0x80;
-    if (starts && ++characters > LongestValue) return text.substr(0, i);
-  }
-  return text;
-}
+constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
 }  // namespace
 
@@ -44,41 +36,48 @@ ConfigurationRegistry::ConfigurationRegistry(std::string path, Desktop& desktop)
 
 void ConfigurationRegistry::ReadLines(std::istream& file) {
   std::string section;
+  int number = 0;
   for (std::string line; std::getline(file, line);) {
+    if (++number == 1 && line.starts_with(ByteOrderMark)) line.erase(0, ByteOrderMark.size());
+    if (number == 1 && (line.starts_with("\xFF\xFE") || line.starts_with("\xFE\xFF")))
+      desktop_.Diagnose(path_ + ": is UTF-16 text, where UTF-8 is read");
     if (line.ends_with('\r')) line.pop_back();
     if (line.starts_with('[') && line.ends_with(']')) {
       section = line.substr(1, line.size() - 2);
     } else if (const std::size_t equals = line.find('='); equals != std::string::npos) {
-      values_.try_emplace({section, line.substr(0, equals)}, line.substr(equals + 1));
+      values_.try_emplace({section, line.substr(0, equals)}, Entry{line.substr(equals + 1), number});
     }
   }
 }
 
-std::string ConfigurationRegistry::Find(const std::string& section, const std::string& entry) const {
+ConfigurationRegistry::Entry ConfigurationRegistry::Find(const std::string& section,
+                                                         const std::string& entry) const {
   const auto found = values_.find({section, entry});
-  return found == values_.end() ? std::string() : found->second;
+  return found == values_.end() ? Entry() : found->second;
 }
 
 std::string ConfigurationRegistry::Value(const std::string& key, const std::string& valueName) {
   if (readable_ && !values_.contains({key, valueName}))
     desktop_.Diagnose(path_ + ": there is no " + valueName + " in [" + key + "]");
-  return CutValue(Find(key, valueName));
+  const Entry entry = Find(key, valueName);
+  if (CharacterCount(entry.Value) <= LongestValue) return entry.Value;
+  desktop_.Diagnose(path_ + ":" + std::to_string(entry.Line) + ": " + valueName + ": more than " +
+                    std::to_string(LongestValue) + " characters");
+  return {};
 }
 
-int ConfigurationRegistry::CodePageNumber() const {
-  const std::string text = Find("Tarvis", "CodePage");
-  if (text.empty()) return DefaultCodePage;
-  int number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc() || end != text.data() + text.size()) {
-    throw RunTimeFailure("not a code page number",
-                         {.File = path_, .Line = 0, .Key = "CodePage", .Text = text});
+CodePage ConfigurationRegistry::Page() const {
+  const Entry entry = Find("Tarvis", "CodePage");
+  if (entry.Value.empty()) return CodePage();
+  try {
+    return CodePage(CodePageNumber(entry.Value));
+  } catch (const RunTimeFailure& failure) {
+    throw failure.At({.File = path_, .Line = entry.Line, .Key = {}});
   }
-  return number;
 }
 
 bool ConfigurationRegistry::CountsPdfPrinter() const {
-  return Find("Tarvis", "PdfPrinter") == "yes";
+  return Find("Tarvis", "PdfPrinter").Value == "yes";
 }
 
 std::string ConfigurationPath() {

@@ -17,8 +17,8 @@
 
 namespace tarvis {
 
-// The file as it was when the object was made. A file or an entry that is missing or can't be read gives
-// empty values, and a diagnosis that names it.
+// The file as it was when the object was made, in UTF-8, with or without a byte order mark. A file or an
+// entry that is missing or can't be read gives empty values, and a diagnosis that names it.
 class ConfigurationRegistry : public HostSettings {
  public:
   // `desktop` must outlive the object.
@@ -26,17 +26,21 @@ class ConfigurationRegistry : public HostSettings {
 
   std::string Value(const std::string& key, const std::string& valueName) override;
 
-  int CodePageNumber() const override;
+  CodePage Page() const override;
   bool CountsPdfPrinter() const override;
 
  private:
   void ReadLines(std::istream& file);
-  std::string Find(const std::string& section, const std::string& entry) const;
+  struct Entry {
+    std::string Value;
+    int Line = 0;  // counted from 1; 0 for an entry that is missing
+  };
+  Entry Find(const std::string& section, const std::string& entry) const;
 
   std::string path_;
   Desktop& desktop_;
   bool readable_ = false;
-  std::map<std::pair<std::string, std::string>, std::string> values_;
+  std::map<std::pair<std::string, std::string>, Entry> values_;
 };
 
 // $TARVIS_CONFIG if set; else tarvis/tarvis.ini in the user's configuration folder if there is one there;

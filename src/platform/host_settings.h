@@ -4,13 +4,14 @@
 #include <memory>
 
 #include "run/desktop.h"
+#include "text/code_page.h"
 
 namespace tarvis {
 
 class HostSettings : public HostRegistry {
  public:
-  // The system's code page, 1252 if nothing names another. A text that is no number is a RunTimeFailure.
-  virtual int CodePageNumber() const = 0;
+  // The system's code page, 1252 if nothing names another. A text that names none is a RunTimeFailure.
+  virtual CodePage Page() const = 0;
   // Whether saving as PDF counts as a printer, so that a run goes on where no printer is set up.
   virtual bool CountsPdfPrinter() const = 0;
 };

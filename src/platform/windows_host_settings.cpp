@@ -15,9 +15,10 @@ class WindowsRegistry : public HostSettings {
   std::string Value(const std::string& key, const std::string& valueName) override {
     const QSettings registry("HKEY_LOCAL_MACHINE\\" + QString::fromStdString(key),
                              QSettings::Registry32Format);
-    return registry.value(QString::fromStdString(valueName)).toString().left(LongestValue).toStdString();
+    const QString value = registry.value(QString::fromStdString(valueName)).toString();
+    return value.size() > LongestValue ? std::string() : value.toStdString();
   }
-  int CodePageNumber() const override { return static_cast<int>(GetACP()); }
+  CodePage Page() const override { return CodePage(static_cast<int>(GetACP())); }
   bool CountsPdfPrinter() const override { return false; }
 };
 

@@ -57,7 +57,8 @@ class HostRegistry {
  public:
   virtual ~HostRegistry() = default;
 
-  // The value below HKEY_LOCAL_MACHINE, empty if key or value is missing. At most 1024 characters.
+  // The value below HKEY_LOCAL_MACHINE, empty if key or value is missing, or if it is longer
+  // than the system's buffer of 1024 characters.
   virtual std::string Value(const std::string& key, const std::string& valueName) = 0;
 };
 

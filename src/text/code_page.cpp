@@ -4,7 +4,9 @@
 #include <unicode/ustring.h>
 
 #include <algorithm>
+#include <charconv>
 
+#include "text/excerpt.h"
 #include "text/run_time_failure.h"
 
 namespace tarvis {
@@ -45,10 +47,35 @@ std::string UnitsToUtf8(std::u16string_view units) {
   return text;
 }
 
+[[noreturn]] void Refuse(const char* reason, std::string_view number) {
+  throw RunTimeFailure(reason, {.File = {}, .Line = 0, .Key = "CodePage", .Text = Excerpt(number)});
+}
+
+// Whether each printable ASCII character and each line end is one byte of the same number, as the grammar of
+// the files needs it: not so in UTF-16, in UTF-7, and in the code pages of mainframes.
+bool KeepsAscii(UConverter& converter) {
+  std::string ascii("\r\n");
+  for (char c = ' '; c <= '~'; ++c) ascii += c;
+  std::u16string units(ascii.size() * 2, u'\0');
+  UErrorCode error = U_ZERO_ERROR;
+  const std::int32_t length = ucnv_toUChars(&converter, units.data(), Length(units.size()), ascii.data(),
+                                            Length(ascii.size()), &error);
+  if (U_FAILURE(error)) return false;
+  units.resize(static_cast<std::size_t>(length));
+  return units == std::u16string(ascii.begin(), ascii.end());
+}
+
 }  // namespace
 
 bool IsAscii(std::string_view text) {
   return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+int CodePageNumber(std::string_view text) {
+  int number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (error != std::errc() || end != text.data() + text.size()) Refuse("not a code page number", text);
+  return number;
 }
 
 struct CodePage::Converter {
@@ -60,9 +87,8 @@ CodePage::CodePage(int number) : converter_(std::make_unique<Converter>()) {
   converter_->Number = number;
   UErrorCode error = U_ZERO_ERROR;
   converter_->Handle.reset(ucnv_open(("windows-" + std::to_string(number)).c_str(), &error));
-  if (U_FAILURE(error))
-    throw RunTimeFailure("no such code page",
-                         {.File = {}, .Line = 0, .Key = "CodePage", .Text = std::to_string(number)});
+  if (U_FAILURE(error)) Refuse("no such code page", std::to_string(number));
+  if (!KeepsAscii(*converter_->Handle)) Refuse("not a code page that holds ASCII", std::to_string(number));
   ucnv_setSubstChars(converter_->Handle.get(), "?", 1, &error);
   Expect(error);
 }

@@ -8,6 +8,9 @@
 
 namespace tarvis {
 
+// The number of a code page from a text of digits; anything else is a RunTimeFailure.
+int CodePageNumber(std::string_view text);
+
 // Whether `text` is alike in UTF-8 and in every code page of the system.
 bool IsAscii(std::string_view text);
 

@@ -48,6 +48,17 @@ TEST_F(Configuration, LineEndOfEitherKindEndsAValue) {
   EXPECT_EQ(registry.Value(HostKey, "Quillon"), "200");
 }
 
+TEST_F(Configuration, ByteOrderMarkIsNoPartOfTheFirstSection) {
+  auto registry = Holding("\xEF\xBB\xBF[S]\nQuillon=200\n\xEF\xBB\xBF[T]\nQuillon=100\n");
+  EXPECT_EQ(registry.Value("S", "Quillon"), "200");
+  EXPECT_EQ(registry.Value("T", "Quillon"), "") << "only the file's first bytes are a mark";
+}
+
+TEST_F(Configuration, Utf16IsToldAsWhatIsWrong) {
+  Holding(std::string("\xFF\xFE[\0S\0]\0\n\0", 10));
+  EXPECT_THAT(Diagnoses(), ElementsAre(Path() + ": is UTF-16 text, where UTF-8 is read"));
+}
+
 TEST_F(Configuration, EntryBelongsToItsOwnSectionOnly) {
   auto registry = Holding("[One]\nSystemPath=/one\n[Two]\nQuillon=100\n");
   EXPECT_EQ(registry.Value("Two", "SystemPath"), "");
@@ -57,7 +68,7 @@ TEST_F(Configuration, EntryBelongsToItsOwnSectionOnly) {
 TEST_F(Configuration, MissingFileGivesEmptyValuesAndIsNamedOnce) {
   auto registry = At(Path("absent.ini"));
   EXPECT_EQ(registry.Value(HostKey, "SystemPath"), "");
-  EXPECT_EQ(registry.CodePageNumber(), 1252);
+  EXPECT_EQ(registry.Page().Number(), 1252);
   EXPECT_FALSE(registry.CountsPdfPrinter());
   EXPECT_THAT(Diagnoses(), ElementsAre(Path("absent.ini") + ": can't be read: No such file or directory"));
 }
@@ -80,17 +91,19 @@ TEST_F(Configuration, EmptyFileAndEmptyValueAreNoFault) {
   EXPECT_THAT(Diagnoses(), ElementsAre());
 }
 
-TEST_F(Configuration, ValueOf1024CharactersIsTakenWholeAndALongerOneIsCut) {
+TEST_F(Configuration, ValueOf1024CharactersIsTakenWholeAndALongerOneIsUnread) {
   std::string umlauts;
   for (int i = 0; i < 1024; ++i) umlauts += "\xC3\xBC";
-  auto registry = Holding("[S]\nexact=" + umlauts + "\nlong=" + umlauts + "tail\n");
+  auto registry = Holding("[S]\nexact=" + umlauts + "\nlong=" + umlauts + "t\n");
   EXPECT_EQ(registry.Value("S", "exact"), umlauts);
-  EXPECT_EQ(registry.Value("S", "long"), umlauts);
+  EXPECT_THAT(Diagnoses(), ElementsAre());
+  EXPECT_EQ(registry.Value("S", "long"), "");
+  EXPECT_THAT(Diagnoses(), ElementsAre(Path() + ":3: long: more than 1024 characters"));
 }
 
 TEST_F(Configuration, NamesCodePageAndPdfPrinter) {
   auto registry = Holding("[Tarvis]\nCodePage=932\nPdfPrinter=yes\n");
-  EXPECT_EQ(registry.CodePageNumber(), 932);
+  EXPECT_EQ(registry.Page().Number(), 932);
   EXPECT_TRUE(registry.CountsPdfPrinter());
 }
 
@@ -98,15 +111,18 @@ TEST_F(Configuration, AnyOtherWordThanYesDoesNotCountThePdfPrinter) {
   EXPECT_FALSE(Holding("[Tarvis]\nPdfPrinter=no\n").CountsPdfPrinter());
 }
 
-TEST_F(Configuration, CodePageThatIsNoNumberNamesFileKeyAndText) {
-  auto registry = Holding("[Tarvis]\nCodePage=12x\n");
-  try {
-    registry.CodePageNumber();
-    FAIL() << "no failure";
-  } catch (const RunTimeFailure& failure) {
-    EXPECT_EQ(failure.Place().File, Path());
-    EXPECT_EQ(failure.Place().Key, "CodePage");
-    EXPECT_EQ(failure.Place().Text, "12x");
+TEST_F(Configuration, CodePageThatIsNoneNamesFileLineKeyAndText) {
+  const std::map<std::string, std::string> reasons = {{"12x", "not a code page number"},
+                                                      {"7", "no such code page"},
+                                                      {"1200", "not a code page that holds ASCII"}};
+  for (const auto& [text, reason] : reasons) {
+    auto registry = Holding("[Tarvis]\nPdfPrinter=yes\nCodePage=" + text + "\n");
+    try {
+      registry.Page();
+      ADD_FAILURE() << text;
+    } catch (const RunTimeFailure& failure) {
+      EXPECT_EQ(failure.what(), Path() + ":3: CodePage: " + reason + ": '" + text + "'");
+    }
   }
 }
 

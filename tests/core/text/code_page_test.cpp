@@ -52,6 +52,10 @@ TEST(CodePage, KeepsNulBytes) {
 
 TEST(CodePage, RefusesANumberThatIsNone) {
   EXPECT_EQ(RunTimeFailureOf([] { CodePage page(7); }), "CodePage: no such code page: '7'");
+  for (const int number : {1200, 65000}) {
+    EXPECT_EQ(RunTimeFailureOf([&] { CodePage page(number); }),
+              "CodePage: not a code page that holds ASCII: '" + std::to_string(number) + "'");
+  }
 }
 
 TEST(CodePage, MovesWithItsConverter) {
