@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <utility>
 
+#include "check/check_pages.h"
 #include "check/contents.h"
+#include "check/ending_desktop.h"
+#include "printfiles/data_file_scan.h"
 #include "printfiles/host_files.h"
 #include "printfiles/idx_tbl_file.h"
 #include "printfiles/jog_tbl_file.h"
@@ -22,41 +24,26 @@
 namespace tarvis {
 namespace {
 
-// A reader alone never reaches the desktop.
-class NoDesktop : public Desktop {
- public:
-  void Beep() override {}
-  void ShowMessage(const std::string&, const std::string&) override {}
-  void Diagnose(const std::string&) override {}
-  [[noreturn]] void EndProcess(int) override { std::abort(); }
-};
-
-// The comparison times of a simulation are bounded by the overlap that the session took from the same file.
-bool ReadSimFileWithItsOverlap(PrintRun& run) {
-  if (!ReadSimFile(run)) return false;
-  run.Session.OverlapNum = run.Sim.OverlapNum;
-  return ReadSimFile(run);
-}
-
 struct FileKind {
   std::string_view Stem;
   std::string_view Ending;
-  bool IsNumbered;  // has companions such as Trace1.tmp
+  const char* Mode;   // of the runs that print it; null for the options
+  bool IsOverlapped;  // has companions such as Trace1.tmp
   bool (*Read)(PrintRun& run);
   std::string (*Contents)(const PrintRun& run);
 };
 
 constexpr std::array Kinds = {
-    FileKind{"PrintOption", ".ToT", false, ReadPrintOptionsFile, OptionsContents},
-    FileKind{"User", ".tmp", false, ReadUserFile, UserContents},
-    FileKind{"UPWizard", ".tmp", false, ReadUPWizardFile, UPWizardContents},
-    FileKind{"Trace", ".tmp", true, ReadTraceFile, TraceContents},
-    FileKind{"RealTrace", ".tmp", false, ReadRealTraceFile, RealTraceContents},
-    FileKind{"Mecha", ".tmp", false, ReadMechaFile, MechaContents},
-    FileKind{"Sim", ".tmp", true, ReadSimFileWithItsOverlap, SimContents},
-    FileKind{"IdxIdxTbl", ".tmp", false, ReadIdxTblFile, IdxTblContents},
-    FileKind{"IdxZoneTbl", ".tmp", false, ReadZoneTblFile, ZoneTblContents},
-    FileKind{"IdxJogTbl", ".tmp", false, ReadJogTblFile, JogTblContents},
+    FileKind{"PrintOption", ".ToT", nullptr, false, ReadPrintOptionsFile, OptionsContents},
+    FileKind{"User", ".tmp", "User", false, ReadUserFile, UserContents},
+    FileKind{"UPWizard", ".tmp", "UPWizard", false, ReadUPWizardFile, UPWizardContents},
+    FileKind{"Trace", ".tmp", "Trace", true, ReadTraceFile, TraceContents},
+    FileKind{"RealTrace", ".tmp", "RealTrace", false, ReadRealTraceFile, RealTraceContents},
+    FileKind{"Mecha", ".tmp", "Mecha", false, ReadMechaFile, MechaContents},
+    FileKind{"Sim", ".tmp", "Sim", true, ReadSimFile, SimContents},
+    FileKind{"IdxIdxTbl", ".tmp", "IdxTbl", false, ReadIdxTblFile, IdxTblContents},
+    FileKind{"IdxZoneTbl", ".tmp", "ZoneTbl", false, ReadZoneTblFile, ZoneTblContents},
+    FileKind{"IdxJogTbl", ".tmp", "JogTbl", false, ReadJogTblFile, JogTblContents},
 };
 
 bool IsOfKind(std::string_view name, const FileKind& kind) {
@@ -65,8 +52,35 @@ bool IsOfKind(std::string_view name, const FileKind& kind) {
   name.remove_prefix(kind.Stem.size());
   name.remove_suffix(kind.Ending.size());
   if (name.empty()) return true;
-  return kind.IsNumbered && name.front() != '0' &&
+  return kind.IsOverlapped && name.front() != '0' &&
          name.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+// Companions are printed as the main file beside them says.
+void TakeOverlap(PrintRun& run, const FileKind& kind, std::string_view folder) {
+  if (!kind.IsOverlapped) return;
+  const std::string mainFile = std::string(folder) + std::string(kind.Stem) + std::string(kind.Ending);
+  if (LoadLines(run, mainFile) < 1) return;
+  try {
+    ScanOverlap(run);
+  } catch (const RunTimeFailure&) {
+    // The reader of the main file stops at the same number.
+  }
+}
+
+bool IsRead(PrintRun& run, const FileKind& kind, std::string_view path) {
+  const std::size_t nameStart = path.find_last_of("\\/") + 1;
+  TakeOverlap(run, kind, path.substr(0, nameStart));
+  if (LoadLines(run, path) < 0 || !kind.Read(run)) return false;
+  if (kind.Mode == nullptr) {
+    RequireChoices(run);
+    return true;
+  }
+  const bool isMainFile = path.size() - nameStart == kind.Stem.size() + kind.Ending.size();
+  DefaultPrintOptions(run);
+  run.Session.Mode = kind.Mode;
+  MakePages(run, isMainFile && run.Session.OverlapMode != 0);
+  return true;
 }
 
 }  // namespace
@@ -75,11 +89,11 @@ FileCheck CheckFile(std::string_view path, CodePage page) {
   const std::string name(path.substr(path.find_last_of("\\/") + 1));
   const auto* kind = std::ranges::find_if(Kinds, [&](const FileKind& each) { return IsOfKind(name, each); });
   if (kind == Kinds.end()) return {.IsGood = false, .Line = name + ": not the name of a host file"};
-  NoDesktop desktop;
+  EndingDesktop desktop;
   PrintRun run(desktop);
   run.Page = std::move(page);
   try {
-    if (LoadLines(run, path) < 0 || !kind->Read(run)) return {.IsGood = false, .Line = run.Session.Diagnosis};
+    if (!IsRead(run, *kind, path)) return {.IsGood = false, .Line = run.Session.Diagnosis};
   } catch (const RunTimeFailure& failure) {
     return {.IsGood = false, .Line = failure.what()};
   }

@@ -3,7 +3,7 @@
 #include <iostream>
 
 #include "check/check_file.h"
-#include "text/numbers.h"
+#include "text/code_page.h"
 #include "text/run_time_failure.h"
 
 namespace {
@@ -16,6 +16,10 @@ constexpr const char* Usage =
     "Mecha.tmp, Sim.tmp,\n"
     "Sim1.tmp, IdxIdxTbl.tmp, IdxZoneTbl.tmp, IdxJogTbl.tmp, PrintOption.ToT. The code page is 1252 unless "
     "told.\n";
+
+bool Is(const char* argument, const char* option) {
+  return std::strcmp(argument, option) == 0;
+}
 
 int CheckFiles(int codePage, char** first, char** end) {
   bool allGood = true;
@@ -34,8 +38,12 @@ int main(int argc, char** argv) {
   char** first = argv + 1;
   int codePage = 1252;
   try {
-    if (end - first >= 2 && std::strcmp(*first, "--code-page") == 0) {
-      codePage = tarvis::StrictInteger(first[1]);
+    if (end - first == 1 && Is(*first, "--help")) {
+      std::cout << Usage;
+      return 0;
+    }
+    if (end - first >= 2 && Is(*first, "--code-page")) {
+      codePage = tarvis::CodePageNumber(first[1]);
       first += 2;
     }
     if (first >= end || std::strncmp(*first, "--", 2) == 0) {

@@ -102,6 +102,14 @@ class CheckFileTest : public testing::Test {
     return check.Line;
   }
 
+  bool IsGood(const std::string& name, const std::string& bytes) {
+    Folder.Write(name, bytes);
+    const FileCheck check = CheckFile((Folder.Path() / name).string(), CodePage(932));
+    EXPECT_TRUE(check.IsGood) << check.Line;
+    EXPECT_TRUE(Folder.Has(name));
+    return check.IsGood;
+  }
+
   TempFolder Folder;
 };
 
@@ -121,15 +129,70 @@ TEST_F(CheckFileTest, KnowsAFileByItsNameOnly) {
                            ".tmp", "User.ToT"}) {
     EXPECT_EQ(Wrong(name, ""), std::string(name) + ": not the name of a host file");
   }
-  Folder.Write("Sim12.tmp", "");
-  EXPECT_TRUE(CheckFile((Folder.Path() / "Sim12.tmp").string(), CodePage()).IsGood);
+  EXPECT_TRUE(IsGood("Trace12.tmp", ""));
 }
 
-TEST_F(CheckFileTest, BoundsComparisonTimesByTheFilesOwnOverlap) {
-  const std::string row = "CmpTime,f,t,c\r\n";
-  std::string twelve = "OverlapNum,12\r\n";
-  for (int count = 0; count < 12; ++count) twelve += row;
-  EXPECT_EQ(Wrong("Sim.tmp", twelve), "Sim.tmp:13: CmpTime: subscript out of range: '11'");
+std::string Times(const std::string& line, int count) {
+  std::string lines;
+  for (; count > 0; --count) lines += line;
+  return lines;
+}
+
+const std::string kPattern = "PatternSetting,n,0,p,1\r\n";
+const std::string kTwelveTimes = Times("CmpTime,f,t,c\r\n", 12);
+
+TEST_F(CheckFileTest, BoundsComparisonTimesByTheOverlapThatTheProgramTakes) {
+  EXPECT_EQ(Wrong("Sim.tmp", "OverlapMode,1\r\nOverlapNum,12\r\n" + kTwelveTimes),
+            "Sim.tmp:14: CmpTime: 'OverlapNum' counts 12 simulations, and only 11 have room: 'f,t,c'");
+  EXPECT_TRUE(IsGood("Sim.tmp", "OverlapMode,1\r\nOverlapNum,11\r\n" + kTwelveTimes));
+  EXPECT_TRUE(IsGood("Sim.tmp", "OverlapMode,0\r\nOverlapNum,12\r\n" + kTwelveTimes + kPattern));
+  EXPECT_EQ(Wrong("Sim.tmp", "OverlapNum,12\r\nOverlapMode,0\r\n" + kTwelveTimes + kPattern),
+            "Sim.tmp:14: CmpTime: 'OverlapNum' counts 12 simulations, and only 11 have room: 'f,t,c'")
+      << "the program takes the number before it finds the mode";
+}
+
+TEST_F(CheckFileTest, TakesTheOverlapOfACompanionFromTheMainFileBesideIt) {
+  EXPECT_TRUE(IsGood("Sim1.tmp", "OverlapMode,1\r\nOverlapNum,12\r\n" + kTwelveTimes + kPattern));
+  Folder.Write("Sim.tmp", "OverlapMode,1\r\nOverlapNum,12\r\n");
+  EXPECT_EQ(Wrong("Sim1.tmp", kTwelveTimes + kPattern),
+            "Sim1.tmp:12: CmpTime: 'OverlapNum' counts 12 simulations, and only 11 have room: 'f,t,c'");
+}
+
+TEST_F(CheckFileTest, FindsWhatStopsTheProgramOnlyWhenItsPagesAreMade) {
+  EXPECT_EQ(Wrong("Sim.tmp", "PatternSetting,n,,p,1\r\n"),
+            "Sim.tmp:1: PatternSetting: element 2: not a number: ''");
+  EXPECT_EQ(Wrong("Sim.tmp", "PatternSetting,n,1,p,42\r\n"),
+            "Sim.tmp:1: PatternSetting: element 4: only 41 values have room: '42'");
+  EXPECT_EQ(Wrong("Sim.tmp", "OverlapMode,1\r\nOverlapNum,12\r\n"),
+            "Sim.tmp:2: OverlapNum: only 11 simulations have room: '12'");
+  EXPECT_EQ(Wrong("Trace.tmp", "DataTrace1,Speed,yes,V\r\n"),
+            "Trace.tmp:1: DataTrace1: element 2: not a number: 'yes'");
+  EXPECT_EQ(Wrong("Trace.tmp", "OverlapMode,1\r\nDataTrace1,Speed,,V\r\n"),
+            "Trace.tmp:2: DataTrace1: element 2: not a number: ''");
+}
+
+TEST_F(CheckFileTest, FindsNothingElse) {
+  EXPECT_TRUE(IsGood("Sim.tmp", "OverlapMode,1\r\nOverlapNum,2\r\nPatternSetting,n,,p,1\r\n"))
+      << "the result of an overlap prints no pattern";
+  EXPECT_TRUE(IsGood("Sim.tmp", "PatternSetting,n,0,p,42\r\n")) << "a regular pattern prints ten values";
+  EXPECT_TRUE(IsGood("Trace.tmp", "DataTrace1,,yes,V\r\n")) << "a channel without a name isn't used";
+  EXPECT_TRUE(IsGood("User.tmp", "SwitchNum,1\r\nSwitch,1\r\nSwitch0,x,y\r\nSwitch3,\r\n"))
+      << "a bad digit is passed over";
+  EXPECT_TRUE(IsGood("UPWizard.tmp", "BASE,nowhere.bmp\r\n")) << "pictures are not looked for";
+}
+
+TEST_F(CheckFileTest, FindsOptionsThatNothingCanShow) {
+  EXPECT_EQ(Wrong("PrintOption.ToT", "ColorType,2\r\n"), "PrintOption.ToT:1: ColorType: no such choice: '2'");
+  EXPECT_EQ(Wrong("PrintOption.ToT", "Cover,1\r\nSelectCover,4\r\n"),
+            "PrintOption.ToT:2: SelectCover: no such choice: '4'");
+  EXPECT_EQ(Wrong("PrintOption.ToT", "IdxTblOption,3,,,1\r\n"),
+            "PrintOption.ToT:1: IdxTblOption: element 1: no such choice: '3'");
+  EXPECT_EQ(Wrong("PrintOption.ToT", "MechaHeader,1,1,1,-1,1,t\r\n"),
+            "PrintOption.ToT:1: MechaHeader: element 4: no such choice: '-1'");
+  EXPECT_EQ(Wrong("PrintOption.ToT", "JogTblOption,3\r\n"),
+            "PrintOption.ToT:1: JogTblOption: element 1: no such choice: '3'");
+  EXPECT_TRUE(IsGood("PrintOption.ToT", "Cover,0\r\nSelectCover,4\r\nPrmWizHeader,7,7,7,7,7,t\r\n"));
+  EXPECT_TRUE(IsGood("PrintOption.ToT", "UserOption,2,2,2,2,2\r\n")) << "a grey mark";
 }
 
 TEST_F(CheckFileTest, LeavesTheFileAlone) {
