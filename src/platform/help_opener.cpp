@@ -4,16 +4,30 @@
 #include <QDesktopServices>
 #include <QKeyEvent>
 #include <QUrl>
+#include <filesystem>
+#include <string>
 
 #include "dialogs/controls/help_context.h"
 #include "text/native_path.h"
 
 namespace tarvis {
+namespace {
+
+// Some systems take any bytes as the name of a file. Those that are no text stay the bytes that they are, in
+// the escapes of the address.
+QUrl AddressOf(const std::filesystem::path& file) {
+  const std::u8string name = file.generic_u8string();
+  const QByteArray bytes(reinterpret_cast<const char*>(name.data()), static_cast<qsizetype>(name.size()));
+  const QString text = QString::fromUtf8(bytes);
+  if (text.toUtf8() == bytes) return QUrl::fromLocalFile(text);
+  return QUrl::fromEncoded("file://" + bytes.toPercentEncoding("/"));
+}
+
+}  // namespace
 
 void HelpOpener::Open() const {
-  const QString path = QString::fromStdU16String(NativePath(helpFile_).u16string());
-  QUrl place = QUrl::fromLocalFile(path);
-  if (path.endsWith(".html", Qt::CaseInsensitive)) {
+  QUrl place = AddressOf(NativePath(helpFile_));
+  if (place.path().endsWith(".html", Qt::CaseInsensitive)) {
     const std::int32_t own = HelpContextOf(QApplication::focusWidget());
     place.setFragment(QString::number(own != 0 ? own : context_));
   }

@@ -17,7 +17,7 @@ class Browser : public QObject {
   ~Browser() override { QDesktopServices::unsetUrlHandler("file"); }
   QStringList Opened;
 
-  Q_SLOT void Open(const QUrl& url) { Opened.append(url.toString()); }
+  Q_SLOT void Open(const QUrl& url) { Opened.append(QString::fromLatin1(url.toEncoded())); }
 };
 
 class Help : public testing::Test {
@@ -42,6 +42,19 @@ TEST_F(Help, OpensAnyOtherKindWithTheDesktopsProgram) {
   help_.SetContext(1200);
   PressF1();
   EXPECT_EQ(browser_.Opened, QStringList("file:///opt/host/help/host.chm"));
+}
+
+TEST_F(Help, OpensAFileWhoseNameIsNoText) {
+  help_.SetHelpFile("/opt/host/h\xFCls \xF0\x9F \xC3\xA4#1%41.html");
+  help_.SetContext(7);
+  PressF1();
+  EXPECT_EQ(browser_.Opened, QStringList("file:///opt/host/h%FCls%20%F0%9F%20%C3%A4%231%2541.html#7"));
+}
+
+TEST_F(Help, OpensAFileWithAnyCharacterInItsName) {
+  help_.SetHelpFile("/opt/host\\h\xC3\xBClp #1 50%.html");
+  PressF1();
+  EXPECT_EQ(browser_.Opened, QStringList("file:///opt/host/h%C3%BClp%20%231%2050%25.html#0"));
 }
 
 TEST_F(Help, IsNotThereWithoutAHelpFile) {

@@ -5,6 +5,7 @@ import subprocess
 import unittest
 
 from program_case import AS_A_USER, ProgramCase
+from desktop import wait_until
 from saved_pdf import words_in_a_row, words_of
 from session import DIALOG
 
@@ -160,6 +161,21 @@ class Help(ProgramCase):
         session.confirm_dialog()
         self.assertEqual(session.close_preview(), 0)
         self.assertFalse(opened.exists())
+        self.assertEqual(self.standard_error(), "")
+
+
+    def test_file_whose_name_is_no_text_opens_all_the_same(self):
+        named = os.fsencode(self.host.help_file.parent) + b"/h\xfclfe.html"
+        os.rename(self.host.help_file, named)
+        self.host.write_data("JogTbl")
+        opened = self.folder / "opened"
+        session = self.start(None, arguments=[b"JogTbl", b"h\xfclfe.html", b"1200", b"2"], environment=self.note_opened(opened))
+        session.wait_for(DIALOG)
+        self.user.press("F1")
+        told = wait_until(lambda: opened.exists() and opened.read_text().strip(), "the opened page")
+        self.assertTrue(told.endswith("/h%FClfe.html#1200"), told)
+        session.confirm_dialog()
+        self.assertEqual(session.close_preview(), 0)
         self.assertEqual(self.standard_error(), "")
 
 
