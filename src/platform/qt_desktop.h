@@ -1,6 +1,8 @@
 // The real desktop: message boxes, the system beep, standard error, and the end of the process.
 #pragma once
 
+#include <chrono>
+
 #include "run/desktop.h"
 
 namespace tarvis {
@@ -8,10 +10,14 @@ namespace tarvis {
 // Needs a QApplication for Beep and ShowMessage; Diagnose and EndProcess work without one.
 class QtDesktop : public Desktop {
  public:
+  // Beeps that follow one another keep a distance at which they are heard one by one.
   void Beep() override;
   void ShowMessage(const std::string& title, const std::string& text) override;
   void Diagnose(const std::string& line) override;
   [[noreturn]] void EndProcess(int exitStatus) override;
+
+ private:
+  std::chrono::steady_clock::time_point nextBeep_;
 };
 
 }  // namespace tarvis

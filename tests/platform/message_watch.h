@@ -17,6 +17,8 @@ struct SeenMessage {
   QMessageBox::StandardButtons Buttons;
   Qt::TextFormat Format;
   bool Modal;
+  const QWidget* Owner;
+  bool Busy;  // the pointer says that the program is
 };
 
 // While it lives, each message box that comes up is read and answered with the Enter key.
@@ -31,7 +33,8 @@ class MessageWatch : public QObject {
     auto* box = qobject_cast<QMessageBox*>(watched);
     if (box && event->type() == QEvent::Show) {
       seen_.push_back({box->windowTitle().toStdString(), box->text().toStdString(), box->icon(),
-                       box->standardButtons(), box->textFormat(), box->isModal()});
+                       box->standardButtons(), box->textFormat(), box->isModal(), box->parentWidget(),
+                       QApplication::overrideCursor() != nullptr});
       QTimer::singleShot(0, box, [box] { QTest::keyClick(box, Qt::Key_Return); });
     }
     return QObject::eventFilter(watched, event);

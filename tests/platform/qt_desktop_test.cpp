@@ -25,6 +25,35 @@ TEST(QtDesktop, MessageBoxTakesMarkupAsPlainWords) {
   EXPECT_EQ(watch.Seen().at(0).Format, Qt::PlainText);
 }
 
+TEST(QtDesktop, MessageBoxOfABusyProgramHasTheUsualPointer) {
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+  QApplication::setOverrideCursor(Qt::BusyCursor);
+  MessageWatch watch;
+  QtDesktop().ShowMessage("Printing Error", "Tracing File is wrong.");
+  EXPECT_FALSE(watch.Seen().at(0).Busy);
+  for (const Qt::CursorShape shape : {Qt::BusyCursor, Qt::WaitCursor}) {
+    ASSERT_NE(QApplication::overrideCursor(), nullptr) << "the program goes on being busy";
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), shape);
+    QApplication::restoreOverrideCursor();
+  }
+}
+
+TEST(QtDesktop, MessageBoxBelongsToAWindowThatHasOnlyJustBeenOpened) {
+  QWidget window;
+  window.show();
+  ASSERT_EQ(QApplication::activeWindow(), nullptr);
+  MessageWatch watch;
+  QtDesktop().ShowMessage("Input Error", "Try with  Less Characters.");
+  EXPECT_EQ(watch.Seen().at(0).Owner, &window);
+}
+
+TEST(QtDesktop, BeepsThatFollowOneAnotherAreHeardOneByOne) {
+  QtDesktop desktop;
+  const auto start = std::chrono::steady_clock::now();
+  for (int beep = 0; beep < 5; ++beep) desktop.Beep();
+  EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(4 * 150));
+}
+
 TEST(QtDesktop, DiagnosisIsOneLineOnStandardError) {
   testing::internal::CaptureStderr();
   QtDesktop().Diagnose("User.tmp:3: unknown key 'x'");

@@ -1,26 +1,41 @@
 """Runs that fail end with the exact words, and leave behind what they must."""
 import unittest
 
+from bells import BellWatch
 from program_case import ProgramCase
 
 
 class Failures(ProgramCase):
+    def test_five_beeps_are_heard_one_by_one_before_the_message(self):
+        bells = BellWatch(self.display.name)
+        self.addCleanup(bells.close)
+        session = self.start(None, arguments=[])
+        self.window(session, "Printing Error")
+        times = bells.times()
+        self.assertEqual(len(times), 5)
+        for earlier, later in zip(times, times[1:]):
+            self.assertGreaterEqual(later - earlier, 150)  # they have left the program 200 ms apart
+        self.expect_failure(session, "Argument is wrong.")
+
     def test_no_argument_is_failure_1_and_deletes_nothing(self):
         self.host.write_data("User")
         self.expect_failure(self.start(None, arguments=[]), "Argument is wrong.")
+        self.assertEqual(self.standard_error(), "tarvis: command line: no argument\n")
         self.assertEqual(self.files_left(), ["User.tmp"])
 
     def test_unknown_edition_is_failure_1(self):
         self.expect_failure(self.start("User", edition=3), "Argument is wrong.")
+        self.assertEqual(self.standard_error(), "tarvis: command line: argument 4: no such edition: '3'\n")
 
     def test_mode_in_small_letters_is_failure_1_and_deletes_the_hosts_files(self):
         self.host.write_data("User")
         self.expect_failure(self.start(None, arguments=["user", "host.html", "1", "1"]), "Argument is wrong.")
+        self.assertEqual(self.standard_error(), "tarvis: command line: argument 1: no such mode of edition 1: 'user'\n")
         self.assertEqual(self.files_left(), [])
 
     def test_three_arguments_are_a_run_time_error_and_delete_nothing(self):
         self.host.write_data("User")
-        self.expect_run_time_error(self.start(None, arguments=["User", "host.html", "1"]), "subscript out of range")
+        self.expect_run_time_error(self.start(None, arguments=["User", "host.html", "1"]), "command line: argument 4: missing")
         self.assertEqual(self.files_left(), ["User.tmp"])
 
     def test_unknown_key_in_the_options_is_failure_10_and_names_the_line_on_standard_error(self):
