@@ -136,7 +136,19 @@ void PrintSetting::LoadDialog() {
   run_.Session.StepEndValid = -1;
   Chosen(run_, optColor_, run_.Options.ColorType, 0).setChecked(true);
   loaded_ = true;
-  shown_->Load();
+  ShowWithPage();
+}
+
+// The page may have something to say about what it loads, which is to be said over the dialog and not before any
+// window is there.
+void PrintSetting::ShowWithPage() {
+  show();
+  try {
+    shown_->Load();
+  } catch (...) {
+    delete std::exchange(guard_, nullptr);  // the focus moves once more while the controls go
+    throw;
+  }
 }
 
 void PrintSetting::LoadCover() {

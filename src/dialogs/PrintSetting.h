@@ -36,7 +36,7 @@ struct PrintSettingServices {
 // the run as numbered failures; options that no control can show throw RunTimeFailure, and so may every
 // handling that a click runs, through the event loop to the application object.
 //
-// Create it with new and show it modeless. When the user confirms it deletes itself; every other way out of
+// Create it with new: it shows itself, modeless. When the user confirms it deletes itself; every other way out of
 // it ends the run.
 class PrintSetting : public FittedDialog {
   Q_OBJECT
@@ -60,6 +60,7 @@ class PrintSetting : public FittedDialog {
   void Connect();
 
   void LoadDialog();
+  void ShowWithPage();
   void LoadCover();
   // Failure 1, with a reason and a text for standard error.
   [[noreturn]] void RefuseHost(const std::string& reason, const std::string& text);

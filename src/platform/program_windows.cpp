@@ -59,7 +59,7 @@ void QtProgramWindows::ShowPrintSetting() {
                                             help_.SetHelpFile(helpFile);
                                             help_.SetContext(helpContextId);
                                           }};
-  (new PrintSetting(run_, services))->show();  // it deletes itself
+  new PrintSetting(run_, services);  // it shows and deletes itself
 }
 
 void QtProgramWindows::ShowMasterReport() {

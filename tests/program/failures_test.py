@@ -23,6 +23,17 @@ class Failures(ProgramCase):
         self.assertEqual(self.standard_error(), "tarvis: command line: no argument\n")
         self.assertEqual(self.files_left(), ["User.tmp"])
 
+    def test_too_long_title_in_the_options_is_told_over_the_dialog(self):
+        self.host.options_file.write_bytes(b"File-Spec,4\r\nUserHeader,1,1,1,1,1," + b"x" * 41 + b"\r\n")
+        session = self.start("User")
+        text, _ = self.read_message(session, "Input Error")
+        self.assertIn("Up to 40 Characters", text)
+        self.assertIn("Printing Item Setting", [window.name for window in self.program.windows()])
+        self.user.press("Return")
+        session.wait_for("Printing Item Setting")
+        self.user.press("Escape")
+        self.expect_end(session.process)
+
     def test_unknown_edition_is_failure_1(self):
         self.expect_failure(self.start("User", edition=3), "Argument is wrong.")
         self.assertEqual(self.standard_error(), "tarvis: command line: argument 4: no such edition: '3'\n")
