@@ -212,6 +212,14 @@ TEST_F(ParameterList, ComparesNumbersWithoutRegardToCaseButWithBlanks) {
   EXPECT_THAT(PrintedOf(Compose(), "txtPos0"), IsEmpty());
 }
 
+// Required: numbers are texts, and two empty ones are the same text.
+TEST_F(ParameterList, AnEmptySwitchBelongsToAnEmptyParameter) {
+  AddParameter(User, "Pn000");
+  AddParameter(User, "");
+  AddSwitch(User, "", {Direction, NoDigit, NoDigit, NoDigit});
+  EXPECT_EQ(PrintedOf(Compose(), "txtPos0").size(), 1U);
+}
+
 TEST_F(ParameterList, AnOrphanSwitchBlocksAllThatFollowIt) {
   AddParameter(User, "Pn000");
   AddParameter(User, "Pn001");
