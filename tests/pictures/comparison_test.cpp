@@ -56,13 +56,15 @@ TEST_P(MetafileOfAnotherWriter, LooksAsAnIndependentRendererShowsIt) {
 // Renderers place a frame within one percent of each other and weigh hairlines differently, so graphs of thin
 // lines differ most; they are compared small, where that counts less.
 INSTANTIATE_TEST_SUITE_P(Samples, MetafileOfAnotherWriter,
-                         testing::Values(Sample{"fig_plot.emf", 0.03}, Sample{"gp_lines.emf", 0.04},
-                                         Sample{"gp_points.emf", 0.045}, Sample{"gp_surface.emf", 0.03},
-                                         Sample{"ink_image.emf", 0.01}, Sample{"ink_image.wmf", 0.01},
-                                         Sample{"ink_shapes.emf", 0.01}, Sample{"ink_shapes.wmf", 0.01},
-                                         Sample{"lo_image.emf", 0.025}, Sample{"lo_image.wmf", 0.01},
-                                         Sample{"lo_page.emf", 0.015}, Sample{"lo_page.wmf", 0.015},
-                                         Sample{"lo_shapes.emf", 0.02}, Sample{"lo_shapes.wmf", 0.01}));
+                         testing::Values(Sample{"fig_plot.emf", 0.03}, Sample{"fig_walk.emf", 0.02},
+                                         Sample{"ink_bars.emf", 0.01}, Sample{"ink_curves.emf", 0.02},
+                                         Sample{"gp_lines.emf", 0.04}, Sample{"gp_points.emf", 0.045},
+                                         Sample{"gp_surface.emf", 0.03}, Sample{"ink_image.emf", 0.01},
+                                         Sample{"ink_image.wmf", 0.01}, Sample{"ink_shapes.emf", 0.01},
+                                         Sample{"ink_shapes.wmf", 0.01}, Sample{"lo_image.emf", 0.025},
+                                         Sample{"lo_image.wmf", 0.01}, Sample{"lo_page.emf", 0.015},
+                                         Sample{"lo_page.wmf", 0.015}, Sample{"lo_shapes.emf", 0.02},
+                                         Sample{"lo_shapes.wmf", 0.01}));
 
 TEST(MetafileOfAnotherWriter, AGradientCutToAShapeKeepsItsColorsAndStaysInside) {
   const QImage shown = Shown(ReadData("lo_deck.emf"), {480, 360});
