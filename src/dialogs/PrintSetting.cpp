@@ -27,8 +27,6 @@ constexpr FittedDialog::Plan DialogPlan{.Width = 5535, .Height = 8130, .ButtonsT
 constexpr int PageCount = 10;
 constexpr std::int16_t StepsWithoutTable = 1000;
 constexpr int ProgramTableEntry = 2;
-constexpr int UnknownHost = 1;  // numbers of failures
-constexpr int UnreadableTable = 15;
 
 // The member of a family that a number of the options file chooses; `first` is the number of the first one.
 template <typename Control, std::size_t Count>
@@ -159,7 +157,7 @@ void PrintSetting::LoadCover() {
 
 void PrintSetting::RefuseHost(const std::string& reason, const std::string& text) {
   run_.Session.Diagnosis = reason + ": '" + Excerpt(text) + "'";
-  ReportFailure(run_, UnknownHost);
+  ReportFailure(run_, Failure::WrongArgument);
 }
 
 void PrintSetting::FillFunctionList() {
@@ -193,7 +191,8 @@ void PrintSetting::SelectByMode() {
 
 void PrintSetting::ReadStepCount() {
   PrintSession& session = run_.Session;
-  if (LoadLines(run_, session.TempFolder + "IdxIdxTbl.tmp") < 0) ReportFailure(run_, UnreadableTable);
+  if (LoadLines(run_, session.TempFolder + "IdxIdxTbl.tmp") < 0)
+    ReportFailure(run_, Failure::WrongProgramTableFile);
   ScanLines(run_, [&session](std::string_view key, std::string_view rest) {
     if (key != "IndexCnt") return true;
     session.StepLimit = StrictInteger(rest);

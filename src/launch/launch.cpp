@@ -10,8 +10,6 @@
 namespace tarvis {
 namespace {
 
-constexpr int ArgumentIsWrong = 1;
-
 enum Argument {
   ModeArgument = 1,
   HelpFileArgument,
@@ -54,7 +52,7 @@ void Launch(PrintRun& run, std::string_view commandLine, const LaunchServices& s
   const CheckedArray<std::string> arguments = SplitCommandLine(commandLine, ArgumentCount);
   if (arguments.HighestIndex() == 0) {
     session.Diagnosis = "command line: no argument";
-    ReportFailure(run, ArgumentIsWrong);
+    ReportFailure(run, Failure::WrongArgument);
   }
   session.HostEdition = Number(arguments, EditionArgument, StrictInteger);
   LoadSystemPaths(run, services.Registry);

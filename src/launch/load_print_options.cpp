@@ -9,11 +9,7 @@
 #include "text/native_path.h"
 
 namespace tarvis {
-namespace {
-
-constexpr int OptionsFileIsWrong = 10;
-
-}  // namespace
+namespace {}  // namespace
 
 void LoadPrintOptions(PrintRun& run) {
   PrintSession& session = run.Session;
@@ -22,7 +18,7 @@ void LoadPrintOptions(PrintRun& run) {
   if (!FileExists(path)) {
     DefaultPrintOptions(run);
   } else if (LoadLines(run, path) < 0 || !ReadPrintOptionsFile(run)) {
-    ReportFailure(run, OptionsFileIsWrong);
+    ReportFailure(run, Failure::WrongPrintOptionsFile);
   }
   session.OverlapMode = 0;
   session.OverlapNum = 0;

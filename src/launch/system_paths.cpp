@@ -12,7 +12,6 @@
 namespace tarvis {
 namespace {
 
-constexpr int ArgumentIsWrong = 1;
 constexpr std::size_t VersionLength = 3;
 
 struct EditionKeys {
@@ -47,7 +46,7 @@ void LoadSystemPaths(PrintRun& run, HostRegistry& registry) {
   if (keys == Editions.end()) {
     session.Diagnosis =
         "command line: argument 4: no such edition: '" + std::to_string(session.HostEdition) + "'";
-    ReportFailure(run, ArgumentIsWrong);
+    ReportFailure(run, Failure::WrongArgument);
   }
   session.SystemFolder = Value(registry, *keys, keys->BaseFolder) + R"(\bin\)";
   session.TempFolder = session.SystemFolder + R"(dat\tmp\)";

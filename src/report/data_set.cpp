@@ -155,22 +155,22 @@ struct DataSet {
   bool OverlapResult;
   const char* File;  // without suffix and extension
   bool (*Read)(PrintRun&);
-  int Failure;
+  tarvis::Failure Failure;
   Modules (*List)(PrintRun&);
 };
 
 constexpr std::array<DataSet, 11> DataSets{{
-    {"User", false, "User", ReadUserFile, 3, UserModules},
-    {"UPWizard", false, "UPWizard", ReadUPWizardFile, 12, UPWizardModules},
-    {"Trace", false, "Trace", ReadTraceFile, 4, TraceModules},
-    {"Trace", true, "Trace", ReadTraceFile, 4, TraceOverlapModules},
-    {"RealTrace", false, "RealTrace", ReadRealTraceFile, 14, RealTraceModules},
-    {"Mecha", false, "Mecha", ReadMechaFile, 11, MechaModules},
-    {"Sim", false, "Sim", ReadSimFile, 5, SimModules},
-    {"Sim", true, "Sim", ReadSimFile, 5, SimOverlapModules},
-    {"IdxTbl", false, "IdxIdxTbl", ReadIdxTblFile, 15, IdxTblModules},
-    {"ZoneTbl", false, "IdxZoneTbl", ReadZoneTblFile, 16, ZoneTblModules},
-    {"JogTbl", false, "IdxJogTbl", ReadJogTblFile, 17, JogTblModules},
+    {"User", false, "User", ReadUserFile, Failure::WrongParameterFile, UserModules},
+    {"UPWizard", false, "UPWizard", ReadUPWizardFile, Failure::WrongParameterWizardFile, UPWizardModules},
+    {"Trace", false, "Trace", ReadTraceFile, Failure::WrongTraceFile, TraceModules},
+    {"Trace", true, "Trace", ReadTraceFile, Failure::WrongTraceFile, TraceOverlapModules},
+    {"RealTrace", false, "RealTrace", ReadRealTraceFile, Failure::WrongRealTimeTraceFile, RealTraceModules},
+    {"Mecha", false, "Mecha", ReadMechaFile, Failure::WrongMechanicalAnalysisFile, MechaModules},
+    {"Sim", false, "Sim", ReadSimFile, Failure::WrongSimulationFile, SimModules},
+    {"Sim", true, "Sim", ReadSimFile, Failure::WrongSimulationFile, SimOverlapModules},
+    {"IdxTbl", false, "IdxIdxTbl", ReadIdxTblFile, Failure::WrongProgramTableFile, IdxTblModules},
+    {"ZoneTbl", false, "IdxZoneTbl", ReadZoneTblFile, Failure::WrongZoneTableFile, ZoneTblModules},
+    {"JogTbl", false, "IdxJogTbl", ReadJogTblFile, Failure::WrongJogSpeedTableFile, JogTblModules},
 }};
 
 void ReadDataFile(PrintRun& run, const DataSet& set, const std::string& suffix) {

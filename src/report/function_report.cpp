@@ -39,7 +39,7 @@ void FunctionReport::EnterContents() {
   master->TOC.Add(grouped ? group + "\\" + Label1.Caption() : Label1.Caption());
 }
 
-PicturePtr FunctionReport::LoadPictureOrFail(const std::string& path, int failure) {
+PicturePtr FunctionReport::LoadPictureOrFail(const std::string& path, Failure failure) {
   return tarvis::LoadPictureOrFail({Run, Pictures}, Name, path, failure);
 }
 

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "report/report_context.h"
+#include "run/failures.h"
 #include "run/print_run.h"
 
 namespace tarvis {
@@ -25,7 +26,7 @@ class FunctionReport : public ActiveReport {
   // Enters the caption as it is at run time.
   void EnterContents();
   // Loads the picture of `path` if the file is there, else reports `failure`.
-  PicturePtr LoadPictureOrFail(const std::string& path, int failure);
+  PicturePtr LoadPictureOrFail(const std::string& path, Failure failure);
 
   PrintRun& Run;
   PictureLoader& Pictures;

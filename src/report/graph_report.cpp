@@ -3,18 +3,14 @@
 namespace tarvis {
 namespace {
 
-constexpr int BlackAndWhiteGraphMissing = 6;
-constexpr int LegendMissing = 7;
-constexpr int ColorGraphMissing = 8;
-
 struct Choice {
   const std::string* Path = nullptr;  // empty for a `ColorType` that chooses neither look
-  int GraphMissing = 0;
+  Failure GraphMissing = {};
 };
 
 Choice Choose(int colorType, const PicturePaths& paths) {
-  if (colorType == 0) return {&paths.BlackAndWhite, BlackAndWhiteGraphMissing};
-  if (colorType == 1) return {&paths.Color, ColorGraphMissing};
+  if (colorType == 0) return {&paths.BlackAndWhite, Failure::BlackAndWhiteGraphNotFound};
+  if (colorType == 1) return {&paths.Color, Failure::ColorGraphNotFound};
   return {};
 }
 
@@ -28,7 +24,7 @@ PicturePtr GraphReport::LoadGraph(const PicturePaths& paths) {
 PicturePtr GraphReport::LoadLegend(const PicturePaths& paths) {
   const Choice choice = Choose(Run.Options.ColorType, paths);
   if (choice.Path == nullptr || choice.Path->empty()) return nullptr;
-  return LoadPictureOrFail(*choice.Path, LegendMissing);
+  return LoadPictureOrFail(*choice.Path, Failure::ExplanatoryFileNotFound);
 }
 
 }  // namespace tarvis

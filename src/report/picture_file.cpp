@@ -7,7 +7,7 @@
 namespace tarvis {
 
 PicturePtr LoadPictureOrFail(ReportContext context, const char* report, const std::string& path,
-                             int failure) {
+                             Failure failure) {
   if (!FileExists(path)) {
     context.Run.Session.Diagnosis = std::string(report) + ": no picture file '" + path + "'";
     ReportFailure(context.Run, failure);

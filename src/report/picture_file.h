@@ -4,10 +4,12 @@
 #include <string>
 
 #include "report/report_context.h"
+#include "run/failures.h"
 
 namespace tarvis {
 
 // Loads the picture of `path` if the file is there, else reports `failure`; `report` is who asked.
-PicturePtr LoadPictureOrFail(ReportContext context, const char* report, const std::string& path, int failure);
+PicturePtr LoadPictureOrFail(ReportContext context, const char* report, const std::string& path,
+                             Failure failure);
 
 }  // namespace tarvis

@@ -11,7 +11,6 @@
 namespace tarvis {
 namespace {
 
-constexpr int LogoIsMissing = 2;
 constexpr std::int16_t GreetingRows = 12;
 constexpr std::size_t GreetingBytes = 84;
 constexpr std::size_t NameBytes = 50;
@@ -116,7 +115,7 @@ void rptCover::ShiftSender() {
 void rptCover::LoadLogo() {
   const std::string& path = Run.Options.DrowLogo;
   if (path.empty()) return;
-  imgLogo.Picture = LoadPictureOrFail({Run, Pictures}, Name, path, LogoIsMissing);
+  imgLogo.Picture = LoadPictureOrFail({Run, Pictures}, Name, path, Failure::LogoNotFound);
 }
 
 // An overlong line goes on in the next row. What is left after the last row is not printed.

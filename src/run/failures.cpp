@@ -13,8 +13,11 @@ namespace {
 constexpr int BeepCount = 5;
 constexpr int ExitAfterRun = 0;
 
+// The second line of every message.
+constexpr const char* Canceled = "Printing Process is canceled.";
+
+// By the number of the failure, from 1.
 constexpr std::array Messages = {
-    "Printing Process is canceled.",
     "Argument is wrong.",
     "Logo Mark File is not found.",
     "Parameter File is wrong.",
@@ -42,8 +45,8 @@ constexpr std::array Messages = {
 
 }  // namespace
 
-const char* FailureMessage(int number) {
-  return Messages.at(static_cast<std::size_t>(number));
+const char* FailureMessage(Failure failure) {
+  return Messages.at(static_cast<std::size_t>(failure) - 1);
 }
 
 void EndRun(PrintRun& run) {
@@ -52,10 +55,10 @@ void EndRun(PrintRun& run) {
   EndProcess(run.Desktop, ExitAfterRun);
 }
 
-void ReportFailure(PrintRun& run, int number) {
+void ReportFailure(PrintRun& run, Failure failure) {
   if (!run.Session.Diagnosis.empty()) run.Desktop.Diagnose(run.Session.Diagnosis);
   for (int beep = 0; beep < BeepCount; ++beep) run.Desktop.Beep();
-  run.Desktop.ShowMessage("Printing Error", std::string(FailureMessage(number)) + "\n" + FailureMessage(0));
+  run.Desktop.ShowMessage("Printing Error", std::string(FailureMessage(failure)) + "\n" + Canceled);
   EndRun(run);
 }
 

@@ -90,7 +90,9 @@ TEST_F(PrintSettingTest, UnknownHostsAreFailureOne) {
     Run.Session.Mode = host.Mode;
     ExpectLoadFails<RunEnded>(Run);
     ASSERT_EQ(Desktop.Messages.size(), 1u);
-    EXPECT_EQ(Desktop.Messages[0].find(std::string("Printing Error|") + FailureMessage(1)), 0u);
+    EXPECT_EQ(
+        Desktop.Messages[0].find(std::string("Printing Error|") + FailureMessage(Failure::WrongArgument)),
+        0u);
   }
 }
 
@@ -133,7 +135,9 @@ TEST_F(PrintSettingTest, AMissingTableIsFailureFifteen) {
   Run.Session.Mode = "IdxTbl";
   ExpectLoadFails<RunEnded>(Run);
   ASSERT_EQ(Desktop.Messages.size(), 1u);
-  EXPECT_EQ(Desktop.Messages[0].find(std::string("Printing Error|") + FailureMessage(15)), 0u);
+  EXPECT_EQ(Desktop.Messages[0].find(std::string("Printing Error|") +
+                                     FailureMessage(Failure::WrongProgramTableFile)),
+            0u);
 }
 
 TEST_F(PrintSettingTest, ABadStepCountNamesFileLineAndText) {

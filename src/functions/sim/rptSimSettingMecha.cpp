@@ -3,7 +3,6 @@
 namespace tarvis {
 namespace {
 
-constexpr int ModelIsMissing = 9;
 const std::string NoUnit = "-";
 
 std::vector<TableRow> RowsOf(const SimData& sim) {
@@ -21,7 +20,8 @@ rptSimSettingMecha::rptSimSettingMecha(ReportContext context)
 
 // The model's picture has no way out by an empty path, unlike a graph's legend.
 void rptSimSettingMecha::ActiveReport_FetchData(bool& endOfData) {
-  if (Row == 0) imgModel.Picture = LoadPictureOrFail(Run.Sim.MechaType.ModelFile, ModelIsMissing);
+  if (Row == 0)
+    imgModel.Picture = LoadPictureOrFail(Run.Sim.MechaType.ModelFile, Failure::MechanicalModelNotFound);
   NameValueTable::ActiveReport_FetchData(endOfData);
 }
 

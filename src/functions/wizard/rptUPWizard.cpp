@@ -3,7 +3,6 @@
 namespace tarvis {
 namespace {
 
-constexpr int PictureIsMissing = 13;
 // Relay rows and output names stand on one grid; the pictures are higher than its pitch and overlap.
 constexpr float RowPitch = 330;
 
@@ -88,7 +87,7 @@ void rptUPWizard::FillBase() {
 }
 
 void rptUPWizard::LoadWizardPicture(Image& image, const std::string& path) {
-  image.Picture = LoadPictureOrFail(path, PictureIsMissing);
+  image.Picture = LoadPictureOrFail(path, Failure::ParameterWizardPictureNotFound);
 }
 
 void rptUPWizard::Detail_Format() {

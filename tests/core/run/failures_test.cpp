@@ -34,7 +34,7 @@ class FailuresTest : public testing::Test, protected TestRun {
 };
 
 TEST_F(FailuresTest, BeepFiveTimesThenShowTwoLinesThenEndTheRun) {
-  EXPECT_EQ(ExitStatusOf([&] { ReportFailure(Run, 10); }), 0);
+  EXPECT_EQ(ExitStatusOf([&] { ReportFailure(Run, Failure{10}); }), 0);
   EXPECT_THAT(
       Desktop.Calls,
       ElementsAre(
@@ -45,34 +45,33 @@ TEST_F(FailuresTest, BeepFiveTimesThenShowTwoLinesThenEndTheRun) {
 
 TEST_F(FailuresTest, TellTheHostsDevelopersWhatWasWrong) {
   Run.Session.Diagnosis = "Trace.tmp:17: unknown key 'Cursolselect'";
-  ExitStatusOf([&] { ReportFailure(Run, 4); });
+  ExitStatusOf([&] { ReportFailure(Run, Failure{4}); });
   EXPECT_EQ(Desktop.Calls.front(), "diagnose Trace.tmp:17: unknown key 'Cursolselect'");
 }
 
 TEST_F(FailuresTest, HaveTheirWords) {
-  EXPECT_STREQ(FailureMessage(0), "Printing Process is canceled.");
-  EXPECT_STREQ(FailureMessage(1), "Argument is wrong.");
-  EXPECT_STREQ(FailureMessage(2), "Logo Mark File is not found.");
-  EXPECT_STREQ(FailureMessage(3), "Parameter File is wrong.");
-  EXPECT_STREQ(FailureMessage(4), "Tracing File is wrong.");
-  EXPECT_STREQ(FailureMessage(5), "Dynamics Simulation File is wrong.");
-  EXPECT_STREQ(FailureMessage(6), "Graph File (Black & White) is not found.");
-  EXPECT_STREQ(FailureMessage(7), "Explanatory File is not found.");
-  EXPECT_STREQ(FailureMessage(8), "Graph File (Color) is not found.");
-  EXPECT_STREQ(FailureMessage(9), "Mechanical Setting Model BMP File is not found.");
-  EXPECT_STREQ(FailureMessage(10), "Printing Items Setting File is wrong.");
-  EXPECT_STREQ(FailureMessage(11), "Mechanical Analysis File is wrong.");
-  EXPECT_STREQ(FailureMessage(12), "Parameter Wizard is wrong.");
-  EXPECT_STREQ(FailureMessage(13), "Parameter Wizard BMP File is not found.");
-  EXPECT_STREQ(FailureMessage(14), "Real-Time Tracing File is wrong.");
-  EXPECT_STREQ(FailureMessage(15), "Program Table File is wrong.");
-  EXPECT_STREQ(FailureMessage(16), "Zone Table File is wrong.");
-  EXPECT_STREQ(FailureMessage(17), "Jog Speed Table File is wrong.");
+  EXPECT_STREQ(FailureMessage(Failure{1}), "Argument is wrong.");
+  EXPECT_STREQ(FailureMessage(Failure{2}), "Logo Mark File is not found.");
+  EXPECT_STREQ(FailureMessage(Failure{3}), "Parameter File is wrong.");
+  EXPECT_STREQ(FailureMessage(Failure{4}), "Tracing File is wrong.");
+  EXPECT_STREQ(FailureMessage(Failure{5}), "Dynamics Simulation File is wrong.");
+  EXPECT_STREQ(FailureMessage(Failure{6}), "Graph File (Black & White) is not found.");
+  EXPECT_STREQ(FailureMessage(Failure{7}), "Explanatory File is not found.");
+  EXPECT_STREQ(FailureMessage(Failure{8}), "Graph File (Color) is not found.");
+  EXPECT_STREQ(FailureMessage(Failure{9}), "Mechanical Setting Model BMP File is not found.");
+  EXPECT_STREQ(FailureMessage(Failure{10}), "Printing Items Setting File is wrong.");
+  EXPECT_STREQ(FailureMessage(Failure{11}), "Mechanical Analysis File is wrong.");
+  EXPECT_STREQ(FailureMessage(Failure{12}), "Parameter Wizard is wrong.");
+  EXPECT_STREQ(FailureMessage(Failure{13}), "Parameter Wizard BMP File is not found.");
+  EXPECT_STREQ(FailureMessage(Failure{14}), "Real-Time Tracing File is wrong.");
+  EXPECT_STREQ(FailureMessage(Failure{15}), "Program Table File is wrong.");
+  EXPECT_STREQ(FailureMessage(Failure{16}), "Zone Table File is wrong.");
+  EXPECT_STREQ(FailureMessage(Failure{17}), "Jog Speed Table File is wrong.");
 }
 
 TEST_F(FailuresTest, DeleteTheDataFilesToo) {
   Folder.Write("tmp/User.tmp", "");
-  ExitStatusOf([&] { ReportFailure(Run, 3); });
+  ExitStatusOf([&] { ReportFailure(Run, Failure{3}); });
   EXPECT_FALSE(Folder.Has("tmp/User.tmp"));
 }
 
