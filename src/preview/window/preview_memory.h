@@ -23,7 +23,7 @@ struct ReadingPlace {
 // How the user has set the window.
 struct WindowState {
   QByteArray Geometry = {};  // place, size, whether it fills the screen
-  QList<int> Panes;          // widths of the side pane and of the pages
+  QList<int> Panes;          // widths of the side pane and of the pages; empty while the side pane is hidden
   bool SidePane = true;
   int SidePaneTab = 0;
   bool Continuous = true;

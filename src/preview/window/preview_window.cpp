@@ -117,7 +117,7 @@ void PreviewWindow::PlaceOnScreen() {
 
 void PreviewWindow::ShowAsBefore(const WindowState& state) {
   restoreGeometry(state.Geometry);
-  splitter_->setSizes(state.Panes);
+  if (!state.Panes.isEmpty()) splitter_->setSizes(state.Panes);
   pane_->setVisible(state.SidePane);
   ActionOf(Command::SidePane)->setChecked(state.SidePane);
   pane_->setCurrentIndex(state.SidePaneTab);
@@ -133,7 +133,7 @@ void PreviewWindow::ShowAsBefore(const WindowState& state) {
 WindowState PreviewWindow::State() const {
   const PageLayout& layout = view_->Layout();
   return {.Geometry = saveGeometry(),
-          .Panes = splitter_->sizes(),
+          .Panes = pane_->isHidden() ? QList<int>() : splitter_->sizes(),
           .SidePane = ActionOf(Command::SidePane)->isChecked(),
           .SidePaneTab = pane_->currentIndex(),
           .Continuous = layout.Continuous(),
