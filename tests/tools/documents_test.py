@@ -44,6 +44,8 @@ LONG = {
     "./fuzz.sh 600 sim trace": ["./fuzz.sh 1 sim trace"],
     "./fuzz.sh 3600 sim": ["./fuzz.sh 1 sim"],
     "./coverage.sh": ["./coverage.sh"],
+    "tools/mutate --sample 300 --seed 1": ["tools/mutate --sample 5 --seed 1"],
+    "tools/mutate --only band_bitmap.cpp": ["tools/mutate --only band_bitmap.cpp:12:"],
     "./lint.sh": ["./lint.sh src/check/main.cpp"],
     "./lint.sh src/check/main.cpp": ["./lint.sh src/check/main.cpp"],
     "./bench.sh": ["./bench.sh --runs 1"],
