@@ -141,6 +141,81 @@ TEST_F(SwitchList, TheNumberBoxOfALaterRowDependsOnThatRowOnly) {
   EXPECT_EQ(BoxOf(document, "txtValueNo", 1).Height, 285 + 570);
 }
 
+TEST_F(SwitchList, EachOfFourGroupsHasItsOwnRow) {
+  Add("Pn000", {});
+  for (std::size_t group = 0; group < 4; ++group) {
+    const std::string number = std::to_string(group);
+    User.Switches[0].Digit[group] = {number, "1", "value " + number, "default " + number, "text " + number};
+  }
+  const Document document = Compose();
+  for (int group = 0; group < 4; ++group) {
+    const std::string number = std::to_string(group);
+    const float top = Row + 293 + static_cast<float>(group) * 570;
+    EXPECT_EQ(BoxOf(document, "txtPos" + number), (Rect{990, top, 855, 570}));
+    EXPECT_EQ(BoxOf(document, "txtValueBit" + number + "Name"), (Rect{1845, top, 5385, 570}));
+    EXPECT_EQ(BoxOf(document, "txtValueBit" + number + "Val"), (Rect{7230, top, 855, 570}));
+    EXPECT_EQ(BoxOf(document, "txtValueBit" + number + "Default"), (Rect{8085, top, 855, 570}));
+    EXPECT_THAT(ColumnOf(document, "txtPos" + number), ElementsAre(number));
+    EXPECT_THAT(ColumnOf(document, "txtValueBit" + number + "Name"), ElementsAre("text " + number));
+    EXPECT_THAT(ColumnOf(document, "txtValueBit" + number + "Val"), ElementsAre("value " + number));
+    EXPECT_THAT(ColumnOf(document, "txtValueBit" + number + "Default"), ElementsAre("default " + number));
+  }
+  EXPECT_EQ(BoxOf(document, "txtValueName"), (Rect{990, Row + 8, 6240, 285}));
+  EXPECT_EQ(BoxOf(document, "txtValueVal"), (Rect{7230, Row + 8, 855, 285}));
+  EXPECT_EQ(BoxOf(document, "txtValueDefault"), (Rect{8085, Row + 8, 855, 285}));
+  EXPECT_THAT(ColumnOf(document, "txtValueVal"), ElementsAre("0011"));
+  EXPECT_THAT(ColumnOf(document, "txtValueDefault"), ElementsAre("0010"));
+  EXPECT_THAT(ColumnOf(document, "txtValueName"), ElementsAre("Basic function"));
+}
+
+TEST_F(SwitchList, WithoutNamesEachRowStandsBelowTheOneBefore) {
+  Session.ShowPrmName = 0;
+  Add("Pn000", {Digit("0", "1", ""), Digit("1", "1", ""), Digit("2", "1", ""), Digit("3", "1", "")});
+  const Document document = Compose();
+  for (int group = 0; group < 4; ++group) {
+    const std::string number = std::to_string(group);
+    const float top = Row + 8 + static_cast<float>(group) * 570;
+    EXPECT_EQ(BoxOf(document, "txtPos" + number), (Rect{990, top, 855, 570}));
+    EXPECT_EQ(BoxOf(document, "txtValueBit" + number + "Val"), (Rect{1845, top, 855, 570}));
+    EXPECT_EQ(BoxOf(document, "txtValueBit" + number + "Default"), (Rect{2700, top, 855, 570}));
+  }
+  EXPECT_EQ(BoxOf(document, "txtTitleDefault").Left, 2700);
+  EXPECT_EQ(BoxOf(document, "txtValueNo"), (Rect{135, Row + 8, 855, 4 * 570}));
+}
+
+TEST_F(SwitchList, AnythingButZeroShowsNamesAndDefaults) {
+  Add("Pn000", {Digit("0", "1", "Direction"), Digit("1", "1", "Method"), NoDigit, NoDigit});
+  for (const int shown : {2, -1}) {
+    Session.ShowPrmName = Session.ShowPrmDefault = static_cast<std::int16_t>(shown);
+    const Document document = Compose();
+    for (const char* control : {"txtTitleName", "txtValueName", "txtValueBit0Name", "txtValueBit1Name"}) {
+      EXPECT_EQ(PrintedOf(document, control).size(), 1U) << control << shown;
+    }
+    for (const char* control :
+         {"txtTitleDefault", "txtValueDefault", "txtValueBit0Default", "txtValueBit1Default"}) {
+      EXPECT_EQ(BoxOf(document, control).Left, 8085) << control << shown;
+    }
+  }
+}
+
+TEST_F(SwitchList, RepeatsItsGuideOnEachPage) {
+  for (int index = 0; index < 30; ++index) {
+    Add("Pn" + std::to_string(index), {Digit("0", "1", "Direction"), NoDigit, NoDigit, NoDigit});
+  }
+  const Document document = Compose();
+  EXPECT_EQ(document.Pages.size(), 2U);
+  EXPECT_EQ(PrintedOf(document, "txtTitleNo").size(), 2U);
+  EXPECT_EQ(PrintedOf(document, "Label1").size(), 1U);
+  EXPECT_EQ(PrintedOf(document, "txtValueNo").size(), 30U);
+}
+
+TEST_F(SwitchList, ANegativeCountPrintsTitlesWithoutRows) {
+  User.SwitchNum = -1;
+  const Document document = Compose();
+  EXPECT_EQ(PrintedOf(document, "txtTitleNo").size(), 1U);
+  EXPECT_THAT(PrintedOf(document, "txtValueNo"), IsEmpty());
+}
+
 TEST_F(SwitchList, WithoutSwitchesPrintsItsTitleOnly) {
   User.Switches.Resize(0);
   const Document document = Compose();
