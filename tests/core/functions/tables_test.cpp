@@ -7,7 +7,9 @@
 namespace tarvis {
 namespace {
 
+using testing::AllOf;
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
 
 struct ProgramTable : testing::Test {
@@ -90,10 +92,37 @@ TEST_F(ProgramTable, NumbersOfTheRangeAreLenient) {
   EXPECT_THAT(Steps(), ElementsAre("0", "1", "2")) << "halves round to the even number";
 }
 
-TEST_F(ProgramTable, AStepBeyond16BitsIsARunTimeFailure) {
-  Fill(4);
-  Option = {2, "1", "99999", 0};
-  EXPECT_THROW(Compose(), RunTimeFailure);
+TEST_F(ProgramTable, HalvesOfStepsRoundToTheEvenNumber) {
+  Fill(6);
+  Option = {2, "0.5", "2.5", 0};
+  EXPECT_THAT(Steps(), ElementsAre("0", "1", "2"));
+  Option = {2, "1.5", "3.5", 0};
+  EXPECT_THAT(Steps(), ElementsAre("2", "3", "4"));
+  Option = {2, "2.4", "4.6", 0};
+  EXPECT_THAT(Steps(), ElementsAre("2", "3", "4", "5"));
+}
+
+TEST_F(ProgramTable, AStepBeyond16BitsIsARunTimeFailureThatTellsIt) {
+  Fill(2);
+  for (const char* last : {"32767", "32767.4"}) {
+    Option = {2, "0", last, 0};
+    EXPECT_THAT(Steps(), ElementsAre("0", "1")) << last;
+  }
+  for (const char* first : {"-32768", "-32768.5"}) {
+    Option = {2, first, "1", 0};
+    EXPECT_THAT(Steps(), ElementsAre("0", "1")) << first;
+  }
+  for (const char* beyond : {"32768", "32767.5", "-32769", "-32768.6", "99999"}) {
+    for (const bool isFirst : {true, false}) {
+      Option = {2, isFirst ? beyond : "0", isFirst ? "1" : beyond, 0};
+      try {
+        Compose();
+        ADD_FAILURE() << beyond;
+      } catch (const RunTimeFailure& failure) {
+        EXPECT_THAT(failure.what(), AllOf(HasSubstr("IdxTblOption"), HasSubstr(beyond)));
+      }
+    }
+  }
 }
 
 TEST_F(ProgramTable, AnUnknownRangeEndsAsARunTimeFailureInsteadOfHanging) {
@@ -114,6 +143,28 @@ TEST_F(ProgramTable, ALongPositionMakesItsRowAndAllLaterOnesHigh) {
   for (const Printed& printed : PrintedOf(document, "txtSPDVal")) heights.push_back(printed.Box.Height);
   EXPECT_THAT(heights, ElementsAre(283, 283, 400, 400));
   EXPECT_EQ(PrintedOf(document, "txtIdNum")[3].Box.Height, 400) << "the step number is one of them";
+}
+
+TEST_F(ProgramTable, OnlyPositionSpeedAndDistanceRaiseTheRowsFromTheirLengthOn) {
+  struct Column {
+    std::string IdxRow::*Text;
+    std::size_t Raises;  // characters, 0 for never
+  };
+  for (const char* name : {"rptIdxIdxTblTable", "rptIdxIdxTblExTable"}) {
+    for (const Column& column :
+         {Column{&IdxRow::Pos, 17}, Column{&IdxRow::Spd, 14}, Column{&IdxRow::Rdst, 14},
+          Column{&IdxRow::Rspd, 0}, Column{&IdxRow::Acc, 0}, Column{&IdxRow::Dec, 0},
+          Column{&IdxRow::Pout, 0}, Column{&IdxRow::Event, 0}, Column{&IdxRow::Loop, 0},
+          Column{&IdxRow::Next, 0}, Column{&IdxRow::Step, 0}}) {
+      for (const std::size_t length : {13U, 14U, 16U, 17U, 40U}) {
+        Fill(2);
+        Data.Index[0].*column.Text = std::string(length, '1');
+        const bool isHigh = column.Raises > 0 && length >= column.Raises;
+        EXPECT_EQ(PrintedOf(Compose(name), "txtEVENTVal")[1].Box.Height, isHigh ? 400 : 283)
+            << name << ", " << length << " characters";
+      }
+    }
+  }
 }
 
 TEST_F(ProgramTable, LongSpeedsAndDistancesMakeRowsHighToo) {
