@@ -24,6 +24,25 @@ TEST(RunTimeFailure, OfALineNamesItsKeyWhateverTheThrowerNamed) {
   EXPECT_STREQ(placed.what(), "User.tmp:5: UserValue: subscript out of range: '3'");
 }
 
+TEST(RunTimeFailure, LeavesOutWhatIsNotKnown) {
+  EXPECT_STREQ(RunTimeFailure("reason").what(), "reason");
+  EXPECT_STREQ(RunTimeFailure("reason", {.File = "a", .Line = 0, .Key = {}, .Text = {}}).what(), "a: reason");
+  EXPECT_STREQ(RunTimeFailure("reason", {.File = "a", .Line = 1, .Key = {}, .Text = {}}).what(),
+               "a:1: reason");
+  EXPECT_STREQ(RunTimeFailure("reason", {.File = {}, .Line = 0, .Key = "k", .Text = {}}).what(), "k: reason");
+  EXPECT_STREQ(RunTimeFailure("reason", {.File = {}, .Line = 0, .Key = {}, .Text = "t"}).what(),
+               "reason: 't'");
+}
+
+TEST(RunTimeFailure, MembersAlreadySetStayWhenThePlaceIsAdded) {
+  const FailurePlace first{.File = "a", .Line = 1, .Key = "k", .Text = "t"};
+  const FailurePlace second{.File = "b", .Line = 2, .Key = "l", .Text = "u"};
+  EXPECT_STREQ(RunTimeFailure("reason", first).At(second).what(), "a:1: k: reason: 't'");
+  EXPECT_STREQ(RunTimeFailure("reason").At(second).what(), "b:2: l: reason: 'u'");
+  EXPECT_EQ(RunTimeFailure("reason").At(second).At(first).Place().Line, 2);
+  EXPECT_EQ(RunTimeFailure("reason", first).At(second).Reason(), "reason");
+}
+
 TEST(RunTimeFailure, KeepsWhatIsKnownWhenThePlaceIsAdded) {
   const RunTimeFailure failure("not a whole number", {.File = {}, .Line = 0, .Key = {}, .Text = "x"});
   const RunTimeFailure placed = failure.At({.File = "User.tmp", .Line = 3, .Key = "UserNum", .Text = "y"});

@@ -115,5 +115,23 @@ TEST(LeftCharacters, CountsCodeUnitsOfUtf16) {
   EXPECT_EQ(LeftCharacters("\U0001F600ab", 3), "\U0001F600a");
 }
 
+TEST(CharacterCount, CountsCodeUnitsOfUtf16) {
+  EXPECT_EQ(CharacterCount(""), 0U);
+  EXPECT_EQ(CharacterCount("abc"), 3U);
+  EXPECT_EQ(CharacterCount("\u00E4\u8868"), 2U);
+  EXPECT_EQ(CharacterCount("\U0001F600a"), 3U);
+}
+
+TEST(EqualIgnoringCase, ComparesWholeTextsOfAnyScript) {
+  EXPECT_TRUE(EqualIgnoringCase("", ""));
+  EXPECT_TRUE(EqualIgnoringCase("Pn00A", "pN00a"));
+  EXPECT_FALSE(EqualIgnoringCase("Pn00A", "Pn00B"));
+  EXPECT_FALSE(EqualIgnoringCase("Pn00", "Pn000"));
+  EXPECT_FALSE(EqualIgnoringCase("Pn000", "Pn00"));
+  EXPECT_FALSE(EqualIgnoringCase("", "a"));
+  EXPECT_TRUE(EqualIgnoringCase("\u00C4", "\u00E4"));
+  EXPECT_FALSE(EqualIgnoringCase("\u00C4", "\u00F6"));
+}
+
 }  // namespace
 }  // namespace tarvis
