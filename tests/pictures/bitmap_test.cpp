@@ -179,7 +179,7 @@ void ExpectRefused(const std::string& bytes) {
     FAIL() << "no failure";
   } catch (const RunTimeFailure& failure) {
     EXPECT_EQ(failure.Place().File, "graph.bmp");
-    EXPECT_FALSE(failure.Place().Text.empty());
+    EXPECT_FALSE(failure.Place().Text.value_or("").empty());
   }
 }
 
