@@ -78,7 +78,7 @@ TEST_F(PictureFiles, ThatAreNoPicturesFailWithTheirNameAndTheReason) {
     FAIL() << "no failure";
   } catch (const RunTimeFailure& failure) {
     EXPECT_EQ(failure.Place().File, path);
-    EXPECT_FALSE(failure.Place().Text.empty());
+    EXPECT_FALSE(failure.Place().Text.value_or("").empty());
   }
 }
 
