@@ -4,8 +4,8 @@
 #include <QFileDialog>
 #include <QToolButton>
 
-#include "preview/full_disk.h"
 #include "preview/print_fixture.h"
+#include "support/full_disk.h"
 
 namespace tarvis {
 namespace {
