@@ -35,8 +35,7 @@ bool LiesOn(const Rect& picture, const Rect& box) {
 
 bool IsCaptionOf(const Rect& picture, const Item& item) {
   const float distance = picture.Top - item.Box.Bottom();
-  return item.Kind == ItemKind::Text && distance >= -SameEdge && distance < CaptionDistance &&
-         item.Box.Left >= picture.Left - SameEdge && item.Box.Left < picture.Right();
+  return item.Kind == ItemKind::Text && distance >= -SameEdge && distance < CaptionDistance;
 }
 
 // What lies above `room` twips and stays there. What lies on a picture, and the line of text right above it,
