@@ -177,7 +177,7 @@ TEST_F(TraceObject, TakesDisplayAsAWholeNumber) {
   EXPECT_EQ(TextsOf(Compose(), "txtValueVal").at(1), "Display");
 }
 
-TEST_F(TraceObject, ANamedChannelWhoseDisplayIsNoNumberIsARunTimeFailureThatNamesIt) {
+TEST_F(TraceObject, ANamedChannelWhoseDisplayIsNoNumberIsARunTimeFailureThatNamesItsKey) {
   for (const char* report : {"rptTraceObject", "rptTraceObjrctOverlap"}) {
     for (const char* display : {"", "x", "40000"}) {
       Run.Trace.DataTrace2 = {"Torque", display, "%"};
@@ -185,7 +185,7 @@ TEST_F(TraceObject, ANamedChannelWhoseDisplayIsNoNumberIsARunTimeFailureThatName
         Report.ComposeAlone(report);
         ADD_FAILURE() << report << " took '" << display << "'";
       } catch (const RunTimeFailure& failure) {
-        EXPECT_THAT(failure.what(), HasSubstr("channel 'Torque'"));
+        EXPECT_THAT(failure.what(), HasSubstr("DataTrace2: element 2: n"));
       }
     }
   }
