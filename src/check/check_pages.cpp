@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::int16_t HighestMark = 2;  // of a check box: off, on, grey
 
-// Stands for every picture, so that a file is judged alike wherever it is checked.
+// Replaces every picture, so that the result of a check doesn't depend on the machine.
 class AnyPicture : public Picture {
  public:
   float NaturalWidth() const override { return 1; }

@@ -9,7 +9,6 @@
 #include "text/native_path.h"
 
 namespace tarvis {
-namespace {}  // namespace
 
 void LoadPrintOptions(PrintRun& run) {
   PrintSession& session = run.Session;

@@ -1,4 +1,4 @@
-// Files that last: what the standard library can't ask of the operating system.
+// Makes a file that was written safe against a loss of power. The standard library has no such call.
 #pragma once
 
 #include <filesystem>

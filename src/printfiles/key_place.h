@@ -1,4 +1,4 @@
-// Where a key stood in its file, for values that fail only long after they were read.
+// The line of a key in its file, for values that fail only long after they were read.
 #pragma once
 
 #include <string_view>

@@ -35,7 +35,7 @@ class LineValue {
     if (element_ > 0) ++element_;
     return std::exchange(rest_, {});
   }
-  // The number that stands in the piece taken last. A RunTimeFailure names the element.
+  // The piece taken last as a number. A RunTimeFailure names the element.
   std::int16_t Number(std::string_view piece) const {
     try {
       return StrictInteger(piece);

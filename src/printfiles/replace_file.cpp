@@ -17,8 +17,9 @@ constexpr std::u8string_view Ending = u8".new";
 constexpr std::u8string_view HexDigits = u8"0123456789abcdef";
 constexpr std::size_t NumberLength = 16;
 
-// Where the bytes belong: the regular file at `path` or behind the link there, or `path` itself if nothing is
-// there. Empty for everything else: what is no regular file must neither be waited for nor taken away.
+// Where the bytes belong: the regular file at `path` or the target of the link there, or `path` itself if
+// nothing is there. Empty for everything else: what is no regular file must neither be waited for nor taken
+// away.
 std::optional<fs::path> Destination(const fs::path& path) {
   std::error_code error;
   const fs::file_type type = fs::symlink_status(path, error).type();

@@ -37,7 +37,7 @@ class ProgramWindows {
   virtual void SetHelpFile(const std::string& path) = 0;
 };
 
-// What the standard library has no call for: returns when the bytes of the closed file `fresh` are on the
+// Not part of the standard library: returns when the bytes of the closed file `fresh` are on the
 // disk, and gives it the owner of `replaced`, if there is such a file. False if the bytes may be lost.
 using FileSettler =
     std::function<bool(const std::filesystem::path& fresh, const std::filesystem::path& replaced)>;

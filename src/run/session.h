@@ -39,7 +39,7 @@ struct PrintSession {
   std::string Diagnosis;       // why a data file or a picture was refused, in one line; empty if none was
 
   std::map<std::string, int, std::less<>>
-      OptionLines;  // where each key stood in the options file that was read
+      OptionLines;  // the line of each key in the options file that was read
 
   ActiveReport* MasterReport = nullptr;  // the running master report; not owned
   CheckedArray<std::string> ModuleNames{"ModuleNames"};

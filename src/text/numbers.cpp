@@ -35,7 +35,7 @@ bool StartsWithLetter(std::string_view text) {
   return !text.empty() && std::isalpha(static_cast<unsigned char>(text.front())) != 0;
 }
 
-// Where the first digit of `number` that isn't 0 stands: 0 for the place right before the decimal point, 1
+// The position of the first digit of `number` that isn't 0: 0 for the place right before the decimal point, 1
 // for tens, -1 for tenths, and so on; the exponent counts.
 std::int64_t PlaceOfFirstDigit(std::string_view number) {
   constexpr std::int64_t Far = std::int64_t{1} << 40;  // outweighs the digits of any text

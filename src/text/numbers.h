@@ -13,7 +13,7 @@ std::int16_t StrictInteger(std::string_view text);
 std::int32_t StrictLong(std::string_view text);
 double StrictReal(std::string_view text);
 
-// The longest numeric prefix behind leading blanks; 0 if there is none, infinity for one that no double
+// The longest numeric prefix after leading blanks; 0 if there is none, infinity for one that no double
 // holds. Never fails.
 double LenientReal(std::string_view text);
 

@@ -28,7 +28,7 @@ class RunTimeFailure : public std::runtime_error {
 
   // A copy that names the place, for members which the thrower could not know. Members already set stay.
   RunTimeFailure At(const FailurePlace& place) const;
-  // A copy for which the key of `place` stands even if the thrower named another thing, such as an array.
+  // A copy with the key of `place` even if the thrower named another thing, such as an array.
   RunTimeFailure AtKey(const FailurePlace& place) const;
 
  private:

@@ -1,4 +1,4 @@
-"""The bells that an X server rings, as a deaf user's program would be told of them."""
+"""The bells that an X server rings, with their times."""
 import ctypes
 
 CORE_KEYBOARD = 0x100

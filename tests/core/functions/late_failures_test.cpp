@@ -1,4 +1,4 @@
-// What fails only when the pages are made, long after it was read, still tells where it stands in its file.
+// What fails only when the pages are made, long after it was read, still names its line in the file.
 #include <gtest/gtest.h>
 
 #include "core/support/test_run.h"
