@@ -44,7 +44,7 @@ struct Dib {
 
 // Bottom row first: blue white; top row: red green.
 void ExpectFourColors(const std::string& bytes) {
-  const QImage shown = Shown(bytes, {2, 2});
+  const QImage shown = PaintedPicture(bytes, {2, 2});
   EXPECT_EQ(shown.pixelColor(0, 0), Red);
   EXPECT_EQ(shown.pixelColor(1, 0), Green);
   EXPECT_EQ(shown.pixelColor(0, 1), Blue);
@@ -108,8 +108,8 @@ TEST(Bitmap, Of4BitsUsesItsColors) {
 }
 
 TEST(Bitmap, Of1BitUsesItsTwoColors) {
-  const QImage shown =
-      Shown(Dib{.Bits = 1, .Colors = {0xFF0000, 0x0000FF}, .Data = "\x40\0\0\0\x80\0\0\0"s}.File(), {2, 2});
+  const QImage shown = PaintedPicture(
+      Dib{.Bits = 1, .Colors = {0xFF0000, 0x0000FF}, .Data = "\x40\0\0\0\x80\0\0\0"s}.File(), {2, 2});
   EXPECT_EQ(shown.pixelColor(0, 0), Blue);
   EXPECT_EQ(shown.pixelColor(1, 0), Red);
   EXPECT_EQ(shown.pixelColor(0, 1), Red);
@@ -130,7 +130,7 @@ TEST(Bitmap, RunLengthCodedIn4Bits) {
 
 TEST(Bitmap, RunLengthCodedMaySkipPixels) {
   const std::string data = "\0\2\1\0\1\3"s + "\0\0\1\0\1\1\0\1"s;
-  const QImage shown = Shown(
+  const QImage shown = PaintedPicture(
       Dib{.Bits = 8, .Compression = 1, .ColorsUsed = 4, .Colors = FourColors, .Data = data}.File(), {2, 2});
   EXPECT_EQ(shown.pixelColor(0, 1), Red);
   EXPECT_EQ(shown.pixelColor(1, 1), White);
@@ -151,15 +151,15 @@ TEST(Bitmap, WithALongHeaderKeepsItsMasksInside) {
 }
 
 TEST(Bitmap, WithAnAlphaMaskIsSeenThrough) {
-  const QImage shown = Shown(Dib{.HeaderSize = 124,
-                                 .Width = 1,
-                                 .Height = 1,
-                                 .Bits = 32,
-                                 .Compression = 3,
-                                 .Masks = {0xFF0000, 0xFF00, 0xFF, 0xFF000000},
-                                 .Data = Words({0x80FF0000}, 4)}
-                                 .File(),
-                             {1, 1});
+  const QImage shown = PaintedPicture(Dib{.HeaderSize = 124,
+                                          .Width = 1,
+                                          .Height = 1,
+                                          .Bits = 32,
+                                          .Compression = 3,
+                                          .Masks = {0xFF0000, 0xFF00, 0xFF, 0xFF000000},
+                                          .Data = Words({0x80FF0000}, 4)}
+                                          .File(),
+                                      {1, 1});
   EXPECT_NEAR(shown.pixelColor(0, 0).green(), 127, 2);
   EXPECT_EQ(shown.pixelColor(0, 0).red(), 255);
 }
@@ -222,7 +222,7 @@ std::string Saved(const char* format, QSize size = {16, 8}) {
 
 TEST(ToolkitPicture, ShowsByContent) {
   for (const char* format : {"BMP", "JPG", "ICO", "PNG"}) {
-    const QColor color = Shown(Saved(format), {4, 4}).pixelColor(2, 2);
+    const QColor color = PaintedPicture(Saved(format), {4, 4}).pixelColor(2, 2);
     EXPECT_GT(color.red(), 240) << format;
     EXPECT_LT(color.green(), 15) << format;
   }
@@ -233,12 +233,12 @@ TEST(ToolkitPicture, ACursorShowsAsTheIconThatItIs) {
   cursor[2] = 2;
   cursor[10] = 7;  // hot spot
   cursor[12] = 9;
-  EXPECT_EQ(Shown(cursor, {4, 4}).pixelColor(2, 2), Red);
+  EXPECT_EQ(PaintedPicture(cursor, {4, 4}).pixelColor(2, 2), Red);
 }
 
 TEST(ToolkitPicture, AGifShows) {
   const std::string gif = "GIF89a\1\0\1\0\x80\0\0\xFF\0\0\0\0\0\x2C\0\0\0\0\1\0\1\0\0\2\2\x44\1\0\x3B"s;
-  EXPECT_EQ(Shown(gif, {2, 2}).pixelColor(1, 1), Red);
+  EXPECT_EQ(PaintedPicture(gif, {2, 2}).pixelColor(1, 1), Red);
 }
 
 TEST(ToolkitPicture, CutOrUnknownIsRefused) {

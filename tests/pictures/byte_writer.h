@@ -42,7 +42,7 @@ class ByteWriter {
 };
 
 // What `bytes` show on white paper of `size`.
-inline QImage Shown(const std::string& bytes, QSize size) {
+inline QImage PaintedPicture(const std::string& bytes, QSize size) {
   PictureFileLoader loader;
   const PicturePtr picture = loader.LoadBytes("made up", bytes);
   QImage paper(size, QImage::Format_RGB32);

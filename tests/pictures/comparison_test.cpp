@@ -43,7 +43,7 @@ TEST_P(MetafileOfAnotherWriter, LooksAsAnIndependentRendererShowsIt) {
   const QImage reference(QString(TARVIS_SOURCE_DIR "/tests/pictures/data/") + GetParam().Name + ".png");
   ASSERT_FALSE(reference.isNull());
   const std::string bytes = ReadData(GetParam().Name);
-  const QImage shown = Shown(bytes, reference.size());
+  const QImage shown = PaintedPicture(bytes, reference.size());
   const double difference = MeanDifference(Eighth(shown), Eighth(reference));
   EXPECT_LT(difference, GetParam().Tolerance);
   // An empty page would differ more.
@@ -67,7 +67,7 @@ INSTANTIATE_TEST_SUITE_P(Samples, MetafileOfAnotherWriter,
                                          Sample{"lo_shapes.wmf", 0.01}));
 
 TEST(MetafileOfAnotherWriter, AGradientCutToAShapeKeepsItsColorsAndStaysInside) {
-  const QImage shown = Shown(ReadData("lo_deck.emf"), {480, 360});
+  const QImage shown = PaintedPicture(ReadData("lo_deck.emf"), {480, 360});
   const QColor inside = shown.pixelColor(260, 160);
   EXPECT_GT(inside.red(), 200);
   EXPECT_LT(inside.blue(), 100);

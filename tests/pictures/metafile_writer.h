@@ -100,7 +100,7 @@ class EmfWriter {
     out.Zeros(12).I32(100).I32(100).I32(100).I32(100);
     return out.Add(body).Bytes();
   }
-  QImage Show(QSize size = {100, 100}) const { return Shown(Bytes(), size); }
+  QImage Show(QSize size = {100, 100}) const { return PaintedPicture(Bytes(), size); }
 
  private:
   ByteWriter records_;
@@ -152,7 +152,7 @@ class WmfWriter {
     out.U16(1).U16(9).U16(0x300).U32(static_cast<std::uint32_t>(9 + body.Size() / 2)).U16(16).U32(0).U16(0);
     return out.Add(body).Bytes();
   }
-  QImage Show(QSize size = {100, 100}) const { return Shown(Bytes(), size); }
+  QImage Show(QSize size = {100, 100}) const { return PaintedPicture(Bytes(), size); }
 
  private:
   ByteWriter records_;
