@@ -55,6 +55,7 @@ struct KeptGroup : testing::TestWithParam<KeptReport> {
   // The page of the report's band where a block above leaves `room` twips of the first page.
   std::size_t PageBelowBlock(float room) {
     SampleReport host;
+    Report.Run.Session.MasterReport = &host;  // takes the contents entries
     SubReport& place = host.Growing(SectionKind::Detail, "Detail").AddSubReport("sbr", {0, 0, 9000, 0});
     host.Rows(2, [&](int row) {
       if (row == 0) {
