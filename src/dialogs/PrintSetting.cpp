@@ -137,8 +137,8 @@ void PrintSetting::LoadDialog() {
   ShowWithPage();
 }
 
-// The page may have something to say about what it loads, which is to be said over the dialog and not before any
-// window is there.
+// The page may have something to say about what it loads, which is to be said over the dialog and not before
+// any window is there.
 void PrintSetting::ShowWithPage() {
   show();
   try {

@@ -36,8 +36,8 @@ struct PrintSettingServices {
 // the run as numbered failures; options that no control can show throw RunTimeFailure, and so may every
 // handling that a click runs, through the event loop to the application object.
 //
-// Create it with new: it shows itself, modeless. When the user confirms it deletes itself; every other way out of
-// it ends the run.
+// Create it with new: it shows itself, modeless. When the user confirms it deletes itself; every other way
+// out of it ends the run.
 class PrintSetting : public FittedDialog {
   Q_OBJECT
 

@@ -1,7 +1,8 @@
+#include "printfiles/mecha_file.h"
+
 #include <gtest/gtest.h>
 
 #include "core/support/line_cases.h"
-#include "printfiles/mecha_file.h"
 
 namespace tarvis {
 namespace {

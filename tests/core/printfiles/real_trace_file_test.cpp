@@ -1,7 +1,8 @@
+#include "printfiles/real_trace_file.h"
+
 #include <gtest/gtest.h>
 
 #include "core/support/line_cases.h"
-#include "printfiles/real_trace_file.h"
 
 namespace tarvis {
 namespace {

@@ -1,8 +1,9 @@
+#include "printfiles/trace_file.h"
+
 #include <gtest/gtest.h>
 
 #include "core/support/line_cases.h"
 #include "printfiles/host_files.h"
-#include "printfiles/trace_file.h"
 
 namespace tarvis {
 namespace {
