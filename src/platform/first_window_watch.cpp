@@ -57,6 +57,8 @@ FirstWindowWatch::~FirstWindowWatch() {
 void FirstWindowWatch::WaitsFor(std::string what) {
   const std::lock_guard lock(mutex_);
   what_ = std::move(what);
+  ++step_;
+  changed_.notify_all();
 }
 
 void FirstWindowWatch::NoticeWindows() {
@@ -68,9 +70,13 @@ void FirstWindowWatch::NoticeWindows() {
 // The lock is held while the line is written, so that none appears after `End`.
 void FirstWindowWatch::Watch() {
   std::unique_lock lock(mutex_);
-  if (changed_.wait_for(lock, patience_, [this] { return isEnded_; })) return;
-  desktop_.Diagnose("no window is shown after " + std::to_string(patience_.count()) +
-                    " s; the start waits for " + what_);
+  int step = step_;
+  while (changed_.wait_for(lock, patience_, [&] { return isEnded_ || step_ != step; })) {
+    if (isEnded_) return;
+    step = step_;
+  }
+  desktop_.Diagnose("no window is shown yet; the start has waited " + std::to_string(patience_.count()) +
+                    " s for " + what_);
 }
 
 void FirstWindowWatch::End() {

@@ -15,8 +15,9 @@
 namespace tarvis {
 
 // Waits in a thread of its own, since the start hangs in calls of the toolkit that return late or never. If
-// no window shows within `patience`, it says once, on standard error, what the start waits for, and leaves
-// the start alone. It says nothing once a window has been shown or the object is gone.
+// one step of the start takes longer than `patience` and no window shows, it says once, on standard error,
+// what the start waits for, and leaves the start alone. A start that is only slow goes from step to step. It
+// says nothing once a window has been shown or the object is gone.
 class FirstWindowWatch {
  public:
   // `desktop` must outlive the watch; `Diagnose` is called from the thread. If the system gives no thread,
@@ -26,7 +27,7 @@ class FirstWindowWatch {
   FirstWindowWatch(const FirstWindowWatch&) = delete;
   FirstWindowWatch& operator=(const FirstWindowWatch&) = delete;
 
-  // What the start does from now on, in words that follow "waits for".
+  // What the start does from now on, in words that follow "has waited 10 s for".
   void WaitsFor(std::string what);
   // To be called once the application object exists: from now on, its windows are noticed.
   void NoticeWindows();
@@ -41,6 +42,7 @@ class FirstWindowWatch {
   std::mutex mutex_;  // guards the rest
   std::condition_variable changed_;
   std::string what_ = "the system";
+  int step_ = 0;  // counts what the start has waited for
   bool isEnded_ = false;
   std::thread thread_;
 };

@@ -36,7 +36,7 @@ TEST(FirstWindowWatch, TellsOnceWhatAStartWithoutAWindowWaitsFor) {
     watch.WaitsFor("the fonts");
   }
   EXPECT_EQ(desktop.Diagnoses,
-            std::vector<std::string>{"no window is shown after 1 s; the start waits for the display :7"});
+            std::vector<std::string>{"no window is shown yet; the start has waited 1 s for the display :7"});
 }
 
 TEST(FirstWindowWatch, IsSilentOnceAWindowHasBeenShown) {
@@ -61,7 +61,7 @@ TEST(FirstWindowWatch, TellsOfAWindowThatIsBuiltButNotShown) {
   }
   EXPECT_EQ(
       desktop.Diagnoses,
-      std::vector<std::string>{"no window is shown after 1 s; the start waits for its dialog to be built, "
+      std::vector<std::string>{"no window is shown yet; the start has waited 1 s for its dialog to be built, "
                                "which asks the message buses of the desktop"});
 }
 

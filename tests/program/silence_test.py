@@ -41,7 +41,7 @@ class Silence(ProgramCase):
     def expect_told(self, words):
         """One line, after ten seconds, and the start still waits."""
         wait_until(self.standard_error, f"'{words}'")
-        self.assertEqual(self.standard_error(), f"tarvis: no window is shown after 10 s; the start waits for {words}\n")
+        self.assertEqual(self.standard_error(), f"tarvis: no window is shown yet; the start has waited 10 s for {words}\n")
 
     def expect_left_out(self, environment, name, address):
         """The dialog shows all the same, and one line says what is missing. On a busy machine another one may follow."""
