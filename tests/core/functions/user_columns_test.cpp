@@ -184,7 +184,7 @@ TEST_F(ParameterColumns, ANegativeCountPrintsTitlesWithoutRows) {
   EXPECT_THAT(PrintedOf(document, "txtValueNo"), IsEmpty());
 }
 
-struct ParameterPages : HostRun {
+struct FirstParameterPage : HostRun {
   // How many rows stand on each page of A4 below the common header.
   std::vector<int> RowsOfPages(int count) {
     std::vector<std::string> lines{"File-Spec,3", "UserNum," + std::to_string(count)};
@@ -209,7 +209,7 @@ struct ParameterPages : HostRun {
 };
 
 // 14918 twips of body hold header (855), title (630), guide (427) and 44 rows of 295.
-TEST_F(ParameterPages, TakeFortyFourRowsBelowTheirHeaders) {
+TEST_F(FirstParameterPage, TakesFortyFourRowsBelowItsHeaders) {
   EXPECT_THAT(RowsOfPages(44), ElementsAre(44));
   EXPECT_THAT(RowsOfPages(45), ElementsAre(44, 1));
   EXPECT_THAT(RowsOfPages(46), ElementsAre(44, 2));
