@@ -247,10 +247,6 @@ TEST(EmfText, SmallRecordsShow) {
   EXPECT_EQ(Ink(TextEmf().Add(108, text).Show()), Ink(TextEmf().Text(10, 20, "H").Show()));
 }
 
-TEST(EmfText, GlyphNumbersAreSkippedAndCounted) {
-  EXPECT_EQ(Play(TextEmf().Rectangle(0, 0, 9, 9).Text(10, 20, "H", {}, 0x10).Bytes())->SkippedRecords(), 1);
-}
-
 // Left half red, right half blue; the bottom row is green.
 ByteWriter Flag() {
   return Dib24(4, 4, [](int x, int y) { return y == 3 ? Green : x < 2 ? Red : Blue; });
