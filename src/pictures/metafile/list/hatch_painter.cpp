@@ -1,14 +1,16 @@
 #include "pictures/metafile/list/hatch_painter.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cmath>
+#include <span>
 
 namespace tarvis {
 namespace {
 
 constexpr double MostHatchLines = 4000;
-constexpr int DotsAcross = 8;
+constexpr std::size_t DotsAcross = 8;
 constexpr double Overlap = 1.04;  // rows of dots that touch must leave no seam
 
 // Calls `add` with each multiple of `step` from `from` to before `to`.
@@ -42,27 +44,33 @@ QList<QLineF> HatchLines(const QRectF& box, Qt::BrushStyle style, double step) {
 
 // The dots as a picture of one pixel each.
 QImage DotImage(const ListBrush& brush) {
-  QImage image(DotsAcross, DotsAcross, QImage::Format_ARGB32);
+  constexpr int side = static_cast<int>(DotsAcross);
+  QImage image(side, side, QImage::Format_ARGB32);
   const QRgb behind = brush.Behind.isValid() ? brush.Behind.rgba() : 0;
-  for (int y = 0; y < DotsAcross; ++y)
-    for (int x = 0; x < DotsAcross; ++x)
+  for (int y = 0; y < side; ++y)
+    for (int x = 0; x < side; ++x)
       image.setPixel(x, y, IsDot(brush.Dots, x, y) ? brush.Brush.color().rgba() : behind);
   return image;
 }
 
-// One row of dots: where its first run of dots starts, and the lengths of runs and gaps by turns.
+// One row of dots: where a run of dots starts, and the lengths of runs and gaps by turns.
 struct DotRow {
-  int Start = 0;
+  std::size_t Start = 0;
   QList<qreal> Dashes;  // none: the row is full
 };
 
 DotRow RunsOf(std::uint8_t row) {
-  const auto isDot = [row](int x) { return (row >> (DotsAcross - 1 - x % DotsAcross) & 1) != 0; };
+  std::array<bool, 2 * DotsAcross> dots{};  // the row, and again what follows it
+  for (std::size_t x = 0; x < dots.size(); ++x) dots[x] = (row >> (DotsAcross - 1 - x % DotsAcross) & 1) != 0;
   DotRow runs;
   if (row == 0xFF) return runs;
-  while (isDot(runs.Start) == isDot(runs.Start + DotsAcross - 1) || !isDot(runs.Start)) ++runs.Start;
-  for (int x = 0, run = 1; x < DotsAcross; ++x, ++run) {
-    if (x + 1 < DotsAcross && isDot(runs.Start + x) == isDot(runs.Start + x + 1)) continue;
+  runs.Start = 1;
+  while (runs.Start < DotsAcross && (dots[runs.Start - 1] || !dots[runs.Start])) ++runs.Start;
+  int run = 0;
+  for (std::size_t x = 0; x < DotsAcross; ++x) {
+    ++run;
+    const bool here = dots[(runs.Start + x) % DotsAcross];
+    if (x + 1 < DotsAcross && here == dots[(runs.Start + x + 1) % DotsAcross]) continue;
     runs.Dashes << run;
     run = 0;
   }
@@ -72,12 +80,12 @@ DotRow RunsOf(std::uint8_t row) {
 // Each row of dots is a dashed line, so that an area takes a line for each of its rows and not a box for each
 // of its dots.
 void DotLines(QPainter& painter, const QRectF& box, const ListBrush& brush, double dot) {
-  const double tile = dot * DotsAcross;
+  const double tile = dot * static_cast<double>(DotsAcross);
   const double left = std::floor(box.left() / tile) * tile;
-  for (int y = 0; y < DotsAcross; ++y) {
-    const std::uint8_t row = brush.Dots[static_cast<std::size_t>(y)];
-    const bool isDrawnAlready =
-        std::find(brush.Dots.begin(), brush.Dots.begin() + y, row) != brush.Dots.begin() + y;
+  for (std::size_t y = 0; y < brush.Dots.size(); ++y) {
+    const std::uint8_t row = brush.Dots[y];
+    const std::span<const std::uint8_t> above(brush.Dots.data(), y);
+    const bool isDrawnAlready = std::ranges::find(above, row) != above.end();
     if (row == 0 || isDrawnAlready) continue;
     const DotRow runs = RunsOf(row);
     QPen pen(brush.Brush.color(), dot * Overlap, Qt::SolidLine, Qt::FlatCap);
@@ -85,10 +93,10 @@ void DotLines(QPainter& painter, const QRectF& box, const ListBrush& brush, doub
     for (qreal& dash : dashes) dash /= Overlap;
     if (!dashes.isEmpty()) pen.setDashPattern(dashes);
     QList<QLineF> lines;
-    const double start = runs.Dashes.isEmpty() ? left : left - tile + runs.Start * dot;
+    const double start = runs.Dashes.isEmpty() ? left : left - tile + static_cast<double>(runs.Start) * dot;
     ForEachStep(box.top() - dot, box.bottom(), dot, [&](double top) {
-      const auto number = static_cast<std::int64_t>(std::llround(top / dot)) % DotsAcross;
-      const auto here = static_cast<std::size_t>((number + DotsAcross) % DotsAcross);
+      constexpr auto rows = static_cast<std::int64_t>(DotsAcross);
+      const auto here = static_cast<std::size_t>((std::llround(top / dot) % rows + rows) % rows);
       if (brush.Dots[here] == row) lines << QLineF(start, top + dot / 2, box.right(), top + dot / 2);
     });
     painter.setPen(pen);
