@@ -36,6 +36,11 @@ FittedDialog::FittedDialog(const char* name, const char* caption, const Plan& pl
   Fit();
 }
 
+// The focus moves once more while the controls go.
+FittedDialog::~FittedDialog() {
+  disconnect(qApp, nullptr, this, nullptr);
+}
+
 QPushButton* FittedDialog::AddButton(const char* name, const char* caption, const Bounds& bounds) {
   QPushButton* button = MakeButton(name, caption, bounds, this);
   buttons_.push_back({button, button->pos()});

@@ -26,6 +26,7 @@ class FittedDialog : public QDialog {
   };
 
   FittedDialog(const char* name, const char* caption, const Plan& plan, QWidget* parent);
+  ~FittedDialog() override;
 
  protected:
   // The container of all controls above the buttons. It has the coordinates of the dialog.
