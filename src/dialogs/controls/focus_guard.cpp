@@ -42,7 +42,7 @@ void FocusGuard::Ask(QWidget& left, QWidget& entered) {
 bool FocusGuard::Enter(QWidget& control) {
   refused_ = false;
   if (!control.hasFocus()) control.setFocus(Qt::ShortcutFocusReason);
-  FocusMoved(&control);  // nothing more to do if the signal has come
+  if (!refused_) FocusMoved(&control);  // nothing more to do if the signal has come
   return !refused_;
 }
 
@@ -52,7 +52,10 @@ bool FocusGuard::eventFilter(QObject* watched, QEvent* event) {
   if (!press && event->type() != QEvent::Shortcut) return false;
   auto* control = qobject_cast<QWidget*>(watched);
   if (!IsOfWindow(control)) return false;
-  if (press) return std::exchange(swallowInput_, false);
+  if (press) {
+    if (swallowInput_) event->accept();  // a turn of the wheel would go on to what is around the control
+    return std::exchange(swallowInput_, false);
+  }
   auto* button = qobject_cast<QAbstractButton*>(control);
   if (button == nullptr || !button->isEnabled()) return false;
   // A mnemonic presses a push button without giving it the focus.
