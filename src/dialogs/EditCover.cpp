@@ -61,8 +61,9 @@ EditCover::EditCover(PrintRun& run, QWidget* parent, EditCoverServices services)
       *this, [this](const QWidget& left, const QWidget& entered) { return RefuseToLeave(left, entered); });
 }
 
-// The focus moves once more while the controls go; nobody is to be held back then.
+// The focus moves once more while the controls go; nobody is to be held back then, and no picture read.
 EditCover::~EditCover() {
+  logo_->disconnect(this);
   delete guard_;
 }
 
