@@ -57,7 +57,8 @@ TEST_F(NextPreview, keeps_the_side_pane_its_width_and_its_tab) {
   EXPECT_FALSE(Find<QTabWidget>("sidePane").isVisible());
   EXPECT_FALSE(window_->ActionOf(Command::SidePane)->isChecked());
   Press(Qt::Key_F7);
-  EXPECT_GT(Find<QTabWidget>("sidePane").width(), 100) << "it is there again, not squeezed to nothing";
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Find<QTabWidget>("sidePane").width() > 100; }))
+      << "it is there again, not squeezed to nothing";
 }
 
 TEST_F(NextPreview, shows_the_same_part_at_the_same_height_though_pages_came_ahead_of_it) {

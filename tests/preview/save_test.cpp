@@ -202,7 +202,7 @@ TEST_F(SavePdf, a_file_whose_name_has_quotes_is_asked_for_before_it_is_overwritt
 
 TEST_F(SavePdf, a_fifo_and_a_link_that_leads_nowhere_are_never_replaced) {
   OpenTable(1);
-  const QString fifo = Path("fifo");
+  const QString fifo = Path("fifo.pdf");
   ASSERT_EQ(mkfifo(fifo.toLocal8Bit().constData(), 0600), 0);
   EXPECT_TRUE(TryToSaveTo(fifo, QMessageBox::Ok).contains(QStringLiteral("not an ordinary file")));
   struct stat now {};
