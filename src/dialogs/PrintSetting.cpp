@@ -107,7 +107,7 @@ void PrintSetting::Connect() {
             });
   }
   connect(cmdEdit_, &QPushButton::clicked, this, &PrintSetting::EditClicked);
-  connect(cmbFunc_, &QComboBox::activated, this, &PrintSetting::FunctionClicked);
+  connect(cmbFunc_, &QComboBox::activated, this, &PrintSetting::FunctionChosen);
   for (std::int16_t index = 0; index < 2; ++index) {
     connect(optColor_.at(static_cast<std::size_t>(index)), &OptionButton::toggled, this,
             [this, index](bool on) {
@@ -211,10 +211,13 @@ void PrintSetting::SelectFunction(int index) {
   FunctionClicked();
 }
 
-// A page that holds the focus gives it up before it goes, which its range may refuse. The application has no
-// focus just after a message, the dialog has.
+// The page that was left may refuse it with a bad range. The wheel turns the list also while the dialog isn't
+// active, and then nothing else tells that the focus has moved.
+void PrintSetting::FunctionChosen() {
+  if (guard_->Enter(*cmbFunc_)) FunctionClicked();
+}
+
 void PrintSetting::FunctionClicked() {
-  if (shown_ != nullptr && shown_->isAncestorOf(focusWidget()) && !guard_->Enter(*cmbFunc_)) return;
   const FunctionEntry& entry = entries_[static_cast<std::size_t>(cmbFunc_->currentIndex())];
   ShowPage(*pages_.at(static_cast<std::size_t>(PageOf(entry))));
 }

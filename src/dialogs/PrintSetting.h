@@ -69,6 +69,8 @@ class PrintSetting : public FittedDialog {
   void ReadStepCount();
 
   void SelectFunction(int index);
+  // By the user.
+  void FunctionChosen();
   void FunctionClicked();
   bool RefuseToLeaveRange(const QWidget& left, const QWidget& entered);
   PageId PageOf(const FunctionEntry& entry) const;

@@ -1,6 +1,8 @@
 // A desktop whose messages come up as real boxes, if a test wants them.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QApplication>
 #include <QMessageBox>
 #include <QTest>
@@ -20,12 +22,17 @@ class BoxDesktop : public FakeDesktop {
   void ShowMessage(const std::string& title, const std::string& text) override {
     FakeDesktop::ShowMessage(title, text);
     if (!showsBoxes_) return;
+    QWidget* before = QApplication::activeWindow();
     QMessageBox box(QMessageBox::NoIcon, QString::fromStdString(title), QString::fromStdString(text),
                     QMessageBox::Ok, QApplication::activeWindow());
     QTimer::singleShot(0, &box, [&box] {
-      if (QTest::qWaitForWindowActive(&box)) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+      box.activateWindow();
+      EXPECT_TRUE(QTest::qWaitForWindowActive(&box));
+      QTest::keyClick(&box, Qt::Key_Return);
     });
     box.exec();
+    // As a window manager does, some time later: the platform of the tests has none.
+    if (before != nullptr) QTimer::singleShot(0, before, [before] { before->activateWindow(); });
   }
 
  private:

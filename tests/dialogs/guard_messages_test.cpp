@@ -47,6 +47,18 @@ TEST_F(RangeGuard, HoldsAgainstTheWheelOverTheFunctionList) {
   ExpectHeld();
 }
 
+TEST_F(RangeGuard, HoldsAgainstTheWheelWhileAnotherWindowIsActive) {
+  OpenWithBadRange();
+  QWidget other;
+  other.show();
+  other.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  TurnWheel(Find("cmbFunc"));
+  EXPECT_THAT(Desktop.Messages, testing::ElementsAre(WrongStep));
+  EXPECT_EQ(Find<QComboBox>("cmbFunc").currentIndex(), 2);
+  EXPECT_EQ(ShownPages(), "InfIdxTbl");
+}
+
 TEST_F(RangeGuard, HoldsAgainstOkAfterTheWheel) {
   OpenWithBadRange();
   TurnWheel(Find("cmbFunc"));
