@@ -258,6 +258,7 @@ TEST_F(ProgramTablePage, AStepIsSelectedAndPastedByKeyboardAndFilteredAsIfTyped)
   EXPECT_EQ(start.Text(), "17");
   Key(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(start.Text(), "11");
+  Key(Qt::Key_End);
   QInputMethodEvent typed;
   typed.setCommitString("a5");
   QApplication::sendEvent(&start, &typed);

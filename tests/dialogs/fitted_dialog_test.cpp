@@ -45,13 +45,13 @@ TEST_F(FittedDialogs, HaveTheirToldSizeInTheFontForWhichTheyAreDrawn) {
 }
 
 TEST_F(FittedDialogs, GrowAsAWholeWithTheUsersFont) {
-  SetUserFont(2 * DrawnFontPixels);
+  SetUserFont(15);
   OpenEditor();
-  EXPECT_EQ(Editor->size(), QSize(1134, 720).boundedTo(Editor->screen()->availableSize() - QSize(10, 40)));
-  EXPECT_EQ(In("txtDrow_0").geometry(), QRect(200, 74, 613, 42));
-  EXPECT_EQ(In("txtDrow_0").font().pixelSize(), 22);
-  EXPECT_EQ(Tabs().Bar()->height(), 44);
-  EXPECT_EQ(In("cmdOK").size(), QSize(194, 50));
+  EXPECT_EQ(Editor->size(), QSize(773, 491));
+  EXPECT_EQ(In("txtDrow_0").geometry(), QRect(136, 50, 419, 29));
+  EXPECT_EQ(In("txtDrow_0").font().pixelSize(), 15);
+  EXPECT_EQ(Tabs().Bar()->height(), 30);
+  EXPECT_EQ(In("cmdOK").geometry(), QRect(213, 445, 132, 34));
 }
 
 TEST_F(FittedDialogs, FollowAFontGivenInPoints) {
