@@ -88,10 +88,10 @@ class SavedFile(Output):
         target = self.home / "saved.pdf"
         session.save_pdf(target)
         self.wait_for_words(f"Saved as {target}")
-        self.widget(PREVIEW, "push button", "Open").press()
+        self.widget(PREVIEW, "button", "Open").press()
         wait_until(opened.exists, "the file to be opened")
         self.assertEqual(opened.read_text().strip(), f"file://{target}")
-        self.widget(PREVIEW, "push button", "Show in folder").press()
+        self.widget(PREVIEW, "button", "Show in folder").press()
         wait_until(lambda: len(opened.read_text().split()) == 2, "the folder to be opened")
         self.assertEqual(opened.read_text().split()[1], f"file://{self.home}")
         self.assertEqual(session.close_preview(), 0)
