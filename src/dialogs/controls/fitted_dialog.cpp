@@ -1,8 +1,8 @@
 #include "dialogs/controls/fitted_dialog.h"
 
 #include <QApplication>
-#include <QKeyEvent>
 #include <QScreen>
+#include <QShortcut>
 #include <QStyle>
 #include <QWindow>
 #include <algorithm>
@@ -33,6 +33,12 @@ FittedDialog::FittedDialog(const char* name, const char* caption, const Plan& pl
   scroll_->setWidget(upper);
   connect(qApp, &QApplication::focusChanged, this,
           [this](QWidget*, QWidget* entered) { FollowFocus(entered); });
+  // As shortcuts, since a list takes these keys for letters to search.
+  const auto turns = [this](const QKeyCombination& keys, int tabs) {
+    connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, tabs] { FrontTabs().Turn(tabs); });
+  };
+  turns(Qt::CTRL | Qt::Key_Tab, 1);
+  turns(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, -1);
   Fit();
 }
 
@@ -76,13 +82,6 @@ void FittedDialog::showEvent(QShowEvent* event) {
 
 void FittedDialog::FollowFocus(QWidget* control) {
   if (control != nullptr && Upper()->isAncestorOf(control)) scroll_->ensureWidgetVisible(control);
-}
-
-void FittedDialog::keyPressEvent(QKeyEvent* event) {
-  const bool back = event->key() == Qt::Key_Backtab || event->modifiers().testFlag(Qt::ShiftModifier);
-  const bool tabKey = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
-  if (!tabKey || !event->modifiers().testFlag(Qt::ControlModifier)) return QDialog::keyPressEvent(event);
-  FrontTabs().Turn(back ? -1 : 1);
 }
 
 }  // namespace tarvis

@@ -37,7 +37,6 @@ class FittedDialog : public QDialog {
   virtual TabControl& FrontTabs() const = 0;
 
   void showEvent(QShowEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   struct BottomButton {
