@@ -32,12 +32,14 @@ inline std::vector<QWidget*> Visible(const QWidget& container) {
   }
   return shown;
 }
-// The told places of neighbours overlap by up to two pixels of their empty edges; and the text boxes of title
+// The told places of neighbours overlap by up to 30 twips of their empty edges; and the text boxes of title
 // and greeting lie on the empty end of what stands beside or above them.
 inline bool Overlap(const QWidget& a, const QWidget& b) {
   if (a.objectName() == "chkHeader_0" && b.objectName() == "txtTitle") return false;
   if (a.objectName() == "lblGreeting" && b.objectName() == "txtGreeting") return false;
-  return a.geometry().adjusted(1, 1, -1, -1).intersects(b.geometry().adjusted(1, 1, -1, -1));
+  const int edge = Pixels(22, a);  // half of that, and what rounding adds
+  const QMargins edges(edge, edge, edge, edge);
+  return a.geometry().marginsRemoved(edges).intersects(b.geometry().marginsRemoved(edges));
 }
 inline void ExpectApart(const QWidget& container) {
   const std::vector<QWidget*> shown = Visible(container);
