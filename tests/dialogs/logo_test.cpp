@@ -139,6 +139,8 @@ TEST_F(LogoPicture, IsShownWhenItWasChosenOrDropped) {
   EXPECT_TRUE(QTest::qWaitFor([this] { return Seen() == QColor(Qt::red); }));
   QMimeData dragged;
   dragged.setUrls({QUrl::fromLocalFile(QString::fromStdString(SavePicture("blue.bmp", Qt::blue)))});
+  QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, {});
+  QApplication::sendEvent(&In("txtDrow_8"), &enter);
   QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, {});
   QApplication::sendEvent(&In("txtDrow_8"), &drop);
   EXPECT_TRUE(QTest::qWaitFor([this] { return Seen() == QColor(Qt::blue); }));
