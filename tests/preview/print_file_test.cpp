@@ -215,6 +215,7 @@ TEST_F(PrintFile, can_be_chosen_in_the_dialog_for_saving_and_is_asked_for_once) 
         ++questions;
         QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
       });
+      In<QLineEdit>(files, "fileNameEdit").setFocus();
       In<QLineEdit>(files, "fileNameEdit").setText(Path("printed.pdf"));
       QTest::mouseClick(files.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save), Qt::LeftButton);
     });

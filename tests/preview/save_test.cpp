@@ -21,7 +21,9 @@ class SavePdf : public WindowTest {
  protected:
   QString Path(const char* name) const { return folder_.filePath(QString::fromLatin1(name)); }
   static void EnterPath(QFileDialog& dialog, const QString& path) {
-    dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path);
+    auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    name->setFocus();
+    name->setText(path);
     QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save), Qt::LeftButton);
   }
   // Enters a path into the dialog for saving and confirms.

@@ -86,15 +86,17 @@ TEST_F(Touch, two_fingers_on_a_touchpad_zoom_at_their_place) {
 
 TEST_F(Touch, two_fingers_on_a_touch_screen_zoom) {
   OpenTable(5);
-  QPointingDevice* screen = QTest::createTouchDevice();
+  const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
   QWidget* viewport = View().viewport();
   const double zoom = View().Zoom();
   const auto move = [&](int apart) {
-    QTest::touchEvent(viewport, screen).move(0, QPoint(300 - apart, 250)).move(1, QPoint(300 + apart, 250));
+    QTest::touchEvent(viewport, screen.get())
+        .move(0, QPoint(300 - apart, 250))
+        .move(1, QPoint(300 + apart, 250));
   };
-  QTest::touchEvent(viewport, screen).press(0, QPoint(250, 250)).press(1, QPoint(350, 250));
+  QTest::touchEvent(viewport, screen.get()).press(0, QPoint(250, 250)).press(1, QPoint(350, 250));
   for (int apart = 50; apart <= 100; apart += 5) move(apart);
-  QTest::touchEvent(viewport, screen).release(0, QPoint(200, 250)).release(1, QPoint(400, 250));
+  QTest::touchEvent(viewport, screen.get()).release(0, QPoint(200, 250)).release(1, QPoint(400, 250));
   EXPECT_GT(View().Zoom(), zoom * 1.5);
   EXPECT_LT(View().Zoom(), zoom * 2.5);
 }
