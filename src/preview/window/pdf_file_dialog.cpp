@@ -6,7 +6,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "preview/window/replace_file.h"
+#include "preview/window/overwrite_question.h"
 
 namespace tarvis {
 namespace {
@@ -57,6 +57,7 @@ void PdfFileDialog::accept() {
   const bool isOurs = NameBox(*this) != nullptr && !path.isEmpty() && !QFileInfo(path).isDir();
   if (isOurs && !MayWriteTo(path, this)) return;
   path_ = path;
+  // NOLINTNEXTLINE(bugprone-parent-virtual-call): the toolkit takes quotes for marks around names
   if (path.contains(Quote)) return QDialog::accept();
   QFileDialog::accept();
 }

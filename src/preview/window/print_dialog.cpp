@@ -9,8 +9,8 @@
 #include <QToolButton>
 #include <algorithm>
 
+#include "preview/window/overwrite_question.h"
 #include "preview/window/pdf_file_dialog.h"
-#include "preview/window/replace_file.h"
 
 namespace tarvis {
 namespace {

@@ -1,4 +1,4 @@
-#include "preview/window/replace_file.h"
+#include "preview/window/overwrite_question.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -11,7 +11,7 @@ namespace tarvis {
 namespace {
 
 QString Text(const char* text) {
-  return QCoreApplication::translate("ReplaceFile", text);
+  return QCoreApplication::translate("OverwriteQuestion", text);
 }
 
 QMessageBox::StandardButton Ask(QWidget* parent, const char* name, const QString& words,
