@@ -89,11 +89,9 @@ class SavedFile(Output):
         session.save_pdf(target)
         self.wait_for_words(f"Saved as {target}")
         self.widget(PREVIEW, "button", "Open").press()
-        wait_until(opened.exists, "the file to be opened")
-        self.assertEqual(opened.read_text().strip(), f"file://{target}")
+        self.assertEqual(self.wait_for_opened(opened, 1), [f"file://{target}"])
         self.widget(PREVIEW, "button", "Show in folder").press()
-        wait_until(lambda: len(opened.read_text().split()) == 2, "the folder to be opened")
-        self.assertEqual(opened.read_text().split()[1], f"file://{self.home}")
+        self.assertEqual(self.wait_for_opened(opened, 2), [f"file://{target}", f"file://{self.home}"])
         self.assertEqual(session.close_preview(), 0)
 
     def test_never_takes_the_place_of_a_fifo(self):

@@ -146,6 +146,13 @@ class ProgramCase(unittest.TestCase):
         opener.chmod(0o755)
         return {"PATH": f"{opener.parent}:/usr/bin:/bin"}
 
+    def wait_for_opened(self, target, count):
+        """The `count` pages noted in the file `target`, once each is there to its line end."""
+        def noted():
+            lines = target.read_text().splitlines(keepends=True) if target.exists() else []
+            return len(lines) == count and lines[-1].endswith("\n") and [line.rstrip("\n") for line in lines]
+        return wait_until(noted, f"{count} opened pages")
+
     def data_files_left(self):
         return [name for name in self.files_left() if name.lower().endswith((".tmp", ".emf"))]
 
