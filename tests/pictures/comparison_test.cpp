@@ -5,6 +5,7 @@
 #include <QFile>
 
 #include "metafile_writer.h"
+#include "support/source_folder.h"
 
 namespace tarvis {
 namespace {
@@ -19,7 +20,7 @@ void PrintTo(const Sample& sample, std::ostream* out) {
 }
 
 std::string ReadData(const std::string& name) {
-  QFile file(QString::fromStdString(TARVIS_SOURCE_DIR "/tests/pictures/data/" + name));
+  QFile file(QString::fromStdString(SourceFolder() + "/tests/pictures/data/" + name));
   EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
   return file.readAll().toStdString();
 }
@@ -40,7 +41,8 @@ double MeanDifference(const QImage& a, const QImage& b) {
 class MetafileOfAnotherWriter : public testing::TestWithParam<Sample> {};
 
 TEST_P(MetafileOfAnotherWriter, LooksAsAnIndependentRendererShowsIt) {
-  const QImage reference(QString(TARVIS_SOURCE_DIR "/tests/pictures/data/") + GetParam().Name + ".png");
+  const QImage reference(
+      QString::fromStdString(SourceFolder() + "/tests/pictures/data/" + GetParam().Name + ".png"));
   ASSERT_FALSE(reference.isNull());
   const std::string bytes = ReadData(GetParam().Name);
   const QImage shown = PaintedPicture(bytes, reference.size());

@@ -3,6 +3,8 @@
 #include <QElapsedTimer>
 #include <QJsonDocument>
 
+#include "support/source_folder.h"
+
 namespace tarvis {
 
 PrintServer& PrintServer::Instance() {
@@ -13,7 +15,7 @@ PrintServer& PrintServer::Instance() {
 void PrintServer::Start() {
   process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
   process_.start(QStringLiteral("python3"),
-                 {QStringLiteral(TARVIS_SOURCE_DIR "/tests/preview/print_server.py")});
+                 {QString::fromStdString(SourceFolder() + "/tests/preview/print_server.py")});
   const QString line = ReadLine();
   qputenv("CUPS_SERVER", line.section(QLatin1Char(' '), 0, 0).toUtf8());
   qputenv("CUPS_USER", line.section(QLatin1Char(' '), 1, 1).trimmed().toUtf8());

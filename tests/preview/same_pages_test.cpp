@@ -13,6 +13,7 @@
 #include "preview/pdf_file.h"
 #include "support/report_run.h"
 #include "support/sample_report.h"
+#include "support/source_folder.h"
 
 namespace tarvis {
 namespace {
@@ -70,14 +71,15 @@ DocumentBuilder FramesAndTexts(Color titleGrey = TitleGrey, float shift = 0, con
 
 PicturePtr Sample(const char* name) {
   PictureFileLoader loader;
-  return loader.Load(std::string(TARVIS_SOURCE_DIR "/tests/pictures/data/") + name);
+  return loader.Load(SourceFolder() + "/tests/pictures/data/" + name);
 }
 
 PicturePtr Bitmap() {
   QByteArray bytes;
   QBuffer file(&bytes);
   file.open(QIODevice::WriteOnly);
-  QImage(QStringLiteral(TARVIS_SOURCE_DIR "/tests/pictures/data/ink_image.emf.png")).save(&file, "BMP");
+  QImage(QString::fromStdString(SourceFolder() + "/tests/pictures/data/ink_image.emf.png"))
+      .save(&file, "BMP");
   PictureFileLoader loader;
   return loader.LoadBytes("bitmap",
                           std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));

@@ -5,7 +5,6 @@ import subprocess
 import unittest
 
 from program_case import AS_A_USER, ProgramCase
-from desktop import wait_until
 from saved_pdf import words_in_a_row, words_of
 from session import DIALOG
 

@@ -9,6 +9,8 @@
 #include <sstream>
 #include <string>
 
+#include "support/source_folder.h"
+
 namespace tarvis {
 
 // Says at which line two texts part and what stands there; empty if they are the same.
@@ -33,7 +35,7 @@ inline std::string FirstDifference(const std::string& stored, const std::string&
 // the golden instead; read the difference before you commit it.
 inline void ExpectGolden(const std::string& name, const std::string& text) {
   const std::filesystem::path path =
-      std::filesystem::path(TARVIS_SOURCE_DIR) / "tests" / "goldens" / (name + ".txt");
+      std::filesystem::path(SourceFolder()) / "tests" / "goldens" / (name + ".txt");
   const char* const update = std::getenv("TARVIS_UPDATE_GOLDENS");
   if (update != nullptr && std::string(update) == "1") {
     std::filesystem::create_directories(path.parent_path());

@@ -8,12 +8,13 @@
 #include <string>
 
 #include "core/support/test_run.h"
+#include "support/source_folder.h"
 #include "text/text.h"
 
 namespace tarvis {
 namespace {
 
-const std::string kExamples = TARVIS_SOURCE_DIR "/docs/examples/";
+const std::string kExamples = SourceFolder() + "/docs/examples/";
 
 std::string ReadWhole(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
@@ -39,7 +40,7 @@ TEST_P(ExampleFiles, OfTheDocumentationAreGood) {
 
 // So that the reference tells every key that an example shows.
 TEST_P(ExampleFiles, HaveOnlyKeysThatTheDocumentationTells) {
-  const std::string reference = ReadWhole(TARVIS_SOURCE_DIR "/docs/file-formats.md");
+  const std::string reference = ReadWhole(SourceFolder() + "/docs/file-formats.md");
   const std::string example = ReadWhole(kExamples + GetParam().Name);
   std::string_view text = example;
   ASSERT_FALSE(text.empty());

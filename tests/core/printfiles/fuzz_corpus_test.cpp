@@ -17,6 +17,7 @@
 #include "printfiles/upwizard_file.h"
 #include "printfiles/user_file.h"
 #include "printfiles/zone_tbl_file.h"
+#include "support/source_folder.h"
 
 namespace tarvis {
 namespace {
@@ -48,7 +49,7 @@ TEST(FuzzCorpus, EveryReaderHasAnOutcomeForEverySeedAndEveryExample) {
                                                     {"idx_tbl", ReadIdxTblFile},
                                                     {"zone_tbl", ReadZoneTblFile},
                                                     {"jog_tbl", ReadJogTblFile}};
-  const std::filesystem::path source = TARVIS_SOURCE_DIR;
+  const std::filesystem::path source = SourceFolder();
   for (const auto& [name, reader] : readers) {
     for (const std::filesystem::path& folder : {source / "fuzz/corpus" / name, source / "docs/examples"}) {
       for (const auto& entry : std::filesystem::directory_iterator(folder))

@@ -15,6 +15,7 @@
 #include "report/rptCover.h"
 #include "support/golden.h"
 #include "support/report_run.h"
+#include "support/source_folder.h"
 
 namespace tarvis {
 namespace {
@@ -116,7 +117,7 @@ std::string Describe(const ActiveReport& report) {
 }
 
 std::filesystem::path LayoutFolder() {
-  return std::filesystem::path(TARVIS_SOURCE_DIR) / "tests" / "core" / "report" / "layouts";
+  return std::filesystem::path(SourceFolder()) / "tests" / "core" / "report" / "layouts";
 }
 
 std::vector<std::string> ReportNames() {
