@@ -17,7 +17,7 @@ from dataclasses import dataclass
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
-sys.path.insert(0, str(ROOT / "demo"))
+sys.path.insert(0, str(ROOT / "tests/host"))
 
 import servo_pack  # noqa: E402
 from desktop import User, VirtualDisplay  # noqa: E402

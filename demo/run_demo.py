@@ -1,16 +1,18 @@
-"""Shows the program with the demo host's data: to a user at a display, or by itself on a virtual one."""
+"""Shows the program with the data of a fictional host: to a user at a display, or by itself on a virtual one."""
 import argparse
 import os
 import shutil
 import sys
 from pathlib import Path
 
-from desktop import User, VirtualDisplay, wait_until
-from host import MODES, OVERLAPPED_SETS, OVERLAPPING, Host
-from print_queue import PrintQueue
-from session import DIALOG, Session
-
 ROOT = Path(__file__).resolve().parent.parent
+sys.path.insert(0, str(ROOT / "tests/host"))
+
+from desktop import User, VirtualDisplay, wait_until  # noqa: E402
+from host import MODES, OVERLAPPED_SETS, OVERLAPPING, Host  # noqa: E402
+from print_queue import PrintQueue  # noqa: E402
+from session import DIALOG, Session  # noqa: E402
+
 
 
 def prepared_host(told):

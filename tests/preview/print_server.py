@@ -11,7 +11,7 @@ import json
 import sys
 from pathlib import Path
 
-sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "demo"))
+sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "host"))
 from desktop import wait_until  # noqa: E402
 from print_queue import PrintQueue  # noqa: E402
 

@@ -3,7 +3,7 @@ import re
 import unittest
 from pathlib import Path
 
-from program_case import ProgramCase  # also finds the demo's modules
+from program_case import ProgramCase  # also finds the modules of tests/host
 import servo_pack
 from print_file import PrintFile, write_parameters
 from saved_pdf import page_count, words_in_a_row

@@ -2,7 +2,7 @@
 import os
 import unittest
 
-from program_case import ProgramCase  # also finds the demo's modules
+from program_case import ProgramCase  # also finds the modules of tests/host
 from bitmap import Bitmap
 from desktop import wait_until
 from host import HELP_CONTEXT

@@ -1,7 +1,7 @@
 """What is put into the dialog by keyboard, mouse and clipboard, on screens of several sizes."""
 import unittest
 
-from program_case import ProgramCase  # also finds the demo's modules
+from program_case import ProgramCase  # also finds the modules of tests/host
 from desktop import MIDDLE_BUTTON, WHEEL_DOWN, User, VirtualDisplay, wait_until
 from session import DIALOG
 

@@ -7,7 +7,7 @@ import unittest
 from pathlib import Path
 from unittest import mock
 
-import program_case  # noqa: F401  finds the demo's modules
+import program_case  # noqa: F401  finds the modules of tests/host
 from desktop import VirtualDisplay, wait_until
 
 # As on a busy machine: announces itself, and is a second over reading its configuration before it cares for windows.

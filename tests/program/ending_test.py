@@ -2,7 +2,7 @@
 import signal
 import unittest
 
-from program_case import ProgramCase  # also finds the demo's modules
+from program_case import ProgramCase  # also finds the modules of tests/host
 import servo_pack
 from desktop import User, VirtualDisplay, wait_until
 from print_file import PrintFile, write_parameters

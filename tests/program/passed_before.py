@@ -3,7 +3,7 @@ import hashlib
 from pathlib import Path
 
 HERE = Path(__file__).resolve().parent
-TOLD_BY = (HERE, HERE.parent.parent / "demo")
+TOLD_BY = (HERE, HERE.parent / "host")
 INSTALLED_PACKAGES = Path("/var/lib/dpkg/status")
 
 

@@ -6,7 +6,7 @@ import unittest
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
-sys.path.insert(0, str(ROOT / "demo"))
+sys.path.insert(0, str(ROOT / "tests/host"))
 
 from assistive import AccessibleProgram  # noqa: E402
 from desktop import User, VirtualDisplay, end_with_parent, wait_until  # noqa: E402

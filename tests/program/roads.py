@@ -32,7 +32,7 @@ WITH_COLOUR = (*WITH_GRAPHS, "PrnSetting")
 
 @dataclass(frozen=True)
 class Document:
-    """What a mode prints of the demo host's data with every item on."""
+    """What a mode prints of the host's data with every item on."""
     title: str
     file: str  # its name in the header; empty where the header has none
     contents: tuple

@@ -1,7 +1,7 @@
 """One run from the host's start to its end, by keys: dialog, preview, PDF, paper, back to the dialog, close."""
 import unittest
 
-from program_case import EDITING, ProgramCase  # also finds the demo's modules
+from program_case import EDITING, ProgramCase  # also finds the modules of tests/host
 from desktop import wait_until
 from print_queue import PrintQueue
 from saved_pdf import fact_of, page_count, text_of, words_of

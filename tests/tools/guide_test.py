@@ -146,13 +146,13 @@ class Pictures(unittest.TestCase):
         self.assertEqual(shown, {path.name for path in PICTURES.iterdir()})
 
     def test_every_picture_is_made_by_the_script(self):
-        runs = re.findall(r"^    Run\(.*", (ROOT / "demo/guide_pictures.py").read_text(encoding="utf-8"), re.MULTILINE)
+        runs = re.findall(r"^    Run\(.*", (ROOT / "tools/guide_pictures.py").read_text(encoding="utf-8"), re.MULTILINE)
         made = [name + ".png" for run in runs for name in re.findall(r'"([a-z-]+)"', run)]
         self.assertEqual(set(made), {path.name for path in PICTURES.iterdir()})
 
     def test_script_makes_a_picture_like_the_one_that_is_kept(self):
         with tempfile.TemporaryDirectory() as folder:
-            subprocess.run([sys.executable, ROOT / "demo/guide_pictures.py", "--program", os.environ["TARVIS_PROGRAM"],
+            subprocess.run([sys.executable, ROOT / "tools/guide_pictures.py", "--program", os.environ["TARVIS_PROGRAM"],
                             "--output", folder, "page-zone-table"], capture_output=True, check=True)
             self.assertEqual([path.name for path in Path(folder).iterdir()], ["page-zone-table.png"])
             kept, made = (subprocess.run(["identify", "-format", "%w x %h", where / "page-zone-table.png"],

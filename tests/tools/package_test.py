@@ -12,7 +12,7 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
 BUILD = Path(os.environ["TARVIS_BUILD"])
-sys.path.insert(0, str(ROOT / "demo"))
+sys.path.insert(0, str(ROOT / "tests/host"))
 
 from desktop import User, VirtualDisplay  # noqa: E402
 from host import Host  # noqa: E402

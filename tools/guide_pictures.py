@@ -8,11 +8,13 @@ from contextlib import contextmanager
 from dataclasses import dataclass
 from pathlib import Path
 
-from desktop import User, VirtualDisplay, wait_until
-from host import Host
-from session import DIALOG, PREVIEW, Session
-
 ROOT = Path(__file__).resolve().parent.parent
+sys.path.insert(0, str(ROOT / "tests/host"))
+
+from desktop import User, VirtualDisplay, wait_until  # noqa: E402
+from host import Host  # noqa: E402
+from session import DIALOG, PREVIEW, Session  # noqa: E402
+
 ITEM_PAGE = "353x265+9+187"  # of the dialog's inside, in pixels
 PAGES_TAB = (108, 50)  # in the preview's inside
 COLOURS = 96
@@ -173,7 +175,7 @@ RUNS = (
 
 @contextmanager
 def stage_of(told, display, run):
-    """The program at its dialog, with the demo's data for this run; gone at the end."""
+    """The program at its dialog, with the host's data for this run; gone at the end."""
     with tempfile.TemporaryDirectory() as name:
         folder = Path(name)
         host = Host(folder)
