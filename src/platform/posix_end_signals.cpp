@@ -22,14 +22,14 @@ void Wake(int /*signal*/) {
 }
 
 auto HandlerOf(int signal) {
-  struct sigaction action {};
+  struct sigaction action = {};
   sigaction(signal, nullptr, &action);
   return action.sa_handler;
 }
 
 void Watch(int signal) {
   if (HandlerOf(signal) == SIG_IGN) return;
-  struct sigaction action {};
+  struct sigaction action = {};
   action.sa_handler = Wake;
   action.sa_flags = static_cast<int>(SA_RESETHAND | SA_RESTART);
   sigaction(signal, &action, nullptr);

@@ -9,9 +9,11 @@
 namespace tarvis {
 namespace {
 
+using HeaderOfMode = HeaderOptions PrintOptions::*;
+
 struct ModeHeader {
   const char* Mode;
-  HeaderOptions PrintOptions::*Header;
+  HeaderOfMode Header;
 };
 
 constexpr std::array<ModeHeader, 9> ModeHeaders{{

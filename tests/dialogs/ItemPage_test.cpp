@@ -17,7 +17,7 @@ struct KeyOfPage {
   const char* Page;
   std::int16_t Edition;
   int Entry;
-  HeaderOptions PrintOptions::*Header;
+  HeaderOfPage Header;
 };
 
 const std::vector<KeyOfPage> KeysOfPages{

@@ -5,6 +5,7 @@
 #include <QTest>
 #include <QWidget>
 #include <atomic>
+#include <memory>
 
 #include "support/fake_desktop.h"
 
@@ -67,7 +68,7 @@ TEST(FirstWindowWatch, TellsOfAWindowThatIsBuiltButNotShown) {
 
 TEST(FirstWindowWatch, EndsWithItsObject) {
   CountingDesktop desktop;
-  { const FirstWindowWatch watch(desktop, 1s); }
+  std::make_unique<FirstWindowWatch>(desktop, 1s).reset();
   EXPECT_FALSE(IsTold(desktop));
 }
 

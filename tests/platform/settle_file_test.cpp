@@ -15,7 +15,7 @@ class SettledFile : public testing::Test {
  protected:
   std::filesystem::path Path(const char* name) const { return Folder.Path() / name; }
   unsigned OwnerOf(const char* name) const {
-    struct stat status {};
+    struct stat status = {};
     EXPECT_EQ(stat(Path(name).c_str(), &status), 0);
     return status.st_uid;
   }

@@ -41,8 +41,8 @@ TEST(BackgroundJob, a_long_job_shows_its_progress_and_can_be_cancelled) {
 TEST(BackgroundJob, a_short_job_shows_no_progress) {
   QWidget window;
   window.show();
-  BackgroundJob job(
-      QStringLiteral("Saving"), [](const Progress&) { return QStringLiteral("bad"); }, &window);
+  const auto fail = [](const Progress&) { return QStringLiteral("bad"); };
+  BackgroundJob job(QStringLiteral("Saving"), fail, &window);
   const QSignalSpy finished(&job, &BackgroundJob::Finished);
   ASSERT_TRUE(QTest::qWaitFor([&] { return finished.count() == 1; }));
   EXPECT_EQ(finished.at(0).at(0).toString(), QStringLiteral("bad"));

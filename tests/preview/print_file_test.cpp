@@ -191,7 +191,7 @@ TEST_F(PrintFile, never_replaces_a_fifo_and_does_not_wait_for_its_reader) {
   const QString fifo = Path("fifo");
   ASSERT_EQ(mkfifo(fifo.toLocal8Bit().constData(), 0600), 0);
   EXPECT_TRUE(TryToPrintInto(fifo, QMessageBox::Ok).contains(QStringLiteral("not an ordinary file")));
-  struct stat now {};
+  struct stat now = {};
   ASSERT_EQ(stat(fifo.toLocal8Bit().constData(), &now), 0);
   EXPECT_TRUE(S_ISFIFO(now.st_mode));
 }

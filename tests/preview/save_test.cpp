@@ -207,7 +207,7 @@ TEST_F(SavePdf, a_fifo_and_a_link_that_leads_nowhere_are_never_replaced) {
   const QString fifo = Path("fifo.pdf");
   ASSERT_EQ(mkfifo(fifo.toLocal8Bit().constData(), 0600), 0);
   EXPECT_TRUE(TryToSaveTo(fifo, QMessageBox::Ok).contains(QStringLiteral("not an ordinary file")));
-  struct stat now {};
+  struct stat now = {};
   ASSERT_EQ(lstat(fifo.toLocal8Bit().constData(), &now), 0);
   EXPECT_TRUE(S_ISFIFO(now.st_mode));
   const QString link = Path("link.pdf");

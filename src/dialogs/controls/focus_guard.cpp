@@ -35,8 +35,8 @@ void FocusGuard::Ask(QWidget& left, QWidget& entered) {
   refused_ = true;
   // The toolkit moves the focus just before it delivers the press, so the press comes before any later event.
   swallowInput_ = true;
-  QMetaObject::invokeMethod(
-      this, [this] { swallowInput_ = false; }, Qt::QueuedConnection);
+  const auto letInputThrough = [this] { swallowInput_ = false; };
+  QMetaObject::invokeMethod(this, letInputThrough, Qt::QueuedConnection);
 }
 
 bool FocusGuard::Enter(QWidget& control) {

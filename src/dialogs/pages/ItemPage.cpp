@@ -17,9 +17,11 @@ constexpr Bounds TabBounds{0, 0, 4935, 3015};
 constexpr int TitleLimit = 40;  // bytes
 constexpr int RuleGap = 90;     // twips between a heading and its rule, and between rule and tab edge
 
+using HeaderElement = std::int16_t HeaderOptions::*;
+
 struct HeaderBoxPlan {
   const char* Caption;
-  std::int16_t HeaderOptions::*Element;
+  HeaderElement Element;
   Bounds Place;
 };
 

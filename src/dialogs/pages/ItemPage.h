@@ -16,10 +16,12 @@ namespace tarvis {
 
 struct PrintRun;
 
+using HeaderOfPage = HeaderOptions PrintOptions::*;
+
 // The first tab of a page, and the captions of the others.
 struct PageFrame {
   const char* Name;
-  HeaderOptions PrintOptions::*Header;
+  HeaderOfPage Header;
   const char* Title;  // initial text of the title box, and the accessible name of the page
   std::initializer_list<const char*> OtherTabs;
 };

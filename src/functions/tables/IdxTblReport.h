@@ -11,12 +11,15 @@
 
 namespace tarvis {
 
+using UnitOfTable = UnitRow IdxTblData::*;
+using TextOfStep = std::string IdxRow::*;
+
 // A unit line of the title block: caption and unit of a record.
 struct IdxUnitLine {
   const char* Label;
   const char* Caption;  // of the design, replaced by the file's
   const char* Field;
-  UnitRow IdxTblData::*Unit;
+  UnitOfTable Unit;
   float Top;
   float Height;
 };
@@ -26,7 +29,7 @@ struct IdxColumn {
   const char* TitleControl;
   const char* Title;
   const char* ValueControl;
-  std::string IdxRow::*Text;
+  TextOfStep Text;
   float Left;
   float Width;
 };

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "functions/tables/IdxTblReport.h"
 #include "support/report_run.h"
 
 namespace tarvis {
@@ -147,7 +148,7 @@ TEST_F(ProgramTable, ALongPositionMakesItsRowAndAllLaterOnesHigh) {
 
 TEST_F(ProgramTable, OnlyPositionSpeedAndDistanceRaiseTheRowsFromTheirLengthOn) {
   struct Column {
-    std::string IdxRow::*Text;
+    TextOfStep Text;
     std::size_t Raises;  // characters, 0 for never
   };
   for (const char* name : {"rptIdxIdxTblTable", "rptIdxIdxTblExTable"}) {
@@ -168,7 +169,7 @@ TEST_F(ProgramTable, OnlyPositionSpeedAndDistanceRaiseTheRowsFromTheirLengthOn) 
 }
 
 TEST_F(ProgramTable, LongSpeedsAndDistancesMakeRowsHighToo) {
-  for (std::string IdxRow::*text : {&IdxRow::Spd, &IdxRow::Rdst}) {
+  for (const TextOfStep text : {&IdxRow::Spd, &IdxRow::Rdst}) {
     Fill(2);
     Data.Index[0].*text = "1234567890123";
     EXPECT_EQ(PrintedOf(Compose(), "txtPOSVal")[0].Box.Height, 283);

@@ -63,8 +63,9 @@ TEST_F(ParameterColumns, DigitsPrintOnlyWhenNamesAndSwitchesAreBothExactlyOne) {
 
 TEST_F(ParameterColumns, AnythingButZeroShowsAColumn) {
   AddParameter({"Pn100", "Gain", "1", "2", "Hz"});
+  using SwitchOfRun = std::int16_t PrintSession::*;
   struct Column {
-    std::int16_t PrintSession::*Switch;
+    SwitchOfRun Switch;
     const char* Title;
     const char* Value;
   };
@@ -97,8 +98,8 @@ TEST_F(ParameterColumns, WithAllColumnsOffNumberAndValueStandSideBySide) {
 }
 
 TEST_F(ParameterColumns, AnyCellOfSeveralLinesMakesItsWholeRowAsHigh) {
-  for (std::string UserPrm::*text :
-       {&UserPrm::No, &UserPrm::Name, &UserPrm::Value, &UserPrm::Default, &UserPrm::Unit}) {
+  using Cell = std::string UserPrm::*;
+  for (const Cell text : {&UserPrm::No, &UserPrm::Name, &UserPrm::Value, &UserPrm::Default, &UserPrm::Unit}) {
     User = {};
     UserPrm parameter{"Pn1", "Gain", "1", "2", "Hz"};
     parameter.*text = "one\r\ntwo";
