@@ -22,6 +22,9 @@ reader           module no_such_module
 manual           file {folder}/manual
 """
 REAL = ("awk", "cat", "dirname", "echo", "grep", "sh", "sort", "tr")  # all that the script may take for granted
+STARTED = re.compile(r"""(?:run|Popen|output_of)\(\s*\[?"([a-z][\w-]*)\"""")
+BROUGHT_ALONG = {"convert", "cpack", "ctest", "identify", "locale", "lpstat", "pdfinfo"}  # by packages of other commands
+ON_EVERY_SYSTEM = {"dpkg-deb", "dpkg-query", "grep", "sh"}
 
 
 class InstallPackages(unittest.TestCase):
@@ -163,6 +166,16 @@ class TheList(unittest.TestCase):
         self.assertGreater(len(named), 4)
         for purposes in named:
             self.needed_for(*purposes.split())
+
+    def test_every_command_that_tests_start_comes_with_a_package_of_theirs(self):
+        listed = [line.split()[0::2][:2] for line in (ROOT / "cmake/packages.txt").read_text().splitlines()
+                  if re.match(r"\S+ +command ", line)]
+        needed = self.needed_for("testing")
+        brought = {command for package, command in listed if needed.intersection(package.split("|"))}
+        scripts = [path for folder in ("demo", "tests", "bench") for path in (ROOT / folder).rglob("*.py")]
+        started = {command for script in scripts for command in STARTED.findall(script.read_text())}
+        self.assertIn("xdotool", started)
+        self.assertEqual(started - brought - BROUGHT_ALONG - ON_EVERY_SYSTEM, set())
 
     def test_no_package_is_named_by_a_version_that_one_release_has(self):
         for name in self.needed_for("testing", "linting", "covering", "trying"):
