@@ -14,7 +14,7 @@
 #include "dialogs/controls/controls.h"
 #include "dialogs/controls/fitted_dialog.h"
 #include "dialogs/pages/ItemPage.h"
-#include "dialogs/pages/function_list.h"
+#include "session/function_list.h"
 
 namespace tarvis {
 

@@ -68,7 +68,7 @@ class Captions(unittest.TestCase):
                          set(re.findall(r'"chkFooter", NoFamily, "([^"]+)"', text)), 5)
 
     def test_every_function_has_a_section(self):
-        functions = set(re.findall(r'\{"([A-Z][\w -]+)", PageId', source("dialogs/pages/function_list.cpp")))
+        functions = set(re.findall(r'\{"([A-Z][\w -]+)", PageId', source("session/function_list.cpp")))
         self.assertGreaterEqual(len(functions), 9)
         headings = " ".join(re.findall(r"^### (.+)$", GUIDE.text, re.MULTILINE))
         for function in functions:
@@ -98,7 +98,7 @@ class ManualPages(unittest.TestCase):
         return (ROOT / "packaging" / name).read_text(encoding="utf-8")
 
     def test_every_mode_stands_under_its_editions(self):
-        choices = set(re.findall(r'ModeChoice\{(\d), "(\w+)"', source("dialogs/pages/function_list.cpp")))
+        choices = set(re.findall(r'ModeChoice\{(\d), "(\w+)"', source("session/function_list.cpp")))
         told = set()
         for edition, modes in re.findall(r"^\.TP\n(\d)(?:, version \d00)?\n(.+)$", self.page("tarvis.1"), re.MULTILINE):
             told |= {(edition, mode) for mode in modes.replace("the same, ", "").split(", ")}

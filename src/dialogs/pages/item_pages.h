@@ -2,7 +2,7 @@
 #pragma once
 
 #include "dialogs/pages/ItemPage.h"
-#include "dialogs/pages/function_list.h"
+#include "session/function_list.h"
 
 namespace tarvis {
 

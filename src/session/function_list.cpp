@@ -1,4 +1,4 @@
-#include "dialogs/pages/function_list.h"
+#include "session/function_list.h"
 
 #include <array>
 
