@@ -6,15 +6,14 @@
 
 #include "check/ending_desktop.h"
 #include "functions/catalog.h"
-#include "printfiles/print_options_file.h"
 #include "report/data_set.h"
 #include "report/engine/composer.h"
 #include "run/print_run.h"
+#include "session/choices.h"
+#include "session/step_range.h"
 
 namespace tarvis {
 namespace {
-
-constexpr std::int16_t HighestMark = 2;  // of a check box: off, on, grey
 
 // Replaces every picture, so that the result of a check doesn't depend on the machine.
 class AnyPicture : public Picture {
@@ -50,13 +49,9 @@ void MakePagesOf(PrintRun& run, const std::string& name) {
   run.Session.MasterReport = nullptr;
 }
 
-void Require(PrintRun& run, const std::int16_t& option, int highest) {
-  if (option < 0 || option > highest) throw RunTimeFailure("no such choice", OptionPlace(run, option));
-}
-
 template <typename Options>
 void RequireMarks(PrintRun& run, const Options& options) {
-  for (const std::int16_t& option : options) Require(run, option, HighestMark);
+  for (const std::int16_t& option : options) RequireMark(run, option);
 }
 
 void RequireHeaderMarks(PrintRun& run) {
@@ -67,7 +62,7 @@ void RequireHeaderMarks(PrintRun& run) {
         &options.SimHeader, &options.IdxTblHeader, &options.ZoneTblHeader, &options.JogTblHeader}) {
     for (const std::int16_t* mark :
          {&header->Title, &header->ModelsInfo, &header->PrintDate, &header->FileName, &header->Pages}) {
-      Require(run, *mark, HighestMark);
+      RequireMark(run, *mark);
     }
   }
 }
@@ -83,18 +78,18 @@ void MakePages(PrintRun& run, bool overlapResult) {
 
 void RequireChoices(PrintRun& run) {
   const PrintOptions& options = run.Options;
-  if (options.Cover != 0) Require(run, options.SelectCover, static_cast<int>(options.User.size()));
-  Require(run, options.ColorType, 1);
+  if (options.Cover != 0) RequireChoice(run, options.SelectCover, 0, static_cast<int>(options.User.size()));
+  RequireChoice(run, options.ColorType, 0, 1);
   RequireHeaderMarks(run);
   RequireMarks(run, options.UserOption);
   RequireMarks(run, options.TraceOption);
   RequireMarks(run, options.RealTraceOption);
   RequireMarks(run, options.MechaOption);
   RequireMarks(run, options.SimOption);
-  Require(run, options.IdxTblOption.Range, 2);
+  RequireChoice(run, options.IdxTblOption.Range, 0, TypedRange);
   for (const std::int16_t* mark :
        {&options.IdxTblOption.Comment, &options.ZoneTblOption, &options.JogTblOption})
-    Require(run, *mark, HighestMark);
+    RequireMark(run, *mark);
 }
 
 }  // namespace tarvis

@@ -8,15 +8,12 @@
 #include "dialogs/controls/help_context.h"
 #include "dialogs/pages/InfIdxTbl.h"
 #include "dialogs/pages/item_pages.h"
-#include "printfiles/data_file_scan.h"
-#include "printfiles/host_files.h"
 #include "printfiles/print_options_file.h"
 #include "run/failures.h"
 #include "run/print_run.h"
-#include "text/date_text.h"
-#include "text/excerpt.h"
+#include "session/choices.h"
+#include "session/setting_rules.h"
 #include "text/native_path.h"
-#include "text/numbers.h"
 #include "text/text.h"
 
 namespace tarvis {
@@ -25,16 +22,14 @@ namespace {
 
 constexpr FittedDialog::Plan DialogPlan{.Width = 5535, .Height = 8130, .ButtonsTop = 7510};
 constexpr int PageCount = 10;
-constexpr std::int16_t StepsWithoutTable = 1000;
 constexpr int ProgramTableEntry = 2;
 
 // The member of a family that a number of the options file chooses; `first` is the number of the first one.
 template <typename Control, std::size_t Count>
 Control& Chosen(PrintRun& run, const std::array<Control*, Count>& family, const std::int16_t& option,
                 int first) {
-  const int index = option - first;
-  if (index >= 0 && static_cast<std::size_t>(index) < Count) return *family[static_cast<std::size_t>(index)];
-  throw RunTimeFailure("no such choice", OptionPlace(run, option));
+  RequireChoice(run, option, first, first + static_cast<int>(Count) - 1);
+  return *family[static_cast<std::size_t>(option - first)];
 }
 
 }  // namespace
@@ -155,17 +150,8 @@ void PrintSetting::LoadCover() {
   if (run_.Options.SelectCover > 0) Chosen(run_, optDrow_, run_.Options.SelectCover, 1).setChecked(true);
 }
 
-void PrintSetting::RefuseHost(const std::string& reason, const std::string& text) {
-  run_.Session.Diagnosis = reason + ": '" + Excerpt(text) + "'";
-  ReportFailure(run_, Failure::WrongArgument);
-}
-
 void PrintSetting::FillFunctionList() {
-  const std::int16_t edition = run_.Session.HostEdition;
-  entries_ = FunctionEntries(edition, run_.Session.HostVersion);
-  if (entries_.empty() && (edition == 1 || edition == 4)) {
-    RefuseHost("no such version of edition " + std::to_string(edition), run_.Session.HostVersion);
-  }
+  entries_ = OfferedFunctions(run_);
   const QSignalBlocker quiet(cmbFunc_);
   cmbFunc_->clear();
   for (const FunctionEntry& entry : entries_) cmbFunc_->addItem(QString::fromLatin1(entry.Caption));
@@ -173,40 +159,14 @@ void PrintSetting::FillFunctionList() {
 }
 
 void PrintSetting::SelectByMode() {
-  PrintSession& session = run_.Session;
-  const ModeChoice* choice = FindModeChoice(session.HostEdition, session.Mode);
-  if (choice == nullptr) {
-    RefuseHost("command line: argument 1: no such mode of edition " + std::to_string(session.HostEdition),
-               session.Mode);
-  }
-  if (session.Mode == "SimEx") {
-    session.Mode = "Sim";
-    session.SimExMode = 1;
-  }
-  SelectFunction(choice->Index);
-  cmbFunc_->setEnabled(choice->ListEnabled);
-  if (session.Mode == "IdxTbl") ReadStepCount();
-  if (session.HostEdition == 2 && session.Mode == "PrnSetting") session.StepLimit = StepsWithoutTable;
-}
-
-void PrintSetting::ReadStepCount() {
-  PrintSession& session = run_.Session;
-  if (LoadLines(run_, session.TempFolder + "IdxIdxTbl.tmp") < 0)
-    ReportFailure(run_, Failure::WrongProgramTableFile);
-  ScanLines(run_, [&session](std::string_view key, std::string_view rest) {
-    if (key != "IndexCnt") return true;
-    session.StepLimit = StrictInteger(rest);
-    return false;
-  });
+  const ModeChoice& choice = OpenMode(run_, entries_);
+  SelectFunction(choice.Index);
+  cmbFunc_->setEnabled(choice.ListEnabled);
+  LoadStepLimit(run_);
 }
 
 // Runs the handling of the list also when the index stays, which the toolkit's own setter doesn't.
 void PrintSetting::SelectFunction(int index) {
-  if (index >= cmbFunc_->count()) {
-    throw RunTimeFailure(
-        "no function of this version",
-        {.File = "command line", .Line = 0, .Key = "argument 1", .Text = Excerpt(run_.Session.Mode)});
-  }
   cmbFunc_->setCurrentIndex(index);
   FunctionClicked();
 }
@@ -219,7 +179,7 @@ void PrintSetting::FunctionChosen() {
 
 void PrintSetting::FunctionClicked() {
   const FunctionEntry& entry = entries_[static_cast<std::size_t>(cmbFunc_->currentIndex())];
-  ShowPage(*pages_.at(static_cast<std::size_t>(PageOf(entry))));
+  ShowPage(*pages_.at(static_cast<std::size_t>(PageOf(run_.Session, entry))));
 }
 
 // True if the focus has left the page of the program table with a bad range; the user is back at it then.
@@ -233,13 +193,6 @@ bool PrintSetting::RefuseToLeaveRange(const QWidget& left, const QWidget& entere
   SelectFunction(ProgramTableEntry);
   infIdxTbl_->ReturnToRange();
   return true;
-}
-
-// Edition 4 compares simulations; edition 1 has no such page, not even for PrnSetting.
-PageId PrintSetting::PageOf(const FunctionEntry& entry) const {
-  const PrintSession& session = run_.Session;
-  const bool compares = session.HostEdition == 4 && (session.Mode == "PrnSetting" || session.SimExMode == 1);
-  return entry.Page == PageId::InfSim && compares ? PageId::InfSimOverlap : entry.Page;
 }
 
 void PrintSetting::ShowPage(ItemPage& page) {
@@ -268,16 +221,8 @@ void PrintSetting::ShowSubmitBlock(bool show, std::int16_t index) {
 
 void PrintSetting::CoverClicked() {
   SetCoverControlsEnabled(chkCover_->IsOn());
-  PrintOptions& options = run_.Options;
-  if (chkCover_->IsOn()) {
-    options.Cover = 1;
-    if (options.SelectCover != 0) return;
-    options.SelectCover = 1;
-    optDrow_[0]->setChecked(true);
-    return;
-  }
-  options.Cover = 0;
-  options.SelectCover = 0;
+  if (SwitchCover(run_.Options, chkCover_->IsOn())) optDrow_[0]->setChecked(true);
+  if (chkCover_->IsOn()) return;
   drowGroup_->setExclusive(false);
   for (OptionButton* option : optDrow_) option->setChecked(false);
   drowGroup_->setExclusive(true);
@@ -305,7 +250,7 @@ void PrintSetting::EditClicked() {
 // leaving the field, so it is left here.
 void PrintSetting::OkClicked() {
   if (!guard_->Enter(*cmdOK_)) return;
-  run_.Options.DateTime = DateTimeText(run_.Now());
+  StampOptions(run_);
   // A file that can't be written stops nobody from printing.
   static_cast<void>(WritePrintOptionsFile(run_, run_.Session.SystemFolder + "PrintOption.ToT"));
   if (run_.Session.Mode == "PrnSetting") EndRun(run_);

@@ -62,18 +62,14 @@ class PrintSetting : public FittedDialog {
   void LoadDialog();
   void ShowWithPage();
   void LoadCover();
-  // Failure 1, with a reason and a text for standard error.
-  [[noreturn]] void RefuseHost(const std::string& reason, const std::string& text);
   void FillFunctionList();
   void SelectByMode();
-  void ReadStepCount();
 
   void SelectFunction(int index);
   // By the user.
   void FunctionChosen();
   void FunctionClicked();
   bool RefuseToLeaveRange(const QWidget& left, const QWidget& entered);
-  PageId PageOf(const FunctionEntry& entry) const;
   void ShowPage(ItemPage& page);
 
   void SetCoverControlsEnabled(bool enabled);

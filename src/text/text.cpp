@@ -75,6 +75,18 @@ std::string LeftBytes(const CodePage& page, std::string_view text, std::size_t b
   return page.ToUtf8(std::string_view(page.FromUtf8(text)).substr(0, bytes));
 }
 
+std::string CutToBytes(const CodePage& page, std::string_view text, std::size_t bytes) {
+  std::size_t end = 0;
+  // A character takes a byte at least.
+  for (std::size_t count = 0; end < text.size() && count < bytes; ++count)
+    end += CharacterSize(text.substr(end));
+  while (page.ByteLength(text.substr(0, end)) > bytes) {
+    do --end;
+    while ((static_cast<unsigned char>(text[end]) & 0xC0) == 0x80);
+  }
+  return std::string(text.substr(0, end));
+}
+
 int CountWrappedLines(const CodePage& page, std::string_view text, std::size_t width) {
   std::size_t count = 0;
   while (!text.empty()) {

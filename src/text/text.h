@@ -32,6 +32,10 @@ std::int16_t CountLineBreaks(std::string_view text);
 // comes back as whatever the code page makes of it, or a CR LF.
 std::string LeftBytes(const CodePage& page, std::string_view text, std::size_t bytes);
 
+// `text` without the characters at its end that reach beyond `bytes` bytes of the code page. No character is
+// halved.
+std::string CutToBytes(const CodePage& page, std::string_view text, std::size_t bytes);
+
 // The number of lines that `text` takes at `width` bytes of the code page a line; `width` is above 0. A
 // trailing line break adds none.
 int CountWrappedLines(const CodePage& page, std::string_view text, std::size_t width);

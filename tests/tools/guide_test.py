@@ -135,7 +135,8 @@ class Messages(unittest.TestCase):
         self.assertGreaterEqual(len(found), 5, found)
         for message in found:
             self.assertIn(message, GUIDE.text)
-        for part in re.findall(r'"(Try with [^"]+?|[^"]*be Inputted\.)"', source("dialogs/controls/input_limits.cpp")):
+        text = source("dialogs/controls/input_limits.cpp") + source("session/title_limit.cpp")
+        for part in re.findall(r'"(Try with [^"]+?|[^"]*be Inputted\.)"', text):
             self.assertIn(part.replace("\\n", " ").strip(), GUIDE.text)
 
 

@@ -19,7 +19,4 @@ bool CheckByteLimit(PrintRun& run, int limit, InputBox& box);
 // The same for a text that may take `maxLines` lines of `width` bytes.
 bool CheckLineLimit(PrintRun& run, int maxLines, int width, InputBox& box);
 
-// Title of every message about an input.
-inline constexpr char InputErrorTitle[] = "Input Error";
-
 }  // namespace tarvis

@@ -3,10 +3,9 @@
 #include <QKeyEvent>
 #include <algorithm>
 
-#include "dialogs/controls/input_limits.h"
-#include "printfiles/print_options_file.h"
 #include "run/print_run.h"
-#include "text/numbers.h"
+#include "session/step_range.h"
+#include "session/title_limit.h"
 
 namespace tarvis {
 
@@ -14,15 +13,7 @@ namespace {
 
 constexpr std::int16_t ItemsTab = 1;
 constexpr int StepLength = 3;
-constexpr std::int16_t TypedRange = 2;  // element 1
-constexpr const char* FirstStep = "0";
-constexpr const char* LastStep = "127";
-constexpr std::int16_t Valid = -1;
 constexpr std::int16_t Invalid = 0;
-
-bool IsDigitsOnly(const std::string& text) {
-  return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
-}
 
 // The code that the key sends, as a signed 16-bit number; a control key with a letter sends 1 to 26.
 std::int16_t KeyCode(const QKeyEvent& event) {
@@ -109,16 +100,16 @@ void InfIdxTbl::SetStepFocus(std::int16_t field) {
 }
 
 void InfIdxTbl::ControlLeft(const QWidget& control) {
-  if (&control == textStart_ || &control == textEnd_) CheckStepRange();
+  if (&control == textStart_ || &control == textEnd_) CheckSteps();
 }
 
 bool InfIdxTbl::RangeIsValid() const {
-  return Run().Session.StepStartValid != Invalid && Run().Session.StepEndValid != Invalid;
+  return StepRangeIsValid(Run().Session);
 }
 
 void InfIdxTbl::ReturnToRange() {
   TabChg(ItemsTab);
-  SetStepFocus(Run().Session.StepStartValid == Invalid ? 1 : 2);
+  SetStepFocus(Run().Session.StepStartValid == 0 ? 1 : 2);
   Run().Desktop.ShowMessage(InputErrorTitle, "Wrong the inputted STEP number.Please input again.");
 }
 
@@ -127,41 +118,20 @@ void InfIdxTbl::ResetTab() {
 }
 
 void InfIdxTbl::LoadItems() {
-  if (option_.Range == TypedRange) RepairRange();
-  if (option_.Range < 0 || option_.Range > TypedRange) {
-    throw RunTimeFailure("no such choice", OptionPlace(Run(), option_.Range));
+  LoadStepRange(Run());
+  if (option_.Range == TypedRange) {
+    textStart_->SetText(option_.First);
+    textEnd_->SetText(option_.Last);
   }
   optRange_.at(static_cast<std::size_t>(option_.Range))->setChecked(true);
   Show(*chkItemEtc_, option_.Comment);
 }
 
-// Silent. The last comparison is one of texts: "127" stands before "5".
-void InfIdxTbl::RepairRange() {
-  if (!IsDigitsOnly(option_.First)) option_.First = FirstStep;
-  if (!IsDigitsOnly(option_.Last)) option_.Last = LastStep;
-  if (LenientReal(option_.First) < 0) option_.First = FirstStep;
-  if (LenientReal(option_.Last) > Run().Session.StepLimit) option_.Last = LastStep;
-  if (option_.Last < option_.First) option_.First = FirstStep;
-  textStart_->SetText(option_.First);
-  textEnd_->SetText(option_.Last);
-}
-
 void InfIdxTbl::RangeClicked(std::int16_t index) {
-  option_.Range = index;
-  if (index != TypedRange) {
-    textStart_->SetText({});
-    textEnd_->SetText({});
-    EnableRange(false);
-    Run().Session.StepStartValid = Valid;
-    Run().Session.StepEndValid = Valid;
-    option_.First.clear();
-    option_.Last.clear();
-    return;
-  }
-  if (option_.Last.empty()) option_.Last = LastStep;
+  ChooseStepRange(Run(), index);
   textEnd_->SetText(option_.Last);
-  if (option_.First.empty()) option_.First = FirstStep;
   textStart_->SetText(option_.First);
+  if (index != TypedRange) return EnableRange(false);
   EnableRange(true);
   SetStepFocus(1);
   // An arrow key chooses first and takes the focus to the option afterwards.
@@ -180,29 +150,13 @@ void InfIdxTbl::EnableRange(bool enabled) {
   textEnd_->setEnabled(enabled);
 }
 
-// A flag that is not reached keeps its value, and a start that passed is stored even if the end then fails.
-void InfIdxTbl::CheckStepRange() {
-  PrintSession& session = Run().Session;
-  const std::string start = textStart_->Text();
-  const std::string end = textEnd_->Text();
-  if (!IsDigitsOnly(start)) {
-    session.StepStartValid = Invalid;
-    return;
-  }
-  if (!IsDigitsOnly(end)) {
-    session.StepEndValid = Invalid;
-    return;
-  }
-  session.StepStartValid = LenientReal(start) > LenientReal(end) ? Invalid : Valid;
-  if (session.StepStartValid == Invalid) return;
-  option_.First = start;
-  session.StepEndValid = LenientReal(end) >= session.StepLimit ? Invalid : Valid;
-  if (session.StepEndValid == Valid) option_.Last = end;
+void InfIdxTbl::CheckSteps() {
+  CheckStepRange(Run(), textStart_->Text(), textEnd_->Text());
 }
 
 void InfIdxTbl::TabLeft(int left) {
   if (left != ItemsTab || option_.Range != TypedRange) return;
-  CheckStepRange();
+  CheckSteps();
   if (!RangeIsValid()) ReturnToRange();
 }
 

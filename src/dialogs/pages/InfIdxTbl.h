@@ -45,10 +45,9 @@ class InfIdxTbl : public ItemPage {
 
  private:
   void BuildRange(QWidget* tab);
-  void RepairRange();
   void RangeClicked(std::int16_t index);
   void EnableRange(bool enabled);
-  void CheckStepRange();
+  void CheckSteps();
   void TabLeft(int left);
   void CommentsClicked();
 

@@ -7,6 +7,7 @@
 #include "dialogs/controls/input_limits.h"
 #include "printfiles/print_options_file.h"
 #include "run/print_run.h"
+#include "session/title_limit.h"
 
 namespace tarvis {
 
@@ -14,8 +15,7 @@ namespace {
 
 constexpr Bounds PageBounds{180, 840, 5055, 3050};
 constexpr Bounds TabBounds{0, 0, 4935, 3015};
-constexpr int TitleLimit = 40;  // bytes
-constexpr int RuleGap = 90;     // twips between a heading and its rule, and between rule and tab edge
+constexpr int RuleGap = 90;  // twips between a heading and its rule, and between rule and tab edge
 
 using HeaderElement = std::int16_t HeaderOptions::*;
 

@@ -91,6 +91,15 @@ TEST(LeftBytes, MayHalveALineBreak) {
   EXPECT_EQ(LeftBytes(CodePage(1252), "ab\r\ncd", 3), "ab\r");
 }
 
+TEST(CutToBytes, RemovesWholeCharactersFromTheEnd) {
+  const CodePage japanese(932);
+  EXPECT_EQ(CutToBytes(japanese, "ab\u8868\u793A", 6), "ab\u8868\u793A");
+  EXPECT_EQ(CutToBytes(japanese, "ab\u8868\u793A", 5), "ab\u8868");
+  EXPECT_EQ(CutToBytes(japanese, "\u8868", 1), "");
+  EXPECT_EQ(CutToBytes(CodePage(1252), "Gr\u00FC\u00DFe", 4), "Gr\u00FC\u00DF");
+  EXPECT_EQ(CutToBytes(CodePage(1252), "\U0001F600\U0001F600", 1), "\U0001F600");
+}
+
 TEST(CountWrappedLines, CountsBytesOfTheCodePageAgainstTheWidth) {
   const CodePage western(1252);
   EXPECT_EQ(CountWrappedLines(western, "", 2), 0);

@@ -1,0 +1,17 @@
+// The limit on titles of functions, and the message of all limits that are counted in bytes.
+#pragma once
+
+namespace tarvis {
+
+struct PrintRun;
+
+// In bytes of the code page.
+inline constexpr int TitleLimit = 40;
+
+// Title of every message about an input.
+inline constexpr char InputErrorTitle[] = "Input Error";
+
+// Tells the user that a text has more than `limit` bytes.
+void TellByteLimit(PrintRun& run, int limit);
+
+}  // namespace tarvis
