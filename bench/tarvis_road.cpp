@@ -3,7 +3,7 @@
 #include "document_roads.h"
 #include "functions/catalog.h"
 #include "pictures/picture_file_loader.h"
-#include "platform/text_measurer.h"
+#include "platform/system/text_measurer.h"
 #include "preview/output/page_choice.h"
 #include "preview/output/pdf_export.h"
 #include "preview/output/printing.h"

@@ -5,7 +5,7 @@
 #include "dialogs/PrintSetting.h"
 #include "functions/catalog.h"
 #include "platform/paper.h"
-#include "platform/text_measurer.h"
+#include "platform/system/text_measurer.h"
 #include "preview/window/preview_window.h"
 #include "report/engine/composer.h"
 #include "report/rptTarvis.h"

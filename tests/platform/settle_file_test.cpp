@@ -1,4 +1,4 @@
-#include "platform/settle_file.h"
+#include "platform/system/settle_file.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>

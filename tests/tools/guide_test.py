@@ -114,7 +114,7 @@ class ManualPages(unittest.TestCase):
             section = page.split(f"[{key}]", 1)[1].split(".TP", 1)[0]
             for value in values:
                 self.assertIn(value, section)
-        for entry in re.findall(r'Find\("Tarvis", "(\w+)"\)', source("platform/configuration_registry.cpp")):
+        for entry in re.findall(r'Find\("Tarvis", "(\w+)"\)', source("platform/system/configuration_registry.cpp")):
             self.assertIn(entry, page)
 
 

@@ -1,4 +1,4 @@
-#include "platform/text_measurer.h"
+#include "platform/system/text_measurer.h"
 
 #include "preview/paint/report_font.h"
 

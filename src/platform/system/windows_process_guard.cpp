@@ -1,4 +1,4 @@
-#include "platform/process_guard.h"
+#include "platform/system/process_guard.h"
 
 namespace tarvis {
 

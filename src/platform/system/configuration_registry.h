@@ -13,7 +13,7 @@
 #include <string>
 #include <utility>
 
-#include "platform/host_settings.h"
+#include "platform/system/host_settings.h"
 
 namespace tarvis {
 

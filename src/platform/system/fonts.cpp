@@ -1,4 +1,4 @@
-#include "platform/fonts.h"
+#include "platform/system/fonts.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>

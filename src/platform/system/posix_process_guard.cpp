@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "platform/process_guard.h"
+#include "platform/system/process_guard.h"
 
 namespace tarvis {
 namespace {

@@ -1,5 +1,5 @@
-#include "platform/configuration_registry.h"
-#include "platform/host_settings.h"
+#include "platform/system/configuration_registry.h"
+#include "platform/system/host_settings.h"
 
 namespace tarvis {
 

@@ -4,7 +4,7 @@
 
 #include <cerrno>
 
-#include "platform/settle_file.h"
+#include "platform/system/settle_file.h"
 
 namespace tarvis {
 

@@ -1,4 +1,4 @@
-#include "platform/configuration_registry.h"
+#include "platform/system/configuration_registry.h"
 
 #include <cerrno>
 #include <cstdlib>

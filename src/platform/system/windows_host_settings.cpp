@@ -2,7 +2,7 @@
 
 #include <QSettings>
 
-#include "platform/host_settings.h"
+#include "platform/system/host_settings.h"
 
 namespace tarvis {
 namespace {

@@ -1,6 +1,6 @@
 #include <windows.h>
 
-#include "platform/settle_file.h"
+#include "platform/system/settle_file.h"
 
 namespace tarvis {
 
