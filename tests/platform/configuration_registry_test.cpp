@@ -79,6 +79,15 @@ TEST_F(Configuration, FolderInPlaceOfTheFileGivesEmptyValuesAndIsNamedOnce) {
   EXPECT_THAT(Diagnoses(), ElementsAre(Path("") + ": can't be read: Is a directory"));
 }
 
+// Opening a pipe that nobody writes to would take for ever.
+TEST_F(Configuration, PipeInPlaceOfTheFileGivesEmptyValuesAndIsNamedOnce) {
+  ASSERT_EQ(std::system(("mkfifo '" + Path() + "'").c_str()), 0);
+  auto registry = At(Path());
+  EXPECT_EQ(registry.Value(HostKey, "SystemPath"), "");
+  EXPECT_EQ(registry.Page().Number(), 1252);
+  EXPECT_THAT(Diagnoses(), ElementsAre(Path() + ": can't be read: is no regular file"));
+}
+
 TEST_F(Configuration, MissingEntryIsNamedWithItsSection) {
   auto registry = Holding("[One]\nSystemPath=/one\n");
   EXPECT_EQ(registry.Value("Two", "SystemPath"), "");

@@ -23,10 +23,17 @@ std::string Environment(const char* name) {
 
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
+// Whether `path` is a pipe or a device: opening one may take for ever, and reading it may never end.
+bool IsSpecialFile(const std::string& path) {
+  std::error_code ignored;  // what can't be looked at is told when it is opened
+  return std::filesystem::is_other(std::filesystem::status(path, ignored));
+}
+
 }  // namespace
 
 ConfigurationRegistry::ConfigurationRegistry(std::string path, Desktop& desktop)
     : path_(std::move(path)), desktop_(desktop) {
+  if (IsSpecialFile(path_)) return desktop_.Diagnose(path_ + ": can't be read: is no regular file");
   errno = 0;
   std::ifstream file(path_, std::ios::binary);
   if (file) ReadLines(file);
