@@ -3,7 +3,9 @@
 #include <QUrl>
 #include <condition_variable>
 #include <mutex>
+#include <thread>
 
+#include "dialogs/controls/logo_preview.h"
 #include "dialogs/cover_editor.h"
 #include "pictures/picture_file_loader.h"
 
@@ -61,6 +63,7 @@ class Share {
       auto picture = ReadPicture(path);
       const std::lock_guard lock(state->Mutex);
       ++state->Answered;
+      state->Last = picture;
       return picture;
     };
   }
@@ -77,12 +80,18 @@ class Share {
     const std::lock_guard lock(state_->Mutex);
     return state_->Answered;
   }
+  // Whether nobody keeps the picture of the last answer any more: it can't be shown from then on.
+  bool IsLastForgotten() const {
+    const std::lock_guard lock(state_->Mutex);
+    return state_->Answered > 0 && state_->Last.expired();
+  }
 
  private:
   struct State {
     std::mutex Mutex;
     std::condition_variable Changed;
     std::vector<std::string> Asked;
+    std::weak_ptr<const PaintablePicture> Last;
     std::size_t Answered = 0;
     bool Released = false;
   };
@@ -210,9 +219,24 @@ TEST_F(LogoPicture, ThatComesLateForAnotherPathIsNotShown) {
   ASSERT_TRUE(QTest::qWaitFor([&share] { return share.Asked().size() == 1; }));
   TypePath(Folder() + "/missing.bmp");
   share.Release();
-  ASSERT_TRUE(QTest::qWaitFor([&share] { return share.Answered() == 1; }));
-  QApplication::processEvents();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return share.IsLastForgotten() || In("imgLogo").isVisible(); }));
   EXPECT_FALSE(In("imgLogo").isVisible());
+}
+
+TEST_F(LogoPicture, ThatArrivedJustBeforeThePathBecameAnotherOneIsNotShown) {
+  const std::string path = SavePicture("red.bmp", Qt::red);
+  auto reading = std::make_shared<int>();  // a copy of it is kept as long as the thread that reads
+  QWidget dialog;
+  LogoPreview preview(
+      {0, 0, 3000, 3000}, [reading](const std::string& name) { return ReadPicture(name); }, &dialog);
+  const auto idle = reading.use_count();
+  preview.ShowFile(path);
+  while (reading.use_count() > idle) std::this_thread::yield();  // without any event of the toolkit
+  preview.Forget();
+  QApplication::processEvents();
+  EXPECT_FALSE(preview.isVisibleTo(&dialog));
+  preview.ShowFile(path);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return preview.isVisibleTo(&dialog); }));
 }
 
 TEST_F(LogoPicture, IsChosenFromTheFolderOfThePresentOne) {
