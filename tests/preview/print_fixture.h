@@ -150,14 +150,15 @@ class Print : public WindowTest {
     EXPECT_EQ(PdfFact(Path("printed.pdf"), "Pages"), PdfFact(Path("received.pdf"), "Pages"));
   }
 
-  // Has the printer vanish in the midst of a print and expects that to be told.
-  void LoseWhilePrinting(const std::function<bool(PrintServer&)>& lose) {
+  // Has the printer vanish in the midst of a print and expects that to be told with its reason.
+  void LoseWhilePrinting(const std::function<bool(PrintServer&)>& lose, const char* reason) {
     const auto picture = StartAndHold();
     EXPECT_TRUE(lose(PrintServer::Instance()));
     picture->Release();
     const QString failure = ReadFailure();
     EXPECT_TRUE(failure.contains(QStringLiteral("\"DemoPDF\" did not take the document")))
         << failure.toStdString();
+    EXPECT_TRUE(failure.contains(QLatin1String(reason))) << failure.toStdString();
     EXPECT_TRUE(window_->isVisible());
   }
 

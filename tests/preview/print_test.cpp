@@ -43,13 +43,15 @@ TEST_F(Print, paper_that_lies_across_is_too_short_and_told) {
 }
 
 TEST_F(Print, a_queue_that_is_removed_while_printing_is_told_and_the_preview_can_print_again) {
-  LoseWhilePrinting([](PrintServer& server) { return server.RemoveQueue(); });
+  LoseWhilePrinting([](PrintServer& server) { return server.RemoveQueue(); },
+                    "doesn't know this printer any more");
   ASSERT_TRUE(PrintServer::Instance().RestoreQueue());
   ExpectPrinting();
 }
 
 TEST_F(Print, a_server_that_stops_while_printing_is_told_and_the_preview_can_print_again) {
-  LoseWhilePrinting([](PrintServer& server) { return server.StopServer(); });
+  LoseWhilePrinting([](PrintServer& server) { return server.StopServer(); },
+                    "The print system doesn't answer");
   ASSERT_TRUE(PrintServer::Instance().StartServer());
   ExpectPrinting();
 }

@@ -1,9 +1,12 @@
 #include "preview/output/print_system.h"
 
+#include <QCoreApplication>
 #include <QLibrary>
 #include <QPrintEngine>
 #include <QPrinter>
 #include <QStringList>
+#include <algorithm>
+#include <array>
 
 namespace tarvis {
 namespace {
@@ -15,6 +18,18 @@ Function* ClientFunction(const char* name) {
   return reinterpret_cast<Function*>(QLibrary::resolve(QStringLiteral("cups"), Version, name));
 }
 
+struct Refusal {
+  int Status;         // as the print system's protocol numbers it
+  const char* Words;  // ours, where the client library has only the system error that it met last
+};
+
+constexpr std::array<Refusal, 4> Refusals = {{
+    {0x0406, QT_TRANSLATE_NOOP("Printing", "The print system doesn't know this printer any more.")},
+    {0x0500, QT_TRANSLATE_NOOP("Printing", "The print system doesn't answer.")},
+    {0x0502, QT_TRANSLATE_NOOP("Printing", "The print system doesn't answer.")},
+    {0x0506, QT_TRANSLATE_NOOP("Printing", "The printer accepts no documents at present.")},
+}};
+
 }  // namespace
 
 // What these functions tell and set is a matter of the calling thread.
@@ -24,6 +39,8 @@ QString RefusalOfLastJob() {
   auto* const status = ClientFunction<int()>("cupsLastError");
   auto* const words = ClientFunction<const char*()>("cupsLastErrorString");
   if (status == nullptr || words == nullptr || status() < FirstErrorStatus) return {};
+  const auto* const ours = std::ranges::find(Refusals, status(), &Refusal::Status);
+  if (ours != Refusals.end()) return QCoreApplication::translate("Printing", ours->Words);
   return QString::fromUtf8(words());
 }
 
