@@ -1,6 +1,8 @@
 // The limit on titles of functions, and the message of all limits that are counted in bytes.
 #pragma once
 
+#include <string>
+
 namespace tarvis {
 
 struct PrintRun;
@@ -10,6 +12,10 @@ inline constexpr int TitleLimit = 40;
 
 // Title of every message about an input.
 inline constexpr char InputErrorTitle[] = "Input Error";
+
+// What the title box of an item page makes of a kept title: its first line, cut at the limit, of which the
+// user is told.
+void TakeTitle(PrintRun& run, std::string& title);
 
 // Tells the user that a text has more than `limit` bytes.
 void TellByteLimit(PrintRun& run, int limit);

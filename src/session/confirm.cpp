@@ -1,0 +1,53 @@
+#include "session/confirm.h"
+
+#include <string>
+
+#include "printfiles/data_file_scan.h"
+#include "run/print_run.h"
+#include "session/choices.h"
+#include "session/page_options.h"
+#include "session/setting_rules.h"
+#include "session/step_range.h"
+#include "session/title_limit.h"
+
+namespace tarvis {
+namespace {
+
+void LoadCover(PrintRun& run) {
+  PrintOptions& options = run.Options;
+  if (options.Cover == 0) return;
+  SwitchCover(options, true);
+  if (options.SelectCover > 0)
+    RequireChoice(run, options.SelectCover, 1, static_cast<int>(options.User.size()));
+}
+
+void LoadHeader(PrintRun& run, HeaderOptions& header) {
+  RequireMark(run, header.Title);
+  TakeTitle(run, header.TitleText);
+  for (const std::int16_t* mark : {&header.ModelsInfo, &header.PrintDate, &header.FileName, &header.Pages})
+    RequireMark(run, *mark);
+}
+
+void LoadPage(PrintRun& run, PageId page) {
+  LoadHeader(run, HeaderOf(run.Options, page));
+  if (const char* file = OverlapFileOf(page)) ScanOverlap(run, file);
+  if (page == PageId::InfIdxTbl) {
+    LoadStepRange(run);
+    ChooseStepRange(run, run.Options.IdxTblOption.Range);
+  }
+  for (const std::int16_t* mark : MarksOf(run.Options, page)) RequireMark(run, *mark);
+}
+
+}  // namespace
+
+void ConfirmKeptOptions(PrintRun& run) {
+  LoadCover(run);
+  const std::span<const FunctionEntry> functions = OfferedFunctions(run);
+  const ModeChoice& choice = OpenMode(run, functions);
+  LoadStepLimit(run);
+  RequireChoice(run, run.Options.ColorType, 0, 1);
+  LoadPage(run, PageOf(run.Session, functions[static_cast<std::size_t>(choice.Index)]));
+  StampOptions(run);
+}
+
+}  // namespace tarvis
