@@ -1,17 +1,24 @@
 // What the core asks of the desktop around it: how a run speaks to its user and how it ends.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <string>
 
 namespace tarvis {
 
+enum class Failure : std::int16_t;
+
 // The platform implements it with real beeps and windows; tests implement it to watch a run end.
 class Desktop {
  public:
   virtual ~Desktop() = default;
 
+  // Called first of all for a numbered failure; `diagnosis` is its reason, empty if there is none. When it
+  // returns, the user is told and the run ends as every run does, with its data files deleted. A program
+  // without a user throws.
+  virtual void NoticeFailure(Failure /*failure*/, const std::string& /*diagnosis*/) {}
   virtual void Beep() = 0;
   // Shows a modal box with an OK button only and no icon, and returns when the user has answered.
   // `text` is UTF-8; a LF in it starts a new line.

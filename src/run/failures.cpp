@@ -56,6 +56,7 @@ void EndRun(PrintRun& run) {
 }
 
 void ReportFailure(PrintRun& run, Failure failure) {
+  run.Desktop.NoticeFailure(failure, run.Session.Diagnosis);
   if (!run.Session.Diagnosis.empty()) run.Desktop.Diagnose(run.Session.Diagnosis);
   for (int beep = 0; beep < BeepCount; ++beep) run.Desktop.Beep();
   run.Desktop.ShowMessage("Printing Error", std::string(FailureMessage(failure)) + "\n" + Canceled);

@@ -54,6 +54,30 @@ TEST_F(FailuresTest, TellTheHostsDevelopersWhatWasWrong) {
   EXPECT_EQ(Desktop.Calls.front(), "diagnose Trace.tmp:17: unknown key 'Cursolselect'");
 }
 
+TEST_F(FailuresTest, AreNoticedBeforeAnythingIsDeletedOrSaid) {
+  struct Refusal {
+    Failure Number;
+    std::string Reason;
+  };
+  struct NoUser : FakeDesktop {
+    void NoticeFailure(Failure failure, const std::string& diagnosis) override {
+      throw Refusal{failure, diagnosis};
+    }
+  } desktop;
+  PrintRun run(desktop);
+  run.Session.TempFolder = Folder.HostPath();
+  run.Session.Diagnosis = "User.tmp:3: unknown key 'X'";
+  Folder.Write("User.tmp", "X");
+  try {
+    ReportFailure(run, Failure::WrongParameterFile);
+  } catch (const Refusal& refusal) {
+    EXPECT_EQ(refusal.Number, Failure::WrongParameterFile);
+    EXPECT_EQ(refusal.Reason, "User.tmp:3: unknown key 'X'");
+  }
+  EXPECT_THAT(desktop.Calls, testing::IsEmpty());
+  EXPECT_TRUE(Folder.Has("User.tmp"));
+}
+
 TEST_F(FailuresTest, HaveTheirWords) {
   EXPECT_STREQ(FailureMessage(Failure{1}), "Argument is wrong.");
   EXPECT_STREQ(FailureMessage(Failure{2}), "Logo Mark File is not found.");
