@@ -9,21 +9,31 @@
 #include "text/native_path.h"
 
 namespace tarvis {
+namespace {
 
-void LoadPrintOptions(PrintRun& run) {
-  PrintSession& session = run.Session;
-  const std::string path = session.SystemFolder + "PrintOption.ToT";
-  run.Options = {};
-  if (!FileExists(path)) {
-    DefaultPrintOptions(run);
-  } else if (LoadLines(run, path) < 0 || !ReadPrintOptionsFile(run)) {
-    ReportFailure(run, Failure::WrongPrintOptionsFile);
-  }
+void ClearProgress(PrintSession& session) {
   session.OverlapMode = 0;
   session.OverlapNum = 0;
   session.FinishedReports = 0;
   session.TocGroup.clear();
   session.SimExMode = 0;
+}
+
+}  // namespace
+
+void LoadPrintOptions(PrintRun& run) {
+  const std::string path = run.Session.SystemFolder + "PrintOption.ToT";
+  if (FileExists(path)) return LoadPrintOptions(run, path);
+  DefaultPrintOptions(run);
+  ClearProgress(run.Session);
+}
+
+void LoadPrintOptions(PrintRun& run, std::string_view path) {
+  run.Options = {};
+  if (LoadLines(run, path) < 0 || !ReadPrintOptionsFile(run)) {
+    ReportFailure(run, Failure::WrongPrintOptionsFile);
+  }
+  ClearProgress(run.Session);
 }
 
 }  // namespace tarvis

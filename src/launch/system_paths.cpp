@@ -44,8 +44,7 @@ void LoadSystemPaths(PrintRun& run, HostRegistry& registry) {
   PrintSession& session = run.Session;
   const auto* keys = std::ranges::find(Editions, session.HostEdition, &EditionKeys::Edition);
   if (keys == Editions.end()) {
-    session.Diagnosis =
-        "command line: argument 4: no such edition: '" + std::to_string(session.HostEdition) + "'";
+    session.Diagnosis = "command line: no such edition: '" + std::to_string(session.HostEdition) + "'";
     ReportFailure(run, Failure::WrongArgument);
   }
   session.SystemFolder = Value(registry, *keys, keys->BaseFolder) + R"(\bin\)";

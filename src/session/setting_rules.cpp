@@ -50,7 +50,7 @@ const ModeChoice& OpenMode(PrintRun& run, std::span<const FunctionEntry> functio
   const ModeChoice* choice = FindModeChoice(session.HostEdition, session.Mode);
   if (choice == nullptr) {
     RefuseHost(run,
-               "command line: argument 1: no such mode of edition " + std::to_string(session.HostEdition),
+               "command line: no such mode of edition " + std::to_string(session.HostEdition),
                session.Mode);
   }
   if (session.Mode == "SimEx") {
@@ -60,7 +60,7 @@ const ModeChoice& OpenMode(PrintRun& run, std::span<const FunctionEntry> functio
   if (static_cast<std::size_t>(choice->Index) >= functions.size()) {
     throw RunTimeFailure(
         "no function of this version",
-        {.File = "command line", .Line = 0, .Key = "argument 1", .Text = Excerpt(session.Mode)});
+        {.File = "command line", .Line = 0, .Key = "mode", .Text = Excerpt(session.Mode)});
   }
   return *choice;
 }

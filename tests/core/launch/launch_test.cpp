@@ -131,7 +131,7 @@ TEST_F(LaunchTest, WithAnUnknownEditionIsFailure1BeforeTheFoldersAreKnown) {
     Desktop.Calls.clear();
     const std::vector<std::string> calls = CallsOf("User help.html 7 " + std::string(edition));
     EXPECT_EQ(calls.at(0),
-              "diagnose command line: argument 4: no such edition: '" + std::string(edition) + "'");
+              "diagnose command line: no such edition: '" + std::string(edition) + "'");
     EXPECT_EQ(calls.at(6), "message Printing Error|Argument is wrong.\nPrinting Process is canceled.")
         << edition;
     EXPECT_EQ(Run.Session.TempFolder, "");

@@ -50,7 +50,7 @@ TEST_F(Confirm, RefusesWhatTheDialogRefuses) {
   Run.Session.HostEdition = 1;
   Run.Session.HostVersion = "100";
   EXPECT_EQ(RunTimeFailureOf([this] { ConfirmKeptOptions(Run); }),
-            "command line: argument 1: no function of this version: 'Mecha'");
+            "command line: mode: no function of this version: 'Mecha'");
 }
 
 TEST_F(Confirm, StopsAtAnOptionThatNothingInTheDialogCanShow) {
