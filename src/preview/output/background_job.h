@@ -9,13 +9,12 @@
 #include <functional>
 #include <thread>
 
+#include "preview/output/progress.h"
+
 class QProgressDialog;
 class QWidget;
 
 namespace tarvis {
-
-// Told how far the work is; false means that it was cancelled and should stop soon.
-using Progress = std::function<bool(int done, int total)>;
 
 class BackgroundJob : public QObject {
   Q_OBJECT

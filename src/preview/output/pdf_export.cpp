@@ -8,7 +8,7 @@
 #include <map>
 #include <numeric>
 #include <optional>
-#include <qpdf/Pl_Buffer.hh>
+#include <qpdf/Pl_String.hh>
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFWriter.hh>
@@ -202,14 +202,6 @@ QString Text(const char* text) {
   return QCoreApplication::translate("PdfExport", text);
 }
 
-QString WriteFile(const QString& path, const Buffer& bytes) {
-  if (!CanBeReplaced(path)) return Text("\"%1\" is not an ordinary file and is not replaced.").arg(path);
-  QSaveFile file(path);
-  const char* data = static_cast<const char*>(static_cast<const void*>(bytes.getBuffer()));
-  if (WriteAll(file, data, static_cast<qint64>(bytes.getSize()))) return {};
-  return Text("\"%1\" can't be written: %2").arg(path, file.errorString());
-}
-
 }  // namespace
 
 PdfSheets PdfSheets::AllOf(const Document& document) {
@@ -226,8 +218,8 @@ bool CanBeReplaced(const QString& path) {
   return old.exists() ? old.isFile() : !old.isSymLink();
 }
 
-QString ExportPdf(const Document& document, const PdfSheets& sheets, const QString& path, const PdfInfo& info,
-                  const Progress& progress) {
+std::string MakePdf(const Document& document, const PdfSheets& sheets, const PdfInfo& info,
+                    const Progress& progress) {
   QPDF pdf;
   pdf.emptyPDF();
   if (!AddPages(pdf, document, sheets, progress)) return {};
@@ -235,14 +227,29 @@ QString ExportPdf(const Document& document, const PdfSheets& sheets, const QStri
   AddOpening(pdf, sheets);
   AddMetadata(pdf, info);
   if (sheets.Greys) TurnIntoGreys(pdf);
+  std::string bytes;
+  Pl_String sink("pdf", nullptr, bytes);
   QPDFWriter writer(pdf);
-  writer.setOutputMemory();
+  writer.setOutputPipeline(&sink);
   writer.setDeterministicID(true);
   writer.setObjectStreamMode(qpdf_o_generate);
   writer.write();
   const int count = static_cast<int>(sheets.Pages.size());
   if (!progress(count, count)) return {};
-  return WriteFile(path, *writer.getBufferSharedPointer());
+  return bytes;
+}
+
+QString WritePdf(std::string_view pdf, const QString& path) {
+  if (!CanBeReplaced(path)) return Text("\"%1\" is not an ordinary file and is not replaced.").arg(path);
+  QSaveFile file(path);
+  if (WriteAll(file, pdf.data(), static_cast<qint64>(pdf.size()))) return {};
+  return Text("\"%1\" can't be written: %2").arg(path, file.errorString());
+}
+
+QString ExportPdf(const Document& document, const PdfSheets& sheets, const QString& path, const PdfInfo& info,
+                  const Progress& progress) {
+  const std::string pdf = MakePdf(document, sheets, info, progress);
+  return pdf.empty() ? QString() : WritePdf(pdf, path);
 }
 
 QString ExportPdf(const Document& document, const QString& path, const PdfInfo& info,

@@ -4,9 +4,11 @@
 #include <QDateTime>
 #include <QSizeF>
 #include <QString>
+#include <string>
+#include <string_view>
 #include <vector>
 
-#include "preview/output/background_job.h"
+#include "preview/output/progress.h"
 #include "report/engine/document.h"
 
 namespace tarvis {
@@ -32,11 +34,17 @@ struct PdfSheets {
 // lead.
 bool CanBeReplaced(const QString& path);
 
+// The bytes of the PDF; empty if `progress` cancels.
+std::string MakePdf(const Document& document, const PdfSheets& sheets, const PdfInfo& info,
+                    const Progress& progress);
+
 // Writes to a temporary file beside `path` first and replaces `path` only by a whole file, so that nothing is
 // lost on a failure or when `progress` cancels. Returns an error text for the user, empty if all is well or
 // cancelled.
 QString ExportPdf(const Document& document, const PdfSheets& sheets, const QString& path, const PdfInfo& info,
                   const Progress& progress);
+// The last step of it, with the bytes at hand.
+QString WritePdf(std::string_view pdf, const QString& path);
 // The same with all pages.
 QString ExportPdf(const Document& document, const QString& path, const PdfInfo& info,
                   const Progress& progress);
