@@ -7,7 +7,7 @@
 #include "platform/paper.h"
 #include "platform/system/text_measurer.h"
 #include "preview/window/preview_window.h"
-#include "report/engine/composer.h"
+#include "report/master_document.h"
 #include "report/rptTarvis.h"
 #include "run/print_run.h"
 
@@ -21,13 +21,10 @@ class BusyPointer {
   ~BusyPointer() { QApplication::restoreOverrideCursor(); }
 };
 
-// `title` names the document where it is saved or printed.
-std::shared_ptr<const Document> ComposeForDesk(ActiveReport& report, const std::string& title) {
+std::shared_ptr<const Document> ComposeForDesk(PrintRun& run, rptTarvis& report) {
   const BusyPointer busy;
-  const QtTextMeasurer measurer;
-  auto document = std::make_shared<Document>(Compose(report, PaperOfTheDesk(), measurer));
-  if (!title.empty()) document->Title = title;
-  return document;
+  return std::make_shared<const Document>(
+      ComposeMasterReport(run, report, PaperOfTheDesk(), QtTextMeasurer()));
 }
 
 PreviewSetup SetupOf(const ActiveReport& report, const FileHeader& data,
@@ -65,10 +62,8 @@ void QtProgramWindows::ShowPrintSetting() {
 void QtProgramWindows::ShowMasterReport() {
   pictures_.Forget();  // the host may have drawn them anew
   report_ = std::make_unique<rptTarvis>(ReportContext{run_, pictures_}, CreateFunctionReport, *this);
-  run_.Session.MasterReport = report_.get();
-  const std::string title = run_.Session.ActiveHeader.TitleText;  // before overlapped data sets add to it
   const std::shared_ptr<const Document> document =
-      ComposeForDesk(*report_, title);  // fills caption and tools, too
+      ComposeForDesk(run_, *report_);  // fills caption and tools, too
   preview_ = std::make_unique<PreviewWindow>(document, SetupOf(*report_, run_.Header, memory_));
   ShowPreview();
 }

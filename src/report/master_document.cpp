@@ -1,0 +1,20 @@
+#include "report/master_document.h"
+
+#include <string>
+
+#include "report/engine/composer.h"
+#include "report/rptTarvis.h"
+#include "run/print_run.h"
+
+namespace tarvis {
+
+Document ComposeMasterReport(PrintRun& run, rptTarvis& report, const PageSetup& paper,
+                             const TextMeasurer& measurer) {
+  run.Session.MasterReport = &report;
+  const std::string title = run.Session.ActiveHeader.TitleText;  // before overlapped data sets add to it
+  Document document = Compose(report, paper, measurer);
+  if (!title.empty()) document.Title = title;
+  return document;
+}
+
+}  // namespace tarvis
