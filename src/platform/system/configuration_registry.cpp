@@ -33,7 +33,10 @@ bool IsSpecialFile(const std::string& path) {
 
 ConfigurationRegistry::ConfigurationRegistry(std::string path, Desktop& desktop)
     : path_(std::move(path)), desktop_(desktop) {
-  if (IsSpecialFile(path_)) return desktop_.Diagnose(path_ + ": can't be read: is no regular file");
+  if (IsSpecialFile(path_)) {
+    desktop_.Diagnose(path_ + ": can't be read: is no regular file");
+    return;
+  }
   errno = 0;
   std::ifstream file(path_, std::ios::binary);
   if (file) ReadLines(file);
