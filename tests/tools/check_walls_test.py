@@ -1,38 +1,19 @@
 """tools/check_walls finds each kind of breach, and finds nothing in a clean tree."""
-import subprocess
-import sys
-import tempfile
 import unittest
-from pathlib import Path
 
-CHECK = Path(__file__).resolve().parents[2] / "tools" / "check_walls"
-
-
-def breaches_of(files):
-    """What the check prints for a tree of these files, and its exit status."""
-    with tempfile.TemporaryDirectory() as folder:
-        for name, text in files.items():
-            path = Path(folder) / name
-            path.parent.mkdir(parents=True, exist_ok=True)
-            path.write_text(text, encoding="utf-8")
-        run = subprocess.run([sys.executable, CHECK, folder], capture_output=True, text=True, check=False)
-        return run.returncode, run.stdout
+from tree import TreeCheck
 
 
-class CheckWalls(unittest.TestCase):
-    def expect_breach(self, files, words):
-        status, output = breaches_of(files)
-        self.assertEqual(status, 1, output)
-        self.assertIn(words, output)
+class CheckWalls(TreeCheck):
+    CHECK = "check_walls"
 
     def test_clean_tree_passes(self):
-        status, output = breaches_of({
+        self.expect_clean({
             "src/printfiles/a.h": "#include <string>\n",
             "src/report/b.h": '#include "printfiles/a.h"\n',
             "src/preview/paint/c.h": "#include <QWidget>\n",
             "src/main.cpp": '#include <QApplication>\n#include "preview/paint/c.h"\n',
         })
-        self.assertEqual(status, 0, output)
 
     def test_toolkit_header_in_the_core_is_a_breach(self):
         self.expect_breach({"src/report/engine/a.h": "#include <QString>\n"}, "a.h:1: the core includes the toolkit")
