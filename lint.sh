@@ -1,7 +1,8 @@
 #!/bin/sh
 # Checks layout and habits of the code: ./lint.sh [FILE... | --changed [COMMIT]]. Layout is checked in all files, habits
-# in all, in these, or in those that have changed since COMMIT: if not given, since this branch left main, on main since
-# the commit before. clang-format and clang-tidy must find nothing; .clang-format and .clang-tidy say what they look at.
+# in all, in these, or in those that have changed since COMMIT. If that is not given, it is the first of these that is
+# known and older than the last commit: where this branch left main, what the remote branch holds, the last tag, the
+# commit before. clang-format and clang-tidy must find nothing; .clang-format and .clang-tidy say what they look at.
 # Takes many minutes for all files.
 set -eu
 cd "$(dirname "$0")"
@@ -10,9 +11,11 @@ cd "$(dirname "$0")"
 of_its_time='^src/preview/output/pdf_(export|resources)\.cpp$'
 in_its_language='-extra-arg=-std=c++17'
 
-base_of_branch() {
-  base=$(git merge-base HEAD main 2>/dev/null || git rev-parse HEAD)
-  [ "$base" != "$(git rev-parse HEAD)" ] || base=$(git rev-parse HEAD~1)
+base_of_changes() {
+  for known in main '@{upstream}' "$(git describe --tags --abbrev=0 HEAD~1 2>/dev/null)" HEAD~1; do
+    base=$(git merge-base HEAD "$known" 2>/dev/null) || continue
+    [ "$base" = "$(git rev-parse HEAD)" ] || break
+  done
   echo "$base"
 }
 
@@ -55,8 +58,10 @@ git ls-files '*.h' '*.cpp' | xargs clang-format --dry-run -Werror
 case ${1:-} in
   "") chosen=$(git ls-files '*.cpp') ;;
   --changed)
+    base=$(git rev-parse --verify "${2:-$(base_of_changes)}^{commit}")
+    echo "lint.sh: habits of what has changed since $(git log -1 --format='%h, %s' "$base")"
     # shellcheck disable=SC2046 # paths of the tree hold no blanks
-    chosen=$(sources_of $(git diff --name-only --diff-filter=d "${2:-$(base_of_branch)}" -- '*.h' '*.cpp'))
+    chosen=$(sources_of $(git diff --name-only --diff-filter=d "$base" -- '*.h' '*.cpp'))
     ;;
   *) chosen=$(sources_of "$@") ;;
 esac

@@ -48,8 +48,8 @@ class Lint(unittest.TestCase):
         path.write_text(text)
 
     def git(self, *words):
-        subprocess.run(["git", "-C", self.root, "-c", "user.name=a", "-c", "user.email=a@tarvis.example", *words],
-                       check=True, capture_output=True)
+        return subprocess.run(["git", "-C", self.root, "-c", "user.name=a", "-c", "user.email=a@tarvis.example", *words],
+                              check=True, capture_output=True, text=True).stdout
 
     def commit(self):
         self.git("add", "-A")
@@ -59,6 +59,7 @@ class Lint(unittest.TestCase):
         """The files whose habits are looked at, by preset."""
         done = subprocess.run([self.root / "lint.sh", *words], check=False, capture_output=True, text=True,
                               env={**os.environ, "PATH": f"{self.bin}:{os.environ['PATH']}"})
+        self.output = done.stdout
         self.assertEqual(done.returncode, status, done.stdout + done.stderr)
         looked_at = {}
         for line in self.linted.read_text().splitlines() if self.linted.exists() else []:
@@ -89,12 +90,39 @@ class Lint(unittest.TestCase):
         self.write("fuzz/fuzz_user.cpp", "int two;\n")
         self.assertEqual(self.lint("--changed"), {"dev-asan": {"src/text/dates.cpp"}, "fuzz": {"fuzz/fuzz_user.cpp"}})
 
-    def test_on_main_the_last_commit_is_looked_at(self):
+    def change_two_files_in_two_commits(self):
         self.write("src/text/dates.cpp", "int one;\n")
         self.commit()
         self.write("src/text/lines.cpp", "int two;\n")
         self.commit()
+
+    def test_on_main_what_the_remote_branch_does_not_hold_is_looked_at(self):
+        self.git("tag", "older")
+        self.commit()
+        remote = self.root.parent / "remote.git"
+        self.git("init", "-q", "--bare", str(remote))
+        self.git("remote", "add", "origin", str(remote))
+        self.git("push", "-q", "-u", "origin", "main")
+        self.change_two_files_in_two_commits()
+        self.assertEqual(self.lint("--changed"), {"dev-asan": {"src/text/dates.cpp", "src/text/lines.cpp"}})
+
+    def test_on_main_without_remote_what_has_changed_since_the_last_tag_is_looked_at(self):
+        self.git("tag", "older")
+        self.change_two_files_in_two_commits()
+        self.git("tag", "newest")
+        self.assertEqual(self.lint("--changed"), {"dev-asan": {"src/text/dates.cpp", "src/text/lines.cpp"}})
+
+    def test_on_main_without_remote_and_tag_the_last_commit_is_looked_at(self):
+        self.change_two_files_in_two_commits()
         self.assertEqual(self.lint("--changed"), {"dev-asan": {"src/text/lines.cpp"}})
+
+    def test_a_tree_without_an_earlier_commit_is_refused(self):
+        self.lint("--changed", status=128)
+
+    def test_the_commit_that_changes_are_counted_from_is_shown(self):
+        self.commit()
+        self.lint("--changed")
+        self.assertIn("since " + self.git("log", "-1", "--format=%h, next", "HEAD~1").strip(), self.output)
 
     def test_a_commit_to_compare_with_can_be_given(self):
         self.write("src/text/dates.cpp", "int one;\n")
