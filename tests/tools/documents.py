@@ -39,5 +39,5 @@ class Document:
 
 
 def documents():
-    return [Document(path) for path in (*sorted(ROOT.glob("*.md")), *sorted(ROOT.glob("docs/*.md")),
-                                        *sorted(ROOT.glob("fuzz/*.md")))]
+    patterns = ("*.md", "docs/*.md", "fuzz/*.md", "tests/**/*.md")
+    return [Document(path) for pattern in patterns for path in sorted(ROOT.glob(pattern))]
