@@ -14,6 +14,10 @@ from pathlib import Path
 
 from documents import ROOT, documents
 
+sys.path.insert(0, str(ROOT / "tools"))
+
+from floors import read_floors  # noqa: E402
+
 BUILD = Path(os.environ["TARVIS_BUILD"])
 CHECKER = Path(os.environ["TARVIS_CHECK"])
 
@@ -182,8 +186,7 @@ class Paths(unittest.TestCase):
         architecture = next(document for document in documents() if document.name == "docs/architecture.md")
         for folder in (path for path in (ROOT / "src").rglob("*") if path.is_dir()):
             name = str(folder.relative_to(ROOT / "src"))
-            if not name.startswith("functions/"):
-                self.assertRegex(architecture.text, rf"(?<![\w])(src/)?{name}\b")
+            self.assertRegex(architecture.text, rf"(?<![\w])(src/)?{name}\b")
         for room, heading in (("platform", "| File | Does |"), ("preview", "| Part | Files in `src/preview` |")):
             table = architecture.prose.split(heading, 1)[1].split("\n\n", 1)[0]
             told = {name.removesuffix(".h") for name in re.findall(r"`([a-z_.]+)`", table)}
@@ -191,6 +194,16 @@ class Paths(unittest.TestCase):
         for path in ROOT.iterdir():
             if path.is_dir() and not path.name.startswith(".") and path.name not in ("build", "docs", "src"):
                 self.assertTrue(any(span.split("/")[0] == path.name for span in architecture.spans), path.name)
+
+    def test_architecture_tells_each_target_with_what_it_links(self):
+        architecture = next(document for document in documents() if document.name == "docs/architecture.md")
+        rows = {}
+        for folder, _, target, links in architecture.rows("### Targets"):
+            name = folder.strip("`").removesuffix("main.cpp").rstrip("/")
+            self.assertTrue((ROOT / "src" / name).is_dir(), folder)
+            if target:
+                rows[name] = (target.strip("`"), tuple(re.findall(r"`([^`]+)`", links)))
+        self.assertEqual(rows, {floor.folder: (floor.target, floor.links) for floor in read_floors(ROOT).values()})
 
     def test_architecture_gives_a_reason_for_every_package(self):
         architecture = next(document for document in documents() if document.name == "docs/architecture.md")
