@@ -6,18 +6,10 @@
 #include <cstdlib>
 #include <functional>
 
-#include "functions/catalog.h"
 #include "functions/user/rptUserPrm.h"
 #include "large_user_data.h"
-#include "printfiles/host_files.h"
 #include "printfiles/user_file.h"
-#include "report/engine/composer.h"
-#include "report/rptTarvis.h"
-#include "run/print_run.h"
-#include "support/arial_measurer.h"
-#include "support/fake_desktop.h"
-#include "support/fake_pictures.h"
-#include "support/fake_windows.h"
+#include "support/report_run.h"
 
 namespace tarvis {
 namespace {
@@ -25,21 +17,14 @@ namespace {
 constexpr int Parameters = 16000;
 constexpr int Switches = 1800;
 
-struct Bench {
-  FakeDesktop Desktop;
-  PrintRun Run{Desktop};
-  FakePictureLoader Pictures;
-  FakeWindows Windows;
-
+struct Bench : ReportRun {
   Bench() {
     PrintSession& session = Run.Session;
     session.Mode = "User";
     if (const char* folder = std::getenv("TARVIS_BENCH_FOLDER")) session.TempFolder = folder;
-    session.ShowPrmName = session.ShowPrmUnit = session.ShowPrmDefault = session.ShowPrmSwitches = 1;
     session.ActiveHeader = {1, 1, 1, 1, 1, "Parameters"};
     Run.Options.UserHeader = session.ActiveHeader;
     Run.Options.UserOption = {1, 1, 1, 1, 1};
-    Run.Header.FileSpec = 3;
   }
 };
 

@@ -113,8 +113,10 @@ TEST_F(ItemPageTest, TheCutTitleIsStoredBeforeTheUserIsTold) {
     PrintRun* Watched = nullptr;
     std::string Seen;
     bool OverTheDialog = false;
-  } desktop;
-  PrintRun run(desktop);
+  };
+  TestRunOn<Watching> watched;
+  Watching& desktop = watched.Desktop;
+  PrintRun& run = watched.Run;
   desktop.Watched = &run;
   DefaultPrintOptions(run);
   run.Session.HostEdition = 2;

@@ -15,11 +15,6 @@ inline std::string TooLong(int limit) {
 inline std::string TooManyLines(int lines) {
   return "Input Error|Try with Less Lines. Up to " + std::to_string(lines) + "\nLines can be Inputted.";
 }
-inline std::string Repeat(const std::string& piece, int count) {
-  std::string text;
-  for (int i = 0; i < count; ++i) text += piece;
-  return text;
-}
 
 // A field of the editor: its box, its tab, where its text is kept, and its limits.
 struct CoverText {

@@ -6,28 +6,27 @@
 
 #include <QDialog>
 #include <QPointer>
-#include <QTemporaryDir>
 #include <QTest>
-#include <fstream>
 #include <memory>
-#include <sstream>
 #include <string>
 
 #include "dialogs/PrintSetting.h"
 #include "dialogs/box_desktop.h"
 #include "dialogs/test_application.h"
 #include "printfiles/print_options_file.h"
-#include "run/print_run.h"
-#include "support/pinned_time.h"
+#include "support/repeat.h"
+#include "support/temp_folder.h"
+#include "support/test_run.h"
 
 namespace tarvis {
 
-class DialogRun : public testing::Test {
+class DialogRun : public testing::Test, protected TestRunOn<BoxDesktop> {
  protected:
+  using TestRunOn::Run;
+
   DialogRun() {
     Run.Session.SystemFolder = Folder() + "\\";
     Run.Session.TempFolder = Folder() + "\\";
-    Run.Now = PinnedTime;
     DefaultPrintOptions(Run);
   }
   ~DialogRun() override {
@@ -39,16 +38,10 @@ class DialogRun : public testing::Test {
     delete Dialog.data();
   }
 
-  std::string Folder() const { return folder_.path().toStdString(); }
-  void WriteFile(const std::string& name, const std::string& content) const {
-    std::ofstream(Folder() + "/" + name, std::ios::binary) << content;
-  }
-  std::string OptionsFile() const {
-    std::ostringstream text;
-    text << std::ifstream(Folder() + "/PrintOption.ToT", std::ios::binary).rdbuf();
-    return text.str();
-  }
-  bool OptionsFileExists() const { return std::ifstream(Folder() + "/PrintOption.ToT").good(); }
+  std::string Folder() const { return folder_.Path().string(); }
+  void WriteFile(const std::string& name, const std::string& content) const { folder_.Write(name, content); }
+  std::string OptionsFile() const { return folder_.Read("PrintOption.ToT"); }
+  bool OptionsFileExists() const { return folder_.Has("PrintOption.ToT"); }
 
   void Open(std::int16_t edition, const std::string& version, const std::string& mode) {
     Run.Session.HostEdition = edition;
@@ -129,14 +122,12 @@ class DialogRun : public testing::Test {
     }
   }
 
-  BoxDesktop Desktop;
-  PrintRun Run{Desktop};
   QPointer<PrintSetting> Dialog;
   std::vector<bool> PreviewDialogVisible;  // one entry for each call of the preview
   std::string Help;
 
  private:
-  QTemporaryDir folder_;
+  TempFolder folder_;
 };
 
 inline constexpr char TitleTooLong[] =

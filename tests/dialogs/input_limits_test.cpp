@@ -8,14 +8,10 @@ namespace {
 // U+8A66, two bytes in a Japanese code page and three in UTF-8.
 const std::string Wide = "\xE8\xA9\xA6";
 
-std::string Repeat(const std::string& piece, int count) {
-  std::string text;
-  for (int i = 0; i < count; ++i) text += piece;
-  return text;
-}
-
-class InputLimits : public testing::Test {
+class InputLimits : public testing::Test, protected TestRun {
  protected:
+  using TestRun::Run;
+
   InputLimits() { Run.Page = CodePage(932); }
 
   bool Trim(const std::string& text) {
@@ -23,8 +19,6 @@ class InputLimits : public testing::Test {
     return TrimToByteLimit(Run, 40, Box);
   }
 
-  FakeDesktop Desktop;
-  PrintRun Run{Desktop};
   QWidget Window;
   LineBox Box{"box", NoFamily, "box", 40, {0, 0, 3000, 300}, &Window};
 };

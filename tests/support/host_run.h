@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "support/report_run.h"
-#include "support/temp_folder.h"
 
 namespace tarvis {
 
@@ -25,34 +24,23 @@ struct HostRun : testing::Test {
     return PathOf(name);
   }
   void WriteLines(const std::string& name, const std::vector<std::string>& lines) const {
-    std::string bytes;
-    for (const std::string& line : lines) bytes += line + "\r\n";
-    Folder.Write(name, bytes);
+    Folder.Write(name, BytesOf(lines));
   }
   // Expects the report to end the run with numbered failure `message`, in the words that the user reads.
   void ExpectFailure(const std::string& report, const std::string& message) {
     EXPECT_THROW(Report.ComposeAlone(report), RunEnded) << report;
-    EXPECT_THAT(Report.Screen.Messages,
+    EXPECT_THAT(Report.Desktop.Messages,
                 testing::ElementsAre("Printing Error|" + message + "\nPrinting Process is canceled."));
-    EXPECT_EQ(std::ranges::count(Report.Screen.Calls, "beep"), 5);
-    EXPECT_THAT(Report.Screen.Diagnoses,
+    EXPECT_EQ(std::ranges::count(Report.Desktop.Calls, "beep"), 5);
+    EXPECT_THAT(Report.Desktop.Diagnoses,
                 testing::ElementsAre(testing::StartsWith(report + ": no picture file '")));
-    Report.Screen = {};
+    Report.Desktop = {};
   }
 
   TempFolder Folder;
   ReportRun Report;
   PrintRun& Run = Report.Run;
 };
-
-// The one text of each printing of a control, "" where a printing has none.
-inline std::vector<std::string> TextsOf(const Document& document, const std::string& control) {
-  std::vector<std::string> texts;
-  for (const Printed& printed : PrintedOf(document, control)) {
-    texts.push_back(printed.Texts.empty() ? "" : printed.Texts[0]);
-  }
-  return texts;
-}
 
 // "page: caption @ height in the body" of each contents entry of a document with the master report's margins.
 inline std::vector<std::string> EntriesOf(const Document& document) {

@@ -9,19 +9,16 @@
 #include "report/engine/composer.h"
 #include "report/rptBaseHeader.h"
 #include "report/rptTarvis.h"
-#include "run/print_run.h"
 #include "support/arial_measurer.h"
-#include "support/fake_desktop.h"
 #include "support/fake_pictures.h"
 #include "support/fake_windows.h"
-#include "support/pinned_time.h"
+#include "support/test_run.h"
 
 namespace tarvis {
 
 // A4 paper with the margins of the master report.
-struct ReportRun {
+struct ReportRun : TestRun {
   ReportRun() {
-    Run.Now = PinnedTime;
     Run.Header.FileSpec = 3;
     Run.Session.ShowPrmName = Run.Session.ShowPrmUnit = Run.Session.ShowPrmDefault =
         Run.Session.ShowPrmSwitches = 1;
@@ -55,10 +52,8 @@ struct ReportRun {
     return Compose(*Master, setup, ArialMeasurer());
   }
 
-  FakeDesktop Screen;
   FakePictureLoader Pictures;
   FakeWindows Windows;
-  PrintRun Run{Screen};
   std::unique_ptr<rptTarvis> Master;
 };
 

@@ -7,8 +7,8 @@
 #include <ostream>
 #include <string>
 
-#include "core/support/test_run.h"
 #include "support/source_folder.h"
+#include "support/test_run.h"
 #include "text/text.h"
 
 namespace tarvis {

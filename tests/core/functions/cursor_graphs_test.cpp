@@ -137,7 +137,7 @@ TEST_P(CursorGraph, AnUnknownColorTypePrintsEmptyBoxesHoweverWrongThePathsAre) {
     const Document document = Compose();
     EXPECT_THAT(Report.Pictures.Loaded, IsEmpty());
     EXPECT_THAT(PrintedOf(document, "imgGraph"), IsEmpty());
-    EXPECT_EQ(TextsOf(document, "Label2"), std::vector<std::string>{"[Cursor Data]"});
+    EXPECT_EQ(ColumnOf(document, "Label2"), std::vector<std::string>{"[Cursor Data]"});
     EXPECT_GT(PrintedOf(document, "txtTitleName").at(0).Box.Top, 630 + 8300) << "the boxes keep their room";
   }
 }
@@ -150,29 +150,29 @@ TEST_P(CursorGraph, APictureThatCannotBeShownIsARunTimeFailure) {
   } loader;
   const auto report = CreateFunctionReport(GetParam(), {Run, loader});
   EXPECT_THROW(ComposeSample(*report, 14918), RunTimeFailure);
-  EXPECT_THAT(Report.Screen.Messages, IsEmpty());
+  EXPECT_THAT(Report.Desktop.Messages, IsEmpty());
 }
 
 TEST_P(CursorGraph, TheNameStandsFirstAndTheDifferenceLast) {
   const Document document = Compose();
-  EXPECT_THAT(TextsOf(document, "txtTitleName"), ElementsAre("Name/Unit"));
-  EXPECT_THAT(TextsOf(document, "txtTitleCurA"), ElementsAre("Cursor A"));
-  EXPECT_THAT(TextsOf(document, "txtTitleCurB"), ElementsAre("Cursor B"));
-  EXPECT_THAT(TextsOf(document, "txtTitleCurB_A"), ElementsAre("B-A"));
-  EXPECT_THAT(TextsOf(document, "txtValueName"), ElementsAre("Speed [min-1]", "Torque [%]"));
-  EXPECT_THAT(TextsOf(document, "txtValueCurA"), ElementsAre("1.0", "10"));
-  EXPECT_THAT(TextsOf(document, "txtValueCurB"), ElementsAre("2.0", "20"));
-  EXPECT_THAT(TextsOf(document, "txtValueCurB_A"), ElementsAre("1.0", "10"));
+  EXPECT_THAT(ColumnOf(document, "txtTitleName"), ElementsAre("Name/Unit"));
+  EXPECT_THAT(ColumnOf(document, "txtTitleCurA"), ElementsAre("Cursor A"));
+  EXPECT_THAT(ColumnOf(document, "txtTitleCurB"), ElementsAre("Cursor B"));
+  EXPECT_THAT(ColumnOf(document, "txtTitleCurB_A"), ElementsAre("B-A"));
+  EXPECT_THAT(ColumnOf(document, "txtValueName"), ElementsAre("Speed [min-1]", "Torque [%]"));
+  EXPECT_THAT(ColumnOf(document, "txtValueCurA"), ElementsAre("1.0", "10"));
+  EXPECT_THAT(ColumnOf(document, "txtValueCurB"), ElementsAre("2.0", "20"));
+  EXPECT_THAT(ColumnOf(document, "txtValueCurB_A"), ElementsAre("1.0", "10"));
 }
 
 TEST_P(CursorGraph, OneCursorRowIsTheFirst) {
   Fields.CursolSelect = 1;
-  EXPECT_THAT(TextsOf(Compose(), "txtValueName"), ElementsAre("Speed [min-1]"));
+  EXPECT_THAT(ColumnOf(Compose(), "txtValueName"), ElementsAre("Speed [min-1]"));
 }
 
 TEST_P(CursorGraph, EveryFurtherRowIsTheSecondOneAgain) {
   Fields.CursolSelect = 4;
-  EXPECT_THAT(TextsOf(Compose(), "txtValueName"),
+  EXPECT_THAT(ColumnOf(Compose(), "txtValueName"),
               ElementsAre("Speed [min-1]", "Torque [%]", "Torque [%]", "Torque [%]"));
 }
 
@@ -189,7 +189,7 @@ TEST_P(CursorGraph, WithoutCursorsTheGraphStandsAlone) {
 TEST_P(CursorGraph, ANegativeCursorCountPrintsTitlesWithoutRows) {
   Fields.CursolSelect = -1;
   const Document document = Compose();
-  EXPECT_THAT(TextsOf(document, "Label2"), ElementsAre("[Cursor Data]"));
+  EXPECT_THAT(ColumnOf(document, "Label2"), ElementsAre("[Cursor Data]"));
   EXPECT_EQ(PrintedOf(document, "txtTitleName").size(), 1U);
   EXPECT_THAT(PrintedOf(document, "txtValueName"), IsEmpty());
 }
@@ -218,7 +218,7 @@ TEST_P(CursorGraph, EntersItsCaptionBelowTheGroupUnlessItHasNone) {
   const bool grouped = std::string(GetParam()) != "rptRealTraceGraph";
   ASSERT_EQ(document.Contents.size(), grouped ? 2U : 1U);
   EXPECT_EQ(document.Contents.back().Level, grouped ? 1 : 0);
-  EXPECT_EQ(document.Contents.back().Text, TextsOf(document, "Label1").at(0));
+  EXPECT_EQ(document.Contents.back().Text, ColumnOf(document, "Label1").at(0));
 }
 
 struct InputOutputLegend : CursorGraph {};

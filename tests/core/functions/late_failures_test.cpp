@@ -1,8 +1,8 @@
 // What fails only when the pages are made, long after it was read, still names its line in the file.
 #include <gtest/gtest.h>
 
-#include "core/support/test_run.h"
 #include "support/host_run.h"
+#include "support/test_run.h"
 
 namespace tarvis {
 namespace {

@@ -82,15 +82,16 @@ struct MechaGraph : HostRun {
 TEST_F(MechaGraph, PrintsThreeRowsInFourColumnsForMostSelections) {
   for (const std::int16_t select : std::initializer_list<std::int16_t>{1, 3, -1, 4}) {
     const Document document = Compose(select);
-    EXPECT_THAT(TextsOf(document, "Label4"), ElementsAre("[Cursor Data]"));
-    EXPECT_THAT(TextsOf(document, "txtTitleName"), ElementsAre("Name/Unit"));
-    EXPECT_THAT(TextsOf(document, "txtTitleCurA"), ElementsAre("Point A"));
-    EXPECT_THAT(TextsOf(document, "txtTitleCurB"), ElementsAre("Point B"));
-    EXPECT_THAT(TextsOf(document, "txtTitleCurB_A"), ElementsAre("Difference"));
-    EXPECT_THAT(TextsOf(document, "txtValueName"), ElementsAre("Frequency [Hz]", "Gain [dB]", "Phase [deg]"));
-    EXPECT_THAT(TextsOf(document, "txtValueCurA"), ElementsAre("100", "-3.0", "-90"));
-    EXPECT_THAT(TextsOf(document, "txtValueCurB"), ElementsAre("250", "-20.5", "-180"));
-    EXPECT_THAT(TextsOf(document, "txtValueCurB_A"), ElementsAre("150", "-17.5", "-91"));
+    EXPECT_THAT(ColumnOf(document, "Label4"), ElementsAre("[Cursor Data]"));
+    EXPECT_THAT(ColumnOf(document, "txtTitleName"), ElementsAre("Name/Unit"));
+    EXPECT_THAT(ColumnOf(document, "txtTitleCurA"), ElementsAre("Point A"));
+    EXPECT_THAT(ColumnOf(document, "txtTitleCurB"), ElementsAre("Point B"));
+    EXPECT_THAT(ColumnOf(document, "txtTitleCurB_A"), ElementsAre("Difference"));
+    EXPECT_THAT(ColumnOf(document, "txtValueName"),
+                ElementsAre("Frequency [Hz]", "Gain [dB]", "Phase [deg]"));
+    EXPECT_THAT(ColumnOf(document, "txtValueCurA"), ElementsAre("100", "-3.0", "-90"));
+    EXPECT_THAT(ColumnOf(document, "txtValueCurB"), ElementsAre("250", "-20.5", "-180"));
+    EXPECT_THAT(ColumnOf(document, "txtValueCurB_A"), ElementsAre("150", "-17.5", "-91"));
   }
 }
 
@@ -109,8 +110,8 @@ TEST_F(MechaGraph, WithoutCursorsTheColumnOfTheDifferenceStays) {
                               "txtValueCurA", "txtValueCurB"}) {
     EXPECT_THAT(PrintedOf(document, control), IsEmpty()) << control;
   }
-  EXPECT_THAT(TextsOf(document, "txtTitleCurB_A"), ElementsAre("Difference"));
-  EXPECT_THAT(TextsOf(document, "txtValueCurB_A"), ElementsAre("150", "-17.5", "-91"));
+  EXPECT_THAT(ColumnOf(document, "txtTitleCurB_A"), ElementsAre("Difference"));
+  EXPECT_THAT(ColumnOf(document, "txtValueCurB_A"), ElementsAre("150", "-17.5", "-91"));
   EXPECT_EQ(PrintedOf(document, "txtTitleCurB_A").at(0).Box.Top, 630 + 7938 + 142)
       << "the graphs' section ends with the phase graph";
 }
@@ -118,8 +119,8 @@ TEST_F(MechaGraph, WithoutCursorsTheColumnOfTheDifferenceStays) {
 TEST_F(MechaGraph, MissingCursorNamesLeaveTheTitlesEmpty) {
   Data.CursolName = {};
   const Document document = Compose(3);
-  EXPECT_THAT(TextsOf(document, "txtTitleCurA"), ElementsAre(""));
-  EXPECT_THAT(TextsOf(document, "txtTitleCurB_A"), ElementsAre(""));
+  EXPECT_THAT(ColumnOf(document, "txtTitleCurA"), ElementsAre(""));
+  EXPECT_THAT(ColumnOf(document, "txtTitleCurB_A"), ElementsAre(""));
 }
 
 TEST_F(MechaGraph, TheFirstTitleStandsOffTheLineOfItsNeighbours) {
@@ -170,8 +171,8 @@ TEST_F(MechaGraph, AnUnknownColorTypePrintsEmptyBoxes) {
   Data.MechaGraph1.clear();
   const Document document = Compose(3);
   EXPECT_THAT(PrintedOf(document, "imgGraph1"), IsEmpty());
-  EXPECT_THAT(TextsOf(document, "Label2"), ElementsAre("[Gain Graph]"));
-  EXPECT_THAT(TextsOf(document, "Label5"), ElementsAre("[Phase Graph]"));
+  EXPECT_THAT(ColumnOf(document, "Label2"), ElementsAre("[Gain Graph]"));
+  EXPECT_THAT(ColumnOf(document, "Label5"), ElementsAre("[Phase Graph]"));
 }
 
 struct MechaTables : HostRun {};
@@ -183,7 +184,7 @@ TEST_F(MechaTables, PrintAllTheirRowsAlsoWhenTheFileLacksThem) {
     const Document document = Report.ComposeAlone(report);
     EXPECT_EQ(PrintedOf(document, "txtValueName").size(), rows) << report;
     for (const char* control : {"txtValueName", "txtValueVal", "txtValueUnit"}) {
-      EXPECT_EQ(TextsOf(document, control), std::vector<std::string>(rows)) << report;
+      EXPECT_EQ(ColumnOf(document, control), std::vector<std::string>(rows)) << report;
     }
   }
 }

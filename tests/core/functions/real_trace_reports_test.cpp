@@ -32,7 +32,7 @@ TEST_F(RealTimeTracing, TheLineBreakBehindItemsMakesNoSecondLine) {
   const Document document = Report.ComposeAlone("rptRealTraceInfo");
   EXPECT_THAT(PrintedOf(document, "txtTitleName").at(0).Texts, ElementsAre("Items"));
   EXPECT_EQ(PrintedOf(document, "txtTitleName").at(0).Box.Height, 283);
-  EXPECT_THAT(TextsOf(document, "txtTitleValue"), ElementsAre("Value"));
+  EXPECT_THAT(ColumnOf(document, "txtTitleValue"), ElementsAre("Value"));
   EXPECT_EQ(PrintedOf(document, "txtValueName").size(), 3U);
 }
 

@@ -3,8 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "support/report_run.h"
-#include "support/temp_folder.h"
+#include "support/host_run.h"
 
 namespace tarvis {
 namespace {
@@ -12,7 +11,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-struct Wizard : testing::Test {
+struct Wizard : HostRun {
   Wizard() {
     for (const char* name : {"base.bmp", "relay.bmp"}) Folder.Write(name, "x");
     Data.Base = Folder.SystemPath() + "base.bmp";
@@ -32,15 +31,13 @@ struct Wizard : testing::Test {
   Document Compose() { return Report.ComposeAlone("rptUPWizard"); }
   std::string FailureOf() {
     EXPECT_THROW(Compose(), RunEnded);
-    return Report.Screen.Messages.empty() ? "" : Report.Screen.Messages.back();
+    return Report.Desktop.Messages.empty() ? "" : Report.Desktop.Messages.back();
   }
   static Rect PlaceOf(const Document& document, const std::string& control) {
     const auto printed = PrintedOf(document, control);
     return printed.empty() ? Rect{} : printed[0].Box;
   }
 
-  TempFolder Folder;
-  ReportRun Report;
   UPWizardData& Data = Report.Run.UPWizard;
 };
 
@@ -142,8 +139,8 @@ TEST_F(Wizard, AMissingRelayPictureIsFailureThirteenBeforeTheBaseIsLookedAt) {
   Data.Ry[7].Picture = "C:\\missing.bmp";
   Data.Base = "C:\\missing too.bmp";
   EXPECT_EQ(FailureOf(), Failure13);
-  ASSERT_FALSE(Report.Screen.Diagnoses.empty());
-  EXPECT_THAT(Report.Screen.Diagnoses.back(), testing::HasSubstr("missing.bmp"));
+  ASSERT_FALSE(Report.Desktop.Diagnoses.empty());
+  EXPECT_THAT(Report.Desktop.Diagnoses.back(), testing::HasSubstr("missing.bmp"));
 }
 
 TEST_F(Wizard, LongTextsDoNotMoveTheRows) {

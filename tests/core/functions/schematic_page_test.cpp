@@ -53,7 +53,7 @@ TEST_F(Schematic, PrintsARelayOfWhichOnlyAPartIsTold) {
   EXPECT_THAT(PrintedOf(document, "txtRyName1"), IsEmpty());
   EXPECT_THAT(PrintedOf(document, "txtRyNumber1"), IsEmpty());
   EXPECT_THAT(PrintedOf(document, "ImgRy2"), IsEmpty());
-  EXPECT_THAT(TextsOf(document, "txtRyNumber2"), ElementsAre("CN1-41"));
+  EXPECT_THAT(ColumnOf(document, "txtRyNumber2"), ElementsAre("CN1-41"));
 }
 
 TEST_F(Schematic, CondensesACaptionThatIsLongerThanItsBox) {

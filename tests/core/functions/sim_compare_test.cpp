@@ -3,8 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "printfiles/host_files.h"
-#include "support/report_run.h"
-#include "support/temp_folder.h"
+#include "support/host_run.h"
 
 namespace tarvis {
 namespace {
@@ -140,7 +139,7 @@ std::string SimFile(const TempFolder& folder, int simulations, const std::string
   return file;
 }
 
-struct OverlappedSim : testing::Test {
+struct OverlappedSim : HostRun {
   Document Compose(int simulations) {
     Folder.Write("graph.bmp", "x");
     Folder.Write("Sim.tmp", SimFile(Folder, simulations, "all.sim"));
@@ -148,7 +147,6 @@ struct OverlappedSim : testing::Test {
       Folder.Write("Sim" + std::to_string(number) + ".tmp",
                    SimFile(Folder, 0, std::to_string(number) + ".sim"));
     }
-    Session.TempFolder = Folder.SystemPath();
     Session.Mode = "Sim";
     Session.OverlapMode = 1;
     Session.OverlapNum = static_cast<std::int16_t>(simulations);
@@ -156,8 +154,7 @@ struct OverlappedSim : testing::Test {
     Report.Run.Options.SimOption = {1, 1, 1, 0, 0, 0, 0, 0, 0, 0, 1, 1, 1};
     return Report.ComposeMaster();
   }
-  TempFolder Folder;
-  ReportRun Report;
+
   PrintSession& Session = Report.Run.Session;
 };
 
@@ -191,7 +188,7 @@ TEST_F(OverlappedSim, AMissingCompanionIsFailureFive) {
   Compose(2);
   std::filesystem::remove(Folder.Path() / "Sim2.tmp");
   EXPECT_THROW(Report.ComposeMaster(), RunEnded);
-  EXPECT_THAT(Report.Screen.Messages.back(), testing::HasSubstr("Dynamics Simulation File is wrong."));
+  EXPECT_THAT(Report.Desktop.Messages.back(), testing::HasSubstr("Dynamics Simulation File is wrong."));
 }
 
 }  // namespace

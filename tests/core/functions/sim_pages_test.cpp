@@ -165,7 +165,7 @@ TEST_F(SimPages, StopAtAKindThatIsNoNumberOnlyWhereTheReferencePrints) {
     TurnOn({});
     EXPECT_EQ(Print().Contents.size(), 3U) << kind;
   }
-  EXPECT_THAT(Report.Screen.Messages, IsEmpty());
+  EXPECT_THAT(Report.Desktop.Messages, IsEmpty());
 }
 
 TEST_F(SimPages, ShowOneColumnForEachValueOfThePatternUpToTen) {
@@ -205,7 +205,7 @@ TEST_F(SimPages, PassAnOldFileSpecThoughThereAreParameters) {
   WriteLines("Sim.tmp",
              Start("one.sim") + Lines{"File-Spec,1", "UserNum,1", "UserName,Pn100,Gain", "UserValue,1,2,-"});
   EXPECT_EQ(Print().Contents.back().Text, "Parameters List");
-  EXPECT_THAT(Report.Screen.Messages, IsEmpty());
+  EXPECT_THAT(Report.Desktop.Messages, IsEmpty());
 }
 
 TEST_F(SimPages, OfMotorTypeOneListTheRowsOfTheShortTableInOrder) {
@@ -227,7 +227,7 @@ TEST_F(SimPages, EndAtTheMechanicalSettingWhoseModelIsMissing) {
   Report.Pictures.Loaded.clear();
   EXPECT_THROW(Print(), RunEnded);
   EXPECT_THAT(Report.Pictures.Loaded, ElementsAre(PathOf("graph.bmp"))) << "the pages before were composed";
-  EXPECT_THAT(Report.Screen.Messages,
+  EXPECT_THAT(Report.Desktop.Messages,
               ElementsAre("Printing Error|Mechanical Setting Model BMP File is not found.\n"
                           "Printing Process is canceled."));
 }
@@ -266,7 +266,7 @@ struct OverlappedSimPages : SimPages {
   static std::string NameOf(int number) { return "sim" + std::to_string(number - 1) + ".sim"; }
   void ExpectEnd(const std::string& message) {
     EXPECT_THROW(Print(), RunEnded);
-    EXPECT_THAT(Report.Screen.Messages,
+    EXPECT_THAT(Report.Desktop.Messages,
                 ElementsAre("Printing Error|" + message + "\nPrinting Process is canceled."));
   }
 };
@@ -359,7 +359,7 @@ TEST_F(OverlappedSimPages, EndAtTheSetWhosePicturesAreMissing) {
        {std::tuple(0, "SimGraph," + gone, "Graph File (Black & White) is not found."),
         {1, "SimGraphC," + gone, "Graph File (Color) is not found."},
         {0, "SimNote," + gone, "Explanatory File is not found."}}) {
-    Report.Screen = {};
+    Report.Desktop = {};
     Report.Pictures.Loaded.clear();
     Run.Options.ColorType = static_cast<std::int16_t>(color);
     WriteLines("Sim.tmp", Result(2) + Lines{"SimGraphC," + Picture("graph_c.bmp")});

@@ -2,8 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "support/report_run.h"
-#include "support/temp_folder.h"
+#include "support/host_run.h"
 
 namespace tarvis {
 namespace {
@@ -17,8 +16,7 @@ std::vector<float> HeightsOf(const Document& document, const std::string& contro
   return heights;
 }
 
-struct SimReports : testing::Test {
-  ReportRun Report;
+struct SimReports : HostRun {
   SimData& Sim = Report.Run.Sim;
 };
 
@@ -193,7 +191,6 @@ struct MechanicalSettings : SimReports {
     Sim.ResPoint = {"Resonance", "400", "Hz"};
     Sim.AntiResPoint = {"Anti-Resonance", "300", "Hz"};
   }
-  TempFolder Folder;
 };
 
 TEST_F(MechanicalSettings, GiveEachRowItsHeight) {
@@ -223,7 +220,7 @@ TEST_F(MechanicalSettings, AMissingModelIsFailureNine) {
     Sim.MechaType.ModelFile = path;
     EXPECT_THROW(Report.ComposeAlone("rptSimSettingMecha"), RunEnded);
     EXPECT_EQ(
-        Report.Screen.Messages.back(),
+        Report.Desktop.Messages.back(),
         "Printing Error|Mechanical Setting Model BMP File is not found.\nPrinting Process is canceled.");
   }
 }

@@ -74,7 +74,7 @@ TEST_F(Tracing, PrintsTheColorPicturesInAnOverlappedResultWithItsTarget) {
   const Document document = Report.ComposeMaster();
   EXPECT_THAT(EntriesOf(document), ElementsAre("1: Traced Graph @ 855", "1: Overlapping Target @ 10846"));
   EXPECT_THAT(Report.Pictures.Loaded, Each(HasSubstr("_c.bmp")));
-  EXPECT_THAT(TextsOf(document, "txtTitle"), ElementsAre("Tracing-Overlapping result"));
+  EXPECT_THAT(ColumnOf(document, "txtTitle"), ElementsAre("Tracing-Overlapping result"));
   ExpectGolden("trace_overlap", Dump(document));
 }
 
@@ -91,7 +91,7 @@ TEST_F(Tracing, PrintsResultTargetAndDataOfAnOverlappedRunEachInItsGroup) {
                           "3: Overlapping data 1/2 @ 855", "3: - Traced Graph @ 855",
                           "3: - Trace Object Setting @ 10846", "4: Overlapping data 2/2 @ 855",
                           "4: - Traced Graph @ 855", "4: - Trace Object Setting @ 10846"));
-  EXPECT_THAT(TextsOf(document, "txtTitle"),
+  EXPECT_THAT(ColumnOf(document, "txtTitle"),
               ElementsAre("Tracing-Overlapping result", "Tracing-Overlapping target",
                           "Tracing-Overlapping data", "Tracing-Overlapping data"));
 }
@@ -104,7 +104,7 @@ TEST_F(Tracing, AnEmptyCompanionEndsTheRunForItsGraphWhenItsPassBegins) {
   Folder.Write("Trace1.tmp", "");
   EXPECT_THROW(Report.ComposeMaster(), RunEnded);
   EXPECT_EQ(Report.Pictures.Loaded.size(), 3U) << "the result was composed first";
-  EXPECT_THAT(Report.Screen.Messages, ElementsAre(HasSubstr("Graph File (Black & White) is not found.")));
+  EXPECT_THAT(Report.Desktop.Messages, ElementsAre(HasSubstr("Graph File (Black & White) is not found.")));
 }
 
 struct TraceObject : HostRun {
@@ -122,34 +122,36 @@ struct TraceObject : HostRun {
 
 TEST_F(TraceObject, LabelsItsSixRowsInTracing) {
   const Document document = Compose();
-  EXPECT_THAT(TextsOf(document, "Label1"), ElementsAre("Trace Object Setting"));
-  EXPECT_THAT(TextsOf(document, "txtTitleTrace"), ElementsAre(""));
-  EXPECT_THAT(TextsOf(document, "txtValueTrace"), ElementsAre("Data trace1", "Data trace2", "Data trace3",
-                                                              "I/O trace1", "I/O trace2", "I/O trace3"));
-  EXPECT_THAT(TextsOf(document, "txtValueName"),
+  EXPECT_THAT(ColumnOf(document, "Label1"), ElementsAre("Trace Object Setting"));
+  EXPECT_THAT(ColumnOf(document, "txtTitleTrace"), ElementsAre(""));
+  EXPECT_THAT(ColumnOf(document, "txtValueTrace"), ElementsAre("Data trace1", "Data trace2", "Data trace3",
+                                                               "I/O trace1", "I/O trace2", "I/O trace3"));
+  EXPECT_THAT(ColumnOf(document, "txtValueName"),
               ElementsAre("Feedback speed", "Torque reference", "", "", "", "Alarm"));
-  EXPECT_THAT(TextsOf(document, "txtValueUnit"), ElementsAre("min-1", "%", "", "", "", "-"));
-  EXPECT_THAT(TextsOf(document, "txtValueVal"), ElementsAre("Display", "non-display", "", "", "", "Display"));
+  EXPECT_THAT(ColumnOf(document, "txtValueUnit"), ElementsAre("min-1", "%", "", "", "", "-"));
+  EXPECT_THAT(ColumnOf(document, "txtValueVal"),
+              ElementsAre("Display", "non-display", "", "", "", "Display"));
 }
 
 TEST_F(TraceObject, LabelsItsSixRowsInDynamicsSimulation) {
   Run.Session.Mode = "Sim";
   const Document document = Compose();
-  EXPECT_THAT(TextsOf(document, "Label1"), ElementsAre("Simulation Object Setting"));
-  EXPECT_THAT(TextsOf(document, "txtValueTrace"), ElementsAre("Simulation1", "Simulation2", "Speed reference",
-                                                              "IO Data1", "IO Data2", "IO Data3"));
-  EXPECT_THAT(TextsOf(document, "txtValueName"), ElementsAre("Simulated speed", "", "", "", "", ""));
+  EXPECT_THAT(ColumnOf(document, "Label1"), ElementsAre("Simulation Object Setting"));
+  EXPECT_THAT(
+      ColumnOf(document, "txtValueTrace"),
+      ElementsAre("Simulation1", "Simulation2", "Speed reference", "IO Data1", "IO Data2", "IO Data3"));
+  EXPECT_THAT(ColumnOf(document, "txtValueName"), ElementsAre("Simulated speed", "", "", "", "", ""));
 }
 
 TEST_F(TraceObject, AReferenceWithoutNameLeavesItsLabelEmpty) {
   Run.Session.Mode = "Sim";
   Run.Sim.Ref.Name.clear();
-  EXPECT_EQ(TextsOf(Compose(), "txtValueTrace").at(2), "");
+  EXPECT_EQ(ColumnOf(Compose(), "txtValueTrace").at(2), "");
 }
 
 TEST_F(TraceObject, AnyOtherModeCountsAsTracing) {
   Run.Session.Mode = "sim";
-  EXPECT_THAT(TextsOf(Compose(), "Label1"), ElementsAre("Trace Object Setting"));
+  EXPECT_THAT(ColumnOf(Compose(), "Label1"), ElementsAre("Trace Object Setting"));
 }
 
 TEST_F(TraceObject, UnusedChannelsPrintTheirLabelOnly) {
@@ -157,24 +159,24 @@ TEST_F(TraceObject, UnusedChannelsPrintTheirLabelOnly) {
   const Document document = Compose();
   EXPECT_EQ(PrintedOf(document, "txtValueTrace").size(), 6U);
   for (const char* control : {"txtValueName", "txtValueUnit", "txtValueVal"}) {
-    EXPECT_THAT(TextsOf(document, control), ElementsAre("", "", "", "", "", "")) << control;
+    EXPECT_THAT(ColumnOf(document, control), ElementsAre("", "", "", "", "", "")) << control;
   }
 }
 
 TEST_F(TraceObject, ADisplayOfAnUnusedChannelIsNotLookedAt) {
   Run.Trace.DataTrace3 = {"", "x", "%"};
   const Document document = Compose();
-  EXPECT_EQ(TextsOf(document, "txtValueVal").at(2), "");
-  EXPECT_EQ(TextsOf(document, "txtValueUnit").at(2), "%");
+  EXPECT_EQ(ColumnOf(document, "txtValueVal").at(2), "");
+  EXPECT_EQ(ColumnOf(document, "txtValueUnit").at(2), "%");
 }
 
 TEST_F(TraceObject, TakesDisplayAsAWholeNumber) {
   Run.Trace.DataTrace1.Display = " 0 ";
   Run.Trace.DataTrace2.Display = "0.5";
-  EXPECT_EQ(TextsOf(Compose(), "txtValueVal").at(0), "non-display");
-  EXPECT_EQ(TextsOf(Compose(), "txtValueVal").at(1), "non-display") << "halves go to the even number";
+  EXPECT_EQ(ColumnOf(Compose(), "txtValueVal").at(0), "non-display");
+  EXPECT_EQ(ColumnOf(Compose(), "txtValueVal").at(1), "non-display") << "halves go to the even number";
   Run.Trace.DataTrace2.Display = "1.5";
-  EXPECT_EQ(TextsOf(Compose(), "txtValueVal").at(1), "Display");
+  EXPECT_EQ(ColumnOf(Compose(), "txtValueVal").at(1), "Display");
 }
 
 TEST_F(TraceObject, ANamedChannelWhoseDisplayIsNoNumberIsARunTimeFailureThatNamesItsKey) {
@@ -189,7 +191,7 @@ TEST_F(TraceObject, ANamedChannelWhoseDisplayIsNoNumberIsARunTimeFailureThatName
       }
     }
   }
-  EXPECT_THAT(Report.Screen.Messages, IsEmpty());
+  EXPECT_THAT(Report.Desktop.Messages, IsEmpty());
 }
 
 // Composes the table below `above` twips of other content on a page of A4.
@@ -238,7 +240,7 @@ struct OverlapTarget : TraceObject {
 
 TEST_F(OverlapTarget, TicksTheChannelsWhoseGraphIsDisplayed) {
   EXPECT_THAT(Ticks(), ElementsAre(true, false, false, false, false, true));
-  EXPECT_THAT(TextsOf(Compose(), "txtValueName"),
+  EXPECT_THAT(ColumnOf(Compose(), "txtValueName"),
               ElementsAre("Feedback speed", "Torque reference", "", "", "", "Alarm"));
 }
 
@@ -251,7 +253,7 @@ TEST_F(OverlapTarget, AnUnnamedChannelShowsAnEmptyBoxWhateverItsDisplay) {
 TEST_F(OverlapTarget, ReadsTheChannelsOfTheSimulationInThatFunction) {
   Run.Session.Mode = "Sim";
   EXPECT_THAT(Ticks(), ElementsAre(true, false, false, false, false, false));
-  EXPECT_EQ(TextsOf(Compose(), "txtValueName").at(0), "Simulated speed");
+  EXPECT_EQ(ColumnOf(Compose(), "txtValueName").at(0), "Simulated speed");
 }
 
 TEST_F(OverlapTarget, TheListKnowsItByItsOwnSpellingOnly) {
@@ -264,9 +266,9 @@ struct TriggerSetting : HostRun {};
 
 TEST_F(TriggerSetting, PrintsFiveRowsAlsoWithoutAnyData) {
   const Document document = Report.ComposeAlone("rptTraceTrigger");
-  EXPECT_THAT(TextsOf(document, "txtTitleName"), ElementsAre("Items"));
-  EXPECT_THAT(TextsOf(document, "txtTitleValue"), ElementsAre("Setting Value"));
-  EXPECT_THAT(TextsOf(document, "txtValueName"), ElementsAre("", "", "", "", ""));
+  EXPECT_THAT(ColumnOf(document, "txtTitleName"), ElementsAre("Items"));
+  EXPECT_THAT(ColumnOf(document, "txtTitleValue"), ElementsAre("Setting Value"));
+  EXPECT_THAT(ColumnOf(document, "txtValueName"), ElementsAre("", "", "", "", ""));
 }
 
 TEST_F(TriggerSetting, TitlesComeAgainWhereTheTableIsLongerThanThePaper) {

@@ -2,8 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "support/golden.h"
-#include "support/report_run.h"
-#include "support/temp_folder.h"
+#include "support/host_run.h"
 
 namespace tarvis {
 namespace {
@@ -30,18 +29,14 @@ std::string SampleFile() {
   return file + "Comment,as delivered\\r\\nchecked twice\r\n";
 }
 
-struct ParameterPages : testing::Test {
+struct ParameterPages : HostRun {
   ParameterPages() {
     Folder.Write("User.tmp", SampleFile());
-    Report.Run.Session.TempFolder = Folder.SystemPath();
     Report.Run.Session.Mode = "User";
     Report.Run.Options.UserHeader = {1, 1, 1, 1, 1, "Parameters"};
     Report.Run.Options.UserOption = {1, 1, 1, 1, 1};
   }
   std::string Print(const PageSetup& setup = {}) { return Dump(Report.ComposeMaster(setup)); }
-
-  TempFolder Folder;
-  ReportRun Report;
 };
 
 TEST_F(ParameterPages, WithAllColumns) {

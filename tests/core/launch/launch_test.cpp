@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
-#include "core/support/test_run.h"
 #include "launch/command_line.h"
 #include "launch/load_print_options.h"
 #include "launch/system_paths.h"
+#include "support/test_run.h"
 
 namespace tarvis {
 namespace {

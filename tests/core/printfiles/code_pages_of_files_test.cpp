@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "core/support/test_run.h"
 #include "printfiles/host_files.h"
 #include "printfiles/jog_tbl_file.h"
 #include "printfiles/mecha_file.h"
@@ -12,6 +11,7 @@
 #include "printfiles/upwizard_file.h"
 #include "printfiles/user_file.h"
 #include "printfiles/zone_tbl_file.h"
+#include "support/test_run.h"
 
 namespace tarvis {
 namespace {

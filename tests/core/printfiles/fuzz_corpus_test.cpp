@@ -5,7 +5,6 @@
 #include <string>
 #include <utility>
 
-#include "core/support/test_run.h"
 #include "printfiles/host_files.h"
 #include "printfiles/idx_tbl_file.h"
 #include "printfiles/jog_tbl_file.h"
@@ -18,6 +17,7 @@
 #include "printfiles/user_file.h"
 #include "printfiles/zone_tbl_file.h"
 #include "support/source_folder.h"
+#include "support/test_run.h"
 
 namespace tarvis {
 namespace {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "core/support/test_run.h"
+#include "support/test_run.h"
 #include "text/native_path.h"
 
 namespace tarvis {

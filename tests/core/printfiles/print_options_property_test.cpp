@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "core/support/test_run.h"
 #include "printfiles/host_files.h"
 #include "printfiles/print_options_file.h"
+#include "support/test_run.h"
 
 namespace tarvis {
 namespace {

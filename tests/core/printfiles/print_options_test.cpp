@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "core/support/test_run.h"
 #include "printfiles/host_files.h"
 #include "printfiles/print_options_file.h"
+#include "support/test_run.h"
 #include "text/text.h"
 
 namespace tarvis {

@@ -2,6 +2,7 @@
 #include "report/rptCover.h"
 #include "support/golden.h"
 #include "support/host_run.h"
+#include "support/repeat.h"
 
 namespace tarvis {
 namespace {
@@ -9,12 +10,6 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
-
-std::string Repeat(const std::string& piece, int times) {
-  std::string text;
-  for (int time = 0; time < times; ++time) text += piece;
-  return text;
-}
 
 struct CoverLetter : HostRun {
   CoverLetter() { Options.SelectCover = 1; }

@@ -280,7 +280,7 @@ TEST_F(Cover, LoadsTheLogoIntoTheTopRight) {
 TEST_F(Cover, AMissingLogoIsFailureTwo) {
   Options.DrowLogo = "C:\\nowhere\\logo.bmp";
   EXPECT_THROW(Compose(), RunEnded);
-  EXPECT_THAT(Report.Screen.Messages,
+  EXPECT_THAT(Report.Desktop.Messages,
               ElementsAre("Printing Error|Logo Mark File is not found.\nPrinting Process is canceled."));
 }
 

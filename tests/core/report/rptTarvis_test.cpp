@@ -5,9 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "report/data_set.h"
-#include "support/report_run.h"
+#include "support/host_run.h"
 #include "support/sample_report.h"
-#include "support/temp_folder.h"
 
 namespace tarvis {
 namespace {
@@ -24,9 +23,8 @@ std::string UserFile(int parameters) {
   return file + "SwitchNum,0\r\nCommentCnt,1\r\nComment,as delivered\r\n";
 }
 
-struct MasterReport : testing::Test {
+struct MasterReport : HostRun {
   MasterReport() {
-    Session.TempFolder = Folder.SystemPath();
     Session.Mode = "User";
     Options.UserHeader = {1, 1, 1, 1, 1, "Parameters"};
     Options.UserOption = {1, 1, 1, 1, 1};
@@ -50,8 +48,6 @@ struct MasterReport : testing::Test {
     return static_cast<int>(Report.ComposeMaster(setup).Pages.size());
   }
 
-  TempFolder Folder;
-  ReportRun Report;
   PrintSession& Session = Report.Run.Session;
   PrintOptions& Options = Report.Run.Options;
 };
@@ -222,7 +218,8 @@ TEST_F(MasterReport, AWrongFileEndsTheRunWithTheNumberOfItsFunction) {
   for (const auto& [mode, message] : modes) {
     Session.Mode = mode;
     EXPECT_THROW(LoadFunctionDataSet(Report.Run, {}, false), RunEnded) << mode;
-    EXPECT_EQ(Report.Screen.Messages.back(), "Printing Error|" + message + "\nPrinting Process is canceled.");
+    EXPECT_EQ(Report.Desktop.Messages.back(),
+              "Printing Error|" + message + "\nPrinting Process is canceled.");
   }
 }
 
@@ -298,7 +295,7 @@ TEST_F(OverlappedTrace, AClosedGateNeverLoopsForEver) {
 TEST_F(OverlappedTrace, AMissingCompanionEndsTheRunWithFailureFour) {
   std::filesystem::remove(Folder.Path() / "Trace2.tmp");
   EXPECT_THROW(Compose(), RunEnded);
-  EXPECT_EQ(Report.Screen.Messages.back(),
+  EXPECT_EQ(Report.Desktop.Messages.back(),
             "Printing Error|Tracing File is wrong.\nPrinting Process is canceled.");
 }
 

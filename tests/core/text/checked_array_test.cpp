@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "core/support/test_run.h"
+#include "support/test_run.h"
 
 namespace tarvis {
 namespace {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "core/support/test_run.h"
+#include "support/test_run.h"
 
 namespace tarvis {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/support/test_run.h"
+#include "support/test_run.h"
 
 namespace tarvis {
 namespace {
