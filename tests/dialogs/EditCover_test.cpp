@@ -86,7 +86,7 @@ TEST_F(CoverEditor, TabSelectsTheTextOfTheBoxThatItEnters) {
   EXPECT_EQ(Box("txtDrow_2").Text(), "Y");
 }
 
-TEST_F(CoverEditor, CaptionsReadAsTold) {
+TEST_F(CoverEditor, CaptionsReadAsDesigned) {
   OpenEditor();
   EXPECT_EQ(Editor->windowTitle(), "Cover");
   const auto caption = [this](const char* name) {

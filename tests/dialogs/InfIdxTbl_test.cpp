@@ -76,7 +76,7 @@ struct BadRange {
   const char* Flags;
 };
 
-class BadRangeTest : public ProgramTablePage, public testing::WithParamInterface<BadRange> {
+class HeldRange : public ProgramTablePage, public testing::WithParamInterface<BadRange> {
  protected:
   void SetUp() override {
     OpenTable(GetParam().Steps);
@@ -89,50 +89,50 @@ class BadRangeTest : public ProgramTablePage, public testing::WithParamInterface
   }
 };
 
-TEST_P(BadRangeTest, HoldsTheUserWhoClicksOk) {
+TEST_P(HeldRange, HoldsTheUserWhoClicksOk) {
   Click(Find("cmdOK"));
   ExpectHeld();
   EXPECT_TRUE(PreviewDialogVisible.empty());
   EXPECT_FALSE(OptionsFileExists());
 }
 
-TEST_P(BadRangeTest, HoldsTheUserWhoPressesEnter) {
+TEST_P(HeldRange, HoldsTheUserWhoPressesEnter) {
   Key(Qt::Key_Return);
   ExpectHeld();
   EXPECT_TRUE(PreviewDialogVisible.empty());
 }
 
-TEST_P(BadRangeTest, HoldsTheUserWhoPressesTheMnemonicOfOk) {
+TEST_P(HeldRange, HoldsTheUserWhoPressesTheMnemonicOfOk) {
   Key(Qt::Key_O, Qt::AltModifier);
   ExpectHeld();
   QCoreApplication::processEvents();
   EXPECT_TRUE(PreviewDialogVisible.empty());
 }
 
-TEST_P(BadRangeTest, HoldsTheUserWhoClicksAnotherControl) {
+TEST_P(HeldRange, HoldsTheUserWhoClicksAnotherControl) {
   Click(Find("optColor_1"));
   ExpectHeld();
   EXPECT_EQ(Run.Options.ColorType, 0) << "the click itself is lost";
 }
 
-TEST_P(BadRangeTest, HoldsTheUserWhoChangesTheTab) {
+TEST_P(HeldRange, HoldsTheUserWhoChangesTheTab) {
   ClickTab(Page("InfIdxTbl").Tabs(), 0);
   ExpectHeld();
 }
 
-TEST_P(BadRangeTest, HoldsTheUserWhoChangesTheTabByKeyboard) {
+TEST_P(HeldRange, HoldsTheUserWhoChangesTheTabByKeyboard) {
   Key(Qt::Key_Tab, Qt::ControlModifier);
   ExpectHeld();
 }
 
-TEST_P(BadRangeTest, HoldsTheUserWhoClicksCommentsWithoutStoringThem) {
+TEST_P(HeldRange, HoldsTheUserWhoClicksCommentsWithoutStoringThem) {
   Click(Check("chkItemEtc", "InfIdxTbl"));
   ExpectHeld();
   EXPECT_FALSE(Check("chkItemEtc", "InfIdxTbl").isChecked());
   EXPECT_EQ(Run.Options.IdxTblOption.Comment, 1);
 }
 
-TEST_P(BadRangeTest, LetsTheUserCancelInEveryWay) {
+TEST_P(HeldRange, LetsTheUserCancelInEveryWay) {
   Click(Find("cmdCancel"));
   ExpectRunEnded();
   EXPECT_TRUE(Desktop.Messages.empty());
@@ -143,7 +143,7 @@ TEST_P(BadRangeTest, LetsTheUserCancelInEveryWay) {
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Ranges, BadRangeTest,
+    Ranges, HeldRange,
     testing::Values(BadRange{"", "5", 128, "TextStart", "0,-1"}, BadRange{"5", "", 128, "TextEnd", "-1,0"},
                     BadRange{"", "", 128, "TextStart", "0,-1"}, BadRange{"10", "5", 128, "TextStart", "0,-1"},
                     BadRange{"0", "128", 128, "TextEnd", "-1,0"}, BadRange{"0", "0", 0, "TextEnd", "-1,0"}));
@@ -206,7 +206,7 @@ TEST_F(ProgramTablePage, TheGuardHoldsAgainUntilTheRangeIsGood) {
   EXPECT_EQ(PreviewDialogVisible.size(), 1u);
 }
 
-TEST_F(ProgramTablePage, SwitchingToAnotherWindowIsNoLeave) {
+TEST_F(ProgramTablePage, SwitchingToAnotherWindowDoesNotCountAsLeavingThePage) {
   OpenTable(128);
   Click(Find("optRange_2"));
   TypeRange("9", "5");
@@ -217,7 +217,7 @@ TEST_F(ProgramTablePage, SwitchingToAnotherWindowIsNoLeave) {
   EXPECT_TRUE(Desktop.Messages.empty());
 }
 
-TEST_F(ProgramTablePage, AfterAMessageTheNextClickWorks) {
+TEST_F(ProgramTablePage, TheNextClickAfterAMessageWorks) {
   OpenTable(128);
   Click(Find("optRange_2"));
   TypeRange("9", "5");

@@ -8,7 +8,7 @@
 namespace tarvis {
 namespace {
 
-using ItemPageTest = DialogRun;
+using ItemPages = DialogRun;
 
 const std::string FortyOne = "12345678901234567890123456789012345678901";
 const std::string Forty = FortyOne.substr(0, 40);
@@ -28,7 +28,7 @@ const std::vector<KeyOfPage> KeysOfPages{
     {"InfTrace", 1, 1, &PrintOptions::TraceHeader},   {"InfSim", 1, 5, &PrintOptions::SimHeader},
 };
 
-TEST_F(ItemPageTest, EveryPageWritesItsHeaderKeyAtEachClick) {
+TEST_F(ItemPages, EveryPageWritesItsHeaderKeyAtEachClick) {
   for (const KeyOfPage& key : KeysOfPages) {
     SCOPED_TRACE(key.Page);
     DefaultPrintOptions(Run);
@@ -52,7 +52,7 @@ TEST_F(ItemPageTest, EveryPageWritesItsHeaderKeyAtEachClick) {
   }
 }
 
-TEST_F(ItemPageTest, ATitleSwitchedOffInTheOptionsOpensGreyWithItsText) {
+TEST_F(ItemPages, ATitleSwitchedOffInTheOptionsOpensGreyWithItsText) {
   Run.Options.UserHeader.Title = 0;
   Run.Options.UserHeader.TitleText = "My list";
   Open(2, "", "User");
@@ -61,7 +61,7 @@ TEST_F(ItemPageTest, ATitleSwitchedOffInTheOptionsOpensGreyWithItsText) {
   EXPECT_EQ(Find<LineBox>("txtTitle", "InfUser").Text(), "My list");
 }
 
-TEST_F(ItemPageTest, TheTitleBoxFollowsItsCheckBox) {
+TEST_F(ItemPages, TheTitleBoxFollowsItsCheckBox) {
   Open(2, "", "User");
   EXPECT_TRUE(Find("txtTitle", "InfUser").isEnabled());
   Click(Check("chkHeader_0", "InfUser"));
@@ -71,7 +71,7 @@ TEST_F(ItemPageTest, TheTitleBoxFollowsItsCheckBox) {
   EXPECT_TRUE(Find("txtTitle", "InfUser").isEnabled());
 }
 
-TEST_F(ItemPageTest, TypingStoresTheTitleAtEachKey) {
+TEST_F(ItemPages, TypingStoresTheTitleAtEachKey) {
   Open(2, "", "User");
   auto& title = Find<LineBox>("txtTitle", "InfUser");
   title.setFocus();
@@ -82,7 +82,7 @@ TEST_F(ItemPageTest, TypingStoresTheTitleAtEachKey) {
   EXPECT_EQ(Run.Options.UserHeader.TitleText, "Axi");
 }
 
-TEST_F(ItemPageTest, TypingInTheMiddleStaysThereAndCanBeUndone) {
+TEST_F(ItemPages, TypingInTheMiddleStaysThereAndCanBeUndone) {
   Open(2, "", "User");
   auto& title = Find<LineBox>("txtTitle", "InfUser");
   title.setFocus();
@@ -93,7 +93,7 @@ TEST_F(ItemPageTest, TypingInTheMiddleStaysThereAndCanBeUndone) {
   EXPECT_EQ(Run.Options.UserHeader.TitleText, "Parameters");
 }
 
-TEST_F(ItemPageTest, ATitleOfFortyOneBytesInTheFileRaisesTheMessageAsThePageOpens) {
+TEST_F(ItemPages, ATitleOfFortyOneBytesInTheFileRaisesTheMessageAsThePageOpens) {
   Run.Options.UserHeader.TitleText = FortyOne;
   Open(2, "", "User");
   EXPECT_THAT(Desktop.Messages, testing::ElementsAre(TitleTooLong));
@@ -101,7 +101,7 @@ TEST_F(ItemPageTest, ATitleOfFortyOneBytesInTheFileRaisesTheMessageAsThePageOpen
   EXPECT_EQ(Find<LineBox>("txtTitle", "InfUser").Text(), Forty);
 }
 
-TEST_F(ItemPageTest, TheCutTitleIsStoredBeforeTheUserIsTold) {
+TEST_F(ItemPages, TheCutTitleIsStoredBeforeTheMessageShows) {
   struct Watching : FakeDesktop {
     void ShowMessage(const std::string& title, const std::string& text) override {
       FakeDesktop::ShowMessage(title, text);
@@ -127,7 +127,7 @@ TEST_F(ItemPageTest, TheCutTitleIsStoredBeforeTheUserIsTold) {
   EXPECT_TRUE(desktop.OverTheDialog) << "no message comes before the dialog";
 }
 
-TEST_F(ItemPageTest, TwentyOneDoubleByteCharactersAreRefused) {
+TEST_F(ItemPages, TwentyOneDoubleByteCharactersAreRefused) {
   Run.Page = CodePage(932);
   Open(2, "", "User");
   auto& title = Find<LineBox>("txtTitle", "InfUser");
@@ -144,7 +144,7 @@ TEST_F(ItemPageTest, TwentyOneDoubleByteCharactersAreRefused) {
   EXPECT_EQ(title.MaximumLength(), 40);
 }
 
-TEST_F(ItemPageTest, APastedTextOfSixtyCharactersStopsAtTheMaximumLength) {
+TEST_F(ItemPages, APastedTextOfSixtyCharactersStopsAtTheMaximumLength) {
   Open(2, "", "User");
   auto& title = Find<LineBox>("txtTitle", "InfUser");
   title.setFocus();
@@ -155,7 +155,7 @@ TEST_F(ItemPageTest, APastedTextOfSixtyCharactersStopsAtTheMaximumLength) {
   EXPECT_TRUE(Desktop.Messages.empty());
 }
 
-TEST_F(ItemPageTest, ItemsOfTheParametersWriteTheirElements) {
+TEST_F(ItemPages, ItemsOfTheParametersWriteTheirElements) {
   Open(2, "", "User");
   ClickTab(Page("InfUser").Tabs(), 1);
   const std::vector<const char*> boxes{"chkItemUser_0", "chkItemUser_2", "chkItemUser_3", "chkItemEtc"};
@@ -167,7 +167,7 @@ TEST_F(ItemPageTest, ItemsOfTheParametersWriteTheirElements) {
   EXPECT_EQ(Run.Options.UserOption[1], 1);
 }
 
-TEST_F(ItemPageTest, SwitchesInfoGreysWithNameAndKeepsItsMark) {
+TEST_F(ItemPages, SwitchesInfoGreysWithNameAndKeepsItsMark) {
   Open(2, "", "User");
   ClickTab(Page("InfUser").Tabs(), 1);
   TickBox& switches = Check("chkItemUser_1", "InfUser");
@@ -182,14 +182,14 @@ TEST_F(ItemPageTest, SwitchesInfoGreysWithNameAndKeepsItsMark) {
   EXPECT_TRUE(switches.isChecked());
 }
 
-TEST_F(ItemPageTest, ASavedNameSwitchedOffOpensWithSwitchesInfoGreyAndMarked) {
+TEST_F(ItemPages, ASavedNameSwitchedOffOpensWithSwitchesInfoGreyAndMarked) {
   Run.Options.UserOption = {0, 1, 1, 1, 1};
   Open(2, "", "User");
   EXPECT_FALSE(Check("chkItemUser_1", "InfUser").isEnabled());
   EXPECT_TRUE(Check("chkItemUser_1", "InfUser").isChecked());
 }
 
-TEST_F(ItemPageTest, CommentsOfTheTablesWriteTheirElement) {
+TEST_F(ItemPages, CommentsOfTheTablesWriteTheirElement) {
   Open(2, "", "PrnSetting");
   ChooseFunction(3);
   ClickTab(Page("InfZoneTbl").Tabs(), 1);
@@ -201,7 +201,7 @@ TEST_F(ItemPageTest, CommentsOfTheTablesWriteTheirElement) {
   EXPECT_EQ(Run.Options.JogTblOption, 0);
 }
 
-TEST_F(ItemPageTest, APageKeepsItsTabWhileAnotherIsShown) {
+TEST_F(ItemPages, APageKeepsItsTabWhileAnotherIsShown) {
   Open(2, "", "PrnSetting");
   ClickTab(Page("InfUser").Tabs(), 1);
   ChooseFunction(3);
@@ -209,7 +209,7 @@ TEST_F(ItemPageTest, APageKeepsItsTabWhileAnotherIsShown) {
   EXPECT_EQ(Page("InfUser").Tabs().CurrentTab(), 1);
 }
 
-TEST_F(ItemPageTest, AppearingAppliesTheOptionsAndSelectingTheSameEntryAgainDoesNot) {
+TEST_F(ItemPages, AppearingAppliesTheOptionsAndSelectingTheSameEntryAgainDoesNot) {
   Open(2, "", "PrnSetting");
   Run.Options.UserHeader.TitleText = "changed behind the page";
   auto& list = Find<QComboBox>("cmbFunc");
@@ -220,14 +220,14 @@ TEST_F(ItemPageTest, AppearingAppliesTheOptionsAndSelectingTheSameEntryAgainDoes
   EXPECT_EQ(Find<LineBox>("txtTitle", "InfUser").Text(), "changed behind the page");
 }
 
-TEST_F(ItemPageTest, OnlyTheShownPageLoadsWithTheDialog) {
+TEST_F(ItemPages, TheShownPageAloneLoadsWithTheDialog) {
   Run.Options.TraceHeader.TitleText = FortyOne;
   Open(2, "", "User");
   EXPECT_TRUE(Desktop.Messages.empty());
   EXPECT_EQ(Run.Options.TraceHeader.TitleText, FortyOne);
 }
 
-TEST_F(ItemPageTest, ALoadWithUnchangedValuesRunsNoHandling) {
+TEST_F(ItemPages, ALoadWithUnchangedValuesRunsNoHandling) {
   Open(2, "", "User");
   int clicks = 0;
   for (TickBox* box : Page("InfUser").findChildren<TickBox*>()) {
@@ -237,7 +237,7 @@ TEST_F(ItemPageTest, ALoadWithUnchangedValuesRunsNoHandling) {
   EXPECT_EQ(clicks, 0);
 }
 
-TEST_F(ItemPageTest, AnElementOfTwoIsAGreyMarkAndMinusOneIsARunTimeFailure) {
+TEST_F(ItemPages, AnElementOfTwoIsAGreyMarkAndMinusOneIsARunTimeFailure) {
   Run.Options.UserOption[2] = 2;
   Open(2, "", "User");
   EXPECT_EQ(Check("chkItemUser_2", "InfUser").checkState(), Qt::PartiallyChecked);
@@ -254,7 +254,7 @@ TEST_F(ItemPageTest, AnElementOfTwoIsAGreyMarkAndMinusOneIsARunTimeFailure) {
   }
 }
 
-TEST_F(ItemPageTest, TheWizardsPageOffersNoFileName) {
+TEST_F(ItemPages, TheWizardsPageOffersNoFileName) {
   Run.Options.PrmWizHeader.FileName = 1;
   QWidget window;
   auto* page = new InfWizard(Run, &window);
@@ -266,7 +266,7 @@ TEST_F(ItemPageTest, TheWizardsPageOffersNoFileName) {
   EXPECT_EQ(page->Tabs().Bar()->count(), 1);
 }
 
-TEST_F(ItemPageTest, TheDialogNeverTouchesTheWizardsOptions) {
+TEST_F(ItemPages, TheDialogNeverTouchesTheWizardsOptions) {
   Run.Options.PrmWizHeader.FileName = 1;
   Open(1, "100", "PrnSetting");
   ChooseFunction(1);
@@ -277,7 +277,7 @@ TEST_F(ItemPageTest, TheDialogNeverTouchesTheWizardsOptions) {
   EXPECT_EQ(Run.Options.TraceHeader.ModelsInfo, 0);
 }
 
-TEST_F(ItemPageTest, TabsChangeByKeyboard) {
+TEST_F(ItemPages, TabsChangeByKeyboard) {
   Open(2, "", "User");
   TabControl& tabs = Page("InfUser").Tabs();
   Find("chkFooter", "InfUser").setFocus();

@@ -9,7 +9,7 @@
 namespace tarvis {
 namespace {
 
-using PrintSettingTest = DialogRun;
+using SettingDialog = DialogRun;
 
 std::vector<std::string> Entries(const QComboBox& list) {
   std::vector<std::string> entries;
@@ -31,7 +31,7 @@ struct ListCase {
   std::vector<std::string> Captions;
 };
 
-TEST_F(PrintSettingTest, TheFunctionListDependsOnEditionAndVersionOnly) {
+TEST_F(SettingDialog, TheFunctionListDependsOnEditionAndVersionOnly) {
   const std::vector<ListCase> cases{
       {2, "?", {"Parameters", "Tracing", "Program Table", "Zone Table", "Jog Speed Table"}},
       {4, "100", {"Parameters", "Tracing", "Real-Time Tracing"}},
@@ -49,7 +49,7 @@ TEST_F(PrintSettingTest, TheFunctionListDependsOnEditionAndVersionOnly) {
   }
 }
 
-TEST_F(PrintSettingTest, WalkingTheListShowsThePageOfEachEntry) {
+TEST_F(SettingDialog, WalkingTheListShowsThePageOfEachEntry) {
   Open(1, "200", "PrnSetting");
   const std::vector<std::string> pages{"InfUser",      "InfTrace", "InfTrace",
                                        "InfRealTrace", "InfMecha", "InfSim"};
@@ -61,13 +61,13 @@ TEST_F(PrintSettingTest, WalkingTheListShowsThePageOfEachEntry) {
   EXPECT_EQ(ShownPages(), "InfUser");
 }
 
-TEST_F(PrintSettingTest, SettingsOfTheComparingEditionShowTheOverlapPage) {
+TEST_F(SettingDialog, SettingsOfTheComparingEditionShowTheOverlapPage) {
   Open(4, "200", "PrnSetting");
   ChooseFunction(4);
   EXPECT_EQ(ShownPages(), "InfSimOverlap");
 }
 
-TEST_F(PrintSettingTest, ASecondLoadAfterSimExShowsTheSamePage) {
+TEST_F(SettingDialog, ASecondLoadAfterSimExShowsTheSamePage) {
   Open(4, "200", "SimEx");
   EXPECT_EQ(Run.Session.Mode, "Sim");
   EXPECT_EQ(Run.Session.SimExMode, 1);
@@ -75,7 +75,7 @@ TEST_F(PrintSettingTest, ASecondLoadAfterSimExShowsTheSamePage) {
   EXPECT_EQ(ShownPages(), "InfSimOverlap");
 }
 
-TEST_F(PrintSettingTest, UnknownHostsAreFailureOne) {
+TEST_F(SettingDialog, UnknownHostsAreFailureOne) {
   struct Host {
     std::int16_t Edition;
     const char* Version;
@@ -96,7 +96,7 @@ TEST_F(PrintSettingTest, UnknownHostsAreFailureOne) {
   }
 }
 
-TEST_F(PrintSettingTest, AModeWithoutItsEntryIsARunTimeFailure) {
+TEST_F(SettingDialog, AModeWithoutItsEntryIsARunTimeFailure) {
   for (const char* mode : {"Mecha", "Sim", "SimEx"}) {
     Run.Session.HostEdition = 4;
     Run.Session.HostVersion = "100";
@@ -105,7 +105,7 @@ TEST_F(PrintSettingTest, AModeWithoutItsEntryIsARunTimeFailure) {
   }
 }
 
-TEST_F(PrintSettingTest, OptionsThatNoControlCanShowAreRunTimeFailures) {
+TEST_F(SettingDialog, OptionsThatNoControlCanShowAreRunTimeFailures) {
   Run.Session.HostEdition = 2;
   Run.Session.Mode = "User";
   Run.Options.ColorType = 2;
@@ -116,7 +116,7 @@ TEST_F(PrintSettingTest, OptionsThatNoControlCanShowAreRunTimeFailures) {
   ExpectLoadFails<RunTimeFailure>(Run);
 }
 
-TEST_F(PrintSettingTest, TheStepCountComesFromTheTable) {
+TEST_F(SettingDialog, TheStepCountComesFromTheTable) {
   WriteFile("IdxIdxTbl.tmp", "File-Spec,4\r\nIndexCnt,128\r\nIndexCnt,5\r\n");
   Open(2, "", "IdxTbl");
   EXPECT_EQ(Run.Session.StepLimit, 128);
@@ -124,13 +124,13 @@ TEST_F(PrintSettingTest, TheStepCountComesFromTheTable) {
   EXPECT_EQ(Run.Session.StepEndValid, -1);
 }
 
-TEST_F(PrintSettingTest, ATableWithoutStepCountLeavesNone) {
+TEST_F(SettingDialog, ATableWithoutStepCountLeavesNone) {
   WriteFile("IdxIdxTbl.tmp", "File-Spec,4\r\n");
   Open(2, "", "IdxTbl");
   EXPECT_EQ(Run.Session.StepLimit, 0);
 }
 
-TEST_F(PrintSettingTest, AMissingTableIsFailureFifteen) {
+TEST_F(SettingDialog, AMissingTableIsFailureFifteen) {
   Run.Session.HostEdition = 2;
   Run.Session.Mode = "IdxTbl";
   ExpectLoadFails<RunEnded>(Run);
@@ -140,7 +140,7 @@ TEST_F(PrintSettingTest, AMissingTableIsFailureFifteen) {
             0u);
 }
 
-TEST_F(PrintSettingTest, ABadStepCountNamesFileLineAndText) {
+TEST_F(SettingDialog, ABadStepCountNamesFileLineAndText) {
   WriteFile("IdxIdxTbl.tmp", "File-Spec,4\r\nIndexCnt,many\r\n");
   Run.Session.HostEdition = 2;
   Run.Session.Mode = "IdxTbl";
@@ -154,12 +154,12 @@ TEST_F(PrintSettingTest, ABadStepCountNamesFileLineAndText) {
   }
 }
 
-TEST_F(PrintSettingTest, SettingsOfTheTableEditionOfferAThousandSteps) {
+TEST_F(SettingDialog, SettingsOfTheTableEditionOfferAThousandSteps) {
   Open(2, "", "PrnSetting");
   EXPECT_EQ(Run.Session.StepLimit, 1000);
 }
 
-TEST_F(PrintSettingTest, AFirstStartShowsTheDefaults) {
+TEST_F(SettingDialog, AFirstStartShowsTheDefaults) {
   Open(2, "", "PrnSetting");
   EXPECT_FALSE(Check("chkCover").isChecked());
   for (const char* name : {"cmdEdit", "lblCover1", "optDrow_0", "optDrow_1", "optDrow_2", "Spread"}) {
@@ -274,7 +274,7 @@ TEST_F(CoverGroup, TheGridIsReadOnly) {
   EXPECT_EQ(grid.findChild<QLineEdit*>(), nullptr);
 }
 
-TEST_F(PrintSettingTest, TheColorChoiceIsTheIndex) {
+TEST_F(SettingDialog, TheColorChoiceIsTheIndex) {
   Open(2, "", "User");
   Click(Find("optColor_1"));
   EXPECT_EQ(Run.Options.ColorType, 1);
@@ -284,7 +284,7 @@ TEST_F(PrintSettingTest, TheColorChoiceIsTheIndex) {
   EXPECT_EQ(Run.Options.ColorType, 0);
 }
 
-TEST_F(PrintSettingTest, ConfirmingSettingsWritesTheFileAndEndsTheRunWithoutPreview) {
+TEST_F(SettingDialog, ConfirmingSettingsWritesTheFileAndEndsTheRunWithoutPreview) {
   WriteFile("User.tmp", "x\r\n");
   Open(4, "100", "PrnSetting");
   Click(Find("cmdOK"));
@@ -294,7 +294,7 @@ TEST_F(PrintSettingTest, ConfirmingSettingsWritesTheFileAndEndsTheRunWithoutPrev
   EXPECT_TRUE(PreviewDialogVisible.empty());
 }
 
-TEST_F(PrintSettingTest, ConfirmingAFunctionUnloadsTheDialogThenShowsThePreview) {
+TEST_F(SettingDialog, ConfirmingAFunctionUnloadsTheDialogThenShowsThePreview) {
   Open(4, "100", "User");
   Click(Find("cmdOK"));
   ASSERT_EQ(PreviewDialogVisible.size(), 1u);
@@ -303,20 +303,20 @@ TEST_F(PrintSettingTest, ConfirmingAFunctionUnloadsTheDialogThenShowsThePreview)
   EXPECT_TRUE(QTest::qWaitFor([this] { return Dialog.isNull(); }));
 }
 
-TEST_F(PrintSettingTest, EnterPressesOk) {
+TEST_F(SettingDialog, EnterPressesOk) {
   Open(4, "100", "User");
   Find("txtTitle", "InfUser").setFocus();
   Key(Qt::Key_Return);
   EXPECT_EQ(PreviewDialogVisible.size(), 1u);
 }
 
-TEST_F(PrintSettingTest, TheMnemonicPressesOk) {
+TEST_F(SettingDialog, TheMnemonicPressesOk) {
   Open(4, "100", "User");
   Key(Qt::Key_O, Qt::AltModifier);
   EXPECT_TRUE(QTest::qWaitFor([this] { return PreviewDialogVisible.size() == 1; }));
 }
 
-TEST_F(PrintSettingTest, AMnemonicCountsBeforeTheKeyThatFollowsAtOnce) {
+TEST_F(SettingDialog, AMnemonicCountsBeforeTheKeyThatFollowsAtOnce) {
   Open(1, "200", "Trace");
   Key(Qt::Key_C, Qt::AltModifier);
   Key(Qt::Key_A, Qt::AltModifier);
@@ -325,7 +325,7 @@ TEST_F(PrintSettingTest, AMnemonicCountsBeforeTheKeyThatFollowsAtOnce) {
   EXPECT_THAT(OptionsFile(), testing::HasSubstr("\nCover,1\r"));
 }
 
-TEST_F(PrintSettingTest, AnOptionsFileThatCantBeWrittenStopsNobody) {
+TEST_F(SettingDialog, AnOptionsFileThatCantBeWrittenStopsNobody) {
   Open(4, "100", "User");
   Run.Session.SystemFolder = Folder() + "\\missing\\";
   Click(Find("cmdOK"));
@@ -333,7 +333,7 @@ TEST_F(PrintSettingTest, AnOptionsFileThatCantBeWrittenStopsNobody) {
   EXPECT_TRUE(Desktop.Messages.empty());
 }
 
-TEST_F(PrintSettingTest, CancelEndsTheRunAndLeavesTheOptionsFile) {
+TEST_F(SettingDialog, CancelEndsTheRunAndLeavesTheOptionsFile) {
   WriteFile("PrintOption.ToT", "as it was");
   WriteFile("User.tmp", "x\r\n");
   Open(4, "100", "User");
@@ -344,7 +344,7 @@ TEST_F(PrintSettingTest, CancelEndsTheRunAndLeavesTheOptionsFile) {
   EXPECT_FALSE(QFile::exists(QString::fromStdString(Folder() + "/User.tmp")));
 }
 
-TEST_F(PrintSettingTest, EscapeAndTheCloseBoxAreCancel) {
+TEST_F(SettingDialog, EscapeAndTheCloseBoxAreCancel) {
   Open(4, "100", "User");
   Key(Qt::Key_Escape);
   ExpectRunEnded();
@@ -354,7 +354,7 @@ TEST_F(PrintSettingTest, EscapeAndTheCloseBoxAreCancel) {
   EXPECT_FALSE(OptionsFileExists());
 }
 
-TEST_F(PrintSettingTest, TheHelpFileIsSetOnlyIfItExists) {
+TEST_F(SettingDialog, TheHelpFileIsSetOnlyIfItExists) {
   Run.Session.HelpContextId = 4711;
   Run.Session.HelpFile = Folder() + "\\help.html";
   Open(4, "100", "User");
@@ -364,7 +364,7 @@ TEST_F(PrintSettingTest, TheHelpFileIsSetOnlyIfItExists) {
   EXPECT_EQ(Help, Folder() + "\\help.html#4711");
 }
 
-TEST_F(PrintSettingTest, TheWheelLeavesADisabledListAlone) {
+TEST_F(SettingDialog, TheWheelLeavesADisabledListAlone) {
   Open(4, "100", "Trace");
   auto& list = Find<QComboBox>("cmbFunc");
   QWheelEvent wheel(QPointF(5, 5), list.mapToGlobal(QPointF(5, 5)), {}, QPoint(0, -120), Qt::NoButton, {},
@@ -374,7 +374,7 @@ TEST_F(PrintSettingTest, TheWheelLeavesADisabledListAlone) {
   EXPECT_EQ(ShownPages(), "InfTrace");
 }
 
-TEST_F(PrintSettingTest, WhatTheUserConfirmedIsShownAgain) {
+TEST_F(SettingDialog, WhatTheUserConfirmedIsShownAgain) {
   Open(4, "100", "User");
   Click(Check("chkHeader_1", "InfUser"));
   Click(Check("chkCover"));

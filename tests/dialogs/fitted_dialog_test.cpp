@@ -36,7 +36,7 @@ class FittedDialogs : public CoverEditor {
   }
 };
 
-TEST_F(FittedDialogs, HaveTheirToldSizeInTheFontForWhichTheyAreDrawn) {
+TEST_F(FittedDialogs, HaveTheirDesignedSizeInTheFontOfTheDesign) {
   Open(2, "", "User");
   EXPECT_EQ(Dialog->size(), QSize(369, 542));
   EXPECT_EQ(Dialog->font().pixelSize(), 11);

@@ -244,7 +244,7 @@ TEST_F(GraphPages, APlainSimulationGreysTheThreeOverlapBoxesOnly) {
   EXPECT_EQ(Enabled("InfSimOverlap", SimDetails), "1111111111");
 }
 
-TEST_F(GraphPages, OnlyDetailOfOverlappedSimulationsRulesTheDetailsTab) {
+TEST_F(GraphPages, TheDetailOfOverlappedSimulationsAloneEnablesTheDetailsTab) {
   WriteFile("Sim.tmp", "OverlapMode,1\r\nOverlapNum,2\r\n");
   Open(4, "200", "SimEx");
   ClickTab(Page("InfSimOverlap").Tabs(), 1);

@@ -56,7 +56,7 @@ TEST_F(InputLimits, AVeryLongTextIsCutInOneMessage) {
   EXPECT_EQ(Desktop.Messages.size(), 1u);
 }
 
-TEST_F(InputLimits, ACharacterThatTheCodePageLacksCountsOne) {
+TEST_F(InputLimits, ACharacterOutsideOfTheCodePageCountsOne) {
   const std::string euro = "\xE2\x82\xAC";
   EXPECT_TRUE(Trim(Repeat(euro, 40)));
   EXPECT_FALSE(Trim(Repeat(euro, 41)));

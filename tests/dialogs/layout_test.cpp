@@ -86,7 +86,7 @@ INSTANTIATE_TEST_SUITE_P(UserFonts, Layout, testing::ValuesIn(UserFonts));
 
 using Captions = DialogRun;
 
-TEST_F(Captions, CaptionsReadAsToldWithoutTheirMnemonicMarks) {
+TEST_F(Captions, ReadAsDesignedWithoutTheirMnemonicMarks) {
   Open(2, "200", "PrnSetting");
   EXPECT_EQ(PlainCaption(Check("chkCover").text()), "Attaching the Cover");
   EXPECT_EQ(PlainCaption(Find<OptionButton>("optDrow_2").text()), " Where to Submit (No.3)");

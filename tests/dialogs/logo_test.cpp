@@ -168,7 +168,7 @@ TEST_F(LogoPicture, GoesAsSoonAsThePathIsAnotherOne) {
 }
 
 // No path at all, no file, a file that is no picture, a folder.
-TEST_F(LogoPicture, OfAPathThatNamesNoneIsNothingAtAll) {
+TEST_F(LogoPicture, IsEmptyForAPathThatNamesNone) {
   WriteFile("letter.bmp", "no picture");
   for (const std::string& path : {Folder() + "/missing.bmp", Folder() + "/letter.bmp", Folder()}) {
     SCOPED_TRACE(path);
@@ -187,14 +187,14 @@ TEST_F(LogoPicture, OfAPathThatNamesNoneIsNothingAtAll) {
 
 #ifdef Q_OS_UNIX
 // Opening a pipe that nobody writes to would take for ever.
-TEST_F(LogoPicture, OfAPipeIsNeverRead) {
+TEST_F(LogoPicture, IsNeverReadFromAPipe) {
   const std::string pipe = Folder() + "/pipe.bmp";
   ASSERT_EQ(std::system(("mkfifo '" + pipe + "'").c_str()), 0);
   EXPECT_EQ(ReadPicture(pipe), nullptr);
 }
 #endif
 
-TEST_F(LogoPicture, OnADeadShareIsNotFelt) {
+TEST_F(LogoPicture, DoesNotWaitForADeadShare) {
   Share share;
   Read = share.Reader();
   Run.Options.DrowLogo = "/share/logo.bmp";

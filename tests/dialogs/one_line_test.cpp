@@ -40,7 +40,7 @@ TEST_F(OneLineBox, TakesTheFirstLineOfAPastedText) {
   }
 }
 
-TEST_F(OneLineBox, OfTheCoverNeverStoresALineBreak) {
+TEST_F(OneLineBox, NeverStoresALineBreakOfTheCover) {
   for (const CoverText& text : Texts) {
     if (text.TwoLines || text.Box == "txtGreeting" || text.Box == "txtDrow_3") continue;
     SCOPED_TRACE(text.Box);
@@ -52,7 +52,7 @@ TEST_F(OneLineBox, OfTheCoverNeverStoresALineBreak) {
   }
 }
 
-TEST_F(OneLineBox, OfATitleNeverStoresALineBreak) {
+TEST_F(OneLineBox, NeverStoresALineBreakOfATitle) {
   Open(2, "", "User");
   LineBox& title = Find<LineBox>("txtTitle", "InfUser");
   title.setFocus();

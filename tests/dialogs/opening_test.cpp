@@ -12,9 +12,9 @@ struct Opening {
   const char* Page;
 };
 
-class OpeningTest : public DialogRun, public testing::WithParamInterface<Opening> {};
+class OpenedDialog : public DialogRun, public testing::WithParamInterface<Opening> {};
 
-TEST_P(OpeningTest, ShowsTheFunctionThatTheHostNamed) {
+TEST_P(OpenedDialog, ShowsTheFunctionThatTheHostNamed) {
   WriteFile("IdxIdxTbl.tmp", "IndexCnt,128\r\n");
   Open(GetParam().Edition, GetParam().Version, GetParam().Mode);
   EXPECT_EQ(Find<QComboBox>("cmbFunc").currentIndex(), GetParam().Index);
@@ -23,7 +23,7 @@ TEST_P(OpeningTest, ShowsTheFunctionThatTheHostNamed) {
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    AllModes, OpeningTest,
+    AllModes, OpenedDialog,
     testing::Values(
         Opening{2, "", "User", 0, false, "InfUser"}, Opening{2, "x", "Trace", 1, false, "InfTrace"},
         Opening{2, "100", "IdxTbl", 2, false, "InfIdxTbl"}, Opening{2, "", "ZoneTbl", 3, false, "InfZoneTbl"},

@@ -229,13 +229,13 @@ class Places : public CoverEditor {
   }
 };
 
-TEST_F(Places, OfThePrintSettingDialog) {
+TEST_F(Places, MatchTheDesignOfThePrintSettingDialog) {
   Open(2, "", "PrnSetting");
   EXPECT_EQ(Dialog->size(), PixelRect({0, 0, 5535, 8130}, *Dialog).size());
   ExpectPlaces(*Dialog, OfDialog);
 }
 
-TEST_F(Places, OfTheItemPages) {
+TEST_F(Places, MatchTheDesignOfTheItemPages) {
   Open(2, "", "PrnSetting");
   ExpectPage("InfUser", OfUser);
   ExpectPage("InfWizard", {});
@@ -250,7 +250,7 @@ TEST_F(Places, OfTheItemPages) {
   ExpectPage("InfJogTbl", OfComments);
 }
 
-TEST_F(Places, OfTheCoverEditor) {
+TEST_F(Places, MatchTheDesignOfTheCoverEditor) {
   OpenEditor();
   EXPECT_EQ(Editor->size(), PixelRect({0, 0, 8505, 5400}, *Editor).size());
   ExpectPlaces(*Editor, {{"SSTab1", {120, 120, 8265, 4590}},
@@ -264,7 +264,7 @@ TEST_F(Places, OfTheCoverEditor) {
   ExpectPlaces(*Tabs().Page(4), OfGreeting);
 }
 
-TEST_F(Places, OfTheLabelsOfTheCoverEditor) {
+TEST_F(Places, MatchTheDesignOfTheLabelsOfTheCoverEditor) {
   OpenEditor();
   const std::pair<const char*, int> families[] = {{"Label1", 9}, {"Label2", 5}, {"Label3", 5}, {"Label4", 5}};
   for (const auto& [family, count] : families) {

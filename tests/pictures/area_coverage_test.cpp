@@ -47,7 +47,7 @@ TEST(AreaCoverage, IsThatOfTheToolkitUnderBothRules) {
   }
 }
 
-TEST(AreaCoverage, OfAPartIsThatPartOfTheWhole) {
+TEST(AreaCoverage, GivesAPartTheValuesThatItHasInTheWhole) {
   const std::vector<QPolygonF> area{QPolygonF({{-500, 20}, {50, -300}, {700, 90}, {40, 400}})};
   const QImage whole = AreaInColor(area, Qt::OddEvenFill, QRect(0, 0, 100, 100), Qt::blue);
   const QImage part = AreaInColor(area, Qt::OddEvenFill, QRect(30, 40, 50, 20), Qt::blue);
@@ -63,7 +63,7 @@ QPolygonF NoisyArea(int points) {
   return area << QPointF(100, 100);
 }
 
-TEST(AreaCoverage, OfANoisyAreaInAFileLooksAsTheToolkitFillsIt) {
+TEST(AreaCoverage, FillsANoisyAreaOfAFileAsTheToolkitDoes) {
   const QPolygonF area = NoisyArea(1500);
   ByteWriter polygon = Box32(0, 0, 0, 0).U32(static_cast<std::uint32_t>(area.size()));
   for (const QPointF& point : area)

@@ -64,33 +64,33 @@ std::string Words(const std::vector<std::uint32_t>& words, int bytesEach) {
   return out.Bytes();
 }
 
-TEST(Bitmap, Of24BitsShowsItsPixels) {
+TEST(Bitmap, ShowsPixelsOf24Bits) {
   ExpectFourColors(Dib{.Data = Data24()}.File());
 }
 
-TEST(Bitmap, WithoutFileHeaderShowsToo) {
+TEST(Bitmap, ShowsWithoutAFileHeader) {
   ExpectFourColors(Dib{.Data = Data24()}.Packed());
 }
 
-TEST(Bitmap, MayLackThePaddingOfItsLastRow) {
+TEST(Bitmap, MayOmitThePaddingOfItsLastRow) {
   std::string file = Dib{.Data = Data24()}.File();
   file.resize(file.size() - 2);
   ExpectFourColors(file);
 }
 
-TEST(Bitmap, ThatIsTopDownStandsUpright) {
+TEST(Bitmap, ShowsTopDownRowsUpright) {
   ExpectFourColors(Dib{.Height = -2, .Data = "\0\0\xFF\0\xFF\0\0\0"s + "\xFF\0\0\xFF\xFF\xFF\0\0"s}.File());
 }
 
-TEST(Bitmap, Of32BitsIgnoresItsFourthByte) {
+TEST(Bitmap, IgnoresTheFourthByteOf32Bits) {
   ExpectFourColors(Dib{.Bits = 32, .Data = Words({0x0000FF, 0xFFFFFF, 0xFF0000, 0x00FF00}, 4)}.File());
 }
 
-TEST(Bitmap, Of16BitsHasFiveBitsAColor) {
+TEST(Bitmap, TakesFiveBitsAColorOf16Bits) {
   ExpectFourColors(Dib{.Bits = 16, .Data = Words({0x001F, 0x7FFF, 0x7C00, 0x03E0}, 2)}.File());
 }
 
-TEST(Bitmap, Of16BitsFollowsItsMasks) {
+TEST(Bitmap, FollowsTheMasksOf16Bits) {
   ExpectFourColors(Dib{.Bits = 16,
                        .Compression = 3,
                        .Masks = {0xF800, 0x07E0, 0x001F},
@@ -98,16 +98,16 @@ TEST(Bitmap, Of16BitsFollowsItsMasks) {
                        .File());
 }
 
-TEST(Bitmap, Of8BitsUsesItsColors) {
+TEST(Bitmap, UsesTheColorTableOf8Bits) {
   ExpectFourColors(Dib{.Bits = 8, .ColorsUsed = 4, .Colors = FourColors, .Data = "\2\3\0\0\0\1\0\0"s}.File());
 }
 
-TEST(Bitmap, Of4BitsUsesItsColors) {
+TEST(Bitmap, UsesTheColorTableOf4Bits) {
   ExpectFourColors(
       Dib{.Bits = 4, .ColorsUsed = 4, .Colors = FourColors, .Data = "\x23\0\0\0\x01\0\0\0"s}.File());
 }
 
-TEST(Bitmap, Of1BitUsesItsTwoColors) {
+TEST(Bitmap, UsesTheTwoColorsOf1Bit) {
   const QImage shown = PaintedPicture(
       Dib{.Bits = 1, .Colors = {0xFF0000, 0x0000FF}, .Data = "\x40\0\0\0\x80\0\0\0"s}.File(), {2, 2});
   EXPECT_EQ(shown.pixelColor(0, 0), Blue);
@@ -137,7 +137,7 @@ TEST(Bitmap, RunLengthCodedMaySkipPixels) {
   EXPECT_EQ(shown.pixelColor(1, 0), Green);
 }
 
-TEST(Bitmap, WithALongHeaderKeepsItsMasksInside) {
+TEST(Bitmap, FindsItsMasksInsideALongHeader) {
   for (const int headerSize : {52, 56, 108, 124}) {
     std::vector<std::uint32_t> masks = {0xFF, 0xFF00, 0xFF0000};
     if (headerSize > 52) masks.push_back(0);
@@ -150,7 +150,7 @@ TEST(Bitmap, WithALongHeaderKeepsItsMasksInside) {
   }
 }
 
-TEST(Bitmap, WithAnAlphaMaskIsSeenThrough) {
+TEST(Bitmap, IsTransparentWhereItsAlphaMaskSaysSo) {
   const QImage shown = PaintedPicture(Dib{.HeaderSize = 124,
                                           .Width = 1,
                                           .Height = 1,
@@ -164,7 +164,7 @@ TEST(Bitmap, WithAnAlphaMaskIsSeenThrough) {
   EXPECT_EQ(shown.pixelColor(0, 0).red(), 255);
 }
 
-TEST(Bitmap, WithTheOldestHeaderHasColorsOfThreeBytes) {
+TEST(Bitmap, HasColorsOfThreeBytesWithTheOldestHeader) {
   ByteWriter out;
   out.U32(12).U16(2).U16(2).U16(1).U16(8);
   ByteWriter colors;
@@ -192,7 +192,7 @@ TEST(BadBitmap, CutAnywhereIsRefused) {
     for (std::size_t size = 0; size + 6 < file.size(); ++size) ExpectRefused(file.substr(0, size));
 }
 
-TEST(BadBitmap, WithoutExtentIsRefused) {
+TEST(BadBitmap, IsRefusedWithoutExtent) {
   ExpectRefused(Dib{.Width = 0}.File());
   ExpectRefused(Dib{.Height = 0}.File());
   ExpectRefused(Dib{.Width = -2, .Data = Data24()}.File());
@@ -204,7 +204,7 @@ TEST(BadBitmap, TooLargeIsRefusedBeforeMemoryIsTaken) {
   ExpectRefused(Dib{.Width = INT32_MAX, .Height = INT32_MAX, .Bits = 32}.File());
 }
 
-TEST(BadBitmap, OfUnknownDepthOrCompressionIsRefused) {
+TEST(BadBitmap, IsRefusedForUnknownDepthOrCompression) {
   ExpectRefused(Dib{.Bits = 5, .Data = Data24()}.File());
   ExpectRefused(Dib{.Compression = 99, .Data = Data24()}.File());
   ExpectRefused(Dib{.Bits = 24, .Compression = 1, .Data = Data24()}.File());

@@ -29,7 +29,7 @@ TEST(DashedLines, AreFoundInAStraightLine) {
   EXPECT_EQ(found->Dashes, (std::vector<double>{12, 6}));
 }
 
-TEST(DashedLines, OfDashesAndDotsKeepTheirPattern) {
+TEST(DashedLines, KeepThePatternOfDashesAndDots) {
   std::vector<QPolygonF> lines;
   for (int i = 0; i < 20; ++i) {
     lines.push_back(QPolygonF({QPointF(0, 30 * i), QPointF(0, 30 * i + 14)}));
@@ -75,7 +75,7 @@ EmfWriter CurveOfDashes() {
   return emf;
 }
 
-TEST(DashedLines, LookAsTheDashesThatTheyStandFor) {
+TEST(DashedLines, LookAsTheDashesThatTheyReplace) {
   const QImage shown = CurveOfDashes().Show({1800, 1800});
   QImage drawn(1800, 1800, QImage::Format_RGB32);
   drawn.fill(Qt::white);
@@ -91,7 +91,7 @@ TEST(DashedLines, LookAsTheDashesThatTheyStandFor) {
   EXPECT_LT(different, InkedPixels(drawn) / 12);
 }
 
-TEST(DashedLines, OfAFileAreFewDrawingSteps) {
+TEST(DashedLines, BecomeFewDrawingStepsOfAFile) {
   EXPECT_LT(Play(CurveOfDashes().Bytes())->List().Commands().size(), 40u);
 }
 

@@ -199,7 +199,7 @@ TEST(EmfRegions, AreFilledAndFramed) {
   EXPECT_EQ(shown.pixelColor(22, 50), Blue);
 }
 
-TEST(EmfRasterOperations, OfPensActAsOnWhitePaper) {
+TEST(EmfRasterOperations, APenActsAsOnWhitePaper) {
   const auto color = [](std::uint32_t rop2, std::uint32_t ink) {
     return EmfWriter().Set(20, rop2).Brush(ink).NoPen().Rectangle(0, 0, 100, 100).Show().pixelColor(50, 50);
   };

@@ -115,7 +115,7 @@ TEST(EmfPlusBrushes, AllHatchesFillTheirAreaInAPatternOfTheirOwn) {
   }
 }
 
-TEST(EmfPlusBrushes, DotsOfHatchesStandAsTheyArePublished) {
+TEST(EmfPlusBrushes, DotsOfHatchesHaveTheirPublishedPlaces) {
   constexpr std::uint32_t largeCheckers = 50;
   PlusWriter plus;
   const QImage shown = FillWith(plus, HatchBrush(largeCheckers), Rect(0, 0, 100, 100)).Show();
@@ -149,7 +149,7 @@ TEST(EmfPlusBrushes, HatchesBeyondTheLastAreCounted) {
   EXPECT_EQ(Play(plus.FillRect(RedInk, 0, 0, 9, 9).Emf().Bytes())->SkippedRecords(), 2);  // it, and its fill
 }
 
-TEST(EmfPlusImages, OfIndexedColorsShow) {
+TEST(EmfPlusImages, ShowIndexedColors) {
   ByteWriter image = ByteWriter().U32(PlusVersion).U32(1).U32(2).U32(1).U32(4).U32(0x30803).U32(0);
   image.U32(0).U32(2).U32(RedInk).U32(BlueInk).U8(0).U8(1).U16(0);
   ByteWriter draw = ByteWriter().U32(0).U32(2).Add(Rect(0, 0, 2, 1)).Add(Rect(0, 0, 100, 100));
@@ -158,7 +158,7 @@ TEST(EmfPlusImages, OfIndexedColorsShow) {
   EXPECT_EQ(shown.pixelColor(90, 50), Blue);
 }
 
-TEST(EmfPlusPoints, MayEachBeToldFromTheLast) {
+TEST(EmfPlusPoints, MayEachBeRelativeToTheLast) {
   // From 10, 10: 80 to the right (in two bytes), then 60 down, then back.
   const std::string steps("\x0A\x0A\x80\x50\x00\x00\x3C\xFF\xB0\x00", 10);
   const ByteWriter polygon = ByteWriter().U32(RedInk).U32(4).Text(steps);

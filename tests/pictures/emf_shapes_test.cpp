@@ -9,7 +9,7 @@ namespace {
 const QColor Red(255, 0, 0), Green(0, 255, 0), Blue(0, 0, 255), White(255, 255, 255), Black(0, 0, 0);
 constexpr std::uint32_t RedInk = Rgb(255, 0, 0), GreenInk = Rgb(0, 255, 0), BlueInk = Rgb(0, 0, 255);
 
-TEST(EmfShapes, ARectangleIsFilledWhereItStands) {
+TEST(EmfShapes, ARectangleIsFilledInItsPlace) {
   const QImage shown = EmfWriter().Brush(RedInk).NoPen().Rectangle(20, 30, 60, 80).Show();
   EXPECT_EQ(shown.pixelColor(21, 31), Red);
   EXPECT_EQ(shown.pixelColor(59, 79), Red);
@@ -26,7 +26,7 @@ TEST(EmfShapes, TheFrameFillsTheTarget) {
   EXPECT_EQ(shown.pixelColor(52, 50), White);
 }
 
-TEST(EmfShapes, WithoutAFrameTheBoundsFillTheTarget) {
+TEST(EmfShapes, TheBoundsFillTheTargetWhereAFrameIsMissing) {
   EmfWriter emf;
   emf.Frame(0, 0, 0, 0).Bounds(0, 0, 49, 49).Brush(RedInk).NoPen().Rectangle(0, 0, 25, 50);
   const QImage shown = emf.Show();
@@ -83,7 +83,7 @@ TEST(EmfShapes, PolygonsFillByTheirMode) {
   EXPECT_EQ(shown(2), Red);
 }
 
-TEST(EmfShapes, LinesOfSmallAndLargePointsLookAlike) {
+TEST(EmfShapes, LinesOfSmallAndLargePointsLookTheSame) {
   const ByteWriter small = Box32(0, 0, 0, 0).U32(2).I16(10).I16(50).I16(90).I16(50);
   const ByteWriter large = Box32(0, 0, 0, 0).U32(2).I32(10).I32(50).I32(90).I32(50);
   EXPECT_EQ(EmfWriter().Pen(RedInk, 4).Add(87, small).Show(),
@@ -129,7 +129,7 @@ TEST(EmfShapes, APieTurnsAgainstTheClock) {
   EXPECT_EQ(shown.pixelColor(40, 60), White);
 }
 
-TEST(EmfShapes, APieTurnsWithTheClockWhenTold) {
+TEST(EmfShapes, APieTurnsClockwiseByTheArcDirection) {
   const QImage shown = EmfWriter().Brush(RedInk).NoPen().Set(57, 2).Add(47, Quarter).Show();
   EXPECT_EQ(shown.pixelColor(60, 40), White);
   EXPECT_EQ(shown.pixelColor(40, 60), Red);
@@ -176,7 +176,7 @@ TEST(EmfPens, ThinLinesStaySeen) {
   EXPECT_GT(InkedPixels(EmfWriter().Pen(0, 1).Pair(27, 0, 50).Pair(54, 1000, 50).Show({10, 10})), 5);
 }
 
-TEST(EmfPens, WithAWidthShrinkToALineThatIsAsDark) {
+TEST(EmfPens, AWidePenShrinksToALineThatIsAsDark) {
   const auto darkest = [](const QImage& image) {
     int dark = 255;
     for (int y = 0; y < image.height(); ++y) dark = std::min(dark, qGray(image.pixel(50, y)));
@@ -187,7 +187,7 @@ TEST(EmfPens, WithAWidthShrinkToALineThatIsAsDark) {
   EXPECT_LT(darkest(emf.Show()), 20);
 }
 
-TEST(EmfPens, CosmeticOnesThatTellAWidthHaveIt) {
+TEST(EmfPens, CosmeticPensWithAWidthHaveIt) {
   EmfWriter emf;
   emf.WidePen(RedInk, 10, 0).Pair(27, 10, 50).Pair(54, 90, 50);
   EXPECT_EQ(emf.Show().pixelColor(50, 47), Red);
@@ -216,7 +216,7 @@ TEST(EmfPens, DashesOfTheUsersOwnCountInLogicalUnits) {
   EXPECT_EQ(shown.pixelColor(40, 50), Black);
 }
 
-TEST(EmfPens, CapsEndLinesAsTold) {
+TEST(EmfPens, CapsEndLinesByTheirStyle) {
   const auto beyond = [](std::uint32_t cap) {
     return EmfWriter()
         .WidePen(0, 20, 0x10000 | cap)
@@ -230,7 +230,7 @@ TEST(EmfPens, CapsEndLinesAsTold) {
   EXPECT_NE(beyond(0x000), Black);  // round: the corner is cut
 }
 
-TEST(EmfPens, JoinsMeetAsTold) {
+TEST(EmfPens, JoinsMeetByTheirStyle) {
   const auto corner = [](std::uint32_t join) {
     return EmfWriter()
         .WidePen(0, 20, 0x10000 | 0x200 | join)

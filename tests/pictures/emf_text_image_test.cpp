@@ -24,7 +24,7 @@ EmfWriter TextEmf(int height = -40) {
   return emf;
 }
 
-TEST(EmfText, HangsFromItsPointOrStandsOnIt) {
+TEST(EmfText, ExtendsDownOrUpFromItsPoint) {
   const QRect top = Ink(TextEmf().Text(10, 20, "H").Show());
   const QRect baseline = Ink(TextEmf().Set(22, 24).Text(10, 60, "H").Show());
   const QRect bottom = Ink(TextEmf().Set(22, 8).Text(10, 60, "H").Show());
@@ -51,7 +51,7 @@ TEST(EmfText, AWidthThatIsTheMeanOfTheFontChangesNothing) {
   EXPECT_NEAR(widthOf("Arial", 220), widthOf("Arial", 0) / 2.0, 6);
 }
 
-TEST(EmfText, TellsItsCharactersAndWhereTheyStand) {
+TEST(EmfText, KnowsItsCharactersAndTheirPlaces) {
   const auto picture = Play(TextEmf(-20).Set(22, 24).Text(10, 60, "Ab c", {14, 12, 6, 10}).Bytes());
   ASSERT_EQ(picture->Texts().size(), 1u);
   const PictureText& text = picture->Texts()[0];
@@ -73,7 +73,7 @@ std::string AsGlyphs(std::string text) {
   return text;
 }
 
-TEST(EmfText, ByNumbersOfGlyphsIsDrawnWhereTheFontOrItsTwinIsThere) {
+TEST(EmfText, GlyphNumbersAreDrawnWhereTheFontOrItsTwinIsThere) {
   const EmfWriter letters = TextEmf(-20).Text(5, 20, "Time");
   const EmfWriter glyphs = TextEmf(-20).Text(5, 20, AsGlyphs("Time"), {}, GlyphIndexes);
   EXPECT_EQ(glyphs.Show(), letters.Show());
@@ -89,14 +89,14 @@ std::string ReasonOf(const std::string& bytes) {
   return "it loads";
 }
 
-TEST(EmfText, ByNumbersOfGlyphsOfAnotherFontRefusesThePictureWithItsName) {
+TEST(EmfText, GlyphNumbersOfAnotherFontRefuseThePictureWithItsName) {
   EmfWriter emf;
   emf.Pen(0, 3).Rectangle(5, 5, 90, 90).Font(-20, "Frutiger Next");
   const std::string reason = ReasonOf(emf.Text(5, 20, AsGlyphs("Time"), {}, GlyphIndexes).Bytes());
   EXPECT_NE(reason.find("Frutiger Next"), std::string::npos) << reason;
 }
 
-TEST(EmfText, ByNumbersOfGlyphsThatAreAsWideAsOtherLettersIsRefused) {
+TEST(EmfText, GlyphNumbersThatAreAsWideAsOtherLettersAreRefused) {
   const auto reason = ReasonOf(TextEmf(-20).Text(5, 20, AsGlyphs("iii"), {14, 14, 14}, GlyphIndexes).Bytes());
   EXPECT_NE(reason.find("Arial"), std::string::npos) << reason;
 }
@@ -110,7 +110,7 @@ TEST(EmfText, AlignsLeftRightAndCentred) {
   EXPECT_NEAR(centre.center().x(), 50, 2);
 }
 
-TEST(EmfText, KeepsTheWidthsThatTheRecordTells) {
+TEST(EmfText, KeepsTheWidthsOfTheRecord) {
   const QImage shown = TextEmf(-20).Text(0, 20, "II", {60, 10}).Show();
   EXPECT_GT(InkedPixels(shown, QRect(0, 0, 20, 100)), 0);
   EXPECT_EQ(InkedPixels(shown, QRect(20, 0, 38, 100)), 0);
@@ -126,7 +126,7 @@ TEST(EmfText, TurnsWithTheFont) {
   EXPECT_NEAR(ink.bottom(), 88, 3);
 }
 
-TEST(EmfText, StandsUprightWhereTheAxisPointsUp) {
+TEST(EmfText, IsUprightWhereTheAxisPointsUp) {
   EmfWriter emf;
   emf.Set(17, 8)
       .Pair(9, 100, -100)
@@ -154,7 +154,7 @@ TEST(EmfText, ABoxIsFilledAndClips) {
   EXPECT_EQ(InkedPixels(shown, QRect(51, 0, 49, 100)), 0);
 }
 
-TEST(EmfText, MovesThePositionWhenTold) {
+TEST(EmfText, MovesThePositionWhereTheAlignmentAsksForIt) {
   const QImage shown =
       TextEmf(-20).Set(22, 1).Pair(27, 10, 10).Text(0, 0, "A", {50}).Text(0, 0, "B", {10}).Show();
   EXPECT_GT(InkedPixels(shown, QRect(58, 10, 20, 30)), 0);
@@ -185,7 +185,7 @@ TEST(EmfText, RisesMoveThePositionToo) {
   EXPECT_GT(InkedPixels(emf.Show(), QRect(36, 30, 64, 25)), 0);
 }
 
-TEST(EmfText, AWidthThatRepeatsTheHeightLeavesLettersAsTheyAre) {
+TEST(EmfText, AWidthThatRepeatsTheHeightKeepsLettersAsTheyAre) {
   const auto shown = [](int width) {
     ByteWriter font;
     font.U32(1).I32(-40).I32(width).I32(0).I32(0).I32(400).U32(0).U32(0).Text(
@@ -197,7 +197,7 @@ TEST(EmfText, AWidthThatRepeatsTheHeightLeavesLettersAsTheyAre) {
   EXPECT_NE(shown(30), shown(0));
 }
 
-TEST(EmfText, OfAPictureFontWithoutKnownCharactersIsCountedNotShownAsLetters) {
+TEST(EmfText, APictureFontWithoutKnownCharactersIsCountedNotShownAsLetters) {
   for (const char* face : {"Webdings", "Wingdings 3", "MT Extra"}) {
     const std::string bytes = TextEmf().Font(-40, face, 0, 2).Text(10, 20, "A").Rectangle(0, 0, 9, 9).Bytes();
     EXPECT_EQ(Play(bytes)->SkippedRecords(), 1) << face;
@@ -205,7 +205,7 @@ TEST(EmfText, OfAPictureFontWithoutKnownCharactersIsCountedNotShownAsLetters) {
   }
 }
 
-TEST(EmfText, OfAPictureFontIsFoundHoweverItsNameIsWritten) {
+TEST(EmfText, APictureFontIsFoundHoweverItsNameIsWritten) {
   EXPECT_EQ(TextEmf().Font(-40, "WingDings", 0, 2).Text(10, 20, "l").Show(),
             TextEmf().Font(-40, "Wingdings", 0, 2).Text(10, 20, "l").Show());
   EXPECT_GT(InkedPixels(TextEmf().Font(-40, "Wingdings 2", 0, 2).Text(10, 20, "P").Show()), 20);
@@ -217,7 +217,7 @@ TEST(EmfText, HasItsColor) {
   EXPECT_EQ(shown.pixelColor(middle), Red);
 }
 
-TEST(EmfText, OfASymbolFontShowsGreekLetters) {
+TEST(EmfText, ASymbolFontShowsGreekLetters) {
   const auto shown = [](const std::string& face, std::uint16_t code, std::uint32_t charset) {
     EmfWriter emf;
     emf.Set(18, 1).Font(-40, face, 0, charset);
@@ -230,7 +230,7 @@ TEST(EmfText, OfASymbolFontShowsGreekLetters) {
   EXPECT_NE(shown("Symbol", 'W', 2), shown("Arial", 'W', 0));
 }
 
-TEST(EmfText, OfEightBitsFollowsTheCharsetOfItsFont) {
+TEST(EmfText, TextOfEightBitsFollowsTheCharsetOfItsFont) {
   const auto shown = [](std::uint32_t charset, const std::string& bytes, std::uint32_t record) {
     EmfWriter emf;
     emf.Set(18, 1).Font(-40, "Arial", 0, charset);

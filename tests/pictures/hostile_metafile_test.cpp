@@ -48,7 +48,7 @@ TEST(HostileMetafile, CutAnywhereIsRefused) {
     ExpectRefused(wmf.substr(0, size), "wmf of " + std::to_string(size));
 }
 
-TEST(HostileMetafile, WithoutExtentIsRefused) {
+TEST(HostileMetafile, IsRefusedWithoutExtent) {
   ExpectRefused(EmfWriter().Frame(0, 0, 0, 0).Bounds(0, 0, 0, 0).Rectangle(0, 0, 9, 9).Bytes(), "frame");
   ExpectRefused(WmfWriter().Placeable(5, 5, 5, 5, 96).Words(0x041B, {9, 9, 0, 0}).Bytes(), "box");
 }
@@ -58,7 +58,7 @@ TEST(HostileMetafile, ThatShowsNothingAtAllIsRefused) {
   ExpectRefused(WmfWriter().Window(0, 0, 100, 100).Bytes(), "no drawing");
 }
 
-TEST(HostileMetafile, OfWhichOnlyAWhiteGroundCouldBePlayedIsRefused) {
+TEST(HostileMetafile, IsRefusedWhereOnlyAWhiteGroundCouldBePlayed) {
   EmfWriter emf;
   emf.NoPen().Brush(Rgb(255, 255, 255)).Rectangle(0, 0, 100, 100);
   EXPECT_FALSE(emf.Show().isNull());  // an empty picture may be meant so

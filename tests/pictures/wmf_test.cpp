@@ -56,7 +56,7 @@ TEST(Wmf, NegativeExtentsTurnTheAxisRound) {
   EXPECT_EQ(shown.pixelColor(50, 10), White);
 }
 
-TEST(Wmf, WithoutAnyWindowTheDrawingFillsTheTarget) {
+TEST(Wmf, TheDrawingFillsTheTargetWhereNoWindowIsSet) {
   WmfWriter wmf;
   wmf.Brush(RedInk)
       .NoPen()

@@ -54,7 +54,7 @@ TEST_F(Configuration, ByteOrderMarkIsNoPartOfTheFirstSection) {
   EXPECT_EQ(registry.Value("T", "Quillon"), "") << "only the file's first bytes are a mark";
 }
 
-TEST_F(Configuration, Utf16IsToldAsWhatIsWrong) {
+TEST_F(Configuration, Utf16IsNamedAsWhatIsWrong) {
   Holding(std::string("\xFF\xFE[\0S\0]\0\n\0", 10));
   EXPECT_THAT(Diagnoses(), ElementsAre(Path() + ": is UTF-16 text, where UTF-8 is read"));
 }

@@ -28,7 +28,7 @@ bool IsTold(const CountingDesktop& desktop) {
   return QTest::qWaitFor([&] { return desktop.Count > 0; }, 2500);
 }
 
-TEST(FirstWindowWatch, TellsOnceWhatAStartWithoutAWindowWaitsFor) {
+TEST(FirstWindowWatch, SaysOnceWhatAStartWithoutAWindowWaitsFor) {
   CountingDesktop desktop;
   {
     FirstWindowWatch watch(desktop, 1s);
@@ -51,7 +51,7 @@ TEST(FirstWindowWatch, IsSilentOnceAWindowHasBeenShown) {
   EXPECT_FALSE(IsTold(desktop));
 }
 
-TEST(FirstWindowWatch, TellsOfAWindowThatIsBuiltButNotShown) {
+TEST(FirstWindowWatch, ReportsAWindowThatIsBuiltButNotShown) {
   CountingDesktop desktop;
   {
     FirstWindowWatch watch(desktop, 1s);

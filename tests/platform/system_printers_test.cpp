@@ -22,7 +22,7 @@ TEST(SystemPrinters, CountsSavingAsPdfWithoutAskingThePrintSystem) {
   EXPECT_EQ(SystemPrinters(true, watch).NDevices(), 1);
 }
 
-TEST(SystemPrinters, TellsThatThereIsNoneAndWaitsForTheUser) {
+TEST(SystemPrinters, ReportsThatThereIsNoneAndWaitsForTheUser) {
   FakeDesktop desktop;
   FirstWindowWatch watch(desktop);
   MessageWatch messages;

@@ -5,7 +5,7 @@
 namespace tarvis {
 namespace {
 
-TEST(QtTextMeasurer, advances_are_arials_in_both_weights) {
+TEST(QtTextMeasurer, AdvancesAreArialsInBothWeights) {
   const QtTextMeasurer measurer;
   EXPECT_FLOAT_EQ(measurer.AdvanceEm(U'0', false), 1139.0F / 2048);
   EXPECT_FLOAT_EQ(measurer.AdvanceEm(U'W', true), 1933.0F / 2048);

@@ -13,7 +13,7 @@
 namespace tarvis {
 namespace {
 
-TEST(BackgroundJob, a_long_job_shows_its_progress_and_can_be_cancelled) {
+TEST(BackgroundJob, ALongJobShowsItsProgressAndCanBeCancelled) {
   QWidget window;
   window.show();
   std::atomic<bool> stopped = false;
@@ -38,7 +38,7 @@ TEST(BackgroundJob, a_long_job_shows_its_progress_and_can_be_cancelled) {
   EXPECT_EQ(window.findChild<QProgressDialog*>(), nullptr);
 }
 
-TEST(BackgroundJob, a_short_job_shows_no_progress) {
+TEST(BackgroundJob, AShortJobShowsNoProgress) {
   QWidget window;
   window.show();
   const auto fail = [](const Progress&) { return QStringLiteral("bad"); };

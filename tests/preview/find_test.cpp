@@ -9,7 +9,7 @@
 namespace tarvis {
 namespace {
 
-using FindBarTest = WindowTest;
+using SearchBar = WindowTest;
 
 std::shared_ptr<const Document> Words() {
   return DocumentBuilder()
@@ -20,7 +20,7 @@ std::shared_ptr<const Document> Words() {
       .Build();
 }
 
-TEST_F(FindBarTest, counts_hits_of_the_whole_document_as_one_types) {
+TEST_F(SearchBar, CountsHitsOfTheWholeDocumentAsOneTypes) {
   Open(Words());
   Press(Qt::Key_F, Qt::ControlModifier);
   Type("gai");
@@ -29,7 +29,7 @@ TEST_F(FindBarTest, counts_hits_of_the_whole_document_as_one_types) {
   EXPECT_EQ(Find<QLabel>("findCount").text(), QStringLiteral("not found"));
 }
 
-TEST_F(FindBarTest, f3_and_shift_f3_step_through_the_hits_and_around) {
+TEST_F(SearchBar, F3AndShiftF3StepThroughTheHitsAndAround) {
   Open(Words());
   Press(Qt::Key_F, Qt::ControlModifier);
   Type("gain");
@@ -43,7 +43,7 @@ TEST_F(FindBarTest, f3_and_shift_f3_step_through_the_hits_and_around) {
   EXPECT_EQ(Find<QLabel>("findCount").text(), QStringLiteral("1 of 4"));
 }
 
-TEST_F(FindBarTest, case_and_whole_word_switches_narrow_the_hits) {
+TEST_F(SearchBar, CaseAndWholeWordSwitchesNarrowTheHits) {
   Open(Words());
   Press(Qt::Key_F, Qt::ControlModifier);
   Type("Gain");
@@ -53,7 +53,7 @@ TEST_F(FindBarTest, case_and_whole_word_switches_narrow_the_hits) {
   EXPECT_EQ(Find<QLabel>("findCount").text(), QStringLiteral("1 of 1"));
 }
 
-TEST_F(FindBarTest, esc_closes_the_bar_and_takes_the_marks_away) {
+TEST_F(SearchBar, EscClosesTheBarAndTakesTheMarksAway) {
   Open(Words());
   Press(Qt::Key_F, Qt::ControlModifier);
   Type("gain");
@@ -65,13 +65,13 @@ TEST_F(FindBarTest, esc_closes_the_bar_and_takes_the_marks_away) {
   EXPECT_TRUE(View().hasFocus());
 }
 
-TEST_F(FindBarTest, f3_without_a_bar_opens_it) {
+TEST_F(SearchBar, F3WithoutABarOpensIt) {
   Open(Words());
   Press(Qt::Key_F3);
   EXPECT_TRUE(Find<QLineEdit>("findText").hasFocus());
 }
 
-TEST_F(FindBarTest, a_hit_is_marked_where_its_letters_stand) {
+TEST_F(SearchBar, AHitIsMarkedAtItsLetters) {
   Open(Words());
   Press(Qt::Key_F, Qt::ControlModifier);
   Type("margin");
@@ -82,7 +82,7 @@ TEST_F(FindBarTest, a_hit_is_marked_where_its_letters_stand) {
   EXPECT_NEAR(marks[0].Box.width(), 510, 60);
 }
 
-TEST(SearchTest, a_phrase_is_found_over_the_lines_of_one_cell) {
+TEST(TextSearch, APhraseIsFoundOverTheLinesOfOneCell) {
   const auto document = DocumentBuilder().Page().Lines({"Encoder Dividing", "Ratio"}, 1440, 720).Build();
   DocumentText text(*document);
   const std::vector<SearchHit> hits = Search(text, QStringLiteral("dividing ratio"), {});
@@ -90,7 +90,7 @@ TEST(SearchTest, a_phrase_is_found_over_the_lines_of_one_cell) {
   EXPECT_EQ(hits[0].Boxes.size(), 2U);
 }
 
-TEST(SearchTest, japanese_is_found_with_its_place) {
+TEST(TextSearch, JapaneseIsFoundWithItsPlace) {
   const auto document = DocumentBuilder().Page().Text("速度ループゲイン", 1440, 720, 10).Build();
   DocumentText text(*document);
   const std::vector<SearchHit> hits = Search(text, QStringLiteral("ループ"), {});
@@ -99,7 +99,7 @@ TEST(SearchTest, japanese_is_found_with_its_place) {
   EXPECT_NEAR(hits[0].Boxes[0].width(), 600, 1);
 }
 
-TEST(SearchTest, characters_beyond_16_bits_are_found_with_their_place) {
+TEST(TextSearch, CharactersBeyond16BitsAreFoundWithTheirPlace) {
   const auto document = DocumentBuilder().Page().Text("𠮷𠮷 Gain", 1440, 720, 10).Build();
   DocumentText text(*document);
   const std::vector<SearchHit> hits = Search(text, QStringLiteral("𠮷"), {});

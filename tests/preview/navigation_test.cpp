@@ -19,7 +19,7 @@ std::shared_ptr<const Document> WithContents() {
   return builder.Build();
 }
 
-TEST_F(Navigation, page_box_goes_to_the_page_typed) {
+TEST_F(Navigation, PageBoxGoesToThePageTyped) {
   OpenTable(20);
   Press(Qt::Key_G, Qt::ControlModifier);
   Type("7");
@@ -29,7 +29,7 @@ TEST_F(Navigation, page_box_goes_to_the_page_typed) {
   EXPECT_TRUE(View().hasFocus());
 }
 
-TEST_F(Navigation, first_previous_next_and_last_page) {
+TEST_F(Navigation, FirstPreviousNextAndLastPage) {
   OpenTable(5);
   EXPECT_FALSE(window_->ActionOf(Command::PreviousPage)->isEnabled());
   Click("nextPageButton");
@@ -45,7 +45,7 @@ TEST_F(Navigation, first_previous_next_and_last_page) {
   EXPECT_EQ(Page(), 0);
 }
 
-TEST_F(Navigation, keys_scroll_by_lines_views_and_to_the_ends) {
+TEST_F(Navigation, KeysScrollByLinesViewsAndToTheEnds) {
   OpenTable(5);
   const QScrollBar* bar = View().verticalScrollBar();
   Press(Qt::Key_Down);
@@ -68,7 +68,7 @@ TEST_F(Navigation, keys_scroll_by_lines_views_and_to_the_ends) {
   EXPECT_EQ(bar->value(), 0);
 }
 
-TEST_F(Navigation, the_wheel_scrolls_and_the_middle_button_drags) {
+TEST_F(Navigation, TheWheelScrollsAndTheMiddleButtonDrags) {
   OpenTable(5);
   const QScrollBar* bar = View().verticalScrollBar();
   Wheel(-2);
@@ -81,7 +81,7 @@ TEST_F(Navigation, the_wheel_scrolls_and_the_middle_button_drags) {
   EXPECT_EQ(bar->value(), scrolled + 50);
 }
 
-TEST_F(Navigation, left_and_right_turn_pages_that_fit_the_width) {
+TEST_F(Navigation, LeftAndRightTurnPagesThatFitTheWidth) {
   OpenTable(5);
   Press(Qt::Key_Right);
   EXPECT_EQ(Page(), 1);
@@ -89,7 +89,7 @@ TEST_F(Navigation, left_and_right_turn_pages_that_fit_the_width) {
   EXPECT_EQ(Page(), 0);
 }
 
-TEST_F(Navigation, single_pages_turn_at_their_ends) {
+TEST_F(Navigation, SinglePagesTurnAtTheirEnds) {
   OpenTable(5);
   Press(Qt::Key_F8);
   EXPECT_FALSE(View().Layout().Continuous());
@@ -107,7 +107,7 @@ TEST_F(Navigation, single_pages_turn_at_their_ends) {
   EXPECT_EQ(Page(), 2);
 }
 
-TEST_F(Navigation, zoom_commands_reach_their_factors) {
+TEST_F(Navigation, ZoomCommandsReachTheirFactors) {
   OpenTable(3);
   Press(Qt::Key_1, Qt::ControlModifier);
   EXPECT_EQ(Percent(), 100);
@@ -125,7 +125,7 @@ TEST_F(Navigation, zoom_commands_reach_their_factors) {
   EXPECT_EQ(View().Layout().Mode(), ZoomMode::Factor);
 }
 
-TEST_F(Navigation, the_zoom_box_takes_and_shows_percent) {
+TEST_F(Navigation, TheZoomBoxTakesAndShowsPercent) {
   OpenTable(3);
   auto& box = Find<QComboBox>("zoomBox");
   box.setFocus();
@@ -137,7 +137,7 @@ TEST_F(Navigation, the_zoom_box_takes_and_shows_percent) {
   EXPECT_EQ(box.currentText(), QStringLiteral("175 %"));
 }
 
-TEST_F(Navigation, ctrl_wheel_zooms_around_the_pointer) {
+TEST_F(Navigation, CtrlWheelZoomsAroundThePointer) {
   OpenTable(3);
   Press(Qt::Key_1, Qt::ControlModifier);
   const QPoint pointer(310, 220);
@@ -150,14 +150,14 @@ TEST_F(Navigation, ctrl_wheel_zooms_around_the_pointer) {
   EXPECT_NEAR(after.Point.x(), before.Point.x(), 15);
 }
 
-TEST_F(Navigation, fit_width_follows_the_window) {
+TEST_F(Navigation, FitWidthFollowsTheWindow) {
   OpenTable(3);
   window_->resize(800, 600);
   ASSERT_TRUE(QTest::qWaitFor([this] { return View().viewport()->width() < 700; }));
   EXPECT_NEAR(View().Layout().PageSize().width(), View().viewport()->width() - 2 * PageLayout::Margin, 1);
 }
 
-TEST_F(Navigation, a_click_in_the_contents_goes_to_the_entrys_place) {
+TEST_F(Navigation, AClickInTheContentsGoesToTheEntrysPlace) {
   Open(WithContents());
   auto& tree = Find<QTreeWidget>("contents");
   QTreeWidgetItem* comment = tree.topLevelItem(0)->child(1);
@@ -166,7 +166,7 @@ TEST_F(Navigation, a_click_in_the_contents_goes_to_the_entrys_place) {
   EXPECT_NEAR(View().CurrentPlace().Top, 9000, 20);
 }
 
-TEST_F(Navigation, the_contents_mark_the_entry_being_read) {
+TEST_F(Navigation, TheContentsMarkTheEntryBeingRead) {
   Open(WithContents());
   auto& tree = Find<QTreeWidget>("contents");
   View().GoTo({3, 0});
@@ -175,7 +175,7 @@ TEST_F(Navigation, the_contents_mark_the_entry_being_read) {
   EXPECT_EQ(tree.currentItem()->text(0), QStringLiteral("Overlapping data 1/1"));
 }
 
-TEST_F(Navigation, contents_have_two_levels) {
+TEST_F(Navigation, ContentsHaveTwoLevels) {
   Open(WithContents());
   auto& tree = Find<QTreeWidget>("contents");
   ASSERT_EQ(tree.topLevelItemCount(), 2);
@@ -183,7 +183,7 @@ TEST_F(Navigation, contents_have_two_levels) {
   EXPECT_EQ(tree.topLevelItem(1)->childCount(), 0);
 }
 
-TEST_F(Navigation, enter_in_the_contents_goes_there_too) {
+TEST_F(Navigation, EnterInTheContentsGoesThereToo) {
   Open(WithContents());
   auto& tree = Find<QTreeWidget>("contents");
   tree.setCurrentItem(tree.topLevelItem(1));
@@ -192,7 +192,7 @@ TEST_F(Navigation, enter_in_the_contents_goes_there_too) {
   EXPECT_EQ(View().CurrentPlace().Page, 7);
 }
 
-TEST_F(Navigation, alt_left_and_right_walk_the_places_visited) {
+TEST_F(Navigation, AltLeftAndRightWalkThePlacesVisited) {
   Open(WithContents());
   View().GoTo({2, 500});
   Click("lastPageButton");
@@ -205,7 +205,7 @@ TEST_F(Navigation, alt_left_and_right_walk_the_places_visited) {
   EXPECT_FALSE(window_->ActionOf(Command::Forward)->isEnabled());
 }
 
-TEST_F(Navigation, thumbnails_go_to_their_page_and_mark_the_one_being_read) {
+TEST_F(Navigation, ThumbnailsGoToTheirPageAndMarkTheOneBeingRead) {
   OpenTable(30);
   Find<QTabWidget>("sidePane").setCurrentIndex(1);
   auto& thumbnails = Find<Thumbnails>("thumbnails");

@@ -22,7 +22,7 @@ class NextPreview : public WindowTest {
   }
 };
 
-TEST_F(NextPreview, stands_where_the_last_one_was_moved_to_in_the_same_size) {
+TEST_F(NextPreview, OpensWhereTheLastOneWasMovedToInTheSameSize) {
   OpenTable(3);
   window_->setGeometry(70, 90, 640, 480);
   const QRect before = window_->geometry();
@@ -30,7 +30,7 @@ TEST_F(NextPreview, stands_where_the_last_one_was_moved_to_in_the_same_size) {
   EXPECT_EQ(window_->geometry(), before);
 }
 
-TEST_F(NextPreview, keeps_zoom_and_single_pages) {
+TEST_F(NextPreview, KeepsZoomAndSinglePages) {
   OpenTable(3);
   View().SetZoom(1.37);
   Press(Qt::Key_F8);
@@ -43,7 +43,7 @@ TEST_F(NextPreview, keeps_zoom_and_single_pages) {
   EXPECT_TRUE(window_->ActionOf(Command::FitPage)->isChecked());
 }
 
-TEST_F(NextPreview, keeps_the_side_pane_its_width_and_its_tab) {
+TEST_F(NextPreview, KeepsTheSidePaneItsWidthAndItsTab) {
   OpenTable(3);
   auto* pane = &Find<QTabWidget>("sidePane");
   pane->setCurrentIndex(1);
@@ -61,7 +61,7 @@ TEST_F(NextPreview, keeps_the_side_pane_its_width_and_its_tab) {
       << "it is there again, not squeezed to nothing";
 }
 
-TEST_F(NextPreview, shows_the_same_part_at_the_same_height_though_pages_came_ahead_of_it) {
+TEST_F(NextPreview, ShowsTheSamePartAtTheSameHeightThoughPagesCameAheadOfIt) {
   Open(Parts(2));
   View().GoTo({7, 900});  // below the second "Comment", which starts on the page before
   OpenAgain(Parts(5));
@@ -70,13 +70,13 @@ TEST_F(NextPreview, shows_the_same_part_at_the_same_height_though_pages_came_ahe
   EXPECT_NEAR(now.Top, 900, 40);
 }
 
-TEST_F(NextPreview, starts_at_the_top_where_the_last_one_was_not_moved) {
+TEST_F(NextPreview, StartsAtTheTopWhereTheLastOneWasNotMoved) {
   Open(Parts(2));
   OpenAgain(Parts(5));
   EXPECT_EQ(View().verticalScrollBar()->value(), 0);
 }
 
-TEST_F(NextPreview, shows_the_same_page_if_the_part_is_no_longer_there) {
+TEST_F(NextPreview, ShowsTheSamePageIfThePartIsNoLongerThere) {
   Open(Parts(2));
   View().GoTo({4, 6000});
   OpenAgain(DocumentBuilder().TablePages(9).Entry("Parameter", 0, 0, 720).Build());
@@ -85,7 +85,7 @@ TEST_F(NextPreview, shows_the_same_page_if_the_part_is_no_longer_there) {
   EXPECT_EQ(Page(), 2) << "the last one of a shorter document";
 }
 
-TEST_F(NextPreview, of_another_run_is_as_if_there_had_been_none) {
+TEST_F(NextPreview, KeepsNothingOfAnotherRun) {
   OpenTable(3);
   const QSize first = window_->size();
   window_->resize(600, 400);

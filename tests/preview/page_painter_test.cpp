@@ -47,7 +47,7 @@ Document CutCell() {
   return ComposeSample(report, 500);
 }
 
-TEST(PagePainter, leaves_the_frame_of_a_cut_cell_open_at_the_cut) {
+TEST(PagePainter, LeavesTheFrameOfACutCellOpenAtTheCut) {
   const Document document = CutCell();
   ASSERT_EQ(document.Pages.size(), 3U);
   const Recorder first(document, 0);
@@ -61,7 +61,7 @@ TEST(PagePainter, leaves_the_frame_of_a_cut_cell_open_at_the_cut) {
   EXPECT_TRUE(HasLineAt(last, 190));
 }
 
-TEST(PagePainter, paints_the_frames_of_whole_cells_at_once) {
+TEST(PagePainter, PaintsTheFramesOfWholeCellsAtOnce) {
   SampleReport report;
   constexpr CellStyle cell{.Border = true};
   report.Growing(SectionKind::Detail, "d").AddField("cell", {100, 0, 1000, 283}, cell);
@@ -72,7 +72,7 @@ TEST(PagePainter, paints_the_frames_of_whole_cells_at_once) {
   EXPECT_THAT(page.Lines, IsEmpty());
 }
 
-TEST(PagePainter, clips_text_below_the_bottom_of_its_box_only) {
+TEST(PagePainter, ClipsTextBelowTheBottomOfItsBoxOnly) {
   const TextStyle style;
   EXPECT_EQ(ClipOfText({}, style, {100, 200, 500, 190}), std::nullopt);
   const auto clip = ClipOfText({}, style, {100, 200, 500, 94});
@@ -83,7 +83,7 @@ TEST(PagePainter, clips_text_below_the_bottom_of_its_box_only) {
   EXPECT_GT(clip->Right(), 600);
 }
 
-TEST(PagePainter, clips_text_too_wide_for_its_box_at_both_sides) {
+TEST(PagePainter, ClipsTextTooWideForItsBoxAtBothSides) {
   const auto clip = ClipOfText({0.5F, true}, TextStyle(), {100, 200, 500, 190});
   ASSERT_TRUE(clip);
   EXPECT_EQ(clip->Left, 100);

@@ -24,7 +24,7 @@ QColor PixelAt(const QImage& page, double x, double y) {
   return page.pixelColor(static_cast<int>(x / 15), static_cast<int>(y / 15));
 }
 
-TEST(PagePicture, a_later_fill_covers_what_lies_below) {
+TEST(PagePicture, ALaterFillCoversWhatLiesBelow) {
   const auto document = DocumentBuilder()
                             .Page()
                             .Text("HHHHHHHH", 1440, 1440, 20, true)
@@ -34,7 +34,7 @@ TEST(PagePicture, a_later_fill_covers_what_lies_below) {
   for (int x = 1500; x < 4000; x += 15) EXPECT_EQ(PixelAt(page, x, 1700).rgb(), qRgb(0xE0, 0xE0, 0xE0));
 }
 
-TEST(PagePicture, text_over_a_fill_is_seen) {
+TEST(PagePicture, TextOverAFillIsSeen) {
   const auto document = DocumentBuilder()
                             .Page()
                             .Box({1400, 1400, 6000, 600}, Grey, 0)
@@ -46,7 +46,7 @@ TEST(PagePicture, text_over_a_fill_is_seen) {
   EXPECT_GT(dark, 20);
 }
 
-TEST(PagePicture, borders_are_one_sharp_pixel_at_full_size) {
+TEST(PagePicture, BordersAreOneSharpPixelAtFullSize) {
   const auto document = DocumentBuilder().Page().Box({1500, 1500, 3000, 300}, White).Build();
   const QImage page = Screen(*document, 96);
   const int middle = 1650 / 15;
@@ -59,7 +59,7 @@ TEST(PagePicture, borders_are_one_sharp_pixel_at_full_size) {
   EXPECT_EQ(dark, 1);
 }
 
-TEST(PagePicture, pieces_of_a_thin_line_that_meet_are_one_even_line) {
+TEST(PagePicture, PiecesOfAThinLineThatMeetAreOneEvenLine) {
   DocumentBuilder builder;
   builder.Page();
   for (int top = 1000; top < 4000; top += 283) builder.Line({2000, static_cast<float>(top), 0, 283});
@@ -78,13 +78,13 @@ TEST(PagePicture, pieces_of_a_thin_line_that_meet_are_one_even_line) {
   EXPECT_GT(*greys.begin(), 50);
 }
 
-TEST(PagePicture, clipped_text_ends_at_its_box) {
+TEST(PagePicture, ClippedTextEndsAtItsBox) {
   const auto document = DocumentBuilder().Page().NarrowText("MMMMMMMMMMMMMMMM", 1440, 1440, 600).Build();
   const QImage page = Screen(*document, 96);
   for (int x = (1440 + 600) / 15 + 2; x < 400; ++x) EXPECT_EQ(qGray(page.pixel(x, 1540 / 15)), 255) << x;
 }
 
-TEST(PagePicture, a_page_of_one_picture_only_shows_it) {
+TEST(PagePicture, APageOfOnePictureOnlyShowsIt) {
   const auto document =
       DocumentBuilder().Page().Picture(std::make_shared<SamplePicture>(), {0, 0, 11906, 16838}).Build();
   EXPECT_EQ(PixelAt(Screen(*document, 96), 10000, 2000).lightness(), 200);

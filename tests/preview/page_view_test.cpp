@@ -25,7 +25,7 @@ class PaintedPages : public WindowTest {
   static constexpr int PictureGrey = 200;
 };
 
-TEST_F(PaintedPages, a_page_that_takes_long_is_white_paper_until_it_is_there) {
+TEST_F(PaintedPages, APageThatTakesLongIsWhitePaperUntilItIsThere) {
   const auto picture = OpenWithPicture();
   picture->Hold();
   View().GoTo({8, 0});
@@ -36,7 +36,7 @@ TEST_F(PaintedPages, a_page_that_takes_long_is_white_paper_until_it_is_there) {
   EXPECT_TRUE(QTest::qWaitFor([this] { return Shown().lightness() == PictureGrey; }));
 }
 
-TEST_F(PaintedPages, while_zooming_the_nearest_picture_stands_in) {
+TEST_F(PaintedPages, TheNearestPictureIsShownWhileZooming) {
   const auto picture = OpenWithPicture();
   View().GoTo({8, 0});
   ASSERT_TRUE(QTest::qWaitFor([this] { return Shown().lightness() == PictureGrey; }));
@@ -49,7 +49,7 @@ TEST_F(PaintedPages, while_zooming_the_nearest_picture_stands_in) {
   picture->Release();
 }
 
-TEST_F(PaintedPages, pictures_of_pages_keep_to_their_budget) {
+TEST_F(PaintedPages, PicturesOfPagesKeepToTheirBudget) {
   OpenTable(60);
   for (int page = 0; page < 60; ++page) {
     View().GoTo({page, 0});

@@ -50,7 +50,7 @@ class PdfExport : public testing::Test {
   QTemporaryDir folder_;
 };
 
-TEST_F(PdfExport, text_can_be_extracted_in_reading_order) {
+TEST_F(PdfExport, TextCanBeExtractedInReadingOrder) {
   Export(*DocumentBuilder()
               .Page()
               .RowFromRight({"Pn100", "Speed Loop Gain", "40.0"}, 720)
@@ -60,7 +60,7 @@ TEST_F(PdfExport, text_can_be_extracted_in_reading_order) {
   EXPECT_EQ(raw.simplified(), QStringLiteral("Pn100 Speed Loop Gain 40.0 x 1"));
 }
 
-TEST_F(PdfExport, words_stand_where_the_layout_says_within_a_twentieth_of_a_point) {
+TEST_F(PdfExport, WordsAreWhereTheLayoutSaysWithinATwentiethOfAPoint) {
   const auto document = DocumentBuilder().Page().Text("Speed Loop Gain Wide", 1447, 1003, 8.5F).Build();
   Export(*document);
   const QString boxes = RunTool("pdftotext", {QStringLiteral("-bbox"), Path(), QStringLiteral("-")});
@@ -79,7 +79,7 @@ TEST_F(PdfExport, words_stand_where_the_layout_says_within_a_twentieth_of_a_poin
   EXPECT_NEAR(right, (1447 + static_cast<double>(document->Texts[0].Advance)) / 20, 0.05);
 }
 
-TEST_F(PdfExport, condensed_text_keeps_to_its_printed_width) {
+TEST_F(PdfExport, CondensedTextKeepsToItsPrintedWidth) {
   Export(*DocumentBuilder().Page().NarrowText("Encoder", 1440, 720, 400).Build());
   const QString boxes = RunTool("pdftotext", {QStringLiteral("-bbox"), Path(), QStringLiteral("-")});
   const auto number = [&](const QString& name) {
@@ -92,7 +92,7 @@ TEST_F(PdfExport, condensed_text_keeps_to_its_printed_width) {
   EXPECT_NEAR(number(QStringLiteral("xMax")), 92, 0.05);
 }
 
-TEST_F(PdfExport, japanese_keeps_its_characters) {
+TEST_F(PdfExport, JapaneseKeepsItsCharacters) {
   Export(*DocumentBuilder()
               .Page()
               .Text("サーボ一覧 日本語", 1440, 720)
@@ -101,7 +101,7 @@ TEST_F(PdfExport, japanese_keeps_its_characters) {
   EXPECT_EQ(PdfText(Path()).simplified(), QStringLiteral("サーボ一覧 日本語 日付"));
 }
 
-TEST_F(PdfExport, characters_beyond_16_bits_and_combining_marks_are_copied_as_they_were_written) {
+TEST_F(PdfExport, CharactersBeyond16BitsAndCombiningMarksAreCopiedAsTheyWereWritten) {
   Export(*DocumentBuilder()
               .Page()
               .Text("𠮷野 𠮷", 1440, 720)
@@ -111,7 +111,7 @@ TEST_F(PdfExport, characters_beyond_16_bits_and_combining_marks_are_copied_as_th
             QStringLiteral("𠮷野 𠮷 Résumé"));
 }
 
-TEST_F(PdfExport, tools_find_nothing_to_complain_about) {
+TEST_F(PdfExport, ToolsFindNothingToComplainAbout) {
   Export(*DocumentBuilder()
               .TablePages(3)
               .Text("漢字", 1440, 400)
@@ -135,13 +135,13 @@ TEST_F(PdfExport, tools_find_nothing_to_complain_about) {
       << drawn.toStdString();
 }
 
-TEST_F(PdfExport, fonts_are_embedded_subsets) {
+TEST_F(PdfExport, FontsAreEmbeddedSubsets) {
   Export(*DocumentBuilder().Page().Text("Regular", 1440, 720).Text("Bold", 1440, 1720, 12, true).Build());
   const QString fonts = RunTool("pdffonts", {Path()});
   EXPECT_EQ(fonts.count(QStringLiteral("yes yes yes")), 2) << fonts.toStdString();
 }
 
-TEST_F(PdfExport, contents_become_an_outline_of_two_levels_that_leads_to_places) {
+TEST_F(PdfExport, ContentsBecomeAnOutlineOfTwoLevelsThatLeadsToPlaces) {
   DocumentBuilder builder;
   builder.TablePages(3).Entry("Overlapping target", 0, 0, 720).Entry("Parameter", 1, 1, 1000);
   builder.Entry("Comment", 1, 2, 2000).Entry("Résumé 日本", 0, 2, 3000);
@@ -156,7 +156,7 @@ TEST_F(PdfExport, contents_become_an_outline_of_two_levels_that_leads_to_places)
               lines[3].contains(QStringLiteral("page=3")));
 }
 
-TEST_F(PdfExport, metadata_tells_title_author_creator_and_dates) {
+TEST_F(PdfExport, MetadataHoldsTitleAuthorCreatorAndDates) {
   Export(*DocumentBuilder("Parameter List").TablePages(1).Build(),
          QDateTime({2026, 3, 5}, {10, 20, 30}, Qt::UTC));
   EXPECT_EQ(PdfFact(Path(), "Title"), QStringLiteral("Parameter List"));
@@ -166,7 +166,7 @@ TEST_F(PdfExport, metadata_tells_title_author_creator_and_dates) {
   EXPECT_TRUE(PdfFact(Path(), "Page size").startsWith(QStringLiteral("595.3 x 841.9")));
 }
 
-TEST_F(PdfExport, opens_at_fit_width_with_the_outline_and_has_page_labels) {
+TEST_F(PdfExport, OpensAtFitWidthWithTheOutlineAndHasPageLabels) {
   Export(*DocumentBuilder().TablePages(2).Entry("Parameter", 0, 0, 720).Build());
   const QString root = RunTool("mutool", {QStringLiteral("show"), Path(), QStringLiteral("trailer/Root")});
   EXPECT_TRUE(root.contains(QStringLiteral("/FitH")));
@@ -174,7 +174,7 @@ TEST_F(PdfExport, opens_at_fit_width_with_the_outline_and_has_page_labels) {
   EXPECT_TRUE(root.contains(QStringLiteral("/PageLabels")));
 }
 
-TEST_F(PdfExport, pictures_stay_vectors) {
+TEST_F(PdfExport, PicturesStayVectors) {
   const auto picture = std::make_shared<SamplePicture>();
   Export(*DocumentBuilder()
               .Page()
@@ -186,7 +186,7 @@ TEST_F(PdfExport, pictures_stay_vectors) {
   EXPECT_EQ(RunTool("qpdf", {QStringLiteral("--check"), Path()}).count(QStringLiteral("WARNING")), 0);
 }
 
-TEST_F(PdfExport, the_same_document_gives_the_same_bytes) {
+TEST_F(PdfExport, TheSameDocumentGivesTheSameBytes) {
   const auto document = DocumentBuilder().TablePages(2).Text("漢字", 1440, 400).Build();
   Export(*document);
   const QByteArray first = FileBytes();
@@ -194,12 +194,12 @@ TEST_F(PdfExport, the_same_document_gives_the_same_bytes) {
   EXPECT_EQ(FileBytes(), first);
 }
 
-TEST_F(PdfExport, a_document_without_pages_is_a_file_that_opens) {
+TEST_F(PdfExport, ADocumentWithoutPagesIsAFileThatOpens) {
   Export(*DocumentBuilder().Build());
   EXPECT_FALSE(FileBytes().isEmpty());
 }
 
-TEST_F(PdfExport, a_cancelled_export_leaves_the_old_file) {
+TEST_F(PdfExport, ACancelledExportKeepsTheOldFile) {
   WriteOldFile();
   const auto document = DocumentBuilder().TablePages(3).Build();
   EXPECT_EQ(ExportPdf(*document, Path(), {}, [](int done, int) { return done < 2; }), QString());
@@ -207,7 +207,7 @@ TEST_F(PdfExport, a_cancelled_export_leaves_the_old_file) {
   EXPECT_EQ(FilesInFolder(), QStringList(QStringLiteral("out.pdf")));
 }
 
-TEST_F(PdfExport, a_full_disk_is_told_and_leaves_the_old_file_and_nothing_else) {
+TEST_F(PdfExport, AFullDiskIsReportedAndKeepsTheOldFileAndNothingElse) {
   WriteOldFile();
   const auto document = DocumentBuilder().TablePages(3).Build();
   const QString error = [&] {
@@ -219,14 +219,14 @@ TEST_F(PdfExport, a_full_disk_is_told_and_leaves_the_old_file_and_nothing_else) 
   EXPECT_EQ(FilesInFolder(), QStringList(QStringLiteral("out.pdf")));
 }
 
-TEST_F(PdfExport, what_is_no_file_is_not_replaced) {
+TEST_F(PdfExport, WhatIsNoFileIsNotReplaced) {
   ASSERT_EQ(mkfifo(Path().toLocal8Bit().constData(), 0600), 0);
   const QString error = ExportPdf(*DocumentBuilder().TablePages(1).Build(), Path(), {}, GoOn);
   EXPECT_TRUE(error.contains(QStringLiteral("not an ordinary file"))) << error.toStdString();
   EXPECT_FALSE(QFileInfo(Path()).isFile());
 }
 
-TEST_F(PdfExport, chosen_pages_keep_the_numbers_that_stand_at_their_feet) {
+TEST_F(PdfExport, ChosenPagesKeepTheNumbersAtTheirFeet) {
   const auto document = DocumentBuilder().TablePages(6).Build();
   PdfSheets sheets = PdfSheets::AllOf(*document);
   sheets.Pages = {1, 2, 5, 1};
@@ -239,7 +239,7 @@ TEST_F(PdfExport, chosen_pages_keep_the_numbers_that_stand_at_their_feet) {
   EXPECT_EQ(numbers, QStringList({"2", "6", "2"})) << labels.toStdString();
 }
 
-TEST_F(PdfExport, a_second_copy_of_the_pages_takes_hardly_any_room) {
+TEST_F(PdfExport, ASecondCopyOfThePagesTakesHardlyAnyRoom) {
   const auto document = DocumentBuilder().TablePages(20).Build();
   Export(*document);
   const qsizetype once = FileBytes().size();
@@ -250,7 +250,7 @@ TEST_F(PdfExport, a_second_copy_of_the_pages_takes_hardly_any_room) {
   EXPECT_LT(FileBytes().size(), once + once / 10);
 }
 
-TEST_F(PdfExport, greys_reach_text_fills_bitmaps_and_gradients_and_the_page_stays_the_same_otherwise) {
+TEST_F(PdfExport, GreysReachTextFillsBitmapsAndGradientsAndThePageStaysTheSameOtherwise) {
   const auto document = DocumentBuilder()
                             .Page()
                             .Box({1440, 720, 3000, 600}, 0xFF0000)
@@ -276,7 +276,7 @@ TEST_F(PdfExport, greys_reach_text_fills_bitmaps_and_gradients_and_the_page_stay
                   .contains(QStringLiteral("No syntax or stream encoding errors")));
 }
 
-TEST_F(PdfExport, a_folder_that_is_gone_is_told) {
+TEST_F(PdfExport, AFolderThatIsGoneIsReported) {
   const auto document = DocumentBuilder().TablePages(1).Build();
   const QString error = ExportPdf(*document, folder_.filePath(QStringLiteral("gone/out.pdf")), {}, GoOn);
   EXPECT_TRUE(error.contains(QStringLiteral("gone/out.pdf"))) << error.toStdString();

@@ -30,7 +30,7 @@ std::shared_ptr<const Document> Graph() {
 
 class PictureText : public WindowTest {};
 
-TEST_F(PictureText, is_found_where_its_letters_stand) {
+TEST_F(PictureText, IsFoundAtItsLetters) {
   Open(Graph());
   Press(Qt::Key_F, Qt::ControlModifier);
   Type("rpm");
@@ -45,7 +45,7 @@ TEST_F(PictureText, is_found_where_its_letters_stand) {
   EXPECT_NEAR(box.height(), 11.17 * Unit, 20);
 }
 
-TEST_F(PictureText, that_runs_upwards_is_marked_upright) {
+TEST_F(PictureText, IsMarkedUprightWhereItRunsUpwards) {
   const auto document = Graph();
   DocumentText words(*document);
   const auto hits = Search(words, QStringLiteral("Torque"), {});
@@ -55,14 +55,14 @@ TEST_F(PictureText, that_runs_upwards_is_marked_upright) {
   EXPECT_NEAR(box.bottom(), 2000 + 80 * Unit, 20);
 }
 
-TEST_F(PictureText, is_copied_after_the_text_above_it) {
+TEST_F(PictureText, IsCopiedAfterTheTextAboveIt) {
   Open(Graph());
   Press(Qt::Key_A, Qt::ControlModifier);
   Press(Qt::Key_C, Qt::ControlModifier);
   EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("Graph of the trace\nVelocity [rpm]\nTorque"));
 }
 
-TEST_F(PictureText, is_selected_with_the_mouse_in_the_direction_in_which_it_runs) {
+TEST_F(PictureText, IsSelectedWithTheMouseInTheDirectionInWhichItRuns) {
   Open(Graph());
   const int x = static_cast<int>(1440 + 12 * Unit);
   QTest::mouseDClick(View().viewport(), Qt::LeftButton, Qt::NoModifier,
@@ -71,7 +71,7 @@ TEST_F(PictureText, is_selected_with_the_mouse_in_the_direction_in_which_it_runs
   EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("Torque"));
 }
 
-TEST_F(PictureText, is_text_in_a_pdf) {
+TEST_F(PictureText, IsTextInAPdf) {
   const QTemporaryDir folder;
   const QString path = folder.filePath(QStringLiteral("out.pdf"));
   ASSERT_EQ(ExportPdf(*Graph(), path, {}, [](int, int) { return true; }), QString());

@@ -17,7 +17,7 @@ namespace {
 
 using Window = WindowTest;
 
-TEST_F(Window, caption_and_size_are_those_of_a_print_preview) {
+TEST_F(Window, CaptionAndSizeAreThoseOfAPrintPreview) {
   OpenTable(1);
   EXPECT_EQ(window_->windowTitle(), QStringLiteral("Print Preview"));
   const QSize screen = window_->screen()->availableSize();
@@ -25,14 +25,14 @@ TEST_F(Window, caption_and_size_are_those_of_a_print_preview) {
   EXPECT_EQ(window_->height(), std::min(645, screen.height()));
 }
 
-TEST_F(Window, contents_pane_stands_left_of_the_pages_2300_twips_wide) {
+TEST_F(Window, ContentsPaneIsLeftOfThePages2300TwipsWide) {
   OpenTable(1);
   auto& pane = Find<QTabWidget>("sidePane");
   EXPECT_NEAR(pane.width(), 153, 1);
   EXPECT_LT(pane.mapToGlobal(QPoint()).x(), View().mapToGlobal(QPoint()).x());
 }
 
-TEST_F(Window, f7_hides_and_shows_the_side_pane) {
+TEST_F(Window, F7HidesAndShowsTheSidePane) {
   OpenTable(1);
   Press(Qt::Key_F7);
   EXPECT_FALSE(Find<QTabWidget>("sidePane").isVisible());
@@ -40,7 +40,7 @@ TEST_F(Window, f7_hides_and_shows_the_side_pane) {
   EXPECT_TRUE(Find<QTabWidget>("sidePane").isVisible());
 }
 
-TEST_F(Window, the_added_tool_shows_its_text_and_tells_its_number) {
+TEST_F(Window, TheAddedToolShowsItsTextAndSendsItsNumber) {
   OpenTable(1);
   const QSignalSpy used(window_.get(), &PreviewWindow::toolUsed);
   EXPECT_EQ(Find<QToolButton>("tool999Button").text(), QStringLiteral("Editing of the Printing Items"));
@@ -49,7 +49,7 @@ TEST_F(Window, the_added_tool_shows_its_text_and_tells_its_number) {
   EXPECT_EQ(used.at(0).at(0).toInt(), 999);
 }
 
-TEST_F(Window, the_added_tool_has_an_icon_and_a_key_that_its_tip_tells) {
+TEST_F(Window, TheAddedToolHasAnIconAndAKeyThatItsTipNames) {
   OpenTable(1);
   const auto& button = Find<QToolButton>("tool999Button");
   EXPECT_FALSE(button.icon().isNull());
@@ -61,7 +61,7 @@ TEST_F(Window, the_added_tool_has_an_icon_and_a_key_that_its_tip_tells) {
   EXPECT_EQ(used.at(0).at(0).toInt(), 999);
 }
 
-TEST_F(Window, shift_f10_opens_the_menu_of_all_commands) {
+TEST_F(Window, ShiftF10OpensTheMenuOfAllCommands) {
   OpenTable(1);
   QStringList shown;
   QTimer::singleShot(0, window_.get(), [&] {
@@ -75,7 +75,7 @@ TEST_F(Window, shift_f10_opens_the_menu_of_all_commands) {
   EXPECT_TRUE(shown.contains(QStringLiteral("&Print…")));
 }
 
-TEST_F(Window, close_tells_5113_by_tool_and_by_key) {
+TEST_F(Window, CloseSends5113ByToolAndByKey) {
   OpenTable(1);
   const QSignalSpy used(window_.get(), &PreviewWindow::toolUsed);
   Click("closeButton");
@@ -85,7 +85,7 @@ TEST_F(Window, close_tells_5113_by_tool_and_by_key) {
   EXPECT_EQ(used.at(1).at(0).toInt(), 5113);
 }
 
-TEST_F(Window, closed_by_the_user_is_told_once) {
+TEST_F(Window, ClosedByTheUserIsSentOnce) {
   OpenTable(1);
   const QSignalSpy closed(window_.get(), &PreviewWindow::closedByUser);
   QCloseEvent event;
@@ -94,14 +94,14 @@ TEST_F(Window, closed_by_the_user_is_told_once) {
   EXPECT_EQ(closed.count(), 1);
 }
 
-TEST_F(Window, closing_from_code_is_not_told_as_closed_by_the_user) {
+TEST_F(Window, ClosingFromCodeIsNotSentAsClosedByTheUser) {
   OpenTable(1);
   const QSignalSpy closed(window_.get(), &PreviewWindow::closedByUser);
   window_->close();
   EXPECT_EQ(closed.count(), 0);
 }
 
-TEST_F(Window, every_tool_has_an_icon_or_text_a_tooltip_with_its_key_and_an_accessible_name) {
+TEST_F(Window, EveryToolHasAnIconOrTextATooltipWithItsKeyAndAnAccessibleName) {
   OpenTable(3);
   for (const CommandEntry& entry : CommandTable()) {
     if (entry.Where != Shown::Toolbar) continue;
@@ -114,7 +114,7 @@ TEST_F(Window, every_tool_has_an_icon_or_text_a_tooltip_with_its_key_and_an_acce
   }
 }
 
-TEST_F(Window, the_context_menu_holds_every_command_and_the_added_tool) {
+TEST_F(Window, TheContextMenuHoldsEveryCommandAndTheAddedTool) {
   OpenTable(3);
   QStringList names;
   QTimer::singleShot(0, window_.get(), [&] {
@@ -131,7 +131,7 @@ TEST_F(Window, the_context_menu_holds_every_command_and_the_added_tool) {
   EXPECT_TRUE(names.contains(QStringLiteral("tool999")));
 }
 
-TEST_F(Window, shortcuts_are_distinct) {
+TEST_F(Window, ShortcutsAreDistinct) {
   OpenTable(1);
   QStringList keys;
   for (const CommandEntry& entry : CommandTable()) {
@@ -140,7 +140,7 @@ TEST_F(Window, shortcuts_are_distinct) {
   EXPECT_EQ(keys.removeDuplicates(), 0);
 }
 
-TEST_F(Window, a_document_without_pages_can_be_looked_at_and_closed) {
+TEST_F(Window, ADocumentWithoutPagesCanBeLookedAtAndClosed) {
   Open(DocumentBuilder().Build());
   Press(Qt::Key_End);
   Press(Qt::Key_PageDown);
@@ -152,7 +152,7 @@ TEST_F(Window, a_document_without_pages_can_be_looked_at_and_closed) {
   EXPECT_EQ(Find<QLabel>("pageTotal").text(), QStringLiteral("/ 0"));
 }
 
-TEST_F(Window, icons_take_the_text_colour_of_the_desktop) {
+TEST_F(Window, IconsTakeTheTextColourOfTheDesktop) {
   OpenTable(1);
   const QPalette before = QApplication::palette();
   const auto darkest = [&] {

@@ -6,7 +6,7 @@
 namespace tarvis {
 namespace {
 
-TEST_F(Print, a_page_range_in_two_copies_arrives_at_the_queue) {
+TEST_F(Print, APageRangeInTwoCopiesArrivesAtTheQueue) {
   OpenTable(5);
   EXPECT_EQ(PagesPrintedWith([](QPrintDialog& dialog) {
               Choose(dialog, "printRange");
@@ -20,7 +20,7 @@ TEST_F(Print, a_page_range_in_two_copies_arrives_at_the_queue) {
   EXPECT_EQ(Asked("job-name"), QStringLiteral("Parameter List"));
 }
 
-TEST_F(Print, a_range_starts_with_all_pages) {
+TEST_F(Print, ARangeStartsWithAllPages) {
   OpenTable(5);
   EXPECT_EQ(PagesPrintedWith([](QPrintDialog& dialog) {
               EXPECT_TRUE(In<QAbstractButton>(dialog, "printAll").isChecked());
@@ -30,14 +30,14 @@ TEST_F(Print, a_range_starts_with_all_pages) {
             QStringList({"4", "5"}));
 }
 
-TEST_F(Print, pages_and_ranges_of_them_arrive_at_the_queue) {
+TEST_F(Print, PagesAndRangesOfThemArriveAtTheQueue) {
   OpenTable(6);
   EXPECT_EQ(PagesPrintedWith([](QPrintDialog& dialog) { EnterPages(dialog, "5,1-2"); }),
             QStringList({"1", "2", "5"}));
   EXPECT_EQ(PdfFact(Path("printed.pdf"), "Pages"), QStringLiteral("3")) << "nobody chooses a second time";
 }
 
-TEST_F(Print, chosen_pages_can_come_last_one_first) {
+TEST_F(Print, ChosenPagesCanComeLastOneFirst) {
   OpenTable(6);
   EXPECT_EQ(PagesPrintedWith([](QPrintDialog& dialog) {
               EnterPages(dialog, "1-2,5");
@@ -46,7 +46,7 @@ TEST_F(Print, chosen_pages_can_come_last_one_first) {
             QStringList({"5", "2", "1"}));
 }
 
-TEST_F(Print, odd_and_even_pages_go_by_their_numbers) {
+TEST_F(Print, OddAndEvenPagesGoByTheirNumbers) {
   OpenTable(6);
   const auto choose = [](const char* pages, const char* set) {
     return [pages, set](QPrintDialog& dialog) {
@@ -66,7 +66,7 @@ TEST_F(Print, odd_and_even_pages_go_by_their_numbers) {
             QStringList({"6", "4", "2"}));
 }
 
-TEST_F(Print, pages_that_were_typed_count_for_nothing_when_all_are_chosen_after_that) {
+TEST_F(Print, PagesThatWereTypedCountForNothingWhenAllAreChosenAfterThat) {
   OpenTable(3);
   EXPECT_EQ(PagesPrintedWith([](QPrintDialog& dialog) {
               EnterPages(dialog, "2");
@@ -75,13 +75,13 @@ TEST_F(Print, pages_that_were_typed_count_for_nothing_when_all_are_chosen_after_
             QStringList({"1", "2", "3"}));
 }
 
-TEST_F(Print, pages_that_are_not_in_the_document_are_told) {
+TEST_F(Print, PagesThatAreNotInTheDocumentAreReported) {
   OpenTable(3);
   PrintWith([](QPrintDialog& dialog) { EnterPages(dialog, "7-9"); });
   EXPECT_EQ(ReadFailure(), QStringLiteral("The document has none of the chosen pages."));
 }
 
-TEST_F(Print, copies_are_collated_unless_told_otherwise) {
+TEST_F(Print, CopiesAreCollatedUnlessChosenOtherwise) {
   OpenTable(2);
   PrintWith([](QPrintDialog& dialog) {
     EnterNumber(dialog, "copies", 2);
@@ -100,14 +100,14 @@ TEST_F(Print, copies_are_collated_unless_told_otherwise) {
   EXPECT_EQ(Asked("copies"), QStringLiteral("2"));
 }
 
-TEST_F(Print, the_current_page_alone_can_be_printed) {
+TEST_F(Print, TheCurrentPageAloneCanBePrinted) {
   OpenTable(5);
   View().GoTo({3, 0});
   EXPECT_EQ(PagesPrintedWith([](QPrintDialog& dialog) { Choose(dialog, "printCurrentPage"); }),
             QStringList({"4"}));
 }
 
-TEST_F(Print, the_current_page_is_printed_whether_odd_or_even_pages_were_chosen_before) {
+TEST_F(Print, TheCurrentPageIsPrintedWhetherOddOrEvenPagesWereChosenBefore) {
   OpenTable(5);
   View().GoTo({3, 0});
   EXPECT_EQ(PagesPrintedWith([](QPrintDialog& dialog) {
@@ -117,13 +117,13 @@ TEST_F(Print, the_current_page_is_printed_whether_odd_or_even_pages_were_chosen_
             QStringList({"4"}));
 }
 
-TEST_F(Print, the_last_page_can_come_first) {
+TEST_F(Print, TheLastPageCanComeFirst) {
   OpenTable(3);
   EXPECT_EQ(PagesPrintedWith([](QPrintDialog& dialog) { Choose(dialog, "reverse"); }),
             QStringList({"3", "2", "1"}));
 }
 
-TEST_F(Print, both_sides_are_asked_for) {
+TEST_F(Print, BothSidesAreAskedFor) {
   OpenTable(2);
   PrintWith([](QPrintDialog& dialog) {
     OpenOptions(dialog);
@@ -133,7 +133,7 @@ TEST_F(Print, both_sides_are_asked_for) {
   EXPECT_EQ(Asked("sides"), QStringLiteral("two-sided-long-edge"));
 }
 
-TEST_F(Print, colours_arrive_as_greys_if_that_is_chosen) {
+TEST_F(Print, ColoursArriveAsGreysIfThatIsChosen) {
   Open(DocumentBuilder().TablePages(1).Box({1440, 9000, 600, 600}, 0xFF0000).Build());
   const auto choose = [this](const char* mode) {
     PrintWith([mode](QPrintDialog& dialog) {
@@ -148,7 +148,7 @@ TEST_F(Print, colours_arrive_as_greys_if_that_is_chosen) {
   EXPECT_TRUE(choose("color"));
 }
 
-TEST_F(Print, the_printers_properties_are_offered_and_arrive_at_the_queue) {
+TEST_F(Print, ThePrintersPropertiesAreOfferedAndArriveAtTheQueue) {
   OpenTable(4);
   PrintWith([this](QPrintDialog& dialog) {
     EXPECT_TRUE(In<QPushButton>(dialog, "properties").isVisible());
@@ -165,7 +165,7 @@ TEST_F(Print, the_printers_properties_are_offered_and_arrive_at_the_queue) {
   EXPECT_EQ(Asked("InputSlot"), QStringLiteral("Lower"));
 }
 
-TEST_F(Print, pages_per_sheet_go_together_with_a_page_set) {
+TEST_F(Print, PagesPerSheetGoTogetherWithAPageSet) {
   OpenTable(6);
   EXPECT_EQ(PagesPrintedWith([this](QPrintDialog& dialog) {
               UsePaper(dialog, [](QDialog& properties) {
@@ -177,7 +177,7 @@ TEST_F(Print, pages_per_sheet_go_together_with_a_page_set) {
   EXPECT_EQ(Asked("number-up"), QStringLiteral("2"));
 }
 
-TEST_F(Print, the_printers_own_paper_is_used_unless_another_one_is_chosen) {
+TEST_F(Print, ThePrintersOwnPaperIsUsedUnlessAnotherOneIsChosen) {
   OpenTable(1);
   ExpectPrinting();
   EXPECT_EQ(Asked("media"), QStringLiteral("A4"));

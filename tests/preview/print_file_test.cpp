@@ -71,7 +71,7 @@ class PrintFile : public Print {
   }
 };
 
-TEST_F(PrintFile, has_bookmarks_author_and_title_as_a_saved_one_has) {
+TEST_F(PrintFile, HasBookmarksAuthorAndTitleAsASavedOneHas) {
   DocumentBuilder builder;
   Open(builder.TablePages(3).Entry("Parameter", 0, 0, 720).Entry("Comment", 0, 2, 720).Build());
   PrintInto([](QPrintDialog&) {});
@@ -82,7 +82,7 @@ TEST_F(PrintFile, has_bookmarks_author_and_title_as_a_saved_one_has) {
   EXPECT_TRUE(PdfFact(Path("printed.pdf"), "Page size").startsWith(QStringLiteral("595.3 x 841.9")));
 }
 
-TEST_F(PrintFile, bookmarks_lead_to_the_pages_that_were_chosen_and_to_no_others) {
+TEST_F(PrintFile, BookmarksLeadToThePagesThatWereChosenAndToNoOthers) {
   DocumentBuilder builder;
   builder.TablePages(6).Entry("Target", 0, 0, 720).Entry("Trace", 1, 1, 720).Entry("Comment", 1, 3, 720);
   Open(builder.Entry("Data", 0, 4, 720).Entry("Graph", 1, 5, 720).Build());
@@ -90,7 +90,7 @@ TEST_F(PrintFile, bookmarks_lead_to_the_pages_that_were_chosen_and_to_no_others)
   EXPECT_EQ(Bookmarks(), QStringList({"Target 1", "Trace 1", "Data 2"}));
 }
 
-TEST_F(PrintFile, takes_single_pages_and_ranges) {
+TEST_F(PrintFile, TakesSinglePagesAndRanges) {
   OpenTable(6);
   EXPECT_EQ(PagesPrintedInto([](QPrintDialog& dialog) { EnterPages(dialog, "5,1-2"); }),
             QStringList({"1", "2", "5"}));
@@ -103,7 +103,7 @@ TEST_F(PrintFile, takes_single_pages_and_ranges) {
             QStringList({"2", "3"}));
 }
 
-TEST_F(PrintFile, takes_odd_or_even_pages_the_last_one_first) {
+TEST_F(PrintFile, TakesOddOrEvenPagesTheLastOneFirst) {
   OpenTable(6);
   EXPECT_EQ(PagesPrintedInto([](QPrintDialog& dialog) {
               Choose(dialog, "reverse");
@@ -114,14 +114,14 @@ TEST_F(PrintFile, takes_odd_or_even_pages_the_last_one_first) {
             QStringList({"6", "4", "2"}));
 }
 
-TEST_F(PrintFile, takes_the_current_page_alone) {
+TEST_F(PrintFile, TakesTheCurrentPageAlone) {
   OpenTable(5);
   View().GoTo({3, 0});
   EXPECT_EQ(PagesPrintedInto([](QPrintDialog& dialog) { Choose(dialog, "printCurrentPage"); }),
             QStringList({"4"}));
 }
 
-TEST_F(PrintFile, holds_as_many_copies_as_are_asked_for_collated_or_not) {
+TEST_F(PrintFile, HoldsAsManyCopiesAsAreAskedForCollatedOrNot) {
   OpenTable(2);
   EXPECT_EQ(PagesPrintedInto([](QPrintDialog& dialog) { EnterNumber(dialog, "copies", 2); }),
             QStringList({"1", "2", "1", "2"}));
@@ -134,7 +134,7 @@ TEST_F(PrintFile, holds_as_many_copies_as_are_asked_for_collated_or_not) {
             QStringList({"1", "1", "2", "2"}));
 }
 
-TEST_F(PrintFile, is_grey_if_that_is_chosen) {
+TEST_F(PrintFile, IsGreyIfThatIsChosen) {
   Open(DocumentBuilder().TablePages(1).Box({1440, 9000, 600, 600}, 0xFF0000).Build());
   PrintInto([](QPrintDialog&) {});
   EXPECT_TRUE(IsColourful("printed.pdf"));
@@ -148,7 +148,7 @@ TEST_F(PrintFile, is_grey_if_that_is_chosen) {
   EXPECT_FALSE(IsColourful("printed.pdf"));
 }
 
-TEST_F(PrintFile, on_narrow_paper_is_scaled_to_it_if_that_is_wanted) {
+TEST_F(PrintFile, IsScaledToNarrowPaperIfThatIsWanted) {
   OpenTable(1);
   PrintInto([&](QPrintDialog& dialog) {
     UsePaper(dialog, UseA5);
@@ -163,7 +163,7 @@ TEST_F(PrintFile, on_narrow_paper_is_scaled_to_it_if_that_is_wanted) {
   EXPECT_NEAR(LeftOfUnit("printed.pdf"), UnitLeft * 420 / 595.3, 0.5);
 }
 
-TEST_F(PrintFile, on_a_full_disk_leaves_the_old_file_says_so_and_leaves_nothing_else) {
+TEST_F(PrintFile, KeepsTheOldFileAndNothingElseOnAFullDiskAndSaysSo) {
   OpenTable(3);
   WriteOldFile();
   {
@@ -178,7 +178,7 @@ TEST_F(PrintFile, on_a_full_disk_leaves_the_old_file_says_so_and_leaves_nothing_
   EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden), QStringList({"printed.pdf"}));
 }
 
-TEST_F(PrintFile, replaces_a_file_only_if_the_user_agrees) {
+TEST_F(PrintFile, ReplacesAFileOnlyIfTheUserAgrees) {
   OpenTable(1);
   WriteOldFile();
   EXPECT_TRUE(
@@ -186,7 +186,7 @@ TEST_F(PrintFile, replaces_a_file_only_if_the_user_agrees) {
   EXPECT_EQ(Bytes(), QByteArray("old"));
 }
 
-TEST_F(PrintFile, never_replaces_a_fifo_and_does_not_wait_for_its_reader) {
+TEST_F(PrintFile, NeverReplacesAFifoAndDoesNotWaitForItsReader) {
   OpenTable(1);
   const QString fifo = Path("fifo");
   ASSERT_EQ(mkfifo(fifo.toLocal8Bit().constData(), 0600), 0);
@@ -196,7 +196,7 @@ TEST_F(PrintFile, never_replaces_a_fifo_and_does_not_wait_for_its_reader) {
   EXPECT_TRUE(S_ISFIFO(now.st_mode));
 }
 
-TEST_F(PrintFile, with_a_name_that_is_no_path_is_written_to_the_users_home) {
+TEST_F(PrintFile, IsWrittenToTheUsersHomeByANameThatIsNoPath) {
   OpenTable(1);
   const QByteArray before = qgetenv("HOME");
   qputenv("HOME", folder_.path().toLocal8Bit());
@@ -205,7 +205,7 @@ TEST_F(PrintFile, with_a_name_that_is_no_path_is_written_to_the_users_home) {
   EXPECT_EQ(Pages("printed.pdf"), QStringList({"1"}));
 }
 
-TEST_F(PrintFile, can_be_chosen_in_the_dialog_for_saving_and_is_asked_for_once) {
+TEST_F(PrintFile, CanBeChosenInTheDialogForSavingAndIsAskedForOnce) {
   OpenTable(1);
   WriteOldFile();
   int questions = 0;

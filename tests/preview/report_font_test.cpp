@@ -11,7 +11,7 @@ double Width(const char* text, float size, bool bold = false) {
   return static_cast<double>(CharacterEdges(text, size, bold, ReportFont::OfThisThread()).back());
 }
 
-TEST(ReportFont, widths_are_those_of_arials_design_metrics) {
+TEST(ReportFont, WidthsAreThoseOfArialsDesignMetrics) {
   EXPECT_NEAR(Width("Sincerely yours,", 10), 1423, 0.6);
   EXPECT_NEAR(Width("SUBJECT:", 14, true), 1400, 0.6);
   EXPECT_NEAR(Width("Default Setting", 8.5F), 1115, 0.6);
@@ -25,11 +25,11 @@ TEST(ReportFont, widths_are_those_of_arials_design_metrics) {
   EXPECT_NEAR(Width("Dynamics Simulation-Overlapping target", 12, true), 4641, 0.6);
 }
 
-TEST(ReportFont, pairs_are_not_kerned) {
+TEST(ReportFont, PairsAreNotKerned) {
   EXPECT_NEAR(Width("AVAVAV", 10), 3 * Width("A", 10) + 3 * Width("V", 10), 0.01);
 }
 
-TEST(ReportFont, japanese_comes_from_a_fallback_font_one_em_wide) {
+TEST(ReportFont, JapaneseComesFromAFallbackFontOneEmWide) {
   ReportFont& font = ReportFont::OfThisThread();
   const FontGlyph& glyph = font.Find(U'日', false);
   EXPECT_NE(glyph.Glyph, 0U);
@@ -38,7 +38,7 @@ TEST(ReportFont, japanese_comes_from_a_fallback_font_one_em_wide) {
   EXPECT_EQ(font.Find(U'本', false).Face, glyph.Face);
 }
 
-TEST(ReportFont, combining_marks_and_control_characters_take_no_width) {
+TEST(ReportFont, CombiningMarksAndControlCharactersTakeNoWidth) {
   EXPECT_DOUBLE_EQ(Width("e\xCC\x81", 10), Width("e", 10));
   EXPECT_DOUBLE_EQ(Width("a\x01\x02"
                          "b",
@@ -46,11 +46,11 @@ TEST(ReportFont, combining_marks_and_control_characters_take_no_width) {
                    Width("ab", 10));
 }
 
-TEST(ReportFont, a_tab_is_a_blank) {
+TEST(ReportFont, ATabIsABlank) {
   EXPECT_DOUBLE_EQ(Width("\t", 10), Width(" ", 10));
 }
 
-TEST(ReportFont, a_character_of_no_font_still_shows_something) {
+TEST(ReportFont, ACharacterOfNoFontStillShowsSomething) {
   const FontGlyph& glyph = ReportFont::OfThisThread().Find(char32_t{0xE123}, false);
   EXPECT_TRUE(glyph.Inks);
   EXPECT_GT(glyph.AdvanceEm, 0);

@@ -116,24 +116,24 @@ class SamePages : public testing::TestWithParam<int> {
   }
 };
 
-TEST_P(SamePages, a_composed_parameter_list) {
+TEST_P(SamePages, AComposedParameterList) {
   const Document document = ParameterList();
   EXPECT_EQ(Difference(document, document).Pixels, 0);
 }
 
-TEST_P(SamePages, frames_rules_grey_titles_and_texts_in_several_sizes) {
+TEST_P(SamePages, FramesRulesGreyTitlesAndTextsInSeveralSizes) {
   const auto document = FramesAndTexts().Build();
   const PageDifference difference = Difference(*document, *document);
   EXPECT_EQ(difference.Pixels, 0) << testing::PrintToString(difference);
 }
 
-TEST_P(SamePages, pictures_japanese_and_condensed_text) {
+TEST_P(SamePages, PicturesJapaneseAndCondensedText) {
   const auto document = PicturesAndFallback().Build();
   const PageDifference difference = Difference(*document, *document, 2);
   EXPECT_EQ(difference.Pixels, 0) << testing::PrintToString(difference);
 }
 
-TEST_P(SamePages, text_after_a_clipped_one_in_the_font_that_it_should_have) {
+TEST_P(SamePages, TextAfterAClippedOneInTheFontThatItShouldHave) {
   DocumentBuilder builder;
   builder.Paper(PaperWidth, 3000).Page().Text("Overlapping target", 1440, 300, 14, true);
   builder.NarrowText("Encoder Dividing Ratio", 1440, 900, 500).Text("Illumination", 1440, 1300);
@@ -141,7 +141,7 @@ TEST_P(SamePages, text_after_a_clipped_one_in_the_font_that_it_should_have) {
   EXPECT_EQ(difference.Pixels, 0) << testing::PrintToString(difference);
 }
 
-TEST_P(SamePages, texts_and_frames_cut_by_their_box_and_by_the_end_of_the_page) {
+TEST_P(SamePages, TextsAndFramesCutByTheirBoxAndByTheEndOfThePage) {
   constexpr CellStyle cell{.Border = true, .Filled = true};
   SampleReport report;
   Section& detail = report.Growing(SectionKind::Detail, "d");
@@ -155,19 +155,19 @@ TEST_P(SamePages, texts_and_frames_cut_by_their_box_and_by_the_end_of_the_page) 
   EXPECT_EQ(difference.Pixels, 0) << testing::PrintToString(difference);
 }
 
-TEST_P(SamePages, a_deleted_word_would_be_found) {
+TEST_P(SamePages, ADeletedWordWouldBeFound) {
   ExpectFound(FramesAndTexts(TitleGrey, 0, ""));
 }
 
-TEST_P(SamePages, a_border_moved_by_30_twips_would_be_found) {
+TEST_P(SamePages, ABorderMovedBy30TwipsWouldBeFound) {
   ExpectFound(FramesAndTexts(TitleGrey, 30));
 }
 
-TEST_P(SamePages, another_grey_would_be_found) {
+TEST_P(SamePages, AnotherGreyWouldBeFound) {
   ExpectFound(FramesAndTexts(TitleGrey - 0x040404));
 }
 
-TEST_P(SamePages, a_deleted_japanese_character_would_be_found) {
+TEST_P(SamePages, ADeletedJapaneseCharacterWouldBeFound) {
   EXPECT_GT(Difference(*PicturesAndFallback().Build(), *PicturesAndFallback("速度ループゲイン 一").Build(), 2)
                 .Pixels,
             10);

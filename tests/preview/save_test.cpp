@@ -69,7 +69,7 @@ class SavePdf : public WindowTest {
   QTemporaryDir folder_;
 };
 
-TEST_F(SavePdf, ctrl_s_proposes_title_data_file_and_day_and_writes_the_pdf) {
+TEST_F(SavePdf, CtrlSProposesTitleDataFileAndDayAndWritesThePdf) {
   OpenTable(3);
   QString proposed;
   OnDialog<QFileDialog>([&](QFileDialog& dialog) {
@@ -85,7 +85,7 @@ TEST_F(SavePdf, ctrl_s_proposes_title_data_file_and_day_and_writes_the_pdf) {
   EXPECT_EQ(PdfFact(Path("list.pdf"), "Author"), QStringLiteral("Korvane"));
 }
 
-TEST_F(SavePdf, a_title_that_is_no_file_name_is_made_one) {
+TEST_F(SavePdf, ATitleThatIsNoFileNameIsMadeOne) {
   Open(DocumentBuilder("a/b:c").TablePages(1).Build());
   QString proposed;
   OnDialog<QFileDialog>([&](QFileDialog& dialog) {
@@ -96,7 +96,7 @@ TEST_F(SavePdf, a_title_that_is_no_file_name_is_made_one) {
   EXPECT_EQ(proposed, QStringLiteral("a_b_c axis1 %1.pdf").arg(Today()));
 }
 
-TEST_F(SavePdf, starts_in_the_folder_where_the_last_document_of_the_run_was_saved) {
+TEST_F(SavePdf, StartsInTheFolderWhereTheLastDocumentOfTheRunWasSaved) {
   OpenTable(1);
   SaveTo(Path("list.pdf"));
   ASSERT_TRUE(QTest::qWaitFor([&] { return !window_->IsBusy(); }));
@@ -110,7 +110,7 @@ TEST_F(SavePdf, starts_in_the_folder_where_the_last_document_of_the_run_was_save
   EXPECT_EQ(folder, folder_.path());
 }
 
-TEST_F(SavePdf, a_line_says_where_the_file_is_until_it_is_closed) {
+TEST_F(SavePdf, ALineSaysWhereTheFileIsUntilItIsClosed) {
   OpenTable(1);
   EXPECT_FALSE(Find<QWidget>("savedBar").isVisible());
   SaveTo(Path("list.pdf"));
@@ -120,7 +120,7 @@ TEST_F(SavePdf, a_line_says_where_the_file_is_until_it_is_closed) {
   EXPECT_FALSE(Find<QWidget>("savedBar").isVisible());
 }
 
-TEST_F(SavePdf, no_line_says_that_a_file_was_saved_that_was_not) {
+TEST_F(SavePdf, NoLineSaysThatAFileWasSavedThatWasNot) {
   OpenTable(3);
   const FullDisk full;
   SaveTo(Path("list.pdf"));
@@ -128,7 +128,7 @@ TEST_F(SavePdf, no_line_says_that_a_file_was_saved_that_was_not) {
   EXPECT_FALSE(Find<QWidget>("savedBar").isVisible());
 }
 
-TEST_F(SavePdf, overwriting_is_asked_for_first) {
+TEST_F(SavePdf, OverwritingIsAskedForFirst) {
   OpenTable(1);
   WriteOldFile();
   bool asked = false;
@@ -145,7 +145,7 @@ TEST_F(SavePdf, overwriting_is_asked_for_first) {
   EXPECT_EQ(OldFile(), QByteArray("old"));
 }
 
-TEST_F(SavePdf, a_failed_save_is_told_and_the_preview_stays) {
+TEST_F(SavePdf, AFailedSaveIsReportedAndThePreviewStays) {
   OpenTable(3);
   const FullDisk full;
   SaveTo(Path("list.pdf"));
@@ -154,7 +154,7 @@ TEST_F(SavePdf, a_failed_save_is_told_and_the_preview_stays) {
   EXPECT_FALSE(QFile::exists(Path("list.pdf")));
 }
 
-TEST_F(SavePdf, an_old_file_that_could_not_be_overwritten_is_still_there) {
+TEST_F(SavePdf, AnOldFileThatCouldNotBeOverwrittenIsStillThere) {
   OpenTable(3);
   WriteOldFile();
   const FullDisk full;
@@ -168,14 +168,14 @@ TEST_F(SavePdf, an_old_file_that_could_not_be_overwritten_is_still_there) {
   EXPECT_EQ(OldFile(), QByteArray("old"));
 }
 
-TEST_F(SavePdf, a_folder_that_takes_no_files_is_told) {
+TEST_F(SavePdf, AFolderThatTakesNoFilesIsReported) {
   OpenTable(3);
   SaveTo(QStringLiteral("/proc/list.pdf"));  // a folder where not even the administrator can write
   EXPECT_TRUE(WaitForFailure().contains(QStringLiteral("/proc/list.pdf")));
   EXPECT_TRUE(window_->isVisible());
 }
 
-TEST_F(SavePdf, a_name_with_quotes_is_saved_as_it_was_typed) {
+TEST_F(SavePdf, ANameWithQuotesIsSavedAsItWasTyped) {
   OpenTable(1);
   for (const char* name : {"a\"b\".pdf", "\"quoted\".pdf", "one\".pdf"}) {
     SaveTo(Path(name));
@@ -186,14 +186,14 @@ TEST_F(SavePdf, a_name_with_quotes_is_saved_as_it_was_typed) {
   EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files).size(), 3);
 }
 
-TEST_F(SavePdf, a_name_with_quotes_gets_the_ending_that_it_lacks) {
+TEST_F(SavePdf, ANameWithQuotesGetsItsMissingEnding) {
   OpenTable(1);
   SaveTo(Path("axis \"1\""));
   ASSERT_TRUE(QTest::qWaitFor([&] { return !window_->IsBusy(); }));
   EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files), QStringList(QStringLiteral("axis \"1\".pdf")));
 }
 
-TEST_F(SavePdf, a_file_whose_name_has_quotes_is_asked_for_before_it_is_overwritten) {
+TEST_F(SavePdf, AFileWhoseNameHasQuotesIsAskedForBeforeItIsOverwritten) {
   OpenTable(1);
   QFile old(Path("\"old\".pdf"));
   ASSERT_TRUE(old.open(QIODevice::WriteOnly));
@@ -202,7 +202,7 @@ TEST_F(SavePdf, a_file_whose_name_has_quotes_is_asked_for_before_it_is_overwritt
   EXPECT_EQ(old.size(), 0);
 }
 
-TEST_F(SavePdf, a_fifo_and_a_link_that_leads_nowhere_are_never_replaced) {
+TEST_F(SavePdf, AFifoAndALinkThatLeadsNowhereAreNeverReplaced) {
   OpenTable(1);
   const QString fifo = Path("fifo.pdf");
   ASSERT_EQ(mkfifo(fifo.toLocal8Bit().constData(), 0600), 0);
@@ -216,7 +216,7 @@ TEST_F(SavePdf, a_fifo_and_a_link_that_leads_nowhere_are_never_replaced) {
   EXPECT_FALSE(QFile::exists(Path("nowhere")));
 }
 
-TEST_F(SavePdf, closing_the_window_while_an_export_runs_is_safe) {
+TEST_F(SavePdf, ClosingTheWindowWhileAnExportRunsIsSafe) {
   OpenTable(700);
   SaveTo(Path("long.pdf"));
   EXPECT_TRUE(window_->IsBusy());

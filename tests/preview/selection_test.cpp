@@ -22,13 +22,13 @@ class Selection : public WindowTest {
   }
 };
 
-TEST_F(Selection, a_table_copies_as_lines_with_tabs_between_cells) {
+TEST_F(Selection, ATableCopiesAsLinesWithTabsBetweenCells) {
   Open(DocumentBuilder().Page().Row({"Pn100", "Gain", "40.0"}, 720).Row({"Pn101", "", "8"}, 1003).Build());
   Press(Qt::Key_A, Qt::ControlModifier);
   EXPECT_EQ(Copied(), QStringLiteral("Pn100\tGain\t40.0\nPn101\t\t8"));
 }
 
-TEST_F(Selection, dragging_selects_from_letter_to_letter) {
+TEST_F(Selection, DraggingSelectsFromLetterToLetter) {
   Open(DocumentBuilder()
            .Page()
            .Text("Speed Loop Gain", 1440, 1000, 12)
@@ -38,7 +38,7 @@ TEST_F(Selection, dragging_selects_from_letter_to_letter) {
   EXPECT_EQ(Copied(), QStringLiteral("Speed"));
 }
 
-TEST_F(Selection, dragging_backwards_over_lines_selects_what_lies_between) {
+TEST_F(Selection, DraggingBackwardsOverLinesSelectsWhatLiesBetween) {
   Open(DocumentBuilder()
            .Page()
            .Text("First line", 1440, 1000, 12)
@@ -48,19 +48,19 @@ TEST_F(Selection, dragging_backwards_over_lines_selects_what_lies_between) {
   EXPECT_EQ(Copied(), QStringLiteral("First line\nSecond line"));
 }
 
-TEST_F(Selection, a_double_click_selects_the_word) {
+TEST_F(Selection, ADoubleClickSelectsTheWord) {
   Open(DocumentBuilder().Page().Text("Speed Loop Gain", 1440, 1000, 12).Build());
   QTest::mouseDClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, At(0, 1440 + 900, 1100));
   EXPECT_EQ(Copied(), QStringLiteral("Loop"));
 }
 
-TEST_F(Selection, characters_beyond_16_bits_and_combining_marks_are_copied_whole) {
+TEST_F(Selection, CharactersBeyond16BitsAndCombiningMarksAreCopiedWhole) {
   Open(DocumentBuilder().Page().Row({"𠮷野", "Re\xCC\x81sume\xCC\x81"}, 720).Build());
   Press(Qt::Key_A, Qt::ControlModifier);
   EXPECT_EQ(Copied(), QStringLiteral("𠮷野\tRe\u0301sume\u0301"));
 }
 
-TEST_F(Selection, a_click_takes_the_selection_away) {
+TEST_F(Selection, AClickTakesTheSelectionAway) {
   Open(DocumentBuilder().Page().Text("Speed", 1440, 1000, 12).Build());
   Press(Qt::Key_A, Qt::ControlModifier);
   EXPECT_TRUE(window_->ActionOf(Command::Copy)->isEnabled());
@@ -68,13 +68,13 @@ TEST_F(Selection, a_click_takes_the_selection_away) {
   EXPECT_FALSE(window_->ActionOf(Command::Copy)->isEnabled());
 }
 
-TEST_F(Selection, all_pages_are_selected_by_ctrl_a) {
+TEST_F(Selection, AllPagesAreSelectedByCtrlA) {
   OpenTable(3);
   Press(Qt::Key_A, Qt::ControlModifier);
   EXPECT_EQ(Copied().count(QLatin1Char('\n')), 3 * 49 - 1);
 }
 
-TEST(TextSelection, a_cell_that_wraps_beside_others_stays_one_cell) {
+TEST(TextSelection, ACellThatWrapsBesideOthersStaysOneCell) {
   const auto document =
       DocumentBuilder().Page().WrappedRow({"Pn1"}, {"Encoder Dividing", "Ratio"}, {"5"}, 720).Build();
   DocumentText text(*document);
@@ -83,7 +83,7 @@ TEST(TextSelection, a_cell_that_wraps_beside_others_stays_one_cell) {
   EXPECT_EQ(selection.Text(), QStringLiteral("Pn1\tEncoder Dividing Ratio\t5"));
 }
 
-TEST(TextSelection, lines_of_a_comment_stay_lines) {
+TEST(TextSelection, LinesOfACommentStayLines) {
   const auto document = DocumentBuilder().Page().Lines({"one", "two"}, 1440, 720).Build();
   DocumentText text(*document);
   TextSelection selection(text);
@@ -91,7 +91,7 @@ TEST(TextSelection, lines_of_a_comment_stay_lines) {
   EXPECT_EQ(selection.Text(), QStringLiteral("one\ntwo"));
 }
 
-TEST(TextSelection, cells_are_read_from_the_left_whatever_their_layout_order) {
+TEST(TextSelection, CellsAreReadFromTheLeftWhateverTheirLayoutOrder) {
   const auto document = DocumentBuilder().Page().RowFromRight({"a", "b", "c"}, 720).Build();
   DocumentText text(*document);
   TextSelection selection(text);

@@ -32,7 +32,7 @@ class Touch : public WindowTest {
   }
 };
 
-TEST_F(Touch, small_steps_of_a_touchpad_turn_one_page_for_each_whole_notch) {
+TEST_F(Touch, SmallStepsOfATouchpadTurnOnePageForEachWholeNotch) {
   OpenSinglePages(30);
   ScrollInTenths(9);
   EXPECT_EQ(Page(), 0);
@@ -44,7 +44,7 @@ TEST_F(Touch, small_steps_of_a_touchpad_turn_one_page_for_each_whole_notch) {
   EXPECT_EQ(Page(), 5);
 }
 
-TEST_F(Touch, turning_back_starts_anew) {
+TEST_F(Touch, TurningBackStartsAnew) {
   OpenSinglePages(30);
   Wheel(-1);
   ScrollInTenths(9);
@@ -54,7 +54,7 @@ TEST_F(Touch, turning_back_starts_anew) {
   EXPECT_EQ(Page(), 0);
 }
 
-TEST_F(Touch, scrolling_within_a_page_is_not_counted_towards_the_next_one) {
+TEST_F(Touch, ScrollingWithinAPageIsNotCountedTowardsTheNextOne) {
   OpenTable(5);
   Press(Qt::Key_F8);
   Press(Qt::Key_2, Qt::ControlModifier);
@@ -69,7 +69,7 @@ TEST_F(Touch, scrolling_within_a_page_is_not_counted_towards_the_next_one) {
   EXPECT_EQ(bar.value(), 0);
 }
 
-TEST_F(Touch, two_fingers_on_a_touchpad_zoom_at_their_place) {
+TEST_F(Touch, TwoFingersOnATouchpadZoomAtTheirPlace) {
   OpenTable(5);
   View().GoTo({2, 3000});
   const QPointF at(300, 250);
@@ -84,7 +84,7 @@ TEST_F(Touch, two_fingers_on_a_touchpad_zoom_at_their_place) {
   EXPECT_NEAR(View().Zoom(), PageLayout::LeastZoom, 0.001);
 }
 
-TEST_F(Touch, two_fingers_on_a_touch_screen_zoom) {
+TEST_F(Touch, TwoFingersOnATouchScreenZoom) {
   OpenTable(5);
   const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
   QWidget* viewport = View().viewport();
@@ -101,7 +101,7 @@ TEST_F(Touch, two_fingers_on_a_touch_screen_zoom) {
   EXPECT_LT(View().Zoom(), zoom * 2.5);
 }
 
-TEST_F(Touch, single_keys_move_and_zoom_as_in_other_viewers) {
+TEST_F(Touch, SingleKeysMoveAndZoomAsInOtherViewers) {
   OpenTable(9);
   Press(Qt::Key_N);
   Press(Qt::Key_N);
@@ -121,7 +121,7 @@ TEST_F(Touch, single_keys_move_and_zoom_as_in_other_viewers) {
   EXPECT_LT(Percent(), percent);
 }
 
-TEST_F(Touch, single_keys_are_letters_where_text_is_typed) {
+TEST_F(Touch, SingleKeysAreLettersWhereTextIsTyped) {
   OpenTable(9);
   Press(Qt::Key_F, Qt::ControlModifier);
   Type("npjk+-");

@@ -32,14 +32,14 @@ void PrintTo(const Example& example, std::ostream* out) {
 
 class ExampleFiles : public testing::TestWithParam<Example> {};
 
-TEST_P(ExampleFiles, OfTheDocumentationAreGood) {
+TEST_P(ExampleFiles, AreGoodInTheDocumentation) {
   const FileCheck check = CheckFile(kExamples + GetParam().Name, CodePage());
   EXPECT_EQ(check.Line, GetParam().Name + ": " + GetParam().Contents);
   EXPECT_TRUE(check.IsGood);
 }
 
 // So that the reference tells every key that an example shows.
-TEST_P(ExampleFiles, HaveOnlyKeysThatTheDocumentationTells) {
+TEST_P(ExampleFiles, HaveOnlyKeysOfTheDocumentation) {
   const std::string reference = ReadWhole(SourceFolder() + "/docs/file-formats.md");
   const std::string example = ReadWhole(kExamples + GetParam().Name);
   std::string_view text = example;
@@ -94,7 +94,7 @@ INSTANTIATE_TEST_SUITE_P(
         Example{"PrintOption.ToT", "options of version 4, cover letter No. 1, black and white"}),
     [](const auto& example) { return example.param.Name.substr(0, example.param.Name.find('.')); });
 
-class CheckFileTest : public testing::Test {
+class CheckedFile : public testing::Test {
  protected:
   std::string Wrong(const std::string& name, const std::string& bytes) {
     Folder.Write(name, bytes);
@@ -114,18 +114,18 @@ class CheckFileTest : public testing::Test {
   TempFolder Folder;
 };
 
-TEST_F(CheckFileTest, TellsFileLineKeyAndReason) {
+TEST_F(CheckedFile, ShowsFileLineKeyAndReason) {
   EXPECT_EQ(Wrong("Trace2.tmp", "File-Spec,3\r\nCursolselect,1\r\n"),
             "Trace2.tmp:2: unknown key 'Cursolselect'");
   EXPECT_EQ(Wrong("User.tmp", "UserNum,many\r\n"), "User.tmp:1: UserNum: not a number: 'many'");
   EXPECT_EQ(Wrong("PrintOption.ToT", "Colour,1\r\n"), "PrintOption.ToT:1: unknown key 'Colour'");
 }
 
-TEST_F(CheckFileTest, TellsAMissingFile) {
+TEST_F(CheckedFile, NamesAMissingFile) {
   EXPECT_EQ(CheckFile((Folder.Path() / "Sim.tmp").string(), CodePage()).Line, "Sim.tmp: can't be read");
 }
 
-TEST_F(CheckFileTest, KnowsAFileByItsNameOnly) {
+TEST_F(CheckedFile, KnowsAFileByItsNameOnly) {
   for (const char* name : {"user.tmp", "User1.tmp", "Trace0.tmp", "Tracex.tmp", "RealTrace1.tmp", "Other.tmp",
                            ".tmp", "User.ToT"}) {
     EXPECT_EQ(Wrong(name, ""), std::string(name) + ": not the name of a host file");
@@ -142,7 +142,7 @@ std::string Times(const std::string& line, int count) {
 const std::string kPattern = "PatternSetting,n,0,p,1\r\n";
 const std::string kTwelveTimes = Times("CmpTime,f,t,c\r\n", 12);
 
-TEST_F(CheckFileTest, BoundsComparisonTimesByTheOverlapThatTheProgramTakes) {
+TEST_F(CheckedFile, BoundsComparisonTimesByTheOverlapThatTheProgramTakes) {
   EXPECT_EQ(Wrong("Sim.tmp", "OverlapMode,1\r\nOverlapNum,12\r\n" + kTwelveTimes),
             "Sim.tmp:14: CmpTime: 'OverlapNum' counts 12 simulations, and only 11 have room: 'f,t,c'");
   EXPECT_TRUE(IsGood("Sim.tmp", "OverlapMode,1\r\nOverlapNum,11\r\n" + kTwelveTimes));
@@ -152,14 +152,14 @@ TEST_F(CheckFileTest, BoundsComparisonTimesByTheOverlapThatTheProgramTakes) {
       << "the program takes the number before it finds the mode";
 }
 
-TEST_F(CheckFileTest, TakesTheOverlapOfACompanionFromTheMainFileBesideIt) {
+TEST_F(CheckedFile, TakesTheOverlapOfACompanionFromTheMainFileBesideIt) {
   EXPECT_TRUE(IsGood("Sim1.tmp", "OverlapMode,1\r\nOverlapNum,12\r\n" + kTwelveTimes + kPattern));
   Folder.Write("Sim.tmp", "OverlapMode,1\r\nOverlapNum,12\r\n");
   EXPECT_EQ(Wrong("Sim1.tmp", kTwelveTimes + kPattern),
             "Sim1.tmp:12: CmpTime: 'OverlapNum' counts 12 simulations, and only 11 have room: 'f,t,c'");
 }
 
-TEST_F(CheckFileTest, FindsWhatStopsTheProgramOnlyWhenItsPagesAreMade) {
+TEST_F(CheckedFile, FindsWhatStopsTheProgramOnlyWhenItsPagesAreMade) {
   EXPECT_EQ(Wrong("Sim.tmp", "PatternSetting,n,,p,1\r\n"),
             "Sim.tmp:1: PatternSetting: element 2: not a number: ''");
   EXPECT_EQ(Wrong("Sim.tmp", "PatternSetting,n,1,p,42\r\n"),
@@ -172,7 +172,7 @@ TEST_F(CheckFileTest, FindsWhatStopsTheProgramOnlyWhenItsPagesAreMade) {
             "Trace.tmp:2: DataTrace1: element 2: not a number: ''");
 }
 
-TEST_F(CheckFileTest, FindsNothingElse) {
+TEST_F(CheckedFile, FindsNothingElse) {
   EXPECT_TRUE(IsGood("Sim.tmp", "OverlapMode,1\r\nOverlapNum,2\r\nPatternSetting,n,,p,1\r\n"))
       << "the result of an overlap prints no pattern";
   EXPECT_TRUE(IsGood("Sim.tmp", "PatternSetting,n,0,p,42\r\n")) << "a regular pattern prints ten values";
@@ -182,7 +182,7 @@ TEST_F(CheckFileTest, FindsNothingElse) {
   EXPECT_TRUE(IsGood("UPWizard.tmp", "BASE,nowhere.bmp\r\n")) << "pictures are not looked for";
 }
 
-TEST_F(CheckFileTest, FindsOptionsThatNothingCanShow) {
+TEST_F(CheckedFile, FindsOptionsThatNothingCanShow) {
   EXPECT_EQ(Wrong("PrintOption.ToT", "ColorType,2\r\n"), "PrintOption.ToT:1: ColorType: no such choice: '2'");
   EXPECT_EQ(Wrong("PrintOption.ToT", "Cover,1\r\nSelectCover,4\r\n"),
             "PrintOption.ToT:2: SelectCover: no such choice: '4'");
@@ -196,7 +196,7 @@ TEST_F(CheckFileTest, FindsOptionsThatNothingCanShow) {
   EXPECT_TRUE(IsGood("PrintOption.ToT", "UserOption,2,2,2,2,2\r\n")) << "a grey mark";
 }
 
-TEST_F(CheckFileTest, LeavesTheFileAlone) {
+TEST_F(CheckedFile, LeavesTheFileAlone) {
   Wrong("User.tmp", "wrong\r\n");
   EXPECT_EQ(Folder.Read("User.tmp"), "wrong\r\n");
 }

@@ -153,7 +153,7 @@ TEST_P(CursorGraph, APictureThatCannotBeShownIsARunTimeFailure) {
   EXPECT_THAT(Report.Desktop.Messages, IsEmpty());
 }
 
-TEST_P(CursorGraph, TheNameStandsFirstAndTheDifferenceLast) {
+TEST_P(CursorGraph, TheNameComesFirstAndTheDifferenceLast) {
   const Document document = Compose();
   EXPECT_THAT(ColumnOf(document, "txtTitleName"), ElementsAre("Name/Unit"));
   EXPECT_THAT(ColumnOf(document, "txtTitleCurA"), ElementsAre("Cursor A"));
@@ -176,7 +176,7 @@ TEST_P(CursorGraph, EveryFurtherRowIsTheSecondOneAgain) {
               ElementsAre("Speed [min-1]", "Torque [%]", "Torque [%]", "Torque [%]"));
 }
 
-TEST_P(CursorGraph, WithoutCursorsTheGraphStandsAlone) {
+TEST_P(CursorGraph, TheGraphIsAloneWithoutCursors) {
   Fields.CursolSelect = 0;
   const Document document = Compose();
   for (const char* control : {"Label2", "txtTitleName", "txtTitleCurA", "txtTitleCurB", "txtTitleCurB_A",

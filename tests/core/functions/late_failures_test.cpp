@@ -21,7 +21,7 @@ struct LateFailure : HostRun {
   }
 };
 
-TEST_F(LateFailure, OfAPatternNamesItsElement) {
+TEST_F(LateFailure, NamesTheElementOfAPattern) {
   EXPECT_EQ(Of("Sim", {"PatternSetting,Pattern,,Trapezoid,2"}),
             "Sim.tmp:2: PatternSetting: element 2: not a number: ''");
   EXPECT_EQ(Of("Sim", {"PatternSetting,Pattern,free,Points,2"}),
@@ -30,11 +30,11 @@ TEST_F(LateFailure, OfAPatternNamesItsElement) {
             "Sim.tmp:2: PatternSetting: element 4: only 41 values have room: '42'");
 }
 
-TEST_F(LateFailure, OfAPatternThatIsMissingNamesFileAndKey) {
+TEST_F(LateFailure, NamesFileAndKeyOfAPatternThatIsMissing) {
   EXPECT_EQ(Of("Sim", {}), "Sim.tmp: PatternSetting: element 2: not a number: ''");
 }
 
-TEST_F(LateFailure, OfAChannelNamesTheLineThatCounts) {
+TEST_F(LateFailure, NamesTheLineOfAChannelThatCounts) {
   const std::string channel = "DataTrace2,Torque,1,%";
   EXPECT_EQ(Of("Trace", {channel, "I/Otrace2,Servo on,,V"}),
             "Trace.tmp:3: I/Otrace2: element 2: not a number: ''");

@@ -104,7 +104,7 @@ TEST_F(MechaGraph, SelectionTwoHidesTheColumnOfCursorB) {
       << "the last column stays in its place";
 }
 
-TEST_F(MechaGraph, WithoutCursorsTheColumnOfTheDifferenceStays) {
+TEST_F(MechaGraph, TheColumnOfTheDifferenceStaysWithoutCursors) {
   const Document document = Compose(0);
   for (const char* control : {"Label4", "txtTitleName", "txtTitleCurA", "txtTitleCurB", "txtValueName",
                               "txtValueCurA", "txtValueCurB"}) {
@@ -123,7 +123,7 @@ TEST_F(MechaGraph, MissingCursorNamesLeaveTheTitlesEmpty) {
   EXPECT_THAT(ColumnOf(document, "txtTitleCurB_A"), ElementsAre(""));
 }
 
-TEST_F(MechaGraph, TheFirstTitleStandsOffTheLineOfItsNeighbours) {
+TEST_F(MechaGraph, TheFirstTitleIsOffTheLineOfItsNeighbours) {
   const Document document = Compose(3);
   const float guide = 630 + 8504;
   EXPECT_EQ(PrintedOf(document, "txtTitleName").at(0).Box, (Rect{135, guide + 135, 2834, 285}));
@@ -177,7 +177,7 @@ TEST_F(MechaGraph, AnUnknownColorTypePrintsEmptyBoxes) {
 
 struct MechaTables : HostRun {};
 
-TEST_F(MechaTables, PrintAllTheirRowsAlsoWhenTheFileLacksThem) {
+TEST_F(MechaTables, PrintAllTheirRowsAlsoWhenTheFileHasNone) {
   const std::vector<std::pair<const char*, std::size_t>> tables{
       {"rptMechaResonance", 4}, {"rptMechaNotch", 1}, {"rptMechaMeasure", 7}};
   for (const auto& [report, rows] : tables) {
@@ -198,7 +198,7 @@ TEST_F(MechaTables, EnterTheContentsAtTopLevelAlsoWithAGroup) {
   }
 }
 
-TEST_F(MechaTables, UnitsStandAtTheRight) {
+TEST_F(MechaTables, UnitsAreAtTheRight) {
   Run.Mecha.Notch = {"Notch filter 1", "480", "Hz"};
   const Document document = Report.ComposeAlone("rptMechaNotch");
   for (const Item& item : document.Items) {

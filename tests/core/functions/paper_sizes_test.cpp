@@ -116,7 +116,7 @@ int PageOf(const Document& document, const std::string& control) {
 
 struct LowPaper : PaperSizes {};
 
-TEST_P(LowPaper, TheGraphStandsUnderItsTitleAndTheLegendsFollow) {
+TEST_P(LowPaper, TheGraphIsUnderItsTitleAndTheLegendsFollow) {
   const Document document = Report.ComposeUnderHeader(GetParam(), 6471);
   EXPECT_EQ(PageOf(document, "Label1"), 1);
   EXPECT_EQ(PageOf(document, "imgGraph"), 1);

@@ -28,7 +28,7 @@ TEST_F(RealTimeTracing, PrintsGraphAndInfoOnOnePage) {
   ExpectGolden("real_trace", Dump(document));
 }
 
-TEST_F(RealTimeTracing, TheLineBreakBehindItemsMakesNoSecondLine) {
+TEST_F(RealTimeTracing, TheLineBreakAfterItemsMakesNoSecondLine) {
   const Document document = Report.ComposeAlone("rptRealTraceInfo");
   EXPECT_THAT(PrintedOf(document, "txtTitleName").at(0).Texts, ElementsAre("Items"));
   EXPECT_EQ(PrintedOf(document, "txtTitleName").at(0).Box.Height, 283);

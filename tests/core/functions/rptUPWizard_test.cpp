@@ -44,7 +44,7 @@ struct Wizard : HostRun {
 const char* const Failure13 =
     "Printing Error|Parameter Wizard BMP File is not found.\nPrinting Process is canceled.";
 
-TEST_F(Wizard, StandsOnOnePage) {
+TEST_F(Wizard, IsOnOnePage) {
   const Document document = Compose();
   EXPECT_EQ(document.Pages.size(), 1U);
   EXPECT_EQ(document.Contents.at(0).Text, "Electrical Schematic Diagram");

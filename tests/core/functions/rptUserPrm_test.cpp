@@ -283,7 +283,7 @@ TEST_F(ParameterList, AMeaningOfSeveralLinesMakesItsValueCellAsHigh) {
   EXPECT_EQ(PrintedOf(document, "txtValueBit0Value")[0].Box.Height, height);
 }
 
-TEST_F(ParameterList, WithoutParametersPrintsItsTitleOnly) {
+TEST_F(ParameterList, PrintsItsTitleOnlyWithoutParameters) {
   AddSwitch(User, "Pn000", {Direction, NoDigit, NoDigit, NoDigit});
   AddSwitch(User, "Pn001", {Direction, NoDigit, NoDigit, NoDigit});
   User.Prm.Resize(0);

@@ -77,7 +77,7 @@ TEST_F(SwitchList, ALongDescriptionRunsIntoTheRowBelow) {
   EXPECT_EQ(BoxOf(document, "txtValueNo").Height, 285 + 950 + 570);
 }
 
-TEST_F(SwitchList, WithoutNamesTheRowsStartAtTheTopAndTheColumnsCloseUp) {
+TEST_F(SwitchList, TheRowsStartAtTheTopAndTheColumnsCloseUpWithoutNames) {
   Session.ShowPrmName = 0;
   Add("Pn000", {Digit("0", "1", "a description so long that it would take several lines if it were shown"),
                 NoDigit, NoDigit, NoDigit});
@@ -92,7 +92,7 @@ TEST_F(SwitchList, WithoutNamesTheRowsStartAtTheTopAndTheColumnsCloseUp) {
   EXPECT_EQ(BoxOf(document, "txtValueVal").Top, Row + 135) << "covered by row 0, which is drawn after it";
 }
 
-TEST_F(SwitchList, WithoutNamesAndDigitsOneEmptyRowStillPrints) {
+TEST_F(SwitchList, OneEmptyRowStillPrintsWithoutNamesAndDigits) {
   Session.ShowPrmName = 0;
   Add("Pn000", {NoDigit, NoDigit, NoDigit, NoDigit});
   const Document document = Compose();
@@ -168,7 +168,7 @@ TEST_F(SwitchList, EachOfFourGroupsHasItsOwnRow) {
   EXPECT_THAT(ColumnOf(document, "txtValueName"), ElementsAre("Basic function"));
 }
 
-TEST_F(SwitchList, WithoutNamesEachRowStandsBelowTheOneBefore) {
+TEST_F(SwitchList, EachRowFollowsBelowTheOneBeforeWithoutNames) {
   Session.ShowPrmName = 0;
   Add("Pn000", {Digit("0", "1", ""), Digit("1", "1", ""), Digit("2", "1", ""), Digit("3", "1", "")});
   const Document document = Compose();
@@ -216,7 +216,7 @@ TEST_F(SwitchList, ANegativeCountPrintsTitlesWithoutRows) {
   EXPECT_THAT(PrintedOf(document, "txtValueNo"), IsEmpty());
 }
 
-TEST_F(SwitchList, WithoutSwitchesPrintsItsTitleOnly) {
+TEST_F(SwitchList, PrintsItsTitleOnlyWithoutSwitches) {
   User.Switches.Resize(0);
   const Document document = Compose();
   EXPECT_EQ(document.Contents.size(), 1U);

@@ -45,7 +45,7 @@ TEST_F(Schematic, EndsTheRunWithoutAPictureThatARelayNames) {
   }
 }
 
-TEST_F(Schematic, PrintsARelayOfWhichOnlyAPartIsTold) {
+TEST_F(Schematic, PrintsARelayOfWhichOnlyAPartIsGiven) {
   Wizard.Ry[1].Picture = Picture("relay.bmp");
   Wizard.Ry[2].Number = "CN1-41";
   const Document document = Report.ComposeAlone("rptUPWizard");

@@ -45,7 +45,7 @@ struct ShownColumns : testing::TestWithParam<CountedColumns> {
   SimData& Sim = Run.Run.Sim;
 };
 
-TEST_P(ShownColumns, AreAsManyAsTheCountTells) {
+TEST_P(ShownColumns, AreAsManyAsTheCountSays) {
   const CountedColumns& columns = GetParam();
   const std::string firstTitle = std::string(columns.Report) == "rptSimRef1" ? "1" : "Target";
   const int before = firstTitle == "1" ? 0 : 1;  // comparisons count the data behind the target from 1
@@ -62,7 +62,7 @@ TEST_P(ShownColumns, AreAsManyAsTheCountTells) {
   }
 }
 
-TEST_P(ShownColumns, OfANegativeCountAreTheFirstOnly) {
+TEST_P(ShownColumns, AreTheFirstOnlyForANegativeCount) {
   const Document document = ComposeWith(-1);
   EXPECT_NE(TextOf(document, std::string(GetParam().Title) + "1"), "");
   EXPECT_NE(TextOf(document, std::string(GetParam().Value) + "1"), "");

@@ -46,7 +46,7 @@ TEST_F(Comparison, ListsSettingTimes) {
   EXPECT_THAT(ColumnOf(document, "txtValueControl"), ElementsAre("Position", "Position"));
 }
 
-TEST_F(Comparison, OfTheTargetAloneShowsOneColumn) {
+TEST_F(Comparison, ShowsOneColumnForTheTargetAlone) {
   Session.OverlapNum = 1;
   const Document document = Report.ComposeAlone("rptSimCmpUser");
   EXPECT_THAT(ColumnOf(document, "txtTitleFile1"), ElementsAre("Target"));
@@ -55,14 +55,14 @@ TEST_F(Comparison, OfTheTargetAloneShowsOneColumn) {
   EXPECT_THAT(PrintedOf(document, "txtValueVal2"), IsEmpty());
 }
 
-TEST_F(Comparison, OfSevenFillsTheNarrowTable) {
+TEST_F(Comparison, FillsTheNarrowTableWithSeven) {
   Session.OverlapNum = 7;
   const Document document = Report.ComposeAlone("rptSimCmpUser");
   EXPECT_EQ(PrintedOf(document, "txtTitleFile7")[0].Box, (Rect{7654, 630 + 142, 1133, 283}));
   EXPECT_THAT(ColumnOf(document, "txtValueVal7"), ElementsAre("6", "6"));
 }
 
-TEST_F(Comparison, OfEightShowsEightColumnsOfTheWideTable) {
+TEST_F(Comparison, ShowsEightColumnsOfTheWideTableWithEight) {
   Session.OverlapNum = 8;
   const Document document = Report.ComposeAlone("rptSimCmpUserEx");
   EXPECT_THAT(ColumnOf(document, "txtTitleFile8"), ElementsAre("7"));
@@ -96,7 +96,7 @@ TEST_F(Comparison, TheNarrowTableLevelsNoRow) {
   EXPECT_EQ(PrintedOf(document, "txtValueVal1")[0].Box.Height, 283);
 }
 
-TEST_F(Comparison, WithoutParametersPrintsTitlesOnly) {
+TEST_F(Comparison, PrintsTitlesOnlyWithoutParameters) {
   Session.OverlapNum = 2;
   Sim.CmpUserNum = 0;
   const Document document = Report.ComposeAlone("rptSimCmpUser");
@@ -104,7 +104,7 @@ TEST_F(Comparison, WithoutParametersPrintsTitlesOnly) {
   EXPECT_THAT(PrintedOf(document, "txtValueNo"), IsEmpty());
 }
 
-TEST_F(Comparison, WithoutSimulationsUnloadsItself) {
+TEST_F(Comparison, UnloadsItselfWithoutSimulations) {
   Session.OverlapNum = 0;
   for (const char* name : {"rptSimCmpFileList", "rptSimCmpTime", "rptSimCmpUser", "rptSimCmpUserEx"}) {
     const Document document = Report.ComposeAlone(name);
@@ -174,13 +174,13 @@ TEST_F(OverlappedSim, PrintsResultTargetAndDataUnderTheirTitlesAndGroups) {
                                                              "File Name : 2.sim", "File Name : 3.sim"));
 }
 
-TEST_F(OverlappedSim, OfElevenUsesTheWideTable) {
+TEST_F(OverlappedSim, UsesTheWideTableForEleven) {
   const Document document = Compose(11);
   EXPECT_EQ(PrintedOf(document, "txtTitle").size(), 12U);
   EXPECT_THAT(ColumnOf(document, "txtTitleFile11"), ElementsAre("10"));
 }
 
-TEST_F(OverlappedSim, OfTwelveIsARunTimeFailure) {
+TEST_F(OverlappedSim, IsARunTimeFailureForTwelve) {
   EXPECT_THROW(Compose(12), RunTimeFailure);
 }
 

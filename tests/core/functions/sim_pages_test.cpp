@@ -105,7 +105,7 @@ struct SimPages : HostRun {
   Document Print() { return Report.ComposeMaster(); }
 };
 
-TEST_F(SimPages, OfOneSimulationWithAllThereIsToPrint) {
+TEST_F(SimPages, PrintAllThereIsOfOneSimulation) {
   TurnOn({1, 2, 3, 4, 5, 6, 7, 8, 9, 10});
   WriteLines("Sim.tmp", Whole("one.sim") + Lines{"GetDataDate,2026/03/05 10:00", "UserNum,2",
                                                  "UserName,Pn100,Speed Loop Gain", "UserValue,62.0,40.0,Hz",
@@ -121,7 +121,7 @@ TEST_F(SimPages, OfOneSimulationWithAllThereIsToPrint) {
   ExpectGolden("sim", Dump(document));
 }
 
-TEST_F(SimPages, OfAFreePatternRepeatTheTitlesOfItsPoints) {
+TEST_F(SimPages, RepeatTheTitlesOfThePointsOfAFreePattern) {
   TurnOn({1});
   WriteLines("Sim.tmp", Start("free.sim") + PointLines(41));
   const Document document = Print();
@@ -134,7 +134,7 @@ TEST_F(SimPages, OfAFreePatternRepeatTheTitlesOfItsPoints) {
 }
 
 // The group goes on in its footer, so its titles come again above it.
-TEST_F(SimPages, WithTheFilterOfAPatternOnAPageOfItsOwnRepeatTheTitlesAboveIt) {
+TEST_F(SimPages, RepeatTheTitlesAboveAFilterOnAPageOfItsOwn) {
   WriteLines("Sim.tmp", Start("one.sim") + PatternLines("0", 3));
   TurnOn({1});
   Print();
@@ -208,7 +208,7 @@ TEST_F(SimPages, PassAnOldFileSpecThoughThereAreParameters) {
   EXPECT_THAT(Report.Desktop.Messages, IsEmpty());
 }
 
-TEST_F(SimPages, OfMotorTypeOneListTheRowsOfTheShortTableInOrder) {
+TEST_F(SimPages, ListTheRowsOfTheShortTableInOrderForMotorTypeOne) {
   TurnOn({});
   WriteLines("Sim.tmp", Whole("one.sim") + Lines{"MotorType,1"});
   Print();
@@ -271,7 +271,7 @@ struct OverlappedSimPages : SimPages {
   }
 };
 
-TEST_F(OverlappedSimPages, OfThreeSimulations) {
+TEST_F(OverlappedSimPages, ShowThreeSimulations) {
   Write(3, 3);
   TurnOn({11, 12, 13});
   const Document document = Print();
@@ -288,7 +288,7 @@ TEST_F(OverlappedSimPages, OfThreeSimulations) {
   ExpectGolden("sim_overlap", Dump(document));
 }
 
-TEST_F(OverlappedSimPages, OfElevenSimulationsUseTheWideTable) {
+TEST_F(OverlappedSimPages, UseTheWideTableForElevenSimulations) {
   Write(11, 11);
   TurnOn({11, 12});
   const Document document = Print();
@@ -297,14 +297,14 @@ TEST_F(OverlappedSimPages, OfElevenSimulationsUseTheWideTable) {
   ExpectGolden("sim_overlap_wide", Dump(document));
 }
 
-TEST_F(OverlappedSimPages, WithParametersAloneBringTheFileListAlong) {
+TEST_F(OverlappedSimPages, BringTheFileListAlongWithParametersAlone) {
   Write(2, 2);
   TurnOn({12});
   EXPECT_THAT(EntriesOf(Print()), ElementsAre("1: Simulated Graph @ 855", HasSubstr("Overlapping Target"),
                                               HasSubstr("List of File Name"), HasSubstr("Parameter")));
 }
 
-TEST_F(OverlappedSimPages, WithoutComparisonHaveNoFileList) {
+TEST_F(OverlappedSimPages, HaveNoFileListWithoutComparison) {
   Write(2, 2);
   TurnOn({});
   EXPECT_THAT(EntriesOf(Print()), ElementsAre("1: Simulated Graph @ 855", HasSubstr("Overlapping Target")));
@@ -316,7 +316,7 @@ TEST_F(OverlappedSimPages, ListAsManyFilesAsTheRunOverlaps) {
   EXPECT_THAT(ColumnOf(Print(), "txtValueFile"), ElementsAre("sim0.sim", "sim1.sim", "sim2.sim"));
 }
 
-TEST_F(OverlappedSimPages, LeaveFilesEmptyThatTheResultDoesNotName) {
+TEST_F(OverlappedSimPages, KeepFilesEmptyThatTheResultDoesNotName) {
   TurnOn({11});
   Write(3, 1);
   const Document document = Print();

@@ -72,7 +72,7 @@ TEST_F(RegularPattern, ShowsAsManyColumnsAsThePatternCounts) {
   EXPECT_THAT(PrintedOf(document, "txtValueVal4"), IsEmpty());
 }
 
-TEST_F(RegularPattern, WithoutCountShowsNamesAndUnitsOnly) {
+TEST_F(RegularPattern, ShowsNamesAndUnitsOnlyWithoutCount) {
   Sim.PatternSetting.PatternCount = 0;
   const Document document = Report.ComposeAlone("rptSimRef1");
   EXPECT_THAT(PrintedOf(document, "txtTitleValue1"), IsEmpty());
@@ -134,7 +134,7 @@ TEST_F(FreePattern, TakesTitlesAndTheTimeUnitFromThePointLists) {
   EXPECT_THAT(ColumnOf(document, "Label3"), ElementsAre("Simulation Time")) << "the two labels changed roles";
 }
 
-TEST_F(FreePattern, WithoutPointsPrintsItsTitlesAndNoRow) {
+TEST_F(FreePattern, PrintsItsTitlesAndNoRowWithoutPoints) {
   Sim.PatternSetting.PatternCount = 0;
   const Document document = Report.ComposeAlone("rptSimRef2");
   EXPECT_EQ(PrintedOf(document, "txtTitleNo").size(), 1U);
@@ -172,7 +172,7 @@ TEST_F(ServoSettings, ListEighteenRowsWithABlankOneAheadOfTheTypes) {
   EXPECT_THAT(names, testing::Not(testing::Contains("never")));
 }
 
-TEST_F(ServoSettings, OfMotorTypeOneLeaveFourRowsOut) {
+TEST_F(ServoSettings, OmitFourRowsForMotorTypeOne) {
   Sim.MotorType = 1;
   const Texts names = ColumnOf(Report.ComposeAlone("rptSimSettingSvMt"), "txtValueName");
   ASSERT_EQ(names.size(), 14U);

@@ -98,7 +98,7 @@ TEST_F(ProgramTables, CountCharactersAndNotBytes) {
   EXPECT_THAT(Heights("txtIdNum"), ElementsAre(400));
 }
 
-TEST_F(ProgramTables, MakeGapRowsTallBehindATallRow) {
+TEST_F(ProgramTables, MakeGapRowsTallAfterATallRow) {
   AddSteps(5, {1, 4});
   Table.Index[1].Pos = "-123456789012.345";
   Print(1);
@@ -180,7 +180,7 @@ TEST_F(PatternTables, PrintAJogSpeedFile) {
   ExpectGolden("jog_table", Dump(document));
 }
 
-TEST_F(PatternTables, PrintRowsThatTheFileDoesNotTellAsZero) {
+TEST_F(PatternTables, PrintRowsThatTheFileDoesNotHoldAsZero) {
   Run.ZoneTbl.Zone.Resize(2);
   Run.ZoneTbl.Zone[0] = {1, "1", "2"};
   Run.ZoneTbl.ZoneCnt = 2;

@@ -55,7 +55,7 @@ TEST_F(ProgramTable, LeavesNoGapWhereRowsAreLeftOut) {
   EXPECT_EQ(rows[1].Box.Top, rows[0].Box.Top + 283);
 }
 
-TEST_F(ProgramTable, WithoutAnyDefinedStepPrintsNoRow) {
+TEST_F(ProgramTable, PrintsNoRowWithoutAnyDefinedStep) {
   Fill(16);
   Option.Range = 1;
   EXPECT_THAT(Steps(), IsEmpty());
@@ -103,7 +103,7 @@ TEST_F(ProgramTable, HalvesOfStepsRoundToTheEvenNumber) {
   EXPECT_THAT(Steps(), ElementsAre("2", "3", "4", "5"));
 }
 
-TEST_F(ProgramTable, AStepBeyond16BitsIsARunTimeFailureThatTellsIt) {
+TEST_F(ProgramTable, AStepBeyond16BitsIsARunTimeFailureThatNamesIt) {
   Fill(2);
   for (const char* last : {"32767", "32767.4"}) {
     Option = {2, "0", last, 0};
@@ -146,7 +146,7 @@ TEST_F(ProgramTable, ALongPositionMakesItsRowAndAllLaterOnesHigh) {
   EXPECT_EQ(PrintedOf(document, "txtIdNum")[3].Box.Height, 400) << "the step number is one of them";
 }
 
-TEST_F(ProgramTable, OnlyPositionSpeedAndDistanceRaiseTheRowsFromTheirLengthOn) {
+TEST_F(ProgramTable, PositionSpeedAndDistanceAloneRaiseTheRowsFromTheirLengthOn) {
   struct Column {
     TextOfStep Text;
     std::size_t Raises;  // characters, 0 for never
@@ -194,7 +194,7 @@ TEST_F(ProgramTable, CharactersAreCountedNotBytes) {
   EXPECT_EQ(printed[0].Box.Height, 283);
 }
 
-TEST_F(ProgramTable, ShowsItsUnitsBehindAColonAndTwoBlanks) {
+TEST_F(ProgramTable, ShowsItsUnitsAfterAColonAndTwoBlanks) {
   Data.Position_Unit = {"POS", "mm"};
   Data.AccDec_Unit = {"ACC/DEC", "ms"};
   Fill(1);
@@ -207,7 +207,7 @@ TEST_F(ProgramTable, ShowsItsUnitsBehindAColonAndTwoBlanks) {
   EXPECT_THAT(ColumnOf(document, "txtACCval"), ElementsAre("A0"));
 }
 
-TEST_F(ProgramTable, ColumnsOfTheTwoLayoutsStandAsTold) {
+TEST_F(ProgramTable, ColumnsOfTheTwoLayoutsHaveTheirPlaces) {
   Fill(1);
   const std::vector<std::pair<const char*, Rect>> plain{{"Field1", {20, 1984 + 15, 547, 283}},
                                                         {"Field5", {4677, 1984 + 15, 1276, 283}},
@@ -220,7 +220,7 @@ TEST_F(ProgramTable, ColumnsOfTheTwoLayoutsStandAsTold) {
   EXPECT_EQ(PrintedOf(document, "txtNEXTVal")[0].Box, (Rect{8401, 2268 + 298, 567, 283}));
 }
 
-TEST_F(ProgramTable, WithoutStepsPrintsItsTitleOnly) {
+TEST_F(ProgramTable, PrintsItsTitleOnlyWithoutSteps) {
   Fill(0);
   const Document document = Compose();
   EXPECT_EQ(document.Contents.size(), 1U);
@@ -281,14 +281,14 @@ TEST_F(BitTables, PrintTheIdAsANumber) {
   EXPECT_THAT(ColumnOf(Report.ComposeAlone("rptIdxZoneTblTable"), "txtIdNum"), ElementsAre("7", "-1"));
 }
 
-TEST_F(BitTables, ShowTheLegendOnceBehindTheLastRow) {
+TEST_F(BitTables, ShowTheLegendOnceAfterTheLastRow) {
   Zones({1, 2, 3});
   const Document document = Report.ComposeAlone("rptIdxZoneTblTable");
   EXPECT_THAT(ColumnOf(document, "Label3"), ElementsAre("X:Active    Blank:Non-Active"));
   EXPECT_EQ(PrintedOf(document, "txtIdNum")[2].Box, (Rect{570, 1134 + 300 + 600, 570, 300}));
 }
 
-TEST_F(BitTables, WithoutRowsPrintTitleUnitColumnTitlesAndLegend) {
+TEST_F(BitTables, PrintTitleUnitColumnTitlesAndLegendWithoutRows) {
   Report.Run.ZoneTbl.PosUnit = "mm";
   const Document document = Report.ComposeAlone("rptIdxZoneTblTable");
   EXPECT_THAT(ColumnOf(document, "txtUnit"), ElementsAre("mm"));
@@ -297,7 +297,7 @@ TEST_F(BitTables, WithoutRowsPrintTitleUnitColumnTitlesAndLegend) {
   EXPECT_THAT(PrintedOf(document, "txtIdNum"), IsEmpty());
 }
 
-TEST_F(BitTables, ColumnsStandAsTold) {
+TEST_F(BitTables, ColumnsHaveTheirPlaces) {
   Zones({1});
   Jogs({1});
   const Document zone = Report.ComposeAlone("rptIdxZoneTblTable");

@@ -77,7 +77,7 @@ struct FirstRow {
 
 struct FirstRowOnA4 : TallParameter, testing::WithParamInterface<FirstRow> {};
 
-TEST_P(FirstRowOnA4, StandsWholeWhereTitleAndGuideOrTheGuideAloneLeaveRoomAndElseIsCut) {
+TEST_P(FirstRowOnA4, IsWholeWhereTitleAndGuideOrTheGuideAloneLeaveRoomAndElseIsCut) {
   GiveDigits(GetParam().Lines);
   EXPECT_EQ(FramesOf(Report.ComposeUnderHeader("rptUserPrm")), GetParam().Frames);
 }

@@ -58,7 +58,7 @@ TEST_F(Tracing, PrintsGraphAndObjectsOnPageOneAndTheTriggerOnPageTwoOfA4) {
   ExpectGolden("trace", Dump(document));
 }
 
-TEST_F(Tracing, WithoutCursorsTheObjectsFollowTheGraph) {
+TEST_F(Tracing, TheObjectsFollowTheGraphWithoutCursors) {
   WriteTrace("Trace.tmp", "0");
   EXPECT_THAT(
       EntriesOf(Report.ComposeMaster()),

@@ -82,7 +82,7 @@ TEST_F(ParameterColumns, AnythingButZeroShowsAColumn) {
   }
 }
 
-TEST_F(ParameterColumns, WithAllColumnsOffNumberAndValueStandSideBySide) {
+TEST_F(ParameterColumns, NumberAndValueAreSideBySideWithAllColumnsOff) {
   Session.ShowPrmName = Session.ShowPrmUnit = Session.ShowPrmDefault = Session.ShowPrmSwitches = 0;
   AddParameter({"Pn100", "Gain", "1", "2", "Hz"});
   const Document document = Compose();
@@ -135,7 +135,7 @@ TEST_F(ParameterColumns, AHeadingOfTwoLinesPushesItsDescriptionAndTheNextGroupDo
   EXPECT_EQ(BoxOf(document, "txtValueName").Height, 285) << "the cells stop at the top line of the row";
 }
 
-TEST_F(ParameterColumns, EachOfFourGroupsStandsBelowTheOneBefore) {
+TEST_F(ParameterColumns, EachOfFourGroupsFollowsBelowTheOneBefore) {
   AddParameter({"Pn000", "Basic", "1", "0", ""});
   AddSwitch("Pn000", {Digit("0", "1", "A\r\n0:a"), Digit("1", "1", "B\r\n1:b"), Digit("2", "1", "C\r\n2:c"),
                       Digit("3", "1", "D\r\n3:d")});
@@ -150,7 +150,7 @@ TEST_F(ParameterColumns, EachOfFourGroupsStandsBelowTheOneBefore) {
   }
 }
 
-TEST_F(ParameterColumns, TheNextRowStandsBelowTheRoomThatAFramedRowKeeps) {
+TEST_F(ParameterColumns, TheNextRowFollowsBelowTheRoomThatAFramedRowKeeps) {
   AddParameter({"Pn000", "Basic", "1", "0", ""});
   AddParameter({"Pn001", "Other", "1", "0", ""});
   AddSwitch("Pn000", {Digit("0", "1", "Direction\r\n0:Forward")});

@@ -39,16 +39,16 @@ struct ParameterPages : HostRun {
   std::string Print(const PageSetup& setup = {}) { return Dump(Report.ComposeMaster(setup)); }
 };
 
-TEST_F(ParameterPages, WithAllColumns) {
+TEST_F(ParameterPages, ShowAllColumns) {
   ExpectGolden("user_all_columns", Print());
 }
 
-TEST_F(ParameterPages, WithoutNames) {
+TEST_F(ParameterPages, OmitNames) {
   Report.Run.Options.UserOption = {0, 1, 1, 1, 0};
   ExpectGolden("user_without_names", Print());
 }
 
-TEST_F(ParameterPages, WithoutUnitAndDefault) {
+TEST_F(ParameterPages, OmitUnitAndDefault) {
   Report.Run.Options.UserOption = {1, 1, 0, 0, 0};
   ExpectGolden("user_without_unit_and_default", Print());
 }

@@ -32,7 +32,7 @@ TEST(SplitCommandLine, SeparatesAtRunsOfBlanksAndTabs) {
   EXPECT_THAT(Split("  User help.html 7 1\t "), ElementsAre("User", "help.html", "7", "1"));
 }
 
-TEST(SplitCommandLine, DropsAFifthArgumentAndThoseBehindIt) {
+TEST(SplitCommandLine, DropsAFifthArgumentAndThoseAfterIt) {
   EXPECT_THAT(Split("User h 7 1 five six"), ElementsAre("User", "h", "7", "1"));
 }
 
@@ -73,11 +73,11 @@ class NotingServices : public HostRegistry, public Printers, public ProgramWindo
   std::vector<std::string>& calls_;
 };
 
-class LaunchTest : public testing::Test, protected TestRun {
+class LaunchedRun : public testing::Test, protected TestRun {
  protected:
   using TestRun::Run;
 
-  LaunchTest() {
+  LaunchedRun() {
     for (const char* name : {"SystemPath", "SavePath"}) Host.Values[name] = Folder.Path().string();
     for (const char* name : {"Quillon", "Rotavon", "Quillex"}) Host.Values[name] = "200.5";
     for (const char* name : {"QuillonHelpPath", "RotavonHelpPath", "QuillexHelpPath"})
@@ -99,7 +99,7 @@ class LaunchTest : public testing::Test, protected TestRun {
   NotingServices Host{Desktop.Calls};
 };
 
-TEST_F(LaunchTest, LeavesTheSessionFilledAndTheDialogOpen) {
+TEST_F(LaunchedRun, LeavesTheSessionFilledAndTheDialogOpen) {
   EXPECT_THAT(CallsOf("User help.html 7 1"), ElementsAre("dialog"));
   EXPECT_EQ(Run.Session.Mode, "User");
   EXPECT_EQ(Run.Session.HostEdition, 1);
@@ -111,7 +111,7 @@ TEST_F(LaunchTest, LeavesTheSessionFilledAndTheDialogOpen) {
   EXPECT_EQ(Run.Options.UserHeader.TitleText, "Parameters") << "a first run has the defaults";
 }
 
-TEST_F(LaunchTest, WithoutArgumentIsFailure1AndDeletesNothing) {
+TEST_F(LaunchedRun, IsFailure1WithoutArgumentAndDeletesNothing) {
   EXPECT_THAT(
       CallsOf(" "),
       ElementsAre("diagnose command line: no argument", "beep", "beep", "beep", "beep", "beep",
@@ -119,14 +119,14 @@ TEST_F(LaunchTest, WithoutArgumentIsFailure1AndDeletesNothing) {
   EXPECT_TRUE(Folder.Has("bin/dat/tmp/User.tmp"));
 }
 
-TEST_F(LaunchTest, WithOneToThreeArgumentsIsARunTimeFailure) {
+TEST_F(LaunchedRun, IsARunTimeFailureWithOneToThreeArguments) {
   for (const char* line : {"User", "User help.html", "User help.html 7"}) {
     EXPECT_EQ(RunTimeFailureOf([&] { CallsOf(line); }), "command line: argument 4: missing") << line;
   }
   EXPECT_THAT(Desktop.Calls, IsEmpty());
 }
 
-TEST_F(LaunchTest, WithAnUnknownEditionIsFailure1BeforeTheFoldersAreKnown) {
+TEST_F(LaunchedRun, IsFailure1WithAnUnknownEditionBeforeTheFoldersAreKnown) {
   for (const char* edition : {"3", "0", "-1", "5"}) {
     Desktop.Calls.clear();
     const std::vector<std::string> calls = CallsOf("User help.html 7 " + std::string(edition));
@@ -139,12 +139,12 @@ TEST_F(LaunchTest, WithAnUnknownEditionIsFailure1BeforeTheFoldersAreKnown) {
   EXPECT_TRUE(Folder.Has("bin/dat/tmp/User.tmp"));
 }
 
-TEST_F(LaunchTest, RoundsTheEditionToTheEvenNumber) {
+TEST_F(LaunchedRun, RoundsTheEditionToTheEvenNumber) {
   CallsOf("User help.html 7 1.5");
   EXPECT_EQ(Run.Session.HostEdition, 2);
 }
 
-TEST_F(LaunchTest, StopsAtANumberThatIsNone) {
+TEST_F(LaunchedRun, StopsAtANumberThatIsNone) {
   EXPECT_EQ(RunTimeFailureOf([&] { CallsOf("User help.html 7 one"); }),
             "command line: argument 4: not a number: 'one'");
   EXPECT_EQ(Run.Session.TempFolder, "") << "the edition is converted before the registry is read";
@@ -154,12 +154,12 @@ TEST_F(LaunchTest, StopsAtANumberThatIsNone) {
             "command line: argument 3: number out of range: '2147483648'");
 }
 
-TEST_F(LaunchTest, KeepsTheModeAsItIsWritten) {
+TEST_F(LaunchedRun, KeepsTheModeAsItIsWritten) {
   EXPECT_THAT(CallsOf("user help.html 7 1"), ElementsAre("dialog"));
   EXPECT_EQ(Run.Session.Mode, "user");
 }
 
-TEST_F(LaunchTest, WithoutPrinterTellsTheUserAndEndsTheRun) {
+TEST_F(LaunchedRun, ShowsAMessageAndEndsWithoutPrinter) {
   Host.PrinterCount = 0;
   Folder.Write("bin/PrintOption.ToT", "unknown\r\n");
   EXPECT_THAT(CallsOf("User help.html 7 1"), ElementsAre("no printer", "end 0"))
@@ -167,12 +167,12 @@ TEST_F(LaunchTest, WithoutPrinterTellsTheUserAndEndsTheRun) {
   EXPECT_FALSE(Folder.Has("bin/dat/tmp/User.tmp"));
 }
 
-TEST_F(LaunchTest, ChangesSettingsWithoutPrinter) {
+TEST_F(LaunchedRun, ChangesSettingsWithoutPrinter) {
   Host.PrinterCount = 0;
   EXPECT_THAT(CallsOf("PrnSetting help.html 7 1"), ElementsAre("dialog"));
 }
 
-TEST_F(LaunchTest, WithARefusedOptionsFileIsFailure10) {
+TEST_F(LaunchedRun, IsFailure10WithARefusedOptionsFile) {
   Folder.Write("bin/PrintOption.ToT", "File-Spec,4\r\nColour,1\r\n");
   EXPECT_THAT(
       CallsOf("User help.html 7 1"),
@@ -184,14 +184,14 @@ TEST_F(LaunchTest, WithARefusedOptionsFileIsFailure10) {
   EXPECT_TRUE(Folder.Has("bin/PrintOption.ToT"));
 }
 
-TEST_F(LaunchTest, WithAnEmptyOptionsFileHasZerosAndNotTheDefaults) {
+TEST_F(LaunchedRun, HasZerosAndNotTheDefaultsWithAnEmptyOptionsFile) {
   Folder.Write("bin/PrintOption.ToT", "");
   EXPECT_THAT(CallsOf("User help.html 7 1"), ElementsAre("dialog"));
   EXPECT_EQ(Run.Options.UserHeader.Title, 0);
   EXPECT_EQ(Run.Options.UserHeader.TitleText, "");
 }
 
-TEST_F(LaunchTest, WithoutRegistryValuesGoesOnWithTheRootFolder) {
+TEST_F(LaunchedRun, GoesOnWithTheRootFolderWithoutRegistryValues) {
   Host.Values.clear();
   EXPECT_THAT(CallsOf("User help.html 7 2"), ElementsAre("dialog"));
   EXPECT_EQ(Run.Session.SystemFolder, "\\bin\\");
@@ -208,7 +208,7 @@ struct Edition {
   const char* HelpFolder;
 };
 
-class Editions : public LaunchTest, public testing::WithParamInterface<Edition> {};
+class Editions : public LaunchedRun, public testing::WithParamInterface<Edition> {};
 
 TEST_P(Editions, ReadTheirOwnThreeValues) {
   Run.Session.HostEdition = static_cast<std::int16_t>(GetParam().Number);
@@ -225,7 +225,7 @@ INSTANTIATE_TEST_SUITE_P(All, Editions,
                                          Edition{2, "Rotavon", "SystemPath", "Rotavon", "RotavonHelpPath"},
                                          Edition{4, "Quillex", "SavePath", "Quillex", "QuillexHelpPath"}));
 
-TEST_F(LaunchTest, CutsRegistryValuesAtTheirFirstNul) {
+TEST_F(LaunchedRun, CutsRegistryValuesAtTheirFirstNul) {
   Host.Values["SystemPath"] = std::string("/opt\0/host", 10);
   Host.Values["Quillon"] = std::string("1\0 00", 5);
   Run.Session.HostEdition = 1;
@@ -234,14 +234,14 @@ TEST_F(LaunchTest, CutsRegistryValuesAtTheirFirstNul) {
   EXPECT_EQ(Run.Session.HostVersion, "1");
 }
 
-TEST_F(LaunchTest, TakesARegistryValueWithoutNulWhole) {
+TEST_F(LaunchedRun, TakesARegistryValueWithoutNulWhole) {
   Host.Values["SystemPath"] = std::string(1024, 'p');
   Run.Session.HostEdition = 1;
   LoadSystemPaths(Run, Host);
   EXPECT_EQ(Run.Session.SystemFolder, std::string(1024, 'p') + "\\bin\\");
 }
 
-TEST_F(LaunchTest, ClearsWhatTheSessionKeepsOfOverlapAndProgress) {
+TEST_F(LaunchedRun, ClearsWhatTheSessionKeepsOfOverlapAndProgress) {
   Run.Session.SystemFolder = Folder.HostPath();
   Run.Session.OverlapMode = 1;
   Run.Session.OverlapNum = 3;
@@ -256,7 +256,7 @@ TEST_F(LaunchTest, ClearsWhatTheSessionKeepsOfOverlapAndProgress) {
   EXPECT_EQ(Run.Session.SimExMode, 0);
 }
 
-TEST(PrintRunTest, HasTheSystemsOwnClockUnlessATestPinsIt) {
+TEST(PrintRun, HasTheSystemsOwnClockUnlessATestPinsIt) {
   FakeDesktop desktop;
   std::tm time = PrintRun(desktop).Now();
   EXPECT_NEAR(std::difftime(std::time(nullptr), std::mktime(&time)), 0, 60);

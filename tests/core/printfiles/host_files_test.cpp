@@ -53,7 +53,7 @@ TEST(LoadLines, GivesAnEmptyFileNoLineButTheSpare) {
   EXPECT_EQ(test.Run.Session.Lines[0], "");
 }
 
-TEST(LoadLines, KeepsASpareElementBehindTheLastLine) {
+TEST(LoadLines, KeepsASpareElementAfterTheLastLine) {
   TestRun test;
   test.Load("User.tmp", {"a", "b"});
   EXPECT_EQ(test.Run.Session.Lines[2], "");

@@ -63,7 +63,7 @@ const std::string kDefaultFile =
     "IdxTblOption,0,,,1\r\nZoneTblHeader,1,1,1,1,1,Zone Table\r\nZoneTblOption,1\r\n"
     "JogTblHeader,1,1,1,1,1,Jog Speed Table\r\nJogTblOption,1\r\n";
 
-TEST_F(PrintOptionsFile, OfAFirstRunHoldsTheDefaultsInFixedOrder) {
+TEST_F(PrintOptionsFile, HoldsTheDefaultsInFixedOrderAfterAFirstRun) {
   DefaultPrintOptions(Run);
   EXPECT_EQ(Written(), kDefaultFile);
 }
@@ -155,7 +155,7 @@ TEST_F(PrintOptionsFile, IsAlwaysWrittenAsVersion4AndKeepsItsMaker) {
   EXPECT_EQ(Run.Options.FileSpec, 4);
 }
 
-TEST_F(PrintOptionsFile, OfVersion2HasNoTraceDetailAndAllSimComparisons) {
+TEST_F(PrintOptionsFile, HasNoTraceDetailAndAllSimComparisonsInVersion2) {
   ASSERT_TRUE(Read({"File-Spec,2", "TraceOption,1,1,1,1,1,1,1,1,1", "SimOption,0,0,0,0,0,0,0,0,0,0"}));
   EXPECT_EQ(Run.Options.TraceOption[7], 1);
   EXPECT_EQ(Run.Options.TraceOption[8], 0);
@@ -164,20 +164,20 @@ TEST_F(PrintOptionsFile, OfVersion2HasNoTraceDetailAndAllSimComparisons) {
   EXPECT_EQ(Run.Options.SimOption[12], 1);
 }
 
-TEST_F(PrintOptionsFile, OfVersion3HasTraceDetailAndAllSimComparisons) {
+TEST_F(PrintOptionsFile, HasTraceDetailAndAllSimComparisonsInVersion3) {
   ASSERT_TRUE(Read({"File-Spec,3", "TraceOption,1,1,1,1,1,1,1,1,1", "SimOption,0,0,0,0,0,0,0,0,0,0,0,0,0"}));
   EXPECT_EQ(Run.Options.TraceOption[8], 1);
   EXPECT_EQ(Run.Options.SimOption[10], 1);
   EXPECT_EQ(Run.Options.SimOption[12], 1);
 }
 
-TEST_F(PrintOptionsFile, WithoutOrWithLateFileSpecCountsAsOld) {
+TEST_F(PrintOptionsFile, CountsAsOldWithoutOrWithLateFileSpec) {
   ASSERT_TRUE(Read({"TraceOption,1,1,1,1,1,1,1,1,1", "SimOption,0,0,0,0,0,0,0,0,0,0", "File-Spec,4"}));
   EXPECT_EQ(Run.Options.TraceOption[8], 0);
   EXPECT_EQ(Run.Options.SimOption[10], 1);
 }
 
-TEST_F(PrintOptionsFile, OfALaterVersionReadsLikeVersion4) {
+TEST_F(PrintOptionsFile, ReadsLikeVersion4InALaterVersion) {
   ASSERT_TRUE(Read({"File-Spec,5", "TraceOption,1,1,1,1,1,1,1,1,1", "SimOption,0,0,0,0,0,0,0,0,0,0,1,0,1"}));
   EXPECT_EQ(Run.Options.TraceOption[8], 1);
   EXPECT_EQ(Run.Options.SimOption[10], 1);
@@ -204,7 +204,7 @@ TEST_F(PrintOptionsFile, StopsAtAMissingElement) {
       << "the whole value is the number";
 }
 
-TEST_F(PrintOptionsFile, TellsWhereANumberStoodThatNothingCanShow) {
+TEST_F(PrintOptionsFile, NamesThePlaceOfANumberThatNothingCanShow) {
   ASSERT_TRUE(
       Read({"File-Spec,4", "ColorType,1", "ColorType,2", "SimHeader,1,1,1,1,3,x", "MechaOption,1,1,1,1,-7"}));
   PrintOptions& options = Run.Options;
@@ -236,7 +236,7 @@ TEST_F(PrintOptionsFile, CutsATitleAtItsCommaOnTheNextRun) {
   EXPECT_EQ(Run.Options.TraceHeader.TitleText, "c");
 }
 
-TEST_F(PrintOptionsFile, IgnoresWhatStandsBehindTheWizardsOption) {
+TEST_F(PrintOptionsFile, IgnoresWhatFollowsTheWizardsOption) {
   EXPECT_TRUE(Read({"PrmWizOption", "PrmWizOption,", "PrmWizOption,1,x"}));
 }
 
@@ -246,7 +246,7 @@ TEST_F(PrintOptionsFile, TakesOnlyTheFirstFieldOfTheTablesOptions) {
   EXPECT_EQ(Run.Options.JogTblOption, 1);
 }
 
-TEST_F(PrintOptionsFile, WithAKeyOfADataFileIsRefused) {
+TEST_F(PrintOptionsFile, IsRefusedWithAKeyOfADataFile) {
   EXPECT_FALSE(Read({"File-Spec,4", "MechaInfo,x"}));
   EXPECT_EQ(Run.Session.Diagnosis, "PrintOption.ToT:2: unknown key 'MechaInfo'");
   EXPECT_FALSE(Read({"File,x"}));

@@ -53,7 +53,7 @@ TEST_F(RealTraceFile, DoesNotKnowTheKeysOfTheTraceFile) {
                      "EdgeType", "RealTraceIONote", "TraceGraph", "CursolInfo3"});
 }
 
-TEST_F(RealTraceFile, BelowFileSpec3IsRefused) {
+TEST_F(RealTraceFile, IsRefusedBelowFileSpec3) {
   EXPECT_FALSE(Read({"File-Spec,2"}));
   EXPECT_EQ(Run.Session.Diagnosis, "RealTrace.tmp:1: File-Spec: below 3");
   EXPECT_TRUE(Read({"File-Spec,3"}));

@@ -101,7 +101,7 @@ TEST_F(ReplacedFile, HasTheModeOfAnyNewFileWhereNoneWas) {
   EXPECT_EQ(ModeOf("options"), ModeOf("any"));
 }
 
-TEST_F(ReplacedFile, BehindALinkIsFoundAndTheLinkStays) {
+TEST_F(ReplacedFile, IsTheTargetOfALinkAndTheLinkStays) {
   Folder.Write("elsewhere/real", "old");
   fs::create_symlink("elsewhere/real", Folder.Path() / "options");
   EXPECT_TRUE(Replace());
@@ -110,14 +110,14 @@ TEST_F(ReplacedFile, BehindALinkIsFoundAndTheLinkStays) {
   EXPECT_EQ(FileCount(), 2);
 }
 
-TEST_F(ReplacedFile, IsNotMadeBehindALinkToNowhere) {
+TEST_F(ReplacedFile, IsNotMadeThroughALinkToNowhere) {
   fs::create_symlink(Folder.Path() / "missing", Folder.Path() / "options");
   EXPECT_FALSE(Replace());
   EXPECT_FALSE(Folder.Has("missing"));
   EXPECT_TRUE(fs::is_symlink(Folder.Path() / "options"));
 }
 
-TEST_F(ReplacedFile, IsNotMadeBehindLinksThatLeadInACircle) {
+TEST_F(ReplacedFile, IsNotMadeThroughLinksThatFormACircle) {
   fs::create_symlink("options", Folder.Path() / "options");
   EXPECT_FALSE(Replace());
 }

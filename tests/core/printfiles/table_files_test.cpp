@@ -94,7 +94,7 @@ TEST_F(TableFiles, StopAtAStepThatIsTooShortOrTooLong) {
             "IdxIdxTbl.tmp:2: Index: element 12: not a number: '1,x'");
 }
 
-TEST_F(TableFiles, MoveAZonesTailBehindAComma) {
+TEST_F(TableFiles, MoveAZonesTailAfterAComma) {
   ASSERT_TRUE(Read(kZoneTblFile, {"ZoneCnt,1", "Zone,007,-1,5,+2,5"}));
   EXPECT_EQ(Run.ZoneTbl.Zone[0].Id, 7);
   EXPECT_EQ(Run.ZoneTbl.Zone[0].ZoneN, "-1");
@@ -182,7 +182,7 @@ TEST_F(TableFiles, KeepWhatASecondReadDoesNotName) {
   EXPECT_EQ(Run.IdxTbl.Rdst_Unit.Unit, "u");
 }
 
-TEST_F(TableFiles, WithoutCountAndRowsHaveNone) {
+TEST_F(TableFiles, HaveNoRowsWithoutCountAndRows) {
   for (const Table& table : kTables) EXPECT_TRUE(Read(table.File, {"File-Spec,1"}));
   EXPECT_EQ(Run.IdxTbl.IndexCnt, 0);
   EXPECT_EQ(Run.ZoneTbl.ZoneCnt, 0);

@@ -67,7 +67,7 @@ TEST_F(TraceFile, DoesNotKnowTheKeysOfOtherFiles) {
                      "StartTime", "RealTraceGraph", "SimGraph", "Resonance", ""});
 }
 
-TEST_F(TraceFile, BelowFileSpec3IsRefused) {
+TEST_F(TraceFile, IsRefusedBelowFileSpec3) {
   EXPECT_FALSE(Read({"File-Spec,2"}));
   EXPECT_EQ(Run.Session.Diagnosis, "Trace.tmp:1: File-Spec: below 3");
   EXPECT_TRUE(Read({"File-Spec,3"}));

@@ -74,7 +74,7 @@ TEST_F(UserFile, KnowsEachKeyInItsOwnSpellingOnly) {
   ExpectParameterBlock(*this, userFile);
 }
 
-TEST_F(UserFile, BelowFileSpec3IsRefusedAtOnce) {
+TEST_F(UserFile, IsRefusedAtOnceBelowFileSpec3) {
   EXPECT_EQ(Refused({"File-Spec,2", "unknown"}), "User.tmp:1: File-Spec: below 3");
   EXPECT_EQ(Refused({"File-Spec,-1"}), "User.tmp:1: File-Spec: below 3");
   EXPECT_TRUE(Read({"File-Spec,3"}));
@@ -82,7 +82,7 @@ TEST_F(UserFile, BelowFileSpec3IsRefusedAtOnce) {
   EXPECT_TRUE(Read({"File-Spec,2.5000001"})) << "rounds to 3";
 }
 
-TEST_F(UserFile, WithoutFileSpecPasses) {
+TEST_F(UserFile, PassesWithoutFileSpec) {
   EXPECT_TRUE(Read({"UserNum,0"}));
 }
 
@@ -112,7 +112,7 @@ TEST_F(UserFile, EmptyIsReadAndLeavesTheRecordsAlone) {
   EXPECT_EQ(Run.User.Comment, "old");
 }
 
-TEST_F(UserFile, OfAnotherTypeIsAcceptedIfItsKeysAreKnown) {
+TEST_F(UserFile, IsAcceptedWithAnotherTypeIfItsKeysAreKnown) {
   EXPECT_TRUE(Read({"FileType,something else", "Made-by,", "UserNum,0"}));
 }
 
@@ -137,13 +137,13 @@ TEST_F(UserFile, RefusesMoreLinesThanItsCountAnnounces) {
             "User.tmp:2: Switch: one more than 'SwitchNum' announces");
 }
 
-TEST_F(UserFile, WithCountZeroHasOnlyTheSpareElement) {
+TEST_F(UserFile, HasOnlyTheSpareElementWithCountZero) {
   ASSERT_TRUE(Read({"UserNum,0", "SwitchNum,0"}));
   EXPECT_EQ(Run.User.Prm.HighestIndex(), 0);
   EXPECT_EQ(Run.User.Switches.HighestIndex(), 0);
 }
 
-TEST_F(UserFile, WithFewerLinesThanAnnouncedLeavesEmptyElements) {
+TEST_F(UserFile, HasEmptyElementsForAnnouncedLinesThatAreMissing) {
   ASSERT_TRUE(Read({"UserNum,3", "UserName,1,a", "UserValue,1,2,u"}));
   EXPECT_EQ(Run.User.Prm.HighestIndex(), 3);
   EXPECT_EQ(Run.User.Prm[2].No, "");

@@ -92,7 +92,7 @@ TEST_F(CoverLetter, AlwaysHasTwelveRows) {
   EXPECT_EQ(Greeting().back(), "12");
 }
 
-TEST_F(CoverLetter, GoesOnInTheNextRowBehind84Bytes) {
+TEST_F(CoverLetter, GoesOnInTheNextRowAfter84Bytes) {
   Options.Greeting = Repeat("a", 84) + "\r\nnext";
   EXPECT_EQ(Greeting().at(1), "next");
   Options.Greeting = Repeat("a", 84) + "b\r\nnext";

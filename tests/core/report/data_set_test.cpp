@@ -147,7 +147,7 @@ TEST_F(DataSets, PassFourElementsOnToTheColumnsOfTheParameterList) {
   expectColumns("Sim", Run.Options.SimOption, 6);
 }
 
-TEST_F(DataSets, OfAnOverlappedRunAreNumberedWithinTheirGroup) {
+TEST_F(DataSets, AreNumberedWithinTheirGroupInAnOverlappedRun) {
   Run.Session.OverlapNum = 4;
   for (const char* mode : {"Trace", "Sim"}) {
     Run.Session.Mode = mode;

@@ -9,12 +9,12 @@ TEST(Golden, TheSameTextHasNoDifference) {
   EXPECT_EQ(FirstDifference("page 1\n  cell\n", "page 1\n  cell\n"), "");
 }
 
-TEST(Golden, TellsTheFirstLineThatDiffers) {
+TEST(Golden, NamesTheFirstLineThatDiffers) {
   EXPECT_EQ(FirstDifference("page 1\n  cell a\n  x\n", "page 1\n  cell b\n  y\n"),
             "line 2\n  stored:   cell a\n  made:     cell b");
 }
 
-TEST(Golden, TellsWhichTextEndsFirst) {
+TEST(Golden, NamesTheTextThatEndsFirst) {
   EXPECT_EQ(FirstDifference("page 1\n", "page 1\npage 2\n"),
             "line 2\n  stored: (end of text)\n  made:   page 2");
   EXPECT_EQ(FirstDifference("page 1\n\n", "page 1\n"), "line 2\n  stored: \n  made:   (end of text)");

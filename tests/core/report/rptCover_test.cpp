@@ -81,7 +81,7 @@ TEST_F(Cover, TheSenderBlockWrapsAtThePapersEdge) {
   EXPECT_EQ(printed, "FAX:" + Options.DrowFAX);
 }
 
-TEST_F(Cover, CaptionsShareTheBaselineOfWhatStandsBesideThem) {
+TEST_F(Cover, CaptionsShareTheBaselineOfTheTextBesideThem) {
   const Document document = Compose();
   const auto baselineOf = [&](const std::string& control) {
     for (const Item& item : document.Items) {
@@ -284,7 +284,7 @@ TEST_F(Cover, AMissingLogoIsFailureTwo) {
               ElementsAre("Printing Error|Logo Mark File is not found.\nPrinting Process is canceled."));
 }
 
-TEST_F(Cover, WithoutALogoPathTheImageStaysEmpty) {
+TEST_F(Cover, TheImageStaysEmptyWithoutALogoPath) {
   EXPECT_THAT(PrintedOf(Compose(), "imgLogo"), IsEmpty());
 }
 

@@ -63,7 +63,7 @@ TEST_F(MasterReport, PrintsParametersAndCommentsUnderOneHeader) {
   EXPECT_THAT(PrintedOf(document, "txtMechaInfo")[0].Texts, ElementsAre("Servo pack"));
 }
 
-TEST_F(MasterReport, FortyFourPlainRowsStandUnderTheHeaderOnA4AndFortyNineOnLaterPages) {
+TEST_F(MasterReport, FortyFourPlainRowsFitUnderTheHeaderOnA4AndFortyNineOnLaterPages) {
   const PageSetup a4;
   EXPECT_EQ(PagesOf(44, a4), 1);
   EXPECT_EQ(PagesOf(45, a4), 2);
@@ -72,7 +72,7 @@ TEST_F(MasterReport, FortyFourPlainRowsStandUnderTheHeaderOnA4AndFortyNineOnLate
   EXPECT_EQ(PagesOf(44 + 49 + 1, a4), 3);
 }
 
-TEST_F(MasterReport, FortyPlainRowsStandUnderTheHeaderOnLetterAndFortyFiveOnLaterPages) {
+TEST_F(MasterReport, FortyPlainRowsFitUnderTheHeaderOnLetterAndFortyFiveOnLaterPages) {
   const PageSetup letter{12240, 15840, 1440, 0, 720, 720};
   EXPECT_EQ(PagesOf(40, letter), 1);
   EXPECT_EQ(PagesOf(41, letter), 2);
@@ -264,7 +264,7 @@ TEST_F(OverlappedTrace, PrintsResultTargetAndDataEachOnPagesOfTheirOwn) {
   EXPECT_EQ(Session.FinishedReports, 3);
 }
 
-TEST_F(OverlappedTrace, WithoutDetailsPrintsTheResultOnly) {
+TEST_F(OverlappedTrace, PrintsTheResultOnlyWithoutDetails) {
   Options.TraceOption[8] = 0;
   EXPECT_THAT(Compose(), ElementsAre("1: rptTraceGraph rptTraceObjrctOverlap"));
 }

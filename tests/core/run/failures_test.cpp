@@ -19,11 +19,11 @@ namespace {
 using testing::ElementsAre;
 using testing::UnorderedElementsAre;
 
-class FailuresTest : public testing::Test, protected TestRun {
+class Failures : public testing::Test, protected TestRun {
  protected:
   using TestRun::Run;
 
-  FailuresTest() { Run.Session.TempFolder = Folder.HostPath("tmp\\"); }
+  Failures() { Run.Session.TempFolder = Folder.HostPath("tmp\\"); }
 
   template <typename Call>
   int ExitStatusOf(Call call) {
@@ -38,7 +38,7 @@ class FailuresTest : public testing::Test, protected TestRun {
   TempFolder Folder;
 };
 
-TEST_F(FailuresTest, BeepFiveTimesThenShowTwoLinesThenEndTheRun) {
+TEST_F(Failures, BeepFiveTimesThenShowTwoLinesThenEndTheRun) {
   EXPECT_EQ(ExitStatusOf([&] { ReportFailure(Run, Failure{10}); }), 0);
   EXPECT_THAT(
       Desktop.Calls,
@@ -48,13 +48,13 @@ TEST_F(FailuresTest, BeepFiveTimesThenShowTwoLinesThenEndTheRun) {
           "end 0"));
 }
 
-TEST_F(FailuresTest, TellTheHostsDevelopersWhatWasWrong) {
+TEST_F(Failures, ShowTheHostsDevelopersWhatWasWrong) {
   Run.Session.Diagnosis = "Trace.tmp:17: unknown key 'Cursolselect'";
   ExitStatusOf([&] { ReportFailure(Run, Failure{4}); });
   EXPECT_EQ(Desktop.Calls.front(), "diagnose Trace.tmp:17: unknown key 'Cursolselect'");
 }
 
-TEST_F(FailuresTest, AreNoticedBeforeAnythingIsDeletedOrSaid) {
+TEST_F(Failures, AreNoticedBeforeAnythingIsDeletedOrSaid) {
   struct Refusal {
     Failure Number;
     std::string Reason;
@@ -78,7 +78,7 @@ TEST_F(FailuresTest, AreNoticedBeforeAnythingIsDeletedOrSaid) {
   EXPECT_TRUE(Folder.Has("User.tmp"));
 }
 
-TEST_F(FailuresTest, HaveTheirWords) {
+TEST_F(Failures, HaveTheirWords) {
   EXPECT_STREQ(FailureMessage(Failure{1}), "Argument is wrong.");
   EXPECT_STREQ(FailureMessage(Failure{2}), "Logo Mark File is not found.");
   EXPECT_STREQ(FailureMessage(Failure{3}), "Parameter File is wrong.");
@@ -98,13 +98,13 @@ TEST_F(FailuresTest, HaveTheirWords) {
   EXPECT_STREQ(FailureMessage(Failure{17}), "Jog Speed Table File is wrong.");
 }
 
-TEST_F(FailuresTest, DeleteTheDataFilesToo) {
+TEST_F(Failures, DeleteTheDataFilesToo) {
   Folder.Write("tmp/User.tmp", "");
   ExitStatusOf([&] { ReportFailure(Run, Failure{3}); });
   EXPECT_FALSE(Folder.Has("tmp/User.tmp"));
 }
 
-TEST_F(FailuresTest, EndOfARunDeletesEveryDataFileAndPictureInWhateverLetterCase) {
+TEST_F(Failures, EndOfARunDeletesEveryDataFileAndPictureInWhateverLetterCase) {
   for (const char* name : {"User.tmp", "TRACE1.TMP", "other run.tmp", "graph.emf", "NOTE.Emf"}) {
     Folder.Write(std::string("tmp/") + name, "x");
   }
@@ -148,7 +148,7 @@ class DeletionWatch {
   const int queue_;
 };
 
-TEST_F(FailuresTest, EndOfARunDeletesTheDataFilesBeforeThePictures) {
+TEST_F(Failures, EndOfARunDeletesTheDataFilesBeforeThePictures) {
   for (const char* name : {"a.emf", "b.tmp", "c.emf", "d.tmp"}) Folder.Write(std::string("tmp/") + name, "x");
   const DeletionWatch watch(Folder.Path() / "tmp");
   ExitStatusOf([&] { EndRun(Run); });
@@ -158,7 +158,7 @@ TEST_F(FailuresTest, EndOfARunDeletesTheDataFilesBeforeThePictures) {
   EXPECT_THAT(std::vector(deleted.begin() + 2, deleted.end()), UnorderedElementsAre("a.emf", "c.emf"));
 }
 
-TEST_F(FailuresTest, EndOfARunPassesOverWhatCanNotBeDeleted) {
+TEST_F(Failures, EndOfARunPassesOverWhatCanNotBeDeleted) {
   Folder.Write("tmp/a.tmp/inside", "x");  // a folder with this name stays
   Folder.Write("tmp/b.tmp", "x");
   EXPECT_EQ(ExitStatusOf([&] { EndRun(Run); }), 0);
@@ -166,7 +166,7 @@ TEST_F(FailuresTest, EndOfARunPassesOverWhatCanNotBeDeleted) {
   EXPECT_FALSE(Folder.Has("tmp/b.tmp"));
 }
 
-TEST_F(FailuresTest, EndOfARunDeletesALinkAndNotWhatItLeadsTo) {
+TEST_F(Failures, EndOfARunDeletesALinkAndNotWhatItLeadsTo) {
   Folder.Write("tmp/sub/kept", "x");
   Folder.Write("precious", "x");
   std::filesystem::create_symlink(Folder.Path() / "precious", Folder.Path() / "tmp/link.tmp");
@@ -175,7 +175,7 @@ TEST_F(FailuresTest, EndOfARunDeletesALinkAndNotWhatItLeadsTo) {
   EXPECT_FALSE(std::filesystem::is_symlink(Folder.Path() / "tmp/link.tmp"));
 }
 
-TEST_F(FailuresTest, EndOfARunBeforeTheFoldersAreKnownDeletesNothing) {
+TEST_F(Failures, EndOfARunBeforeTheFoldersAreKnownDeletesNothing) {
   const std::filesystem::path before = std::filesystem::current_path();
   Folder.Write("User.tmp", "x");
   std::filesystem::current_path(Folder.Path());
@@ -185,7 +185,7 @@ TEST_F(FailuresTest, EndOfARunBeforeTheFoldersAreKnownDeletesNothing) {
   EXPECT_TRUE(Folder.Has("User.tmp"));
 }
 
-TEST_F(FailuresTest, EndOfARunEndsAlsoWithoutItsFolder) {
+TEST_F(Failures, EndOfARunEndsAlsoWithoutItsFolder) {
   Run.Session.TempFolder = Folder.HostPath("nowhere\\");
   EXPECT_EQ(ExitStatusOf([&] { EndRun(Run); }), 0);
 }

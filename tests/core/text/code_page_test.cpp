@@ -39,7 +39,7 @@ TEST(CodePage, GivesAReplacementForHalfACharacter) {
   EXPECT_EQ(CodePage(950).ToUtf8("\xA5"), "\uFFFD");
 }
 
-TEST(CodePage, GivesAQuestionMarkForACharacterThatItLacks) {
+TEST(CodePage, GivesAQuestionMarkForACharacterThatItDoesNotHave) {
   EXPECT_EQ(CodePage(1252).FromUtf8("a\u8868b"), "a?b");
   EXPECT_EQ(CodePage(932).FromUtf8("a\uAC00b"), "a?b");
   EXPECT_EQ(CodePage(1252).ByteLength("a\u8868b"), 3U);

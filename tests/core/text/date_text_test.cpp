@@ -28,7 +28,7 @@ TEST(LongDateText, WritesEnglishMonthAndTwoDigitDay) {
   EXPECT_EQ(LongDateText(Time(2026, 9, 30, 0, 0, 0)), "September 30, 2026");
 }
 
-TEST(LongDateText, IsAlikeInAnotherLocale) {
+TEST(LongDateText, IsTheSameInAnotherLocale) {
   const std::string before = std::setlocale(LC_ALL, nullptr);
   for (const char* locale : {"de_DE.UTF-8", "ja_JP.UTF-8", "C.UTF-8"}) {
     if (std::setlocale(LC_ALL, locale) == nullptr) continue;  // not on this system

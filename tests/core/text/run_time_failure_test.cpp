@@ -17,7 +17,7 @@ TEST(RunTimeFailure, NamesTheElementOfAListAndATextThatIsEmpty) {
   EXPECT_STREQ(failure.what(), "Sim.tmp:3: PatternSetting: element 4: not a number: ''");
 }
 
-TEST(RunTimeFailure, OfALineNamesItsKeyWhateverTheThrowerNamed) {
+TEST(RunTimeFailure, NamesTheKeyOfItsLineWhateverTheThrowerNamed) {
   const RunTimeFailure failure("subscript out of range",
                                {.File = {}, .Line = 0, .Key = "UserData.Prm", .Text = "3"});
   const RunTimeFailure placed = failure.AtKey({.File = "User.tmp", .Line = 5, .Key = "UserValue"});

@@ -21,7 +21,7 @@ TEST(NextField, EmptiesATextWithoutComma) {
   EXPECT_EQ(NextField(text), "");
 }
 
-TEST(NextTextLine, SkipsOneCharacterBehindTheCarriageReturnWhateverItIs) {
+TEST(NextTextLine, SkipsOneCharacterAfterTheCarriageReturnWhateverItIs) {
   std::string_view text = "one\r\ntwo\rXthree\r";
   EXPECT_EQ(NextTextLine(text), "one");
   EXPECT_EQ(NextTextLine(text), "two");
@@ -47,7 +47,7 @@ TEST(Newlines, AreEscapedAndUnescaped) {
   EXPECT_EQ(NewlinesToBlanks("a\r\nb\r\n"), "a b ");
 }
 
-TEST(Newlines, StayWhereCarriageReturnOrLineFeedStandsAlone) {
+TEST(Newlines, StayWhereCarriageReturnOrLineFeedIsAlone) {
   EXPECT_EQ(EscapeNewlines("a\rb\nc\n\rd"), "a\rb\nc\n\rd");
   EXPECT_EQ(NewlinesToBlanks("a\rb\nc"), "a\rb\nc");
   EXPECT_EQ(UnescapeNewlines("a\\rb\\n"), "a\\rb\\n");
@@ -110,7 +110,7 @@ TEST(CountWrappedLines, CountsBytesOfTheCodePageAgainstTheWidth) {
   EXPECT_EQ(CountWrappedLines(CodePage(932), "\u8868\u793A", 2), 2);
 }
 
-TEST(CountWrappedLines, CountsAnEmptyLineButNoneBehindTheLastBreak) {
+TEST(CountWrappedLines, CountsAnEmptyLineButNoneAfterTheLastBreak) {
   const CodePage western(1252);
   EXPECT_EQ(CountWrappedLines(western, "a\r\n\r\nb", 2), 3);
   EXPECT_EQ(CountWrappedLines(western, "a\r\n", 2), 1);

@@ -39,7 +39,7 @@ struct TallRow : testing::Test {
   Section& Detail = Report.Growing(SectionKind::Detail, "d");
 };
 
-TEST_F(TallRow, EachLineGoesWhereItFitsWhateverStandsBesideIt) {
+TEST_F(TallRow, EachLineGoesWhereItFitsWhateverIsBesideIt) {
   Detail.AddField("a", {0, 0, 1000, 100}, Plain, FiveLines);
   Detail.AddField("b", {1000, 0, 1000, 100}, Large, "b0\r\nb1\r\nb2");
   // Each straight cut above the foot of the page would cross a line of one column or the other.
@@ -70,7 +70,7 @@ TEST_F(TallRow, TheFrameOfACutCellStaysOpenAtTheCut) {
   EXPECT_THAT(frames, ElementsAre("1:0+500 open bottom", "2:0+500 open top open bottom", "3:0+190 open top"));
 }
 
-TEST_F(TallRow, ACellWhoseTextMovesOnLeavesNoEmptyFrameBehind) {
+TEST_F(TallRow, ACellWhoseTextMovesOnDrawsNoEmptyFrame) {
   Detail.AddField("above", {0, 0, 1000, 380}, Cell, "a\r\nb");
   Detail.AddField("moved", {0, 380, 500, 283}, Cell, "c");
   Detail.AddField("beside", {500, 380, 500, 283}, Cell);
@@ -78,7 +78,7 @@ TEST_F(TallRow, ACellWhoseTextMovesOnLeavesNoEmptyFrameBehind) {
               ElementsAre("1:above@0", "1:a@0", "1:b@190", "2:moved@0", "2:c@46", "2:beside@0"));
 }
 
-TEST_F(TallRow, WhatStandsBelowAShrunkenPictureFlowsOn) {
+TEST_F(TallRow, WhatIsBelowAShrunkenPictureFlowsOn) {
   AddPicture({0, 0, 1000, 800});
   Detail.AddLabel("legend", {0, 900, 2000, 283}, "[Cursor Data]", Plain);
   Detail.AddShape("shape", {0, 1200, 300, 100});

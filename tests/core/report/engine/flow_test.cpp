@@ -98,12 +98,12 @@ TEST(EngineFlow, MovesAKeptGroupThatFitsAnEmptyPageOnly) {
               ElementsAre("1:above@0", "1:above@100", "2:title@0", "2:row@100", "2:row@200"));
 }
 
-TEST(EngineFlow, LeavesAKeptGroupThatFitsWhereItStands) {
+TEST(EngineFlow, KeepsAGroupThatFitsWhereItStarts) {
   EXPECT_THAT(PlacesOfKeptGroup(1, 2, 400),
               ElementsAre("1:above@0", "1:title@100", "1:row@200", "1:row@300"));
 }
 
-TEST(EngineFlow, StartsAKeptGroupLongerThanAPageWhereItStands) {
+TEST(EngineFlow, StartsAKeptGroupLongerThanAPageOnThePresentPage) {
   EXPECT_THAT(PlacesOfKeptGroup(2, 4, 400), ElementsAre("1:above@0", "1:above@100", "1:title@200",
                                                         "1:row@300", "2:row@0", "2:row@100", "2:row@200"));
 }

@@ -161,7 +161,7 @@ TEST(EngineSections, AreAsHighAsTheLowestVisibleControl) {
               ElementsAre("1:title@142", "1:row@425", "1:line@425", "1:row@708", "1:line@708"));
 }
 
-TEST(EngineSections, WithoutVisibleControlsTakeNoRoomIfTheyCanShrink) {
+TEST(EngineSections, TakeNoRoomWithoutVisibleControlsIfTheyCanShrink) {
   SampleReport report;
   report.Growing(SectionKind::GroupHeader, "g", 420).AddField("hidden", {0, 0, 500, 283}, Cell).Visible =
       false;
@@ -252,7 +252,7 @@ TEST(EngineText, LinePitchIsWholeTwips) {
   EXPECT_EQ(LinePitch(14), 313);
 }
 
-TEST(EngineText, StandsAtTheTopLoweredByHalfTheSpareHeightButAtMost46) {
+TEST(EngineText, StartsAtTheTopLoweredByHalfTheSpareHeightButAtMost46) {
   EXPECT_FLOAT_EQ(Find(OneField("a", {0, 0, 2000, 283}).Compose(), "text", ItemKind::Text).Box.Top, 46);
   EXPECT_FLOAT_EQ(Find(OneField("a", {0, 0, 2000, 570}).Compose(), "text", ItemKind::Text).Box.Top, 46);
   EXPECT_FLOAT_EQ(Find(OneField("a", {0, 0, 2000, 230}).Compose(), "text", ItemKind::Text).Box.Top, 20);

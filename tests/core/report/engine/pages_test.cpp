@@ -122,7 +122,7 @@ TEST(EnginePages, AFooterOfInvisibleControlsStillTakesItsHeight) {
   EXPECT_THAT(Places(ComposeSample(report, 900)), ElementsAre("1:row@0", "2:row@0"));
 }
 
-TEST(EnginePages, AHeaderStaysBehindWhenItsRowsAreToStartOnANewPage) {
+TEST(EnginePages, AHeaderStaysOnItsPageWhenItsRowsAreToStartOnANewPage) {
   SampleReport report;
   AddBlock(report.Growing(SectionKind::GroupHeader, "h"), "head", 100);
   Section& detail = report.Fixed(SectionKind::Detail, "d", 300);
@@ -153,7 +153,7 @@ TEST(EnginePages, CutsABandTallerThanAPageBetweenLinesOfText) {
               ElementsAre("1:short@0", "2:a@0", "2:b@190", "3:c@0", "3:d@190", "4:e@0"));
 }
 
-TEST(EnginePages, ATallBandStaysUnderHeadersThatStandAlone) {
+TEST(EnginePages, ATallBandStaysUnderHeadersWithoutOtherContent) {
   SampleReport report;
   AddBlock(report.Growing(SectionKind::GroupHeader, "h"), "head", 100);
   Field& text = report.Growing(SectionKind::Detail, "d").AddField("text", {0, 0, 2000, 100}, Plain);
@@ -194,7 +194,7 @@ TEST(EnginePages, AFirstRowThatFitsUnderTheHeadersStaysThere) {
   EXPECT_THAT(PlacesOfFirstRow(750), ElementsAre("1:header@0", "1:title@100", "1:guide@200", "1:row@250"));
 }
 
-TEST(EnginePages, AFirstRowThatFitsAnEmptyPageWithItsTitleAndGuideLeavesTheHeaderWithThem) {
+TEST(EnginePages, AFirstRowThatFitsAnEmptyPageWithItsTitleAndGuideMovesOnWithThem) {
   for (const float row : {751.0F, 850.0F}) {
     EXPECT_THAT(PlacesOfFirstRow(row), ElementsAre("1:header@0", "2:title@0", "2:guide@100", "2:row@150"))
         << row;
@@ -228,7 +228,7 @@ TEST(EnginePages, ARowThatDoesNotFitBelowTheRepeatedGuideIsCutThere) {
               ElementsAre("1:guide@0", "1:row@100", "2:guide@0", "2:row@100", "3:guide@0", "3:row@100"));
 }
 
-TEST(EnginePages, AHeaderHigherThanHalfAPageIsContentThatItsRowsNeedNotStandUnder) {
+TEST(EnginePages, AHeaderHigherThanHalfAPageIsContentThatItsRowsNeedNotFollow) {
   SampleReport outer;
   AddBlock(outer.Fixed(SectionKind::GroupHeader, "h", 100), "header", 100);
   SubReport& region = outer.Fixed(SectionKind::Detail, "d", 0).AddSubReport("region", {0, 0, 1000, 10});
