@@ -1,0 +1,34 @@
+"""tools/check_names finds each name of a file or a test that departs from the rule."""
+import unittest
+
+from tree import TreeCheck
+
+
+class CheckNames(TreeCheck):
+    CHECK = "check_names"
+
+    def test_names_by_the_rule_pass(self):
+        self.expect_clean({
+            "src/text/code_page.h": "", "src/functions/user/rptUserPrm.cpp": "", "src/dialogs/pages/InfTrace.h": "",
+            "src/dialogs/PrintSetting.h": "", "tests/core/rptUserPrm_test.cpp": "", "tools/build": "",
+            "fuzz/corpus/sim/no-count": "", "tests/CMakeLists.txt": "", "tests/README.md": "",
+            "tests/text_test.cpp": "TEST(LoadLines, EndsALineAtCrLf) {}\nTEST_F(Dialog, ABadRangeHoldsTheUser) {}\n"
+                                   "TEST(DesktopDeathTest, OffersNothing) {}\nTEST_P(Form, InfinityIsRefused) {}\n"})
+
+    def test_file_in_another_case_is_named(self):
+        for name in ("src/report/BitTable.h", "src/text/codePage.cpp", "tests/core/user-file_test.cpp", "tools/Check.py"):
+            self.expect_breach({name: ""}, f"{name}:1: the name of a file is in snake_case")
+
+    def test_suite_that_ends_in_test_is_named(self):
+        self.expect_breach({"tests/a.cpp": "\nTEST_F(DialogTest, Opens) {}\n"}, "tests/a.cpp:2: the suite DialogTest")
+
+    def test_case_that_goes_on_with_the_name_of_its_suite_is_named(self):
+        for case in ("OfAFirstRun", "Of24Bits", "WithoutCount"):
+            self.expect_breach({"tests/a.cpp": f"TEST(File,\n     {case}) {{}}\n"}, f"tests/a.cpp:1: the case {case}")
+
+    def test_case_in_another_case_is_named(self):
+        self.expect_breach({"tests/a.cpp": "TEST(File, reads_lines) {}\n"}, "the case reads_lines")
+
+
+if __name__ == "__main__":
+    unittest.main()
