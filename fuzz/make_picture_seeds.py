@@ -93,8 +93,7 @@ def font(kind):
     return emf_record(kind, words(1, -20, 0, 300, 300, 700) + bytes([1, 1, 1, 0, 0, 0, 0, 0]) + face)
 
 
-def emf_seeds():
-    """One list of records for each type."""
+def emf_shape_seeds():
     seeds = {}
     for kind, small in ((3, 0), (4, 0), (6, 0), (86, 1), (87, 1), (89, 1)):
         seeds[kind] = [points(kind, 6, small)]
@@ -110,6 +109,12 @@ def emf_seeds():
         seeds[kind] = [emf_record(17, words(8)), emf_record(kind, words(50, 60))]
     for kind in (31, 32):
         seeds[kind] = [emf_record(17, words(7)), emf_record(kind, words(1, 2, 3, 4))]
+    return seeds
+
+
+def emf_state_seeds():
+    """Modes, positions, transforms and clips, and the shapes that are boxes."""
+    seeds = {}
     for kind, value in ((13, 0), (16, 0), (17, 5), (18, 1), (19, 2), (20, 7), (21, 4), (22, 24), (24, 255),
                         (25, 0xFF00), (57, 2), (58, 4), (98, 1), (100, 1), (101, 1), (115, 0), (33, 0)):
         seeds[kind] = [emf_record(kind, words(value))]
@@ -126,6 +131,11 @@ def emf_seeds():
     seeds[44] = [emf_record(44, BOX + words(10, 20))]
     for kind in (45, 46, 47, 55):
         seeds[kind] = [emf_record(kind, BOX + words(80, 40, 20, 80))]
+    return seeds
+
+
+def emf_path_and_object_seeds():
+    seeds = {}
     figure = [emf_record(59), emf_record(27, words(10, 10)), points(6, 4, 0), emf_record(61), emf_record(60)]
     for kind in (62, 63, 64):
         seeds[kind] = figure + [emf_record(kind, BOX)]
@@ -141,6 +151,11 @@ def emf_seeds():
                  emf_record(50, words(1, 0, 1, 0xFF0000)), emf_record(51, words(1, 4)),
                  emf_record(24, words(0x1000001))]
     seeds[82] = [font(82), emf_record(37, words(1)), text_record(84, True)]
+    return seeds
+
+
+def emf_text_and_bitmap_seeds():
+    seeds = {}
     for kind in (93, 94):
         seeds[kind] = [pattern_brush(kind), emf_record(37, words(1))]
     seeds[83], seeds[84] = [text_record(83, False)], [text_record(84, True)]
@@ -164,6 +179,11 @@ def emf_seeds():
     return seeds
 
 
+def emf_seeds():
+    """One list of records for each type."""
+    return emf_shape_seeds() | emf_state_seeds() | emf_path_and_object_seeds() | emf_text_and_bitmap_seeds()
+
+
 def wmf_record(function, *values, tail=b""):
     data = shorts(*values) + tail
     data += b"\0" * (len(data) % 2)
@@ -176,18 +196,17 @@ def wmf(records):
     return struct.pack("<HHHIHIH", 1, 9, 0x300, 9 + len(body) // 2, 4, 64, 0) + body
 
 
-def wmf_seeds():
-    info, bits = dib()
-    color = struct.pack("<I", 0x2040FF)
-    copy = struct.pack("<I", 0x00CC0020)
-    area = shorts(0, 6, 0, 0, 44, 1, 2, 0, 0, 50, 50) + shorts(2, 10, 40, 10, 40, 2)
-    pen = [wmf_record(0x02FA, 2, 3, 0, tail=color), wmf_record(0x012D, 0)]
-    region_object = [wmf_record(0x06FF, tail=area)]
+COLOR = struct.pack("<I", 0x2040FF)
+COPY = struct.pack("<I", 0x00CC0020)
+
+
+def wmf_state_and_shape_seeds():
+    pen = [wmf_record(0x02FA, 2, 3, 0, tail=COLOR), wmf_record(0x012D, 0)]
     seeds = {function: [wmf_record(function, 1)] for function in (
         0x0102, 0x0103, 0x0104, 0x0105, 0x0106, 0x0107, 0x0108, 0x012E, 0x0149, 0x0231, 0x0139, 0x0626)}
     seeds[0x0127] = [wmf_record(0x001E), wmf_record(0x0127, -1)]
     for function in (0x0201, 0x0209):
-        seeds[function] = [wmf_record(function, tail=color)]
+        seeds[function] = [wmf_record(function, tail=COLOR)]
     for function in (0x020A, 0x020D, 0x020E, 0x020F, 0x0211, 0x0213, 0x0214, 0x0220):
         seeds[function] = [wmf_record(function, 30, 40)]
     for function in (0x0410, 0x0412, 0x0415, 0x0416, 0x0418, 0x041B):
@@ -195,34 +214,48 @@ def wmf_seeds():
     for function in (0x0817, 0x081A, 0x0830):
         seeds[function] = [wmf_record(function, 10, 80, 80, 20, 70, 80, 10, 20)]
     seeds[0x061C] = [wmf_record(0x061C, 9, 9, 70, 80, 10, 20)]
-    seeds[0x041F] = [wmf_record(0x041F, tail=color + shorts(5, 5))]
+    seeds[0x041F] = [wmf_record(0x041F, tail=COLOR + shorts(5, 5))]
     for function in (0x0324, 0x0325):
         seeds[function] = pen + [wmf_record(function, 3, 10, 10, 60, 20, 30, 70)]
     seeds[0x0538] = [wmf_record(0x0538, 2, 3, 3, 10, 10, 40, 10, 40, 40, 50, 50, 80, 50, 80, 80)]
     seeds[0x0521] = [wmf_record(0x0521, 4, tail=b"Time" + shorts(40, 20))]
     seeds[0x0A32] = [wmf_record(0x0A32, 40, 20, 4, 6, 10, 10, 80, 80, tail=b"Time" + shorts(8, 8, 8, 8))]
+    return seeds
+
+
+def wmf_object_and_bitmap_seeds(text):
+    """`text` are records that draw one."""
+    info, bits = dib()
+    area = shorts(0, 6, 0, 0, 44, 1, 2, 0, 0, 50, 50) + shorts(2, 10, 40, 10, 40, 2)
+    region_object = [wmf_record(0x06FF, tail=area)]
+    seeds = {}
     seeds[0x02FB] = [wmf_record(0x02FB, -20, 0, 300, 300, 700, tail=bytes([1, 1, 1, 0, 0, 0, 0, 0]) + b"Arial\0"),
-                     wmf_record(0x012D, 0)] + seeds[0x0521]
-    seeds[0x02FC] = [wmf_record(0x02FC, 2, tail=color + shorts(4)), wmf_record(0x012D, 0), wmf_record(0x01F0, 0)]
-    seeds[0x00F7] = [wmf_record(0x00F7, 0x300, 2, tail=color * 2), wmf_record(0x0234, 0), wmf_record(0x0035),
-                     wmf_record(0x0037, 0, 1, tail=color), wmf_record(0x0436, 0, 1, tail=color)]
+                     wmf_record(0x012D, 0)] + text
+    seeds[0x02FC] = [wmf_record(0x02FC, 2, tail=COLOR + shorts(4)), wmf_record(0x012D, 0), wmf_record(0x01F0, 0)]
+    seeds[0x00F7] = [wmf_record(0x00F7, 0x300, 2, tail=COLOR * 2), wmf_record(0x0234, 0), wmf_record(0x0035),
+                     wmf_record(0x0037, 0, 1, tail=COLOR), wmf_record(0x0436, 0, 1, tail=COLOR)]
     seeds[0x0142] = [wmf_record(0x0142, 5, 0, tail=info + bits), wmf_record(0x012D, 0)]
     seeds[0x01F9] = [wmf_record(0x01F9, 0, 8, 8, 2, tail=bytes([1, 1]) + bytes(22) + bytes(range(16))),
                      wmf_record(0x012D, 0)]
     for function in (0x012A, 0x012B, 0x012C):
         seeds[function] = region_object + [wmf_record(function, 0)]
-    brush = [wmf_record(0x02FC, 0, tail=color + shorts(0))]
+    brush = [wmf_record(0x02FC, 0, tail=COLOR + shorts(0))]
     seeds[0x0228] = region_object + brush + [wmf_record(0x0228, 0, 1)]
     seeds[0x0429] = region_object + brush + [wmf_record(0x0429, 0, 1, 3, 3)]
     seeds[0x061D] = [wmf_record(0x061D, tail=struct.pack("<I", 0x00F00021) + shorts(40, 40, 10, 10))]
     old = shorts(0, 8, 2, 2) + bytes([1, 1]) + bytes(range(4))
     for function, head in ((0x0940, shorts(0, 0, 40, 40, 10, 10)), (0x0B41, shorts(2, 2, 0, 0, 40, 40, 10, 10))):
-        seeds[function] = [wmf_record(function, tail=copy + head + info + bits)]
+        seeds[function] = [wmf_record(function, tail=COPY + head + info + bits)]
     for function, head in ((0x0922, shorts(0, 0, 40, 40, 10, 10)), (0x0B23, shorts(2, 2, 0, 0, 40, 40, 10, 10))):
-        seeds[function] = [wmf_record(function, tail=copy + head + old)]
+        seeds[function] = [wmf_record(function, tail=COPY + head + old)]
     seeds[0x0D33] = [wmf_record(0x0D33, 0, 2, 0, 0, 0, 2, 2, 10, 10, tail=info + bits)]
-    seeds[0x0F43] = [wmf_record(0x0F43, tail=copy + shorts(0, 2, 2, 0, 0, 40, 40, 10, 10) + info + bits)]
+    seeds[0x0F43] = [wmf_record(0x0F43, tail=COPY + shorts(0, 2, 2, 0, 0, 40, 40, 10, 10) + info + bits)]
     return seeds
+
+
+def wmf_seeds():
+    seeds = wmf_state_and_shape_seeds()
+    return seeds | wmf_object_and_bitmap_seeds(seeds[0x0521])
 
 
 VERSION = struct.pack("<I", 0xDBC01002)

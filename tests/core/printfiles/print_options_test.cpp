@@ -78,61 +78,61 @@ TEST_F(PrintOptionsFile, DefaultsReplaceEveryOption) {
   EXPECT_EQ(Run.Options.GreetingCnt, 0);
 }
 
+// Every key with a value of its own, other than the default.
+const Lines kEveryLine = {"File-Spec,4",
+                          "FileType,my type",
+                          "Made-by,someone",
+                          "DateTime,then",
+                          "Cover,1",
+                          "SelectCover,3",
+                          "DrowCorp,Corp, Ltd.",
+                          "DrowSect,a\\r\\nb",
+                          "DrowName,N",
+                          "DrowEmail,E",
+                          "DrowZip,Z",
+                          "DrowAdr,c\\r\\nd",
+                          "DrowTEL,T",
+                          "DrowFAX,F",
+                          "DrowLogo,C:\\l,ogo.bmp",
+                          "User1Title,1t",
+                          "User1Corp,1c",
+                          "User1Sect,1s\\r\\nx",
+                          "User1Name,1n",
+                          "User1Adr,1a\\r\\nx",
+                          "User2Title,2t",
+                          "User2Corp,2c",
+                          "User2Sect,2s\\r\\nx",
+                          "User2Name,2n",
+                          "User2Adr,2a\\r\\nx",
+                          "User3Title,3t",
+                          "User3Corp,3c",
+                          "User3Sect,3s\\r\\nx",
+                          "User3Name,3n",
+                          "User3Adr,3a\\r\\nx",
+                          "GreetingCnt,7",
+                          "Greeting,g\\r\\nh",
+                          "UserHeader,0,1,0,1,0,U",
+                          "UserOption,1,0,1,0,1",
+                          "PrmWizHeader,1,0,1,0,1,P",
+                          "PrmWizOption,",
+                          "TraceHeader,0,0,0,0,1,T",
+                          "TraceOption,0,1,0,1,0,1,0,1,0",
+                          "RealTraceHeader,0,0,0,1,0,R",
+                          "RealTraceOption,1,0,1,0,1,0,1",
+                          "MechaHeader,0,0,1,0,0,M",
+                          "MechaOption,0,1,0,1,0",
+                          "SimHeader,0,1,0,0,0,S",
+                          "SimOption,0,1,0,1,0,1,0,1,0,1,0,1,0",
+                          "ColorType,1",
+                          "IdxTblHeader,1,0,0,0,0,I",
+                          "IdxTblOption,2,5,128,0",
+                          "ZoneTblHeader,1,1,0,0,0,Z",
+                          "ZoneTblOption,0",
+                          "JogTblHeader,1,1,1,0,0,J",
+                          "JogTblOption,0"};
+
 TEST_F(PrintOptionsFile, ReadsBackEveryValue) {
-  const Lines lines = {"File-Spec,4",
-                       "FileType,my type",
-                       "Made-by,someone",
-                       "DateTime,then",
-                       "Cover,1",
-                       "SelectCover,3",
-                       "DrowCorp,Corp, Ltd.",
-                       "DrowSect,a\\r\\nb",
-                       "DrowName,N",
-                       "DrowEmail,E",
-                       "DrowZip,Z",
-                       "DrowAdr,c\\r\\nd",
-                       "DrowTEL,T",
-                       "DrowFAX,F",
-                       "DrowLogo,C:\\l,ogo.bmp",
-                       "User1Title,1t",
-                       "User1Corp,1c",
-                       "User1Sect,1s\\r\\nx",
-                       "User1Name,1n",
-                       "User1Adr,1a\\r\\nx",
-                       "User2Title,2t",
-                       "User2Corp,2c",
-                       "User2Sect,2s\\r\\nx",
-                       "User2Name,2n",
-                       "User2Adr,2a\\r\\nx",
-                       "User3Title,3t",
-                       "User3Corp,3c",
-                       "User3Sect,3s\\r\\nx",
-                       "User3Name,3n",
-                       "User3Adr,3a\\r\\nx",
-                       "GreetingCnt,7",
-                       "Greeting,g\\r\\nh",
-                       "UserHeader,0,1,0,1,0,U",
-                       "UserOption,1,0,1,0,1",
-                       "PrmWizHeader,1,0,1,0,1,P",
-                       "PrmWizOption,",
-                       "TraceHeader,0,0,0,0,1,T",
-                       "TraceOption,0,1,0,1,0,1,0,1,0",
-                       "RealTraceHeader,0,0,0,1,0,R",
-                       "RealTraceOption,1,0,1,0,1,0,1",
-                       "MechaHeader,0,0,1,0,0,M",
-                       "MechaOption,0,1,0,1,0",
-                       "SimHeader,0,1,0,0,0,S",
-                       "SimOption,0,1,0,1,0,1,0,1,0,1,0,1,0",
-                       "ColorType,1",
-                       "IdxTblHeader,1,0,0,0,0,I",
-                       "IdxTblOption,2,5,128,0",
-                       "ZoneTblHeader,1,1,0,0,0,Z",
-                       "ZoneTblOption,0",
-                       "JogTblHeader,1,1,1,0,0,J",
-                       "JogTblOption,0"};
-  std::string bytes;
-  for (const std::string& line : lines) bytes += line + "\r\n";
-  ASSERT_TRUE(Read(lines));
+  ASSERT_TRUE(Read(kEveryLine));
   EXPECT_EQ(Run.Options.DrowCorp, "Corp, Ltd.");
   EXPECT_EQ(Run.Options.DrowSect, "a\r\nb");
   EXPECT_EQ(Run.Options.User[2].Adr, "3a\r\nx");
@@ -144,7 +144,7 @@ TEST_F(PrintOptionsFile, ReadsBackEveryValue) {
   EXPECT_EQ(Run.Options.IdxTblOption.First, "5");
   EXPECT_EQ(Run.Options.IdxTblOption.Last, "128");
   EXPECT_EQ(Run.Options.GreetingCnt, 7) << "kept as read";
-  EXPECT_EQ(Written(), bytes) << "read and written without changes it is the same file";
+  EXPECT_EQ(Written(), BytesOf(kEveryLine)) << "read and written without changes it is the same file";
 }
 
 TEST_F(PrintOptionsFile, IsAlwaysWrittenAsVersion4AndKeepsItsMaker) {
