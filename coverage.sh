@@ -1,5 +1,5 @@
 #!/bin/sh
-# Tells how much of the core the core's tests run: a line for each file and the sum. Fails below 95 % of the lines. The
+# Prints how much of the core the core's tests run: a line for each file and the sum. Fails below 95 % of the lines. The
 # lines that no test runs are marked in build/coverage/report/index.html.
 set -eu
 cd "$(dirname "$0")"

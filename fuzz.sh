@@ -1,7 +1,7 @@
 #!/bin/sh
-# Builds the fuzzers and runs each from its corpus: ./fuzz.sh [SECONDS-EACH [FUZZER...]], 10 seconds if not told.
+# Builds the fuzzers and runs each from its corpus: ./fuzz.sh [SECONDS-EACH [FUZZER...]], 10 seconds if not given.
 # New inputs go to build/fuzz/found/FUZZER; what breaks one is kept in build/fuzz as crash-FUZZER-*. Ends with a line
-# for each fuzzer that tells how many executions ran clean.
+# for each fuzzer that says how many executions ran clean.
 set -eu
 cd "$(dirname "$0")"
 seconds=${1:-10}

@@ -20,22 +20,22 @@ constexpr int PagesPainted = 20;  // at most
 void Measure(DocumentRoad& road) {
   Stopwatch watch;
   road.Read();
-  watch.Told("read [ms]");
+  watch.Report("read [ms]");
   road.Compose();
-  watch.Told("compose, all data sets [ms]");
+  watch.Report("compose, all data sets [ms]");
   road.PaintPage(0);
-  watch.Told("first page painted [ms]");
+  watch.Report("first page painted [ms]");
   const int painted = std::min(PagesPainted, road.PageCount());
   for (int page = 0; page < painted; ++page) road.PaintPage(page);
-  watch.Told("page painted, 100 % [ms]", painted);
+  watch.Report("page painted, 100 % [ms]", painted);
   const QTemporaryDir folder;
   road.SavePdf(folder.filePath(QStringLiteral("document.pdf")));
-  watch.Told("PDF [ms]");
+  watch.Report("PDF [ms]");
   QPrinter printer(QPrinter::HighResolution);
   printer.setOutputFormat(QPrinter::PdfFormat);
   printer.setOutputFileName(folder.filePath(QStringLiteral("spool.pdf")));
   road.Print(printer);
-  watch.Told("print spool [ms]");
+  watch.Report("print spool [ms]");
   watch.Note("peak memory of these steps [MB]", PeakMegabytes());
   watch.Note("pages", road.PageCount());
   std::puts(watch.Json().c_str());

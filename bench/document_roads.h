@@ -40,7 +40,7 @@ class Stopwatch {
   Stopwatch() { timer_.start(); }
 
   // Milliseconds since the last call, divided by `times`.
-  void Told(const char* step, int times = 1) {
+  void Report(const char* step, int times = 1) {
     Note(step, static_cast<double>(timer_.nsecsElapsed()) / 1e6 / times);
     timer_.start();
   }

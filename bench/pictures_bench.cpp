@@ -34,7 +34,7 @@ PicturePtr Decode(const char* name, const QByteArray& bytes, GlyphOutlines& glyp
   return DecodePicture(name, View(bytes), glyphs, budget);
 }
 
-// A graph as large as it stands on a page at 96 dots to the inch.
+// A graph as large as it is on a page at 96 dots to the inch.
 void LoadAndPaint(benchmark::State& state, const char* name) {
   const QByteArray bytes = ReadData(name);
   GlyphOutlines glyphs;

@@ -1,4 +1,4 @@
-// Plays picture files as the program does, each in a process of its own, and tells what it took:
+// Plays picture files as the program does, each in a process of its own, and prints what it took:
 // play_pictures [-o FOLDER] FILE...; with -o, what each shows is written there as FILE.png.
 // One line a file: name, KB, ms of computing to load and to paint, MB beyond those of an empty process,
 // records played, records skipped as KIND:COUNT; or the reason why it is refused.

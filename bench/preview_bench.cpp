@@ -65,8 +65,8 @@ double ThreadMilliseconds() {
   return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
 }
 
-// Shows frame after frame of `step` and tells the slowest: by the clock, which other programs slow down, and
-// by the time that the window's thread worked.
+// Shows frame after frame of `step` and reports the slowest: by the clock, which other programs slow down,
+// and by the time that the window's thread worked.
 template <typename Step>
 void ShowFrames(benchmark::State& state, PageView& view, Step step) {
   view.resize(913, 600);

@@ -83,7 +83,7 @@ class Screen:
             self._pixels = mmap.mmap(buffer.fileno(), 0, prot=mmap.PROT_READ)
 
     def wait_for_run(self, colour, length, start, process):
-        """Seconds since `start` until a run of pixels of this colour stands somewhere; `process` is to paint it."""
+        """Seconds since `start` until a run of pixels of this colour is somewhere; `process` is to paint it."""
         runs = [(colour + last) * length for last in (b"\0", b"\xff")]
         end = time.monotonic() + PATIENCE
         while time.monotonic() < end:
@@ -98,10 +98,10 @@ def peak_memory(pid):
     for line in Path(f"/proc/{pid}/status").read_text().splitlines():
         if line.startswith("VmHWM"):
             return int(line.split()[1]) / 1024
-    raise AssertionError("no peak memory told")
+    raise AssertionError("no peak memory found")
 
 
-def measure_program(told, job):
+def measure_program(options, job):
     """What a user waits for in one run of the program."""
     with tempfile.TemporaryDirectory() as name:
         folder = Path(name)
@@ -113,7 +113,7 @@ def measure_program(told, job):
             screen.open()
             user = User(display.environment)
             start = time.monotonic()
-            process = host.start(told.build / "src/tarvis", job.mode,
+            process = host.start(options.build / "src/tarvis", job.mode,
                                  environment={**display.environment, "CUPS_SERVER": "127.0.0.1:1"},
                                  stderr=subprocess.DEVNULL)
             measured = {START: screen.wait_for_run(DIALOG_GREY, 200, start, process) * 1000}
@@ -133,7 +133,7 @@ def measure_program(told, job):
             display.close()
 
 
-def measure_empty_dialog(told, job):
+def measure_empty_dialog(options, job):
     """The start of the toolkit itself: an empty dialog."""
     with tempfile.TemporaryDirectory() as name:
         screen = Screen(Path(name))
@@ -141,7 +141,7 @@ def measure_empty_dialog(told, job):
         try:
             screen.open()
             start = time.monotonic()
-            process = subprocess.Popen([str(told.build / "bench/document_bench"), "dialog"],
+            process = subprocess.Popen([str(options.build / "bench/document_bench"), "dialog"],
                                        env={**os.environ, **display.environment}, stderr=subprocess.DEVNULL)
             try:
                 return {START: screen.wait_for_run(DIALOG_GREY, 200, start, process) * 1000}
@@ -152,24 +152,24 @@ def measure_empty_dialog(told, job):
             display.close()
 
 
-def measure_document(told, job, way):
+def measure_document(options, job, way):
     """The steps of one document in a process of its own."""
     with tempfile.TemporaryDirectory() as name:
         host = Host(name)
         host.prepare()
         write_job(host, job)
-        command = [str(told.build / "bench/document_bench"), way, job.record, f"{host.temp_folder}\\",
+        command = [str(options.build / "bench/document_bench"), way, job.record, f"{host.temp_folder}\\",
                    str(job.overlapped)]
         environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen", "XDG_RUNTIME_DIR": name}
         return json.loads(subprocess.run(command, env=environment, capture_output=True, text=True, check=True).stdout)
 
 
-def measured_with_patience(measure, told, job, *arguments):
+def measured_with_patience(measure, options, job, *arguments):
     """What `measure` gives. What goes wrong once is said and tried again; nothing if it goes wrong each time, so that
     the other results are not lost."""
     for left in reversed(range(TRIES)):
         try:
-            return measure(told, job, *arguments)
+            return measure(options, job, *arguments)
         except (AssertionError, OSError, subprocess.SubprocessError) as failure:
             print(f"{job.title}, {measure.__name__}: {failure}; {'trying again' if left else 'left out'}", file=sys.stderr)
     return {}
@@ -185,9 +185,9 @@ def part_benchmarks(folder, bench_folder):
     environment = {**os.environ, "TARVIS_BENCH_FOLDER": f"{folder}\\", "QT_QPA_PLATFORM": "offscreen",
                    "XDG_RUNTIME_DIR": folder}
     for program in ("core_bench", "readers_bench", "preview_bench", "pictures_bench"):
-        told = subprocess.run([str(bench_folder / program), "--benchmark_format=json"], env=environment,
+        done = subprocess.run([str(bench_folder / program), "--benchmark_format=json"], env=environment,
                               capture_output=True, text=True, check=True)
-        for row in json.loads(told.stdout)["benchmarks"]:
+        for row in json.loads(done.stdout)["benchmarks"]:
             scale = {"ns": 1e-6, "us": 1e-3, "ms": 1, "s": 1e3}[row["time_unit"]]
             yield f"{row['name']} [ms]", row["real_time"] * scale
             for counter in ("slowest_ms", "slowest_work_ms", "peak_megabytes"):
@@ -216,20 +216,20 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--build", type=Path, default=ROOT / "build/bench")
     parser.add_argument("--runs", type=int, default=5, help="runs of each document; the table holds the medians")
-    told = parser.parse_args()
+    options = parser.parse_args()
     ours, toolkits = [], []
     for job in JOBS:
-        ours.append(medians(told.runs, measure_program, told, job) |
-                    medians(told.runs, measure_document, told, job, "tarvis"))
-        toolkits.append(medians(told.runs, measure_empty_dialog, told, job) |
-                        medians(told.runs, measure_document, told, job, "toolkit"))
+        ours.append(medians(options.runs, measure_program, options, job) |
+                    medians(options.runs, measure_document, options, job, "tarvis"))
+        toolkits.append(medians(options.runs, measure_empty_dialog, options, job) |
+                        medians(options.runs, measure_document, options, job, "toolkit"))
     names = dict.fromkeys(name for own in ours for name in own)
     print_table(["whole documents (x toolkit's own way)", *(job.title for job in JOBS)],
                 [[name, *(compared(own.get(name), other.get(name)) for own, other in zip(ours, toolkits))] for name in names])
     print()
     with tempfile.TemporaryDirectory() as folder:
         write_parameter_file(Path(folder), JOBS[1].parameters)
-        print_table(["parts", "value"], [[name, f"{value:.2f}"] for name, value in part_benchmarks(folder, told.build / "bench")])
+        print_table(["parts", "value"], [[name, f"{value:.2f}"] for name, value in part_benchmarks(folder, options.build / "bench")])
 
 
 if __name__ == "__main__":

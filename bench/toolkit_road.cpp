@@ -28,7 +28,7 @@ std::vector<QStringList> ReadRows(const QString& path) {
   return rows;
 }
 
-// A parameter's values stand on the line behind its name: one row of both.
+// A parameter's values are on the line after its name: one row of both.
 std::vector<QStringList> ParameterRows(const std::vector<QStringList>& lines) {
   std::vector<QStringList> rows;
   for (const QStringList& line : lines) {

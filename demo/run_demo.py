@@ -15,13 +15,13 @@ from session import DIALOG, Session  # noqa: E402
 
 
 
-def prepared_host(told):
-    folder = told.output / told.mode
+def prepared_host(options):
+    folder = options.output / options.mode
     shutil.rmtree(folder, ignore_errors=True)
     host = Host(folder / "host")
     host.prepare()
-    host.write_data(told.mode, OVERLAPPED_SETS[told.mode] if told.overlap or told.mode == "SimEx" else 0)
-    if told.cover:
+    host.write_data(options.mode, OVERLAPPED_SETS[options.mode] if options.overlap or options.mode == "SimEx" else 0)
+    if options.cover:
         host.write_cover()
     return host
 
@@ -35,18 +35,18 @@ def take_stable(user, path):
     wait_until(unchanged, "a screen at rest")
 
 
-def show_by_itself(told, host):
-    """Drives dialog, preview, PDF and printer by keys; returns the files that tell of it."""
-    folder = told.output / told.mode
-    made = [folder / name for name in ("1-dialog.png", "2-preview.png", f"{told.mode}.pdf", "printed.pdf")]
+def show_by_itself(options, host):
+    """Drives dialog, preview, PDF and printer by keys; returns the files that show it."""
+    folder = options.output / options.mode
+    made = [folder / name for name in ("1-dialog.png", "2-preview.png", f"{options.mode}.pdf", "printed.pdf")]
     display, queue = VirtualDisplay(), PrintQueue()
     try:
         user = User(display.environment)
-        process = host.start(told.program, told.mode, environment={**display.environment, **queue.environment})
+        process = host.start(options.program, options.mode, environment={**display.environment, **queue.environment})
         session = Session(user, process)
         session.wait_for(DIALOG)
         take_stable(user, made[0])
-        if told.mode == "PrnSetting":
+        if options.mode == "PrnSetting":
             user.press("Return")
             process.wait(timeout=30)
             return made[:1] + [host.options_file]
@@ -70,14 +70,14 @@ def main():
     parser.add_argument("--headless", action="store_true", help="on a virtual display, even if there is a real one")
     parser.add_argument("--program", type=Path, default=ROOT / "build/release/src/tarvis", help=argparse.SUPPRESS)
     parser.add_argument("--output", type=Path, default=ROOT / "build/demo", help=argparse.SUPPRESS)
-    told = parser.parse_args()
-    if told.overlap and told.mode not in OVERLAPPING:
+    options = parser.parse_args()
+    if options.overlap and options.mode not in OVERLAPPING:
         parser.error(f"only {', '.join(OVERLAPPING)} can overlap")
-    host = prepared_host(told)
+    host = prepared_host(options)
     has_display = os.environ.get("DISPLAY") or os.environ.get("WAYLAND_DISPLAY")
-    if has_display and not told.headless:
-        return host.start(told.program, told.mode).wait()
-    made = show_by_itself(told, host)
+    if has_display and not options.headless:
+        return host.start(options.program, options.mode).wait()
+    made = show_by_itself(options, host)
     print("The program ran on a virtual display. See", *made, sep="\n  ")
     return 0
 

@@ -13,7 +13,7 @@ void Append(std::vector<std::uint8_t>& bytes, std::initializer_list<std::uint32_
       bytes.push_back(static_cast<std::uint8_t>(value >> shift));
 }
 
-// The records behind a header of their own, so that they are played whatever they are.
+// The records after a header of their own, so that they are played whatever they are.
 std::vector<std::uint8_t> AsMetafile(tarvis::Bytes records) {
   constexpr std::uint32_t headSize = 88, plusHeaderSize = 28, plusSignature = 0x2B464D45;
   const auto size = static_cast<std::uint32_t>(records.size() / 4 * 4);

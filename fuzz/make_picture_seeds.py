@@ -2,7 +2,7 @@
 """Writes a seed for each kind of record of metafiles, and for each object of the extended ones.
 
 make_picture_seeds.py FOLDER fills FOLDER/emf, FOLDER/emf_plus and FOLDER/wmf. Each seed is a small metafile that
-holds its record once, with parameters that make sense, behind the objects that it needs.
+holds its record once, with parameters that make sense, after the objects that it needs.
 """
 import struct
 import sys

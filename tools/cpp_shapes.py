@@ -33,7 +33,7 @@ def _blanked(text):
 
 
 def _plain(head):
-    """A declaration without arguments of templates, without what stands between brackets, and with operators named."""
+    """A declaration without arguments of templates, without what is between brackets, and with operators named."""
     head = re.sub(r"operator\s*(?:\(\s*\)|[^\s\w(]+)", "operator_", head)
     while (shorter := re.sub(r"<[^<>]*>", "", head)) != head:
         head = shorter

@@ -23,8 +23,8 @@ COLOURS = 96
 class Stage:
     """One run of the program, and the screen that it is seen on."""
 
-    def __init__(self, told, user, session, folder):
-        self.told = told
+    def __init__(self, options, user, session, folder):
+        self.options = options
         self.user = user
         self.session = session
         self._folder = folder
@@ -66,7 +66,7 @@ class Stage:
         self.user.screenshot(raw, window, framed=not (crop or whole))
         cut = ["-crop", crop, "+repage"] if crop else ["-trim", "+repage"] if whole else []
         subprocess.run(["convert", raw, *cut, "-strip", "+dither", "-colors", str(COLOURS), "-define",
-                        "png:compression-level=9", f"PNG8:{self.told.output / name}.png"], check=True)
+                        "png:compression-level=9", f"PNG8:{self.options.output / name}.png"], check=True)
 
 
 def take_dialog(stage):
@@ -174,7 +174,7 @@ RUNS = (
 
 
 @contextmanager
-def stage_of(told, display, run):
+def stage_of(options, display, run):
     """The program at its dialog, with the host's data for this run; gone at the end."""
     with tempfile.TemporaryDirectory() as name:
         folder = Path(name)
@@ -186,9 +186,9 @@ def stage_of(told, display, run):
         environment = {**display.environment, "CUPS_SERVER": "127.0.0.1:1", "XDG_RUNTIME_DIR": name, "HOME": name,
                        "LANG": "C.UTF-8"}
         user = User(display.environment)
-        process = host.start(told.program, run.mode, run.edition, environment=environment, cwd=folder)
+        process = host.start(options.program, run.mode, run.edition, environment=environment, cwd=folder)
         try:
-            stage = Stage(told, user, Session(user, process), folder)
+            stage = Stage(options, user, Session(user, process), folder)
             stage.temp_folder = host.temp_folder
             stage.session.wait_for(DIALOG)
             stage.rest()
@@ -203,14 +203,14 @@ def main():
     parser.add_argument("--program", type=Path, default=ROOT / "build/release/src/tarvis", help=argparse.SUPPRESS)
     parser.add_argument("--output", type=Path, default=ROOT / "docs/pictures", help=argparse.SUPPRESS)
     parser.add_argument("names", nargs="*", help="pictures to make; all if none is named")
-    told = parser.parse_args()
-    told.output.mkdir(parents=True, exist_ok=True)
+    options = parser.parse_args()
+    options.output.mkdir(parents=True, exist_ok=True)
     display = VirtualDisplay()
     try:
         for run in RUNS:
-            if told.names and not set(told.names) & set(run.names):
+            if options.names and not set(options.names) & set(run.names):
                 continue
-            with stage_of(told, display, run) as stage:
+            with stage_of(options, display, run) as stage:
                 run.take(stage)
     finally:
         display.close()

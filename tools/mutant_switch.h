@@ -1,4 +1,4 @@
-// Compiled into the copy of tools/mutate only, where many changes stand side by side: the one whose number
+// Compiled into the copy of tools/mutate only, where many changes are side by side: the one whose number
 // the environment variable TARVIS_MUTANT holds is made, all others are not.
 #pragma once
 

@@ -56,7 +56,7 @@ class Mutant:
         return code[:self.start] + self.new + code[self.end:]
 
     def switch(self, number):
-        """The texts before and behind `old` that make the change when mutant `number` is chosen at run time, and whether
+        """The texts before and after `old` that make the change when mutant `number` is chosen at run time, and whether
         `old` itself stays between them; None for what can only be changed by itself."""
         if self.kind == "number" or self.old in ("true", "false"):
             return f"Mutated({number}LL, {self.old}, {self.new})", "", False
@@ -156,7 +156,7 @@ def opens_code(tokens, index, begin):
 
 
 def statements(tokens):
-    """(first, last) indices of all that ends in a semicolon and stands among statements."""
+    """(first, last) indices of all that ends in a semicolon and is among statements."""
     blocks = [{"code": False, "depth": 0, "begin": 0}]
     for index, token in enumerate(tokens):
         block = blocks[-1]
@@ -178,7 +178,7 @@ def statements(tokens):
 
 
 def without_control(tokens, first, last):
-    """The index of the statement proper, behind `if (...)`, `else`, `for (...)` and labels."""
+    """The index of the statement proper, after `if (...)`, `else`, `for (...)` and labels."""
     while first < last:
         word = tokens[first].text
         if word in ("if", "for", "while") or (word == "constexpr" and tokens[first - 1].text == "if"):
@@ -195,7 +195,7 @@ def without_control(tokens, first, last):
 
 
 def is_declaration(tokens, first, last):
-    """Whether two names stand side by side, as in `Band first = ...` or `std::size_t end`."""
+    """Whether two names are side by side, as in `Band first = ...` or `std::size_t end`."""
     at = first
     while at < last and (tokens[at].kind == "word" or tokens[at].text == "::"):
         if tokens[at].kind == "word" and tokens[at + 1].kind == "word":
@@ -229,12 +229,12 @@ def with_switches(code, numbered):
     """The code with all (number, mutant) of it that can be switched side by side."""
     pieces = []  # (place, order at that place, text, length of what it replaces)
     for number, mutant in numbered:
-        before, behind, keeps = mutant.switch(number)
+        before, after, keeps = mutant.switch(number)
         if not keeps:
             pieces.append((mutant.start, 0, before, len(mutant.old)))
         else:
-            pieces.append((mutant.start, -len(mutant.old), before, 0))  # the longest stands outermost
-            pieces.append((mutant.end, len(mutant.old) - len(code), behind, 0))
+            pieces.append((mutant.start, -len(mutant.old), before, 0))  # the longest is outermost
+            pieces.append((mutant.end, len(mutant.old) - len(code), after, 0))
     made, position = ['#include "mutant_switch.h"\n'], 0
     for place, _, text, length in sorted(pieces):
         made += [code[position:place], text]

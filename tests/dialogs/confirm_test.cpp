@@ -1,5 +1,5 @@
 // The dialog that is confirmed at once, and the same without a dialog: options, session and messages are
-// alike.
+// the same.
 #include "session/confirm.h"
 
 #include "dialogs/dialog_run.h"

@@ -22,7 +22,7 @@ inline void Grab(QWidget& window, const std::string& name) {
   if (!folder.isEmpty()) window.grab().save(folder + "/" + QString::fromStdString(name) + ".png");
 }
 
-// Labels and controls that stand side by side on one surface.
+// Labels and controls that are side by side on one surface.
 inline std::vector<QWidget*> Visible(const QWidget& container) {
   std::vector<QWidget*> shown;
   for (QWidget* child : container.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
@@ -32,8 +32,8 @@ inline std::vector<QWidget*> Visible(const QWidget& container) {
   }
   return shown;
 }
-// The told places of neighbours overlap by up to 30 twips of their empty edges; and the text boxes of title
-// and greeting lie on the empty end of what stands beside or above them.
+// The designed places of neighbours overlap by up to 30 twips of their empty edges; and the text boxes of
+// title and greeting lie on the empty end of what is beside or above them.
 inline bool Overlap(const QWidget& a, const QWidget& b) {
   if (a.objectName() == "chkHeader_0" && b.objectName() == "txtTitle") return false;
   if (a.objectName() == "lblGreeting" && b.objectName() == "txtGreeting") return false;
@@ -77,7 +77,7 @@ inline void ExpectTabsWhole(const QTabBar& bar) {
     EXPECT_TRUE(bar.rect().contains(bar.tabRect(tab))) << tab;
   }
 }
-// No two mnemonics that are alive at the same time are alike.
+// No two mnemonics that are alive at the same time are the same.
 inline void ExpectMnemonicsUnlike(const QWidget& window) {
   std::map<QString, std::string> owners;
   const auto claim = [&owners](const QString& caption, const std::string& owner) {

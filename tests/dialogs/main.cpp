@@ -2,8 +2,8 @@
 
 #include "dialogs/test_application.h"
 
-// Ending a run is an exception in these tests. Where it passes through the toolkit's own frames, these leave
-// behind what they would have freed on their way back; the real program ends its process there.
+// Ending a run is an exception in these tests. Where it passes through the toolkit's own frames, these don't
+// free what they would have freed on their way back; the real program ends its process there.
 // NOLINTNEXTLINE(bugprone-reserved-identifier): the sanitizer's own name
 extern "C" const char* __lsan_default_suppressions() {
   return "leak:QArrayData::allocate\n"

@@ -1,17 +1,17 @@
-// Where each control of the dialogs is told to be, in twips.
+// Where each control of the dialogs is designed to be, in twips.
 #include "dialogs/cover_editor.h"
 
 namespace tarvis {
 namespace {
 
-// Places are relative to what a control stands in.
-struct Told {
+// Places are relative to what contains a control.
+struct Designed {
   const char* Name;
   Bounds Place;
 };
 
 // clang-format off
-const std::vector<Told> OfDialog = {
+const std::vector<Designed> OfDialog = {
     {"Frame1", {120, 45, 5300, 2640}},
     {"chkCover", {240, 225, 1815, 375}},
     {"cmdEdit", {2640, 240, 1695, 495}},
@@ -39,7 +39,7 @@ const std::vector<Told> OfDialog = {
     {"cmdCancel", {3015, 7650, 1455, 375}},
 };
 
-const std::vector<Told> OfFirstTab = {
+const std::vector<Designed> OfFirstTab = {
     {"Label2", {150, 390, 835, 180}},
     {"chkHeader_0", {330, 660, 1215, 255}},
     {"txtTitle", {1305, 660, 3330, 315}},
@@ -50,7 +50,7 @@ const std::vector<Told> OfFirstTab = {
     {"chkFooter", {330, 2460, 1215, 255}},
 };
 
-const std::vector<Told> OfUser = {
+const std::vector<Designed> OfUser = {
     {"Label4", {150, 390, 2535, 210}},
     {"chkItemUser_0", {360, 600, 1215, 255}},
     {"chkItemUser_1", {360, 840, 1485, 255}},
@@ -60,12 +60,12 @@ const std::vector<Told> OfUser = {
     {"chkItemEtc", {330, 2040, 1485, 255}},
 };
 
-const std::vector<Told> OfComments = {
+const std::vector<Designed> OfComments = {
     {"Label1", {150, 600, 495, 210}},
     {"chkItemEtc", {330, 840, 1485, 255}},
 };
 
-const std::vector<Told> OfTrace = {
+const std::vector<Designed> OfTrace = {
     {"Label6", {120, 360, 870, 210}},
     {"chkItemOverlap", {360, 600, 2205, 255}},
     {"Label4", {150, 870, 1155, 210}},
@@ -81,7 +81,7 @@ const std::vector<Told> OfTrace = {
     {"chkItemEtc", {360, 2700, 1485, 255}},
 };
 
-const std::vector<Told> OfRealTrace = {
+const std::vector<Designed> OfRealTrace = {
     {"Label4", {150, 390, 1155, 210}},
     {"chkItemGraph_0", {330, 600, 2340, 255}},
     {"Label5", {150, 1080, 2535, 210}},
@@ -94,7 +94,7 @@ const std::vector<Told> OfRealTrace = {
     {"chkItemEtc", {330, 2520, 1485, 255}},
 };
 
-const std::vector<Told> OfMecha = {
+const std::vector<Designed> OfMecha = {
     {"Label4", {150, 390, 1155, 210}},
     {"chkItemGraph_0", {330, 600, 3120, 255}},
     {"chkItemGraph_1", {330, 840, 2160, 255}},
@@ -104,7 +104,7 @@ const std::vector<Told> OfMecha = {
     {"chkItemEtc", {330, 1980, 1485, 255}},
 };
 
-const std::vector<Told> OfSim = {
+const std::vector<Designed> OfSim = {
     {"Label4", {150, 390, 1155, 210}},
     {"chkItemGraph_0", {330, 600, 1695, 375}},
     {"chkItemGraph_1", {330, 960, 1965, 375}},
@@ -120,7 +120,7 @@ const std::vector<Told> OfSim = {
     {"chkItemEtc", {330, 2640, 1485, 255}},
 };
 
-const std::vector<Told> OfOverlapping = {
+const std::vector<Designed> OfOverlapping = {
     {"Label4", {150, 480, 870, 210}},
     {"chkItemOverlap_0", {360, 720, 1695, 375}},
     {"chkItemOverlap_1", {2520, 720, 1725, 375}},
@@ -129,7 +129,7 @@ const std::vector<Told> OfOverlapping = {
     {"Label1", {2115, 1440, 2415, 495}},
 };
 
-const std::vector<Told> OfDetails = {
+const std::vector<Designed> OfDetails = {
     {"Label8", {120, 360, 1155, 210}},
     {"chkItemGraph_0", {300, 570, 1695, 375}},
     {"chkItemGraph_1", {300, 930, 1965, 375}},
@@ -145,7 +145,7 @@ const std::vector<Told> OfDetails = {
     {"chkItemEtc", {300, 2610, 1485, 255}},
 };
 
-const std::vector<Told> OfProgramTable = {
+const std::vector<Designed> OfProgramTable = {
     {"Label4", {150, 390, 1905, 210}},
     {"optRange_0", {360, 640, 2415, 255}},
     {"optRange_1", {360, 980, 3615, 255}},
@@ -158,7 +158,7 @@ const std::vector<Told> OfProgramTable = {
     {"chkItemEtc", {330, 2040, 1485, 255}},
 };
 
-const std::vector<Told> OfSubmitter = {
+const std::vector<Designed> OfSubmitter = {
     {"txtDrow_0", {1500, 555, 4600, 315}},
     {"txtDrow_1", {1500, 930, 4600, 540}},
     {"txtDrow_2", {1500, 1590, 4600, 315}},
@@ -171,7 +171,7 @@ const std::vector<Told> OfSubmitter = {
     {"cmdConpare", {6345, 4005, 915, 345}},
 };
 
-const std::vector<Told> OfAddressee = {
+const std::vector<Designed> OfAddressee = {
     {"_0", {1500, 705, 5145, 315}},
     {"_1", {1500, 1245, 4600, 315}},
     {"_2", {1500, 1785, 4600, 540}},
@@ -179,7 +179,7 @@ const std::vector<Told> OfAddressee = {
     {"_4", {1500, 3150, 4600, 540}},
 };
 
-const std::vector<Told> OfGreeting = {
+const std::vector<Designed> OfGreeting = {
     {"lblGreeting", {315, 675, 5775, 825}},
     {"txtGreeting", {135, 1440, 7700, 2100}},
 };
@@ -192,8 +192,9 @@ bool IsCaption(const QWidget& control) {
          qobject_cast<const QRadioButton*>(&control) != nullptr;
 }
 
-// Where a control belongs that is told this place. A caption that doesn't fit has what it needs: to the right
-// on one line, or, where two lines have room, downwards; a label of one line in height, above and below.
+// Where a control belongs that is designed for this place. A caption that doesn't fit has what it needs: to
+// the right on one line, or, where two lines have room, downwards; a label of one line in height, above and
+// below.
 QRect Expected(const QWidget& control, const Bounds& place) {
   QRect expected = PixelRect(place, control);
   if (!IsCaption(control)) return expected;
@@ -211,16 +212,16 @@ QRect Expected(const QWidget& control, const Bounds& place) {
 
 class Places : public CoverEditor {
  protected:
-  void ExpectPlaces(const QWidget& container, const std::vector<Told>& controls) {
-    for (const Told& told : controls) ExpectPlace(container, told.Name, told.Place);
+  void ExpectPlaces(const QWidget& container, const std::vector<Designed>& controls) {
+    for (const Designed& control : controls) ExpectPlace(container, control.Name, control.Place);
   }
   static void ExpectPlace(const QWidget& container, const std::string& name, const Bounds& place) {
     const auto* control = container.findChild<QWidget*>(QString::fromStdString(name));
     ASSERT_NE(control, nullptr) << name;
     EXPECT_EQ(control->geometry(), Expected(*control, place)) << name;
   }
-  // The first tab, and what else is told of the page's tabs.
-  void ExpectPage(const char* name, const std::vector<Told>& items, int tab = 1) {
+  // The first tab, and what else is designed of the page's tabs.
+  void ExpectPage(const char* name, const std::vector<Designed>& items, int tab = 1) {
     SCOPED_TRACE(name);
     const TabControl& tabs = Page(name).Tabs();
     EXPECT_EQ(tabs.geometry(), PixelRect({0, 0, 4935, 3015}, tabs));
@@ -258,8 +259,8 @@ TEST_F(Places, MatchTheDesignOfTheCoverEditor) {
                          {"cmdCancel", {4515, 4890, 1455, 375}}});
   ExpectPlaces(*Tabs().Page(0), OfSubmitter);
   for (int block = 1; block <= 3; ++block) {
-    for (const Told& told : OfAddressee)
-      ExpectPlace(*Tabs().Page(block), "txtUser" + std::to_string(block) + told.Name, told.Place);
+    for (const Designed& control : OfAddressee)
+      ExpectPlace(*Tabs().Page(block), "txtUser" + std::to_string(block) + control.Name, control.Place);
   }
   ExpectPlaces(*Tabs().Page(4), OfGreeting);
 }

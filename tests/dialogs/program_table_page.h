@@ -12,7 +12,7 @@ inline const std::string WrongStep = "Input Error|Wrong the inputted STEP number
 
 class ProgramTablePage : public DialogRun {
  protected:
-  // A print of the table at hand with this many steps, its second tab in front.
+  // A print of a table with this many steps, its second tab in front.
   void OpenTable(int steps) {
     WriteFile("IdxIdxTbl.tmp", "IndexCnt," + std::to_string(steps) + "\r\n");
     Open(2, "", "IdxTbl");

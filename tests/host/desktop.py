@@ -52,8 +52,8 @@ class VirtualDisplay:
                                          "-nolisten", "tcp", "-noreset", "-r", *server_options],
                                         pass_fds=[write_end], stderr=subprocess.DEVNULL, preexec_fn=end_with_parent)
         os.close(write_end)
-        with os.fdopen(read_end) as told:
-            number = told.readline().strip()
+        with os.fdopen(read_end) as answer:
+            number = answer.readline().strip()
         if number:
             return f":{number}"
         self._server.wait()
@@ -71,9 +71,9 @@ class VirtualDisplay:
             self._manager = self._start_manager()
         environment = {**os.environ, **self.environment}
         subprocess.run(["xdotool", "set_num_desktops", str(DESKTOPS)], env=environment, capture_output=True, check=False)
-        told = subprocess.run(["xprop", "-root", "_NET_NUMBER_OF_DESKTOPS"], env=environment,
+        answer = subprocess.run(["xprop", "-root", "_NET_NUMBER_OF_DESKTOPS"], env=environment,
                               capture_output=True, text=True, check=False)
-        return told.stdout.split()[-2:] == ["=", str(DESKTOPS)]
+        return answer.stdout.split()[-2:] == ["=", str(DESKTOPS)]
 
     def close(self):
         for process in (self._manager, self._server):
@@ -140,8 +140,8 @@ class User:
         self._clipboard = subprocess.Popen(["xclip", "-quiet", "-selection", selection], env=self._environment,
                                            stdin=subprocess.PIPE, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
                                            text=True, preexec_fn=end_with_parent)
-        with self._clipboard.stdin as told:
-            told.write(text)
+        with self._clipboard.stdin as clipboard:
+            clipboard.write(text)
         wait_until(lambda: self._run("xclip", "-o", "-selection", selection, check=False) == text, "the clipboard")
 
     def click(self, window, x, y, button=1):
@@ -150,8 +150,8 @@ class User:
 
     def place(self, window):
         """Left, top, width and height of a window's inside, in pixels of the display."""
-        told = self._run("xdotool", "getwindowgeometry", "--shell", window)
-        values = dict(line.split("=") for line in told.splitlines())
+        geometry = self._run("xdotool", "getwindowgeometry", "--shell", window)
+        values = dict(line.split("=") for line in geometry.splitlines())
         return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
 
     def screenshot(self, path, window="root", framed=False):

@@ -40,7 +40,7 @@ class Graph:
 
 
 def pen_of(curve, coloured):
-    """Colour, width and style of a curve; without colour the styles tell curves apart."""
+    """Colour, width and style of a curve; without colour the styles distinguish the curves."""
     if coloured:
         return COLOURS[curve % 3], 4, SOLID
     return 0x000000, 4 if curve == 0 else 2, (SOLID, DASHED, DOTTED)[curve % 3]
@@ -58,7 +58,7 @@ def legend(coloured, names, path):
 
 
 def io_legend(path):
-    """Tells what the levels of the input and output signals mean."""
+    """Explains what the levels of the input and output signals mean."""
     sheet = Metafile(700, 240)
     sheet.font(52)
     sheet.text(20, 66, "Upper level: signal on")

@@ -93,6 +93,6 @@ class Host:
     def start_with(self, program, arguments, environment=None, through=(), **popen):
         """The same with any arguments. A variable that is None is not set; `through` is a command that ends by
         becoming the program."""
-        told = {**os.environ, "TARVIS_CONFIG": str(self.configuration), **(environment or {})}
-        told = {name: value for name, value in told.items() if value is not None}
-        return subprocess.Popen([*through, str(program), *arguments], env=told, **popen)
+        variables = {**os.environ, "TARVIS_CONFIG": str(self.configuration), **(environment or {})}
+        variables = {name: value for name, value in variables.items() if value is not None}
+        return subprocess.Popen([*through, str(program), *arguments], env=variables, **popen)

@@ -114,7 +114,7 @@ def write_mecha(folder):
 
 
 def _schematic(path):
-    """The servo pack with its encoder; the wizard's relays and texts stand on a grid beside it."""
+    """The servo pack with its encoder; the wizard's relays and texts are on a grid beside it."""
     picture = Bitmap(640, 420)
     picture.path((44, 60), (44, 405))
     picture.box(272, 60, 414, 405, inside=0xF0FFE8)

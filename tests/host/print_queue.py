@@ -93,7 +93,7 @@ class PrintQueue:
     """The PDF back end works for the system's own user only, so elsewhere the server is started through sudo."""
 
     def __init__(self, more_options=""):
-        """`more_options` are options that the queue's printer has besides paper, as a printer description tells them."""
+        """`more_options` are options that the queue's printer has besides paper, as a printer description lists them."""
         self._as_root = [] if os.getuid() == 0 else ["sudo", "-n"]
         self._turn = _take_turn()
         self.folder = Path(tempfile.mkdtemp(prefix="print-queue-"))
@@ -128,9 +128,9 @@ class PrintQueue:
         self._run("lpadmin", "-x", QUEUE)
 
     def _run(self, *command):
-        told = {**os.environ, "CUPS_SERVER": self.environment["CUPS_SERVER"],
+        environment = {**os.environ, "CUPS_SERVER": self.environment["CUPS_SERVER"],
                 "CUPS_USER": pwd.getpwuid(0).pw_name}
-        return subprocess.run(command, env=told, capture_output=True, text=True, check=True).stdout
+        return subprocess.run(command, env=environment, capture_output=True, text=True, check=True).stdout
 
     def _answers(self):
         try:

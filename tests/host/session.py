@@ -6,7 +6,7 @@ PREVIEW = "Print Preview"
 
 
 class Session:
-    """`process` is the program just started at the display where `user` sits. `is_ready` tells more exactly than the
+    """`process` is the program just started at the display where `user` sits. `is_ready` says more exactly than the
     display can whether the program itself knows that its window of a title has the focus."""
 
     def __init__(self, user, process, is_ready=lambda title: True):
@@ -15,7 +15,7 @@ class Session:
         self._is_ready = is_ready
 
     def wait_for(self, title, seconds=60):
-        """Until the window has the focus. A program that ends instead is told with its exit status."""
+        """Until the window has the focus. A program that ends instead is reported with its exit status."""
         try:
             return wait_until(lambda: self._focused(title), f"the window '{title}'", seconds)
         except Timeout as timeout:

@@ -167,8 +167,8 @@ inline std::shared_ptr<const MetafilePicture> Play(const std::string& bytes) {
   return LooksLikeEmf(view) ? LoadEmf(view, glyphs, budget) : LoadWmf(view, glyphs, budget);
 }
 
-// A bitmap of 24 bits: header and rows, bottom row first, all pixels as told by `color(x, y)` with y from the
-// top.
+// A bitmap of 24 bits: header and rows, bottom row first, all pixels as `color(x, y)` gives them with y from
+// the top.
 template <typename Color>
 ByteWriter Dib24(int width, int height, Color color) {
   ByteWriter out;

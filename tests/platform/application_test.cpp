@@ -16,7 +16,7 @@
 namespace tarvis {
 namespace {
 
-// Tells what boxes were shown on standard error, where the test reads it.
+// Reports what boxes were shown on standard error, where the test reads it.
 class TellingDesktop : public QtDesktop {
  public:
   void ShowMessage(const std::string& title, const std::string& text) override {

@@ -14,7 +14,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// Counts what it is told, which comes from another thread; the lines are read when the watch is gone.
+// Counts what it receives, which comes from another thread; the lines are read when the watch is gone.
 class CountingDesktop : public FakeDesktop {
  public:
   void Diagnose(const std::string& line) override {

@@ -13,7 +13,7 @@ class DocumentBuilder {
  public:
   explicit DocumentBuilder(const std::string& title = "Parameter List");
 
-  // A4 unless told otherwise.
+  // A4 unless set otherwise.
   DocumentBuilder& Paper(float width, float height);
   DocumentBuilder& Page();
   // A table row: bordered cells of equal width, one text each. A new band.

@@ -88,7 +88,7 @@ TEST(PagePainter, ClipsTextTooWideForItsBoxAtBothSides) {
   ASSERT_TRUE(clip);
   EXPECT_EQ(clip->Left, 100);
   EXPECT_EQ(clip->Right(), 600);
-  EXPECT_GT(clip->Bottom(), 390) << "letters may stand below their line";
+  EXPECT_GT(clip->Bottom(), 390) << "letters may reach below their line";
 }
 
 }  // namespace

@@ -17,7 +17,7 @@ class PaintedPages : public WindowTest {
     Open(builder.Build());
     return picture;
   }
-  // What stands at a place (twips) of the ninth page.
+  // What is at a place (twips) of the ninth page.
   QColor Shown() {
     const QPoint place = At(8, 8000, 3000);
     return View().viewport()->grab().toImage().pixelColor(place);

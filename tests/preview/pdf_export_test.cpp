@@ -122,14 +122,15 @@ TEST_F(PdfExport, ToolsFindNothingToComplainAbout) {
                   .contains(QStringLiteral("No syntax or stream encoding errors")));
   EXPECT_EQ(RunTool("pdftocairo", {QStringLiteral("-svg"), Path(), QStringLiteral("/dev/null")}), QString());
   for (const char* tool : {"pdfinfo", "pdffonts", "pdftotext"}) {
-    const QString told =
+    const QString output =
         RunTool(tool, tool == std::string("pdftotext") ? QStringList{Path(), QStringLiteral("/dev/null")}
                                                        : QStringList{Path()});
-    EXPECT_FALSE(told.contains(QStringLiteral("Warning")) || told.contains(QStringLiteral("Error"))) << tool;
+    EXPECT_FALSE(output.contains(QStringLiteral("Warning")) || output.contains(QStringLiteral("Error")))
+        << tool;
   }
   QString drawn = RunTool("mutool", {QStringLiteral("draw"), QStringLiteral("-F"), QStringLiteral("stext"),
                                      QStringLiteral("-o"), QStringLiteral("/dev/null"), Path()});
-  drawn.remove(QStringLiteral("warning: ICC support is not available"));  // tells how the tool was built
+  drawn.remove(QStringLiteral("warning: ICC support is not available"));  // says how the tool was built
   EXPECT_TRUE(drawn.contains(QStringLiteral("page ")));
   EXPECT_FALSE(drawn.contains(QStringLiteral("warning")) || drawn.contains(QStringLiteral("error")))
       << drawn.toStdString();

@@ -21,7 +21,7 @@ inline QString PdfText(const QString& path) {
   return RunTool("pdftotext", {QStringLiteral("-layout"), path, QStringLiteral("-")});
 }
 
-// A line of what pdfinfo tells, such as "Pages".
+// A line of what pdfinfo prints, such as "Pages".
 inline QString PdfFact(const QString& path, const char* key) {
   for (const QString& line : RunTool("pdfinfo", {path}).split(QLatin1Char('\n'))) {
     if (line.startsWith(QString::fromLatin1(key) + QLatin1Char(':')))

@@ -1,4 +1,4 @@
-// The plain arithmetic of the view: where pages stand, what is rendered and kept, and places visited.
+// The plain arithmetic of the view: where pages are, what is rendered and kept, and places visited.
 #include <gtest/gtest.h>
 
 #include "preview/pages/page_layout.h"

@@ -69,7 +69,7 @@ class Print : public WindowTest {
   }
   QString Path(const char* name) const { return folder_.filePath(QString::fromLatin1(name)); }
   QString Asked(const char* option) const { return job_.value(QString::fromLatin1(option)).toString(); }
-  // The numbers of the pages in a file, in their order, as their foot tells them.
+  // The numbers of the pages in a file, in their order, as they are at their feet.
   QStringList Pages(const char* file) const {
     QStringList numbers;
     static const QRegularExpression foot(QStringLiteral("Page (\\d+) /"));
@@ -150,7 +150,7 @@ class Print : public WindowTest {
     EXPECT_EQ(PdfFact(Path("printed.pdf"), "Pages"), PdfFact(Path("received.pdf"), "Pages"));
   }
 
-  // Has the printer vanish in the midst of a print and expects that to be told with its reason.
+  // Has the printer vanish in the midst of a print and expects that to be reported with its reason.
   void LoseWhilePrinting(const std::function<bool(PrintServer&)>& lose, const char* reason) {
     const auto picture = StartAndHold();
     EXPECT_TRUE(lose(PrintServer::Instance()));

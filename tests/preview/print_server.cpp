@@ -31,7 +31,7 @@ QJsonObject PrintServer::NextJob(const QString& received, const QString& printed
   return QJsonDocument::fromJson(ReadLine().toUtf8()).object();
 }
 
-bool PrintServer::Tell(const char* command) {
+bool PrintServer::Order(const char* command) {
   process_.write(command + QByteArray("\n"));
   return ReadLine().trimmed() == QLatin1String("done");
 }

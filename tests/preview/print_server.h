@@ -20,13 +20,13 @@ class PrintServer {
   QJsonObject NextJob(const QString& received, const QString& printed);
 
   // The queue is taken away and set up again; so is the whole server. True if that worked.
-  bool RemoveQueue() { return Tell("remove"); }
-  bool RestoreQueue() { return Tell("restore"); }
-  bool StopServer() { return Tell("stop"); }
-  bool StartServer() { return Tell("start"); }
+  bool RemoveQueue() { return Order("remove"); }
+  bool RestoreQueue() { return Order("restore"); }
+  bool StopServer() { return Order("stop"); }
+  bool StartServer() { return Order("start"); }
 
  private:
-  bool Tell(const char* command);
+  bool Order(const char* command);
   QString ReadLine();
 
   QProcess process_;

@@ -60,7 +60,7 @@ class SavePdf : public WindowTest {
     QFile file(Path("old.pdf"));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
   }
-  // What the message about the failure tells.
+  // What the message about the failure says.
   QString WaitForFailure() {
     const auto box = [this] { return window_->findChild<QMessageBox*>(QStringLiteral("outputFailure")); };
     return QTest::qWaitFor([&] { return box() != nullptr; }) ? box()->informativeText() : QString();

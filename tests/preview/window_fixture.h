@@ -55,7 +55,7 @@ class WindowTest : public testing::Test {
   PageView& View() { return window_->View(); }
   int Page() { return View().CurrentPage(); }
   int Percent() { return qRound(View().Zoom() * 100); }
-  // Where a place of a page (twips) stands in the view.
+  // Where a place of a page (twips) is in the view.
   QPoint At(int page, double x, double y) {
     const PageLayout& layout = View().Layout();
     const QPointF offset(View().horizontalScrollBar()->value(), View().verticalScrollBar()->value());

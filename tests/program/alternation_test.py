@@ -10,7 +10,7 @@ from saved_pdf import page_count, words_in_a_row
 
 ROUNDS = 10
 SETTLED = 2  # rounds after which fonts, icons and pictures are all there
-GROWTH = 1024  # kilobytes; a dialog or preview that stays behind in each round takes ten times as much and more
+GROWTH = 1024  # kilobytes; a dialog or preview that stays in memory in each round takes ten times as much and more
 
 # Whoever frees memory gives it back at once, so that what the process holds is what the program holds.
 GIVING_BACK = {"MALLOC_ARENA_MAX": "1", "MALLOC_TRIM_THRESHOLD_": "0", "MALLOC_MMAP_THRESHOLD_": "65536",
@@ -20,8 +20,8 @@ GIVING_BACK = {"MALLOC_ARENA_MAX": "1", "MALLOC_TRIM_THRESHOLD_": "0", "MALLOC_M
 class Alternation(ProgramCase):
     def memory_of(self, session):
         """In kilobytes."""
-        told = Path(f"/proc/{session.process.pid}/status").read_text()
-        return int(re.search(r"VmRSS:\s+(\d+) kB", told)[1])
+        status = Path(f"/proc/{session.process.pid}/status").read_text()
+        return int(re.search(r"VmRSS:\s+(\d+) kB", status)[1])
 
     def saved_words(self, session):
         session.save_pdf(self.folder / "document.pdf")

@@ -30,7 +30,7 @@ class Widget:
 
     @property
     def text(self):
-        """What stands in a text box."""
+        """The text of a text box."""
         return self._ask(lambda a: Atspi.Text.get_text(a, 0, -1), "") or ""
 
     def has(self, state):

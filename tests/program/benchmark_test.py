@@ -13,7 +13,7 @@ sys.path.insert(0, str(ROOT / "bench"))
 import program_bench  # noqa: E402
 
 JOB = program_bench.Job("200 rows", "User", parameters=200)
-TOLD = SimpleNamespace(build=None, runs=3)
+OPTIONS = SimpleNamespace(build=None, runs=3)
 
 
 class Measurements:
@@ -24,7 +24,7 @@ class Measurements:
         self._wrong = wrong
         self.runs = 0
 
-    def __call__(self, told, job, *way):
+    def __call__(self, options, job, *way):
         self.runs += 1
         if self.runs - 1 in self._wrong:
             raise AssertionError("nothing came up on the screen within 30 s")
@@ -35,25 +35,25 @@ class ProgramBench(unittest.TestCase):
     def medians(self, measure):
         """The medians of three runs, and what was said meanwhile."""
         with contextlib.redirect_stderr(io.StringIO()) as said:
-            return program_bench.medians(3, measure, TOLD, JOB), said.getvalue().splitlines()
+            return program_bench.medians(3, measure, OPTIONS, JOB), said.getvalue().splitlines()
 
     def test_tries_a_start_again_and_says_so(self):
         measure = Measurements(wrong={1})
-        told, said = self.medians(measure)
-        self.assertEqual(told, {program_bench.START: 100.0})
+        result, said = self.medians(measure)
+        self.assertEqual(result, {program_bench.START: 100.0})
         self.assertEqual(measure.runs, 4)
         self.assertEqual(said, ["200 rows, measure_start: nothing came up on the screen within 30 s; trying again"])
 
     def test_goes_on_without_a_measurement_that_always_goes_wrong(self):
-        told, said = self.medians(Measurements(wrong=range(100)))
-        self.assertEqual(told, {})
+        result, said = self.medians(Measurements(wrong=range(100)))
+        self.assertEqual(result, {})
         self.assertEqual(sum("left out" in line for line in said), 3)
 
     def test_prints_the_table_of_what_it_has(self):
         good, wrong = Measurements(wrong=()), Measurements(wrong=range(100))
-        told = {"measure_program": wrong, "measure_document": good, "measure_empty_dialog": wrong,
+        measures = {"measure_program": wrong, "measure_document": good, "measure_empty_dialog": wrong,
                 "part_benchmarks": lambda *_: [("a part [ms]", 1.0)]}
-        with mock.patch.multiple(program_bench, **told), mock.patch.object(sys, "argv", ["bench"]), \
+        with mock.patch.multiple(program_bench, **measures), mock.patch.object(sys, "argv", ["bench"]), \
                 contextlib.redirect_stderr(io.StringIO()), contextlib.redirect_stdout(io.StringIO()) as printed:
             program_bench.main()
         self.assertRegex(printed.getvalue(), r"start to visible dialog \[ms\] +\|( +100 \(x 1\.00\) \|){3}")

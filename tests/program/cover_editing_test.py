@@ -27,8 +27,8 @@ class CoverEditing(ProgramCase):
         picture.save(self.logo)
         (self.pictures / "prices.txt").write_text("no picture")
 
-    def open_editor(self, **told):
-        session = self.start("JogTbl", **told)
+    def open_editor(self, **options):
+        session = self.start("JogTbl", **options)
         session.wait_for(DIALOG)
         self.user.press("alt+a", "alt+e")
         session.wait_for(EDITOR)

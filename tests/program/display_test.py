@@ -45,8 +45,8 @@ class Display(unittest.TestCase):
         display = VirtualDisplay()
         self.addCleanup(display.close)
 
-        def properties(*told):
-            return subprocess.run(["xprop", "-root", *told], env={**os.environ, **display.environment},
+        def properties(*names):
+            return subprocess.run(["xprop", "-root", *names], env={**os.environ, **display.environment},
                                   capture_output=True, text=True, check=True).stdout
         manager = int(properties("_OPENBOX_PID").split()[-1])
         properties("-f", "MARK", "8s", "-set", "MARK", "kept")

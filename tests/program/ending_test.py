@@ -1,4 +1,4 @@
-"""However a run is made to end, no half file stays, and what the desk takes away meanwhile is told."""
+"""However a run is made to end, no half file stays, and what the desktop takes away meanwhile is reported."""
 import signal
 import unittest
 
@@ -14,9 +14,9 @@ from session import DIALOG, PREVIEW
 class Signals(ProgramCase):
     """The system asks the program to end: the user logs out, the machine goes down."""
 
-    def start_dialog(self, **told):
+    def start_dialog(self, **options):
         self.host.write_data("User")
-        session = self.start("User", **told)
+        session = self.start("User", **options)
         session.wait_for(DIALOG)
         return session
 

@@ -1,4 +1,4 @@
-"""Runs that fail end with the exact words, and leave behind what they must."""
+"""Runs that fail end with the exact words, and keep the files that they must keep."""
 import unittest
 
 from bells import BellWatch

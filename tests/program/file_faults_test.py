@@ -1,4 +1,4 @@
-"""Files that vanish, change or can't be written while the program runs: told where told, and nothing lost."""
+"""Files that vanish, change or can't be written while the program runs: reported where that is required, and nothing is lost."""
 import os
 import shutil
 import unittest
@@ -131,7 +131,7 @@ class DataFile(FileFaults):
 
 
 class Picture(FileFaults):
-    # mode, what goes between dialog and preview, what is told; black and white is chosen
+    # mode, what goes between dialog and preview, what is reported; black and white is chosen
     LOST = [("Trace", "TraceGraph.emf", "Graph File (Black & White) is not found."),
             ("Trace", "TraceNote.emf", "Explanatory File is not found."),
             ("RealTrace", "RealTraceGraph.emf", "Graph File (Black & White) is not found."),
@@ -194,7 +194,7 @@ class OptionsFile(FileFaults):
         return [path.name for path in self.host.system_folder.iterdir() if path not in self.before]
 
     def run_to_the_end(self, through):
-        """Nobody is told, the choice holds for this run, and the preview comes."""
+        """No message comes, the choice holds for this run, and the preview comes."""
         self.host.write_data("JogTbl")
         session = self.start("JogTbl", through=through)
         session.wait_for(DIALOG)
@@ -291,7 +291,7 @@ class SavedPdf(FileFaults):
         return session
 
     def expect_refusal(self, session):
-        """The preview tells the reason, and stays for another try."""
+        """The preview shows the reason, and stays for another try."""
         self.wait_for_words("The PDF was not saved.")
         self.wait_for_words(f"\"{self.target}/document.pdf\" can't be written")
         self.user.press("Return")

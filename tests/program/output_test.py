@@ -1,4 +1,4 @@
-"""Files that come out of the preview, saved or printed, and what the dialogs for that leave behind: nothing."""
+"""Files that come out of the preview, saved or printed, and that the dialogs for them leave no other file."""
 import os
 import stat
 import unittest

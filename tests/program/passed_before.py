@@ -3,7 +3,7 @@ import hashlib
 from pathlib import Path
 
 HERE = Path(__file__).resolve().parent
-TOLD_BY = (HERE, HERE.parent / "host")
+DEPENDS_ON = (HERE, HERE.parent / "host")
 INSTALLED_PACKAGES = Path("/var/lib/dpkg/status")
 
 
@@ -13,7 +13,7 @@ class PassedBefore:
     def __init__(self, program):
         self.note = Path(program).with_name("roads.passed")
         digest = hashlib.sha256()
-        scripts = sorted(path for folder in TOLD_BY for path in folder.glob("*.py"))
+        scripts = sorted(path for folder in DEPENDS_ON for path in folder.glob("*.py"))
         for path in (Path(program), INSTALLED_PACKAGES, *scripts):
             digest.update(hashlib.sha256(path.read_bytes()).digest())
         self._digest = digest.hexdigest()

@@ -50,10 +50,10 @@ class ProgramCase(unittest.TestCase):
     def start(self, mode, edition=None, arguments=None, environment=None, through=(), **popen):
         """Starts the program as the host does, `through` a command that becomes the program; it is ended with the
         test if it still runs. A variable of the environment that is None is not set."""
-        told = {**self.environment(), **(environment or {})}
+        variables = {**self.environment(), **(environment or {})}
         with self.errors.open("wb") as stderr:
             process = self.host.start_with(PROGRAM, arguments if arguments is not None else self.host.arguments(mode, edition),
-                                           environment=told, through=through, stderr=stderr,
+                                           environment=variables, through=through, stderr=stderr,
                                            preexec_fn=end_with_parent, **popen)
         self.addCleanup(self._end, process)
         self.program = AccessibleProgram(process.pid)
@@ -90,7 +90,7 @@ class ProgramCase(unittest.TestCase):
         self.answer_and_end(session, 0)
 
     def expect_run_time_error(self, session, *words):
-        """Told with its place on the screen and on standard error; exit status 1; no file deleted."""
+        """Shown with its place on the screen and on standard error; exit status 1; no file deleted."""
         text, _ = self.read_message(session, "Run-time error")
         for word in words:
             self.assertIn(word, text)
@@ -107,9 +107,9 @@ class ProgramCase(unittest.TestCase):
 
     def wait_for_words(self, words):
         """Until a label of any window holds these words."""
-        def told():
+        def labels():
             return [label for window in self.program.windows() for label in window.all() if words in label.name]
-        wait_until(told, f"the words '{words}'")
+        wait_until(labels, f"the words '{words}'")
 
     def widget(self, title, role, name):
         """Of the window of this title, once it shows."""

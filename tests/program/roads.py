@@ -37,7 +37,7 @@ class Document:
     file: str  # its name in the header; empty where the header has none
     contents: tuple
     pages: int
-    texts: tuple  # some that stand on the pages
+    texts: tuple  # some that are on the pages
 
 
 PARAMETERS = ("Parameters List", "Comments")
@@ -64,7 +64,7 @@ DOCUMENTS["SimEx"] = DOCUMENTS["Sim"]
 
 @dataclass(frozen=True)
 class Overlap:
-    """What stands before the single sets where several lie over one another."""
+    """What precedes the single sets where several lie over one another."""
     contents: tuple
     pages: int
 
@@ -96,13 +96,13 @@ class Road:
         one = document.contents, document.pages
         if not self.overlap:
             return [(document.title, "", *one)]
-        told = [(f"{document.title}-Overlapping result", "Overlapping result" if self.detail else "",
+        groups = [(f"{document.title}-Overlapping result", "Overlapping result" if self.detail else "",
                  self.overlap.contents, self.overlap.pages)]
         if self.detail:
-            told.append((f"{document.title}-Overlapping target", "Overlapping target", *one))
-            told += [(f"{document.title}-Overlapping data", f"Overlapping data {n}/{self.sets - 1}", *one)
+            groups.append((f"{document.title}-Overlapping target", "Overlapping target", *one))
+            groups += [(f"{document.title}-Overlapping data", f"Overlapping data {n}/{self.sets - 1}", *one)
                      for n in range(1, self.sets)]
-        return told
+        return groups
 
     def pages(self):
         return self.cover + sum(pages for _, _, _, pages in self.headings())

@@ -76,7 +76,7 @@ class Roads(ProgramCase):
 
     def check_function_list(self, session, road):
         functions = self.window(session, DIALOG).find("combo box", road.functions[road.entry])
-        self.assertIsNotNone(functions, "the list stands on another function")
+        self.assertIsNotNone(functions, "the list shows another function")
         self.assertEqual([item.name for item in functions.all() if item.role == "list item"], road.functions)
         self.assertEqual(functions.has("enabled"), road.mode == "PrnSetting")
 
@@ -145,8 +145,8 @@ def add_tests(shard):
     tests += [("_".join(map(str, ("refused", *case))), Roads.refuse, case) for case in roads.refused()]
     tests += [("_".join(map(str, ("beyond_the_list", *case))), Roads.run_beyond_the_list, case)
               for case in roads.beyond_the_list()]
-    for name, drive, told in tests[shard::SHARDS]:
-        setattr(Roads, f"test_{name}", lambda self, drive=drive, told=told: drive(self, *told))
+    for name, drive, arguments in tests[shard::SHARDS]:
+        setattr(Roads, f"test_{name}", lambda self, drive=drive, arguments=arguments: drive(self, *arguments))
 
 
 def run_all_shards():

@@ -1,4 +1,4 @@
-"""What takes connections and never answers keeps no window away, or the user is told what the start waits for."""
+"""What takes connections and never answers keeps no window away, or the user can read what the start waits for."""
 import os
 import signal
 import socket

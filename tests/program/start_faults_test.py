@@ -1,4 +1,4 @@
-"""What is wrong with the desk at the start is told in one line, and the program makes the best of what is there."""
+"""What is wrong with the desktop at the start is reported in one line, and the program makes the best of what is there."""
 import os
 import socket
 import subprocess
@@ -54,14 +54,14 @@ class Fonts(ProgramCase):
         session.save_pdf(self.folder / "document.pdf")
         self.assertEqual(session.close_preview(), 0)
         self.assertIn("Parameters List", words_in_a_row(self.folder / "document.pdf"))
-        told = self.standard_error().splitlines()
-        self.assertEqual(len(told), 1)
-        self.assertIn("neither Arial nor Liberation Sans is installed; pages are set in Noto", told[0])
+        lines = self.standard_error().splitlines()
+        self.assertEqual(len(lines), 1)
+        self.assertIn("neither Arial nor Liberation Sans is installed; pages are set in Noto", lines[0])
 
 
 class Configuration(ProgramCase):
     def expect_wrong_argument(self, *words, through=()):
-        """Without a version the host is unknown. Standard error names the configuration file and what it lacks."""
+        """Without a version the host is unknown. Standard error names the configuration file and what is missing in it."""
         session = self.start("PrnSetting", through=through)
         self.expect_failure(session, "Argument is wrong.")
         for line in words:
@@ -194,10 +194,10 @@ class Locales(ProgramCase):
         folder = self.folder / "locales"
         folder.mkdir(exist_ok=True)
         subprocess.run(["localedef", "-i", name, "-f", "UTF-8", folder / f"{name}.UTF-8"], check=True, capture_output=True)
-        told = {"LOCPATH": str(folder), "LANG": f"{name}.UTF-8"}
-        answer = subprocess.run(["locale", "day"], env={**os.environ, **told}, capture_output=True, text=True, check=True)
+        variables = {"LOCPATH": str(folder), "LANG": f"{name}.UTF-8"}
+        answer = subprocess.run(["locale", "day"], env={**os.environ, **variables}, capture_output=True, text=True, check=True)
         self.assertNotIn("Sunday", answer.stdout)
-        return told
+        return variables
 
     def test_changes_no_number_and_no_date(self):
         words, options = self.saved_words({"LANG": "C.UTF-8"})

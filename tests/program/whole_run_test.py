@@ -92,8 +92,8 @@ class WholeRun(ProgramCase):
         self.assertIn("Printing Date : ", text_of(pdf))
         self.assertIn("File Name : axis1.prm", text_of(pdf))
 
-    def near(self, told, twips):
-        self.assertLessEqual(abs(told - (PAPER_LEFT + twips) / TWIPS), 0.05)
+    def near(self, points, twips):
+        self.assertLessEqual(abs(points - (PAPER_LEFT + twips) / TWIPS), 0.05)
 
     def expect_centred(self, places, word, left, width):
         self.near((places[word][0] + places[word][1]) / 2, left + width / 2)
@@ -111,7 +111,7 @@ class WholeRun(ProgramCase):
         self.assertLessEqual(abs(tops["S-007"][1] - tops["S-006"][1] - ROW_PITCH / TWIPS), 0.05)
 
     def expect_foot(self, words, pdf):
-        """"Page", the number, "/" and the count stand at the foot of the paper."""
+        """"Page", the number, "/" and the count are at the foot of the paper."""
         pages = page_count(pdf)
         self.assertIn(pages, (3, 4))
         foot = [word for word in words if word[3] > (16838 - 720 - 480) / TWIPS]

@@ -13,7 +13,7 @@
 
 namespace tarvis {
 
-// Says at which line two texts part and what stands there; empty if they are the same.
+// Says at which line two texts part and what they have there; empty if they are the same.
 inline std::string FirstDifference(const std::string& stored, const std::string& made) {
   if (stored == made) return {};
   std::istringstream storedLines(stored);

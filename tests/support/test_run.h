@@ -21,7 +21,7 @@ inline std::string BytesOf(const std::vector<std::string>& lines) {
   return bytes;
 }
 
-// A run whose clock stands still at PinnedTime, on a desktop of the type `NotingDesktop`.
+// A run whose clock is stopped at PinnedTime, on a desktop of the type `NotingDesktop`.
 template <typename NotingDesktop>
 struct TestRunOn {
   TestRunOn() { Run.Now = PinnedTime; }

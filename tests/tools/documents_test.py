@@ -1,7 +1,7 @@
 """What the documents say can be done and found is so: every command runs, every path exists, every link leads somewhere.
 
 A command that takes seconds runs here. One that takes long runs with --long, which `ctest -C long -L long` does. One
-that is the test run itself, or a part of it, is told with the script that runs it.
+that is the test run itself, or a part of it, is listed with the script that runs it.
 """
 import os
 import re
@@ -56,7 +56,7 @@ LONG = {
     "tools/make_pictures": ["tools/make_pictures --output build/pictures"],
 }
 
-# Commands that stand in a sentence with a word for what the reader puts there.
+# Commands within a sentence with a word for what the reader puts there.
 FILLED_IN = {"tarvis-check FILE...": "tarvis-check docs/examples/User.tmp"}
 
 PROGRAM = re.compile(r"^([A-Z_]+=\S+ )*(\./|(tools|tests|build|demo|bench)/\S+ |(cmake|ctest|cpack|git|python3|sudo|man|"
@@ -90,9 +90,9 @@ def commands():
 
 def run(command, folder=ROOT):
     """Runs a command as a shell does, on what this build has made."""
-    told = re.sub(r"(?<![\w/])build/dev-asan", str(BUILD), command)
+    here = re.sub(r"(?<![\w/])build/dev-asan", str(BUILD), command)
     environment = {**os.environ, "PATH": f"{CHECKER.parent}:{os.environ['PATH']}"}
-    return subprocess.run(["sh", "-c", told], cwd=folder, env=environment, stdin=subprocess.DEVNULL,
+    return subprocess.run(["sh", "-c", here], cwd=folder, env=environment, stdin=subprocess.DEVNULL,
                           stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, check=False)
 
 
@@ -101,8 +101,8 @@ def source_of(place):
 
 
 class Commands(unittest.TestCase):
-    def expect_run(self, command, told=None):
-        done = run(told or command)
+    def expect_run(self, command, instead=None):
+        done = run(instead or command)
         self.assertEqual(done.returncode, 0, f"{command}\n{done.stdout}")
         return done.stdout
 
@@ -169,7 +169,7 @@ class Paths(unittest.TestCase):
 
     @staticmethod
     def exists(document, name):
-        name = re.sub(r"/[A-Z]+$", "/*", name)  # a word for what stands there
+        name = re.sub(r"/[A-Z]+$", "/*", name)  # a word for any name
         return any(next(base.glob(name.strip("/")), None) for base in (ROOT, ROOT / "src", document.path.parent)) \
             or any(ROOT.glob(f"src/**/{name}"))
 
@@ -189,8 +189,8 @@ class Paths(unittest.TestCase):
             self.assertRegex(architecture.text, rf"(?<![\w])(src/)?{name}\b")
         for room, heading in (("platform", "| File | Does |"), ("preview", "| Part | Files in `src/preview` |")):
             table = architecture.prose.split(heading, 1)[1].split("\n\n", 1)[0]
-            told = {name.removesuffix(".h") for name in re.findall(r"`([a-z_.]+)`", table)}
-            self.assertEqual(told, {path.stem for path in (ROOT / "src" / room).rglob("*.*")}, room)
+            named = {name.removesuffix(".h") for name in re.findall(r"`([a-z_.]+)`", table)}
+            self.assertEqual(named, {path.stem for path in (ROOT / "src" / room).rglob("*.*")}, room)
         for path in ROOT.iterdir():
             if path.is_dir() and not path.name.startswith(".") and path.name not in ("build", "docs", "src"):
                 self.assertTrue(any(span.split("/")[0] == path.name for span in architecture.spans), path.name)
@@ -240,9 +240,9 @@ class Paths(unittest.TestCase):
 
 
 def run_long():
-    """Runs what takes long, one after the other; tells which failed."""
+    """Runs what takes long, one after the other, and prints which failed."""
     failed = []
-    for command in dict.fromkeys(real for told in LONG.values() for real in told):
+    for command in dict.fromkeys(real for group in LONG.values() for real in group):
         print(f"== {command}", flush=True)
         done = subprocess.run(["sh", "-c", command], cwd=ROOT, stdin=subprocess.DEVNULL, check=False)
         if done.returncode != 0:

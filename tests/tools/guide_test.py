@@ -1,4 +1,4 @@
-"""The guide and the description of the files tell all that the program has: keys, boxes, messages, pictures."""
+"""The guide and the description of the files describe all that the program has: keys, boxes, messages, pictures."""
 import os
 import re
 import subprocess
@@ -42,12 +42,12 @@ class Keys(unittest.TestCase):
         return {plain(caption): keys.split("; ") for _, _, caption, keys in entries}
 
     def test_table_of_keys_is_that_of_the_preview(self):
-        told = {row[0]: re.findall(r"`([^`]+)`", row[1]) for row in GUIDE.rows("In the preview:")}
-        self.assertEqual(told, self.commands())
+        documented = {row[0]: re.findall(r"`([^`]+)`", row[1]) for row in GUIDE.rows("In the preview:")}
+        self.assertEqual(documented, self.commands())
 
     def test_keys_of_the_page_view_are_told(self):
-        told = {key for row in GUIDE.rows("While the pages have the focus:") for key in re.findall(r"`(\w+)`", row[0])}
-        self.assertEqual(told, set(re.findall(r"case Qt::Key_(\w+):", source("preview/pages/page_view_input.cpp"))))
+        documented = {key for row in GUIDE.rows("While the pages have the focus:") for key in re.findall(r"`(\w+)`", row[0])}
+        self.assertEqual(documented, set(re.findall(r"case Qt::Key_(\w+):", source("preview/pages/page_view_input.cpp"))))
 
 
 class Captions(unittest.TestCase):
@@ -80,17 +80,17 @@ class Limits(unittest.TestCase):
         text = source("dialogs/EditCover.cpp")
         plans = re.findall(r'\{\d, "([^"]+)", \{[\d, ]+\}, (?:true|false), (\d+), \w+\}', text)
         self.assertGreaterEqual(len(plans), 13)
-        told = {name: row[1] for row in GUIDE.rows("![The greeting](pictures/cover-greeting.png)") for name in
+        documented = {name: row[1] for row in GUIDE.rows("![The greeting](pictures/cover-greeting.png)") for name in
                 re.split(", ", row[0].replace(" of an addressee", ""))}
         for caption, limit in plans:
             name = plain(caption).rstrip(":")
             if name != "Zip Code":  # never shown
-                self.assertTrue(told[name].startswith(f"{limit} bytes"), f"{name}: {told[name]}")
+                self.assertTrue(documented[name].startswith(f"{limit} bytes"), f"{name}: {documented[name]}")
         constants = dict(re.findall(r"constexpr \w+ (\w+) = (\d+);", text))
         self.assertIn("GreetingLimit = GreetingLines * GreetingWidth;", text)
         lines, width = int(constants["GreetingLines"]), int(constants["GreetingWidth"])
-        self.assertEqual(told["Greeting Sentences"], f"{lines * width} bytes in all, {lines} lines of {width} bytes")
-        self.assertTrue(told["Address"].endswith(f"{constants['AddressLines']} lines of {constants['AddressWidth']} bytes"))
+        self.assertEqual(documented["Greeting Sentences"], f"{lines * width} bytes in all, {lines} lines of {width} bytes")
+        self.assertTrue(documented["Address"].endswith(f"{constants['AddressLines']} lines of {constants['AddressWidth']} bytes"))
 
 
 class ManualPages(unittest.TestCase):
@@ -99,10 +99,10 @@ class ManualPages(unittest.TestCase):
 
     def test_every_mode_stands_under_its_editions(self):
         choices = set(re.findall(r'ModeChoice\{(\d), "(\w+)"', source("session/function_list.cpp")))
-        told = set()
+        documented = set()
         for edition, modes in re.findall(r"^\.TP\n(\d)(?:, version \d00)?\n(.+)$", self.page("tarvis.1"), re.MULTILINE):
-            told |= {(edition, mode) for mode in modes.replace("the same, ", "").split(", ")}
-        self.assertEqual(told, choices)
+            documented |= {(edition, mode) for mode in modes.replace("the same, ", "").split(", ")}
+        self.assertEqual(documented, choices)
         for _, mode in choices:
             self.assertIn(f"`{mode}`", (ROOT / "README.md").read_text(encoding="utf-8"))
 
@@ -124,8 +124,8 @@ class Messages(unittest.TestCase):
         messages = re.findall(r'"([^"]+)"', table)
         self.assertEqual(len(messages), 17)
         self.assertIn(re.search(r'Canceled = "([^"]+)"', source("run/failures.cpp"))[1], GUIDE.text)
-        told = {row[0]: row[1] for row in GUIDE.rows("confirmed in the dialog is kept.")}
-        self.assertEqual(told, {str(number): text for number, text in enumerate(messages, 1)})
+        documented = {row[0]: row[1] for row in GUIDE.rows("confirmed in the dialog is kept.")}
+        self.assertEqual(documented, {str(number): text for number, text in enumerate(messages, 1)})
 
     def test_every_other_message_is_told(self):
         sentence = re.compile(r'(?:tr\(|Box box\([^;]*?)"([A-Z][^"]*\.)"')
@@ -181,16 +181,16 @@ class FileKeys(unittest.TestCase):
                 yield reader, text
 
     def test_every_key_of_the_readers_is_told(self):
-        told = set(FORMATS.spans)
+        documented = set(FORMATS.spans)
         count = 0
         for reader, text in self.tables():
             keys = self.keys(text) | set(re.findall(r'"(User\d\w+)"', text))
             count += len(keys)
-            self.assertEqual(keys - told, set(), reader.name)
+            self.assertEqual(keys - documented, set(), reader.name)
         self.assertGreaterEqual(count, 190)
 
     def test_no_line_of_a_key_table_is_missed(self):
-        # What stands first in braces and is a text is a key: the pattern above must know its form of line.
+        # A text that is first in braces is a key: the pattern above must know its form of line.
         for reader, text in self.tables():
             first = set(re.findall(r'\{\s*"([\w/-]+)",', text)) - set(re.findall(r'"(User\d\w+)"', text))
             self.assertEqual(first - self.keys(text), set(), reader.name)
@@ -211,9 +211,9 @@ class FileKeys(unittest.TestCase):
             for path, (key, _) in zip(paths, keys):
                 path.parent.mkdir()
                 path.write_bytes(key.encode() + b",\r\n")
-            told = subprocess.run([os.environ["TARVIS_CHECK"], *paths], capture_output=True, text=True, check=False).stdout
-        self.assertEqual(len(told.splitlines()), len(keys))
-        self.assertEqual([line for line in told.splitlines() if "unknown key" in line], [])
+            output = subprocess.run([os.environ["TARVIS_CHECK"], *paths], capture_output=True, text=True, check=False).stdout
+        self.assertEqual(len(output.splitlines()), len(keys))
+        self.assertEqual([line for line in output.splitlines() if "unknown key" in line], [])
 
 
 if __name__ == "__main__":

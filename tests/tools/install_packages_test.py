@@ -1,4 +1,4 @@
-"""tools/install_packages installs what a purpose needs and nothing else, or tells what to do where it can't."""
+"""tools/install_packages installs what a purpose needs and nothing else, or says what to do where it can't."""
 import re
 import shutil
 import subprocess
@@ -116,12 +116,12 @@ class InstallPackages(unittest.TestCase):
         self.command("pkg-config", "exit 1")
         done = self.run_for("playing", "reading")
         self.assertEqual(done.returncode, 1)
-        told = done.stderr.splitlines()[1:]
-        self.assertEqual(len(told), 6, told)
-        self.assertIn("the command compiler-command", told)
-        self.assertIn("the library library-module, version 6.4 or later, as pkg-config knows it", told)
-        self.assertIn("the font Some Font", told)
-        self.assertIn(f"the file {self.folder}/manual", told)
+        lines = done.stderr.splitlines()[1:]
+        self.assertEqual(len(lines), 6, lines)
+        self.assertIn("the command compiler-command", lines)
+        self.assertIn("the library library-module, version 6.4 or later, as pkg-config knows it", lines)
+        self.assertIn("the font Some Font", lines)
+        self.assertIn(f"the file {self.folder}/manual", lines)
 
     def test_without_package_tools_a_library_of_an_older_version_is_missing(self):
         self.command("compiler-command", "")

@@ -76,8 +76,8 @@ class Lint(unittest.TestCase):
 
     def test_the_layout_of_all_files_is_checked_whatever_has_changed(self):
         self.lint("--changed", "HEAD")
-        told = self.formatted.read_text().split()
-        self.assertEqual({name for name in told if not name.startswith("-")}, set(FILES))
+        words = self.formatted.read_text().split()
+        self.assertEqual({name for name in words if not name.startswith("-")}, set(FILES))
 
     def test_a_file_whose_layout_is_wrong_fails(self):
         self.write("src/text/dates.cpp", "BAD")

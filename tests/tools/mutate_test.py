@@ -1,4 +1,4 @@
-"""tools/mutate tells which changes of a small made-up core its tests notice, and leaves the tree as it is."""
+"""tools/mutate reports which changes of a small made-up core its tests notice, and leaves the tree as it is."""
 import os
 import shutil
 import subprocess

@@ -127,16 +127,16 @@ class Package(unittest.TestCase):
             self.assertEqual(output_of("mandoc", "-T", "lint", text), "")
 
     def test_manual_page_tells_the_same_as_the_checker_itself(self):
-        told = subprocess.run([self.root / "usr/bin/tarvis-check"], capture_output=True, text=True, check=False)
-        self.assertEqual(told.returncode, 1)
+        done = subprocess.run([self.root / "usr/bin/tarvis-check"], capture_output=True, text=True, check=False)
+        self.assertEqual(done.returncode, 1)
         page = (ROOT / "packaging/tarvis-check.1").read_text()
-        for name in re.findall(r"\w+\.(?:tmp|ToT)|--[\w-]+", told.stderr):
+        for name in re.findall(r"\w+\.(?:tmp|ToT)|--[\w-]+", done.stderr):
             self.assertIn(name.replace("-", r"\-") if name.startswith("--") else name, page)
 
     def test_unpacked_checker_reads_the_example_files(self):
         examples = sorted((self.documents / "examples").iterdir())
-        told = output_of(self.root / "usr/bin/tarvis-check", *examples)
-        self.assertEqual(len(told.splitlines()), len(examples))
+        output = output_of(self.root / "usr/bin/tarvis-check", *examples)
+        self.assertEqual(len(output.splitlines()), len(examples))
 
 
 class PackageLife(unittest.TestCase):
@@ -192,9 +192,9 @@ class PackageLife(unittest.TestCase):
             self.assertEqual((self.system.files(), self.system.folders()), self.fresh, action)
 
     def test_package_keeps_the_rules_of_debian(self):
-        told = subprocess.run(["lintian", "--fail-on", "error,warning", package()], capture_output=True, text=True,
+        done = subprocess.run(["lintian", "--fail-on", "error,warning", package()], capture_output=True, text=True,
                               check=False)
-        self.assertEqual(told.returncode, 0, told.stdout)
+        self.assertEqual(done.returncode, 0, done.stdout)
 
 
 if __name__ == "__main__":

@@ -26,9 +26,9 @@ class Skipped(unittest.TestCase):
 
     def skipped_status(self, name):
         """The exit status for which ctest lists this test as skipped."""
-        told = subprocess.run(["ctest", "--test-dir", os.environ["TARVIS_BUILD"], "--show-only=json-v1"],
+        listed = subprocess.run(["ctest", "--test-dir", os.environ["TARVIS_BUILD"], "--show-only=json-v1"],
                               check=True, capture_output=True, text=True)
-        test = next(test for test in json.loads(told.stdout)["tests"] if test["name"] == name)
+        test = next(test for test in json.loads(listed.stdout)["tests"] if test["name"] == name)
         return next((entry["value"] for entry in test["properties"] if entry["name"] == "SKIP_RETURN_CODE"), None)
 
 

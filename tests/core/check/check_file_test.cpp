@@ -38,7 +38,7 @@ TEST_P(ExampleFiles, AreGoodInTheDocumentation) {
   EXPECT_TRUE(check.IsGood);
 }
 
-// So that the reference tells every key that an example shows.
+// So that the reference describes every key that an example shows.
 TEST_P(ExampleFiles, HaveOnlyKeysOfTheDocumentation) {
   const std::string reference = ReadWhole(SourceFolder() + "/docs/file-formats.md");
   const std::string example = ReadWhole(kExamples + GetParam().Name);

@@ -103,7 +103,7 @@ INSTANTIATE_TEST_SUITE_P(Reports, PaperSizes,
                                          "rptUPWizard"),
                          [](const auto& report) { return std::string(report.param); });
 
-// On which page the first item of a control stands, counted from 1.
+// On which page the first item of a control is, counted from 1.
 int PageOf(const Document& document, const std::string& control) {
   for (std::size_t page = 0; page < document.Pages.size(); ++page) {
     for (std::uint32_t index = 0; index < document.Pages[page].ItemCount; ++index) {

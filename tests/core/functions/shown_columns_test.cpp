@@ -48,7 +48,7 @@ struct ShownColumns : testing::TestWithParam<CountedColumns> {
 TEST_P(ShownColumns, AreAsManyAsTheCountSays) {
   const CountedColumns& columns = GetParam();
   const std::string firstTitle = std::string(columns.Report) == "rptSimRef1" ? "1" : "Target";
-  const int before = firstTitle == "1" ? 0 : 1;  // comparisons count the data behind the target from 1
+  const int before = firstTitle == "1" ? 0 : 1;  // comparisons count the data after the target from 1
   for (int count = 1; count <= columns.Most; ++count) {
     const Document document = ComposeWith(count);
     for (int column = 1; column <= columns.Most; ++column) {

@@ -222,7 +222,7 @@ TEST_F(TraceObject, StaysOnOnePageInDynamicsSimulation) {
   Run.Session.Mode = "Sim";
   const Document document = ComposeBelow(Report, 14918 - 855 - 1055 - 3 * 283);
   ASSERT_EQ(document.Pages.size(), 2U);
-  EXPECT_EQ(PrintedOf(document, "Image1").at(0).Box.Top, 210) << "the whole table stands on page 2";
+  EXPECT_EQ(PrintedOf(document, "Image1").at(0).Box.Top, 210) << "the whole table is on page 2";
   EXPECT_EQ(PrintedOf(document, "txtValueTrace").at(5).Box.Bottom(), 1055 + 6 * 283);
 }
 

@@ -10,7 +10,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// A4 alone: title band, guide whose titles stand on one line, then the first row with its 10 twips above.
+// A4 alone: title band, guide whose titles are on one line, then the first row with its 10 twips above.
 constexpr float FirstRow = 630 + 427 + 10;
 
 struct ParameterColumns : testing::Test {
@@ -186,7 +186,7 @@ TEST_F(ParameterColumns, ANegativeCountPrintsTitlesWithoutRows) {
 }
 
 struct FirstParameterPage : HostRun {
-  // How many rows stand on each page of A4 below the common header.
+  // How many rows are on each page of A4 below the common header.
   std::vector<int> RowsOfPages(int count) {
     std::vector<std::string> lines{"File-Spec,3", "UserNum," + std::to_string(count)};
     for (int index = 0; index < count; ++index) {

@@ -208,15 +208,18 @@ TEST_F(PrintOptionsFile, NamesThePlaceOfANumberThatNothingCanShow) {
   ASSERT_TRUE(
       Read({"File-Spec,4", "ColorType,1", "ColorType,2", "SimHeader,1,1,1,1,3,x", "MechaOption,1,1,1,1,-7"}));
   PrintOptions& options = Run.Options;
-  const auto told = [&](const std::int16_t& option) {
+  const auto diagnosisOf = [&](const std::int16_t& option) {
     return std::string(RunTimeFailure("no such choice", OptionPlace(Run, option)).what());
   };
-  EXPECT_EQ(told(options.ColorType), "PrintOption.ToT:3: ColorType: no such choice: '2'");
-  EXPECT_EQ(told(options.SimHeader.Pages), "PrintOption.ToT:4: SimHeader: element 5: no such choice: '3'");
-  EXPECT_EQ(told(options.MechaOption[4]), "PrintOption.ToT:5: MechaOption: element 5: no such choice: '-7'");
-  EXPECT_EQ(told(options.IdxTblOption.Comment),
+  EXPECT_EQ(diagnosisOf(options.ColorType), "PrintOption.ToT:3: ColorType: no such choice: '2'");
+  EXPECT_EQ(diagnosisOf(options.SimHeader.Pages),
+            "PrintOption.ToT:4: SimHeader: element 5: no such choice: '3'");
+  EXPECT_EQ(diagnosisOf(options.MechaOption[4]),
+            "PrintOption.ToT:5: MechaOption: element 5: no such choice: '-7'");
+  EXPECT_EQ(diagnosisOf(options.IdxTblOption.Comment),
             "PrintOption.ToT: IdxTblOption: element 4: no such choice: '0'");
-  EXPECT_EQ(told(options.SimOption[12]), "PrintOption.ToT: SimOption: element 13: no such choice: '0'");
+  EXPECT_EQ(diagnosisOf(options.SimOption[12]),
+            "PrintOption.ToT: SimOption: element 13: no such choice: '0'");
 }
 
 TEST_F(PrintOptionsFile, HeaderWithFiveElementsHasAnEmptyTitle) {

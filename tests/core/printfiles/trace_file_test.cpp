@@ -83,7 +83,7 @@ TEST_F(TraceFile, PassesOverCursorRowsThatCursolSelectDoesNotCount) {
   EXPECT_EQ(Trace.CursolInfo1.NameUnit, "a");
   EXPECT_EQ(Trace.CursolInfo2.NameUnit, "");
   ASSERT_TRUE(Read({"CursolInfo1,1,2,3,a", "CursolSelect,2", "CursolInfo2,1,2,3,b"}));
-  EXPECT_EQ(Trace.CursolInfo1.NameUnit, "") << "stands ahead of CursolSelect";
+  EXPECT_EQ(Trace.CursolInfo1.NameUnit, "") << "comes before CursolSelect";
   EXPECT_EQ(Trace.CursolInfo2.NameUnit, "b");
 }
 

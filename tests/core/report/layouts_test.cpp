@@ -1,4 +1,4 @@
-// Each report's sections and controls as its layout tells them, before any event has changed them: one table
+// Each report's sections and controls as its layout has them, before any event has changed them: one table
 // a report in tests/core/report/layouts. The tables are written by hand and never updated from what the
 // reports say.
 #include <gtest/gtest.h>

@@ -42,7 +42,7 @@ struct Cover : testing::Test {
     const auto printed = PrintedOf(Compose(), control);
     return printed.empty() ? Lines{} : printed[0].Texts;
   }
-  // Left edge of the sender block, told by its text, which has no inset.
+  // Left edge of the sender block, found by its text, which has no inset.
   float SenderLeft() {
     const Document document = Compose();
     for (const Item& item : document.Items) {

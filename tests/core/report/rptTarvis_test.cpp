@@ -32,7 +32,7 @@ struct MasterReport : HostRun {
     Options.SimHeader = {1, 1, 1, 1, 1, "Dynamics Simulation"};
   }
 
-  // Loads the data set of `mode` from an empty file and tells the module list.
+  // Loads the data set of `mode` from an empty file and returns the module list.
   std::vector<std::string> ModulesOf(const std::string& mode, const std::string& file,
                                      bool overlapResult = false) {
     Session.Mode = mode;

@@ -35,7 +35,7 @@ std::string ValueOf(char letter, std::size_t part, bool unescapes) {
   return letter + std::to_string(part) + (unescapes ? "\r\n" : "\\r\\n");
 }
 
-// A line of as many parts as the key has, read behind another one of the same key.
+// A line of as many parts as the key has, read after another one of the same key.
 void ExpectFullLine(TestRun& test, const HostFile& file, const TextLine& line) {
   EXPECT_TRUE(
       ReadLine(test, file,

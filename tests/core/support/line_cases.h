@@ -42,18 +42,18 @@ struct NumberLine {
   std::int16_t* Number;
 };
 
-// A file of the host: its name, its reader, and the lines that must stand ahead of all others.
+// A file of the host: its name, its reader, and the lines that must come before all others.
 struct HostFile {
   std::string Name;
   bool (*Read)(PrintRun& run);
   std::vector<std::string> Ahead;
 };
 
-// Reads `line` behind the lines that must stand ahead.
+// Reads `line` after the lines that must come before it.
 bool ReadLine(TestRun& test, const HostFile& file, const std::string& line);
 
-// Each key fills its parts, cuts or keeps commas and unescapes as told; takes a short line, an overlong one
-// and a second one; and is unknown in lower case, with a blank before it and with one behind it.
+// Each key fills its parts, cuts or keeps commas and unescapes as the table says; takes a short line, an
+// overlong one and a second one; and is unknown in lower case, with a blank before it and with one after it.
 void ExpectTextLines(TestRun& test, const HostFile& file, const std::vector<TextLine>& lines);
 
 // Each key stores a whole number of 16 bits, and stops the program at anything else.

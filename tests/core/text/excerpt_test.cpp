@@ -19,7 +19,7 @@ TEST(Excerpt, CutsBetweenCharacters) {
   const std::string smile = "\U0001F600";  // four bytes
   for (const std::string& last : {umlaut, kanji, smile}) {
     const std::string before(61 - last.size(), 'x');
-    EXPECT_EQ(Excerpt(before + last), before + "...") << "the last character would end behind byte 60";
+    EXPECT_EQ(Excerpt(before + last), before + "...") << "the last character would end after byte 60";
     const std::string fits(60 - last.size(), 'x');
     EXPECT_EQ(Excerpt(fits + last + "x"), fits + last + "...");
   }

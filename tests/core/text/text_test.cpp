@@ -61,7 +61,7 @@ TEST(CountLineBreaks, CountsBreaksNotLines) {
   EXPECT_EQ(CountLineBreaks(""), 0);
   EXPECT_EQ(CountLineBreaks("a\r\nb\r\nc"), 2);
   EXPECT_EQ(CountLineBreaks("\r"), 1);
-  EXPECT_EQ(CountLineBreaks("\r\r"), 1) << "the character behind a CR goes with it";
+  EXPECT_EQ(CountLineBreaks("\r\r"), 1) << "the character after a CR goes with it";
   EXPECT_EQ(CountLineBreaks("\n\n"), 0);
 }
 

@@ -38,7 +38,7 @@ TEST(EnginePages, MeasuresTheLastPieceOfARowOnItsPageOnly) {
     inner->Rows(3);
     region.object = inner;
   });
-  // One row of 200 stands on page 2; the own height of 300 ends below it.
+  // One row of 200 is on page 2; the own height of 300 ends below it.
   EXPECT_THAT(Places(ComposeSample(outer, 500)),
               ElementsAre("1:row@0", "1:row@200", "2:row@0", "2:row@300", "3:row@0", "3:row@200"));
 }
@@ -140,7 +140,7 @@ TEST(EnginePages, AnInnerReportBeginsBelowTheRoomAboveItsRegion) {
     AddBlock(inner->Growing(SectionKind::Detail, "d"), "row", 400);
     region.object = inner;
   });
-  // The room goes to the next page with the row that it stands above.
+  // The room goes to the next page with the row that it is above.
   EXPECT_THAT(Places(ComposeSample(outer, 900)), ElementsAre("1:row@250", "2:row@250"));
 }
 
