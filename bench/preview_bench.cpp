@@ -13,6 +13,7 @@
 #include "memory.h"
 #include "preview/document_builder.h"
 #include "preview/output/pdf_export.h"
+#include "preview/pages/page_steps.h"
 #include "preview/pages/page_view.h"
 #include "preview/paint/painter_canvas.h"
 #include "preview/text/text_search.h"
@@ -110,7 +111,7 @@ void ZoomFrame(benchmark::State& state) {
   PageView view(Table(40));
   view.GoTo({20, 0});
   int step = 0;
-  ShowFrames(state, view, [&] { view.ZoomStep(step++ % 12 < 6 ? 1 : -1); });
+  ShowFrames(state, view, [&] { ZoomStep(view, step++ % 12 < 6 ? 1 : -1); });
 }
 BENCHMARK(ZoomFrame)->Unit(benchmark::kMillisecond)->Iterations(240);
 

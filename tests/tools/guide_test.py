@@ -47,7 +47,7 @@ class Keys(unittest.TestCase):
 
     def test_keys_of_the_page_view_are_told(self):
         documented = {key for row in GUIDE.rows("While the pages have the focus:") for key in re.findall(r"`(\w+)`", row[0])}
-        self.assertEqual(documented, set(re.findall(r"case Qt::Key_(\w+):", source("preview/pages/page_view_input.cpp"))))
+        self.assertEqual(documented, set(re.findall(r"KeyStep\{Qt::Key_(\w+),", source("preview/pages/page_input.cpp"))))
 
 
 class Captions(unittest.TestCase):

@@ -4,17 +4,14 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
-#include <array>
 #include <cmath>
+
+#include "preview/pages/strip_painter.h"
 
 namespace tarvis {
 namespace {
 
 constexpr std::int64_t PictureBudget = 48LL * 1024 * 1024;  // bytes
-constexpr int Patience = 8;                                 // milliseconds, half a frame
-
-constexpr std::array ZoomSteps{0.1,  0.125, 0.25, 0.33, 0.5, 0.67, 0.75, 0.9, 1.0, 1.1,
-                               1.25, 1.5,   1.75, 2.0,  2.5, 3.0,  4.0,  5.0, 6.0, 8.0};
 
 void PaintShadow(QPainter& painter, const QRectF& page, const QColor& edge) {
   for (int step = 4; step >= 1; --step) {
@@ -33,12 +30,22 @@ PageView::PageView(std::shared_ptr<const Document> document, QWidget* parent)
   setFocusPolicy(Qt::StrongFocus);
   viewport()->setCursor(Qt::ArrowCursor);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
-  viewport()->grabGesture(Qt::PinchGesture);
   layout_.SetPages(static_cast<int>(document_->Pages.size()), static_cast<double>(document_->Setup.Width),
                    static_cast<double>(document_->Setup.Height));
   connect(&pictures_, &PagePictures::PageReady, this, [this](int page) {
     viewport()->update(layout_.PageRect(page).translated(-Offset()).toAlignedRect());
   });
+}
+
+void PageView::resizeEvent(QResizeEvent* event) {
+  QAbstractScrollArea::resizeEvent(event);
+  ChangeLayout([&] { layout_.SetViewport(viewport()->size()); }, QPointF(0, PageLayout::Margin));
+}
+
+void PageView::scrollContentsBy(int dx, int dy) {
+  viewport()->scroll(dx, dy);
+  WantShown();
+  emit PlaceChanged();
 }
 
 QPointF PageView::Offset() const {
@@ -133,17 +140,6 @@ void PageView::SetZoom(double factor, std::optional<QPointF> anchor) {
                anchor.value_or(QPointF(viewport()->width() / 2.0, viewport()->height() / 2.0)));
 }
 
-void PageView::ZoomStep(int direction, std::optional<QPointF> anchor) {
-  constexpr double Same = 1e-3;
-  if (direction > 0) {
-    const auto next = std::upper_bound(ZoomSteps.begin(), ZoomSteps.end(), Zoom() + Same);
-    if (next != ZoomSteps.end()) SetZoom(*next, anchor);
-  } else {
-    const auto next = std::lower_bound(ZoomSteps.begin(), ZoomSteps.end(), Zoom() - Same);
-    if (next != ZoomSteps.begin()) SetZoom(*std::prev(next), anchor);
-  }
-}
-
 void PageView::SetHighlights(std::function<std::vector<Highlight>(int)> highlights) {
   highlights_ = std::move(highlights);
   viewport()->update();
@@ -159,24 +155,17 @@ int PageView::PageDeviceWidth() const {
   return std::max(1, static_cast<int>(std::lround(layout_.PageSize().width() * devicePixelRatioF())));
 }
 
-std::vector<ShownPart> PageView::ShownParts() const {
-  std::vector<ShownPart> parts;
+void PageView::WantShown() {
   const double top = Offset().y();
   const double bottom = top + viewport()->height();
+  const double ratio = devicePixelRatioF();
   const PageLayout::Range range = layout_.PagesBetween(top, bottom);
-  const int pageHeight = PagePixelHeight(*document_, PageDeviceWidth());
+  std::vector<ShownPart> parts;
   for (int page = range.First; page <= range.Last; ++page) {
     const double pageTop = layout_.PageRect(page).top();
-    const double ratio = devicePixelRatioF();
-    const int first = static_cast<int>(std::floor((top - pageTop) * ratio));
-    const int last = static_cast<int>(std::ceil((bottom - pageTop) * ratio));
-    parts.push_back({page, std::clamp(first, 0, pageHeight - 1), std::clamp(last, 0, pageHeight - 1)});
+    parts.push_back({page, static_cast<int>(std::floor((top - pageTop) * ratio)),
+                     static_cast<int>(std::ceil((bottom - pageTop) * ratio))});
   }
-  return parts;
-}
-
-void PageView::WantShown() {
-  const std::vector<ShownPart> parts = ShownParts();
   const int width = PageDeviceWidth();
   pictures_.Want(WantedStrips(parts, width, PagePixelHeight(*document_, width), layout_.PageCount()));
 }
@@ -188,20 +177,14 @@ void PageView::paintEvent(QPaintEvent* event) {
   const double top = Offset().y();
   const PageLayout::Range range =
       layout_.PagesBetween(top + event->rect().top(), top + event->rect().bottom() + 1);
-  for (int page = range.First; page <= range.Last; ++page) PaintPageAt(painter, page, event->rect());
+  for (int page = range.First; page <= range.Last; ++page) PaintPage(painter, page, event->rect());
 }
 
-void PageView::PaintPageAt(QPainter& painter, int page, const QRect& exposed) {
+void PageView::PaintPage(QPainter& painter, int page, const QRect& exposed) {
   const QRectF place = layout_.PageRect(page).translated(-Offset());
   PaintShadow(painter, place, palette().color(QPalette::Shadow));
-  const double ratio = devicePixelRatioF();
-  const int pageHeight = PagePixelHeight(*document_, PageDeviceWidth());
-  const double from = std::max(0.0, exposed.top() - place.top());
-  const double to = exposed.bottom() + 1 - place.top();
-  if (to <= 0) return;
-  PaintPictures(painter, page, place,
-                {page, std::clamp(static_cast<int>(std::floor(from * ratio)), 0, pageHeight - 1),
-                 std::clamp(static_cast<int>(std::ceil(to * ratio)), 0, pageHeight - 1)});
+  StripPainter(painter, *document_, pictures_, PageDeviceWidth(), devicePixelRatioF())
+      .Paint(page, place, exposed);
   if (!highlights_) return;
   const double scale = layout_.PixelsPerTwip();
   // Tints multiply, so that the text below stays black.
@@ -211,45 +194,6 @@ void PageView::PaintPageAt(QPainter& painter, int page, const QRect& exposed) {
                      mark.Tint);
   }
   painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-}
-
-void PageView::PaintPictures(QPainter& painter, int page, const QRectF& place, const ShownPart& part) {
-  const int width = PageDeviceWidth();
-  const StripCut cut = CutIntoStrips(width, PagePixelHeight(*document_, width));
-  std::vector<Strip> sharp;
-  bool whole = true;
-  for (int index = part.Top / cut.Height; index <= std::min(part.Bottom / cut.Height, cut.Count - 1);
-       ++index) {
-    sharp.push_back({page, index, width});
-    whole = whole && pictures_.Find(sharp.back()) != nullptr;
-  }
-  if (!whole) {
-    const std::vector<Strip> standIns = pictures_.StandIns(page, width);
-    // Most pages are there within a few milliseconds; one that isn't must not hold up the window.
-    if (standIns.empty()) pictures_.WaitFor(sharp, Patience);
-    painter.fillRect(place, Qt::white);
-    for (const Strip& strip : standIns) PaintStrip(painter, strip, place);
-  }
-  for (const Strip& strip : sharp) PaintStrip(painter, strip, place);
-}
-
-void PageView::PaintStrip(QPainter& painter, const Strip& strip, const QRectF& place) {
-  const QImage* picture = pictures_.Find(strip);
-  if (picture == nullptr) return;
-  const int pageHeight = PagePixelHeight(*document_, strip.Width);
-  const double scale = place.height() / pageHeight;
-  const double top = strip.Index * CutIntoStrips(strip.Width, pageHeight).Height * scale;
-  painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  if (strip.Width == PageDeviceWidth()) {
-    // Pixel for pixel, starting on a whole one: anything else would blur.
-    const double ratio = devicePixelRatioF();
-    const QPointF corner(std::round(place.left() * ratio) / ratio,
-                         std::round((place.top() + top) * ratio) / ratio);
-    painter.drawImage(QRectF(corner, QSizeF(picture->size()) / ratio), *picture);
-  } else {
-    painter.drawImage(QRectF(place.left(), place.top() + top, place.width(), picture->height() * scale),
-                      *picture);
-  }
 }
 
 }  // namespace tarvis

@@ -19,14 +19,21 @@ StripCut CutIntoStrips(int width, int height) {
   return {stripHeight, (height + stripHeight - 1) / stripHeight};
 }
 
+std::vector<Strip> StripsOf(const ShownPart& part, int width, int height) {
+  const StripCut cut = CutIntoStrips(width, height);
+  const int first = std::clamp(part.Top / cut.Height, 0, cut.Count - 1);
+  const int last = std::clamp(part.Bottom / cut.Height, 0, cut.Count - 1);
+  std::vector<Strip> strips;
+  for (int index = first; index <= last; ++index) strips.push_back({part.Page, index, width});
+  return strips;
+}
+
 std::vector<Strip> WantedStrips(std::span<const ShownPart> shown, int width, int height, int pageCount) {
   std::vector<Strip> wanted;
   if (shown.empty()) return wanted;
   const StripCut cut = CutIntoStrips(width, height);
   for (const ShownPart& part : shown) {
-    const int first = std::clamp(part.Top / cut.Height, 0, cut.Count - 1);
-    const int last = std::clamp(part.Bottom / cut.Height, 0, cut.Count - 1);
-    for (int index = first; index <= last; ++index) wanted.push_back({part.Page, index, width});
+    for (const Strip& strip : StripsOf(part, width, height)) wanted.push_back(strip);
   }
   const Strip last = wanted.back();
   const Strip first = wanted.front();

@@ -25,12 +25,16 @@ struct StripCut {
 };
 StripCut CutIntoStrips(int width, int height);
 
-// Strips of pages `first` to `last` that show, told as heights in device pixels from the page's top.
+// What shows of a page: from `Top` to `Bottom`, in device pixels from the top of the page. Both may lie
+// outside the page.
 struct ShownPart {
   int Page = 0;
   int Top = 0;
   int Bottom = 0;
 };
+
+// The strips of a page `width` by `height` device pixels large of which `part` shows something.
+std::vector<Strip> StripsOf(const ShownPart& part, int width, int height);
 
 // What is worth rendering, most urgent first: what shows, then one page each way: what comes next when
 // scrolling on before what was left behind.

@@ -15,6 +15,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "preview/pages/page_input.h"
+#include "preview/pages/page_steps.h"
 #include "preview/pages/page_view.h"
 #include "preview/window/find_bar.h"
 #include "preview/window/finder.h"
@@ -63,6 +65,7 @@ PreviewWindow::PreviewWindow(std::shared_ptr<const Document> document, const Pre
       selection_(text_),
       memory_(setup.Memory != nullptr ? setup.Memory : std::make_shared<PreviewMemory>()),
       view_(new PageView(document_)),
+      input_(new PageInput(*view_)),
       output_(new DocumentOutput(
           document_, setup.Origin, memory_, [this] { return view_->CurrentPage(); }, this)),
       pane_(new SidePane(document_)),
@@ -224,16 +227,16 @@ void PreviewWindow::Connect() {
 }
 
 void PreviewWindow::ConnectSelection() {
-  connect(view_, &PageView::Pressed, this, [this](const PageView::Spot& spot) {
+  connect(input_, &PageInput::Pressed, this, [this](const PageView::Spot& spot) {
     selection_.Clear();
     if (spot.Page >= 0) selection_.Start(spot.Page, spot.Point);
     SelectionChanged();
   });
-  connect(view_, &PageView::Dragged, this, [this](const PageView::Spot& spot) {
+  connect(input_, &PageInput::Dragged, this, [this](const PageView::Spot& spot) {
     if (spot.Page >= 0) selection_.ExtendTo(spot.Page, spot.Point);
     SelectionChanged();
   });
-  connect(view_, &PageView::DoubleClicked, this, [this](const PageView::Spot& spot) {
+  connect(input_, &PageInput::DoubleClicked, this, [this](const PageView::Spot& spot) {
     if (spot.Page >= 0) selection_.SelectWord(spot.Page, spot.Point);
     SelectionChanged();
   });
@@ -264,9 +267,9 @@ void PreviewWindow::Run(Command command, bool checked) {
     case Command::FirstPage:
       return Jump({0, 0});
     case Command::PreviousPage:
-      return view_->ScrollPages(-1);
+      return ScrollPages(*view_, -1);
     case Command::NextPage:
-      return view_->ScrollPages(1);
+      return ScrollPages(*view_, 1);
     case Command::LastPage:
       return Jump({view_->Layout().PageCount() - 1, 0});
     case Command::GoToPage:
@@ -276,9 +279,9 @@ void PreviewWindow::Run(Command command, bool checked) {
     case Command::Forward:
       return Walk(history_.Forward(view_->CurrentPlace()));
     case Command::ZoomIn:
-      return view_->ZoomStep(1);
+      return ZoomStep(*view_, 1);
     case Command::ZoomOut:
-      return view_->ZoomStep(-1);
+      return ZoomStep(*view_, -1);
     case Command::FitPage:
       return view_->SetZoomMode(ZoomMode::FitPage);
     case Command::ActualSize:

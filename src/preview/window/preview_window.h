@@ -24,6 +24,7 @@ namespace tarvis {
 
 class FindBar;
 class Finder;
+class PageInput;
 class PageView;
 class SavedBar;
 class SidePane;
@@ -93,6 +94,7 @@ class PreviewWindow : public QMainWindow {
   TextSelection selection_;
   std::shared_ptr<PreviewMemory> memory_;
   PageView* view_;
+  PageInput* input_;
   DocumentOutput* output_;
   SidePane* pane_;
   FindBar* findBar_;
