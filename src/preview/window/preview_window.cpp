@@ -1,7 +1,6 @@
 #include "preview/window/preview_window.h"
 
 #include <QAction>
-#include <QClipboard>
 #include <QCloseEvent>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
@@ -10,7 +9,6 @@
 #include <QShortcut>
 #include <QSplitter>
 #include <QToolBar>
-#include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
@@ -20,10 +18,12 @@
 #include "preview/pages/page_view.h"
 #include "preview/window/find_bar.h"
 #include "preview/window/finder.h"
-#include "preview/window/icons.h"
+#include "preview/window/page_box.h"
 #include "preview/window/reading_place.h"
 #include "preview/window/saved_bar.h"
+#include "preview/window/selector.h"
 #include "preview/window/side_pane.h"
+#include "preview/window/zoom_box.h"
 
 namespace tarvis {
 namespace {
@@ -33,26 +33,8 @@ constexpr double OpeningTop = 345;
 constexpr double OpeningWidth = 16005;
 constexpr double OpeningHeight = 9675;
 
-const QColor SelectionTint(170, 205, 255);
-
 int Pixels(double twips) {
   return static_cast<int>(twips / TwipsPerScreenPixel);
-}
-
-QList<QKeySequence> KeysOf(const CommandEntry& entry) {
-  QList<QKeySequence> keys;
-  for (const QString& key : QString::fromUtf8(entry.Keys).split(QStringLiteral("; "), Qt::SkipEmptyParts)) {
-    keys.append(QKeySequence(key, QKeySequence::PortableText));
-  }
-  return keys;
-}
-
-QString ToolTipOf(const QAction& action) {
-  QString caption = action.text();
-  caption.remove(QLatin1Char('&')).remove(QChar(0x2026));
-  const QKeySequence key = action.shortcut();
-  return key.isEmpty() ? caption
-                       : QStringLiteral("%1 (%2)").arg(caption, key.toString(QKeySequence::NativeText));
 }
 
 }  // namespace
@@ -62,19 +44,43 @@ PreviewWindow::PreviewWindow(std::shared_ptr<const Document> document, const Pre
     : QMainWindow(parent),
       document_(std::move(document)),
       text_(*document_),
-      selection_(text_),
       memory_(setup.Memory != nullptr ? setup.Memory : std::make_shared<PreviewMemory>()),
       view_(new PageView(document_)),
       input_(new PageInput(*view_)),
+      selector_(new Selector(text_, *view_, *input_, this)),
       output_(new DocumentOutput(
           document_, setup.Origin, memory_, [this] { return view_->CurrentPage(); }, this)),
       pane_(new SidePane(document_)),
       findBar_(new FindBar(this)),
       savedBar_(new SavedBar(this)),
       finder_(new Finder(*findBar_, text_, *view_, this)),
-      splitter_(new QSplitter(this)) {
+      splitter_(new QSplitter(this)),
+      pageBox_(new PageBox(view_->Layout().PageCount(), this)),
+      zoomBox_(new ZoomBox(this)),
+      actions_(new PreviewActions(setup.Tools, *this)),
+      handlers_(MakeHandlers()) {
   setObjectName(QStringLiteral("previewWindow"));
   setWindowTitle(setup.Caption);
+  Arrange(setup);
+  MakeToolbar();
+  Connect();
+  ConnectBoxes();
+  if (memory_->Window) ShowAsBefore(*memory_->Window);
+  ShowPlace();
+  ShowZoom();
+  ActionOf(Command::Copy)->setEnabled(false);
+  view_->setFocus();
+}
+
+PreviewWindow::~PreviewWindow() {
+  output_->Cancel();
+}
+
+bool PreviewWindow::IsBusy() const {
+  return output_->IsBusy();
+}
+
+void PreviewWindow::Arrange(const PreviewSetup& setup) {
   splitter_->addWidget(pane_);
   splitter_->addWidget(view_);
   splitter_->setStretchFactor(1, 1);
@@ -89,24 +95,8 @@ PreviewWindow::PreviewWindow(std::shared_ptr<const Document> document, const Pre
   setCentralWidget(body);
   PlaceOnScreen();
   splitter_->setSizes({Pixels(setup.ContentsWidth), width() - Pixels(setup.ContentsWidth)});
-  MakeActions();
-  MakeToolbar(setup.Tools);
   pane_->setVisible(setup.ContentsVisible);
   ActionOf(Command::SidePane)->setChecked(setup.ContentsVisible);
-  Connect();
-  if (memory_->Window) ShowAsBefore(*memory_->Window);
-  ShowPlace();
-  ShowZoom();
-  SelectionChanged();
-  view_->setFocus();
-}
-
-PreviewWindow::~PreviewWindow() {
-  output_->Cancel();
-}
-
-bool PreviewWindow::IsBusy() const {
-  return output_->IsBusy();
 }
 
 void PreviewWindow::PlaceOnScreen() {
@@ -155,156 +145,77 @@ void PreviewWindow::hideEvent(QHideEvent* event) {
   QMainWindow::hideEvent(event);
 }
 
-void PreviewWindow::MakeActions() {
-  for (const CommandEntry& entry : CommandTable()) {
-    auto* action = new QAction(tr(entry.Caption), this);
-    action->setObjectName(QString::fromUtf8(entry.Name));
-    action->setShortcuts(KeysOf(entry));
-    action->setToolTip(ToolTipOf(*action));
-    if (*entry.Icon != '\0') action->setIcon(OutlineIcon(entry.Icon));
-    action->setCheckable(entry.Checkable);
-    if (entry.Number != 0) action->setData(entry.Number);
-    connect(action, &QAction::triggered, this, [this, id = entry.Id](bool checked) { Run(id, checked); });
-    addAction(action);
-    actions_[entry.Id] = action;
-  }
-}
-
-void PreviewWindow::MakeToolbar(const std::vector<Tool>& tools) {
+void PreviewWindow::MakeToolbar() {
   auto* bar = new QToolBar(tr("Tools"), this);
   bar->setObjectName(QStringLiteral("toolbar"));
   bar->setMovable(false);
   bar->setIconSize(QSize(20, 20));
   bar->setContextMenuPolicy(Qt::PreventContextMenu);
   addToolBar(bar);
-  for (const CommandEntry& entry : CommandTable()) {
-    if (entry.Where != Shown::Toolbar) continue;
-    if (entry.StartsGroup) bar->addSeparator();
-    if (entry.Id == Command::Close) {
-      for (const Tool& tool : tools) AddTool(tool, *bar);
-      bar->addSeparator();
-    }
-    bar->addAction(ActionOf(entry.Id));
-    if (entry.Id == Command::PreviousPage) bar->addWidget(MakePageBox());
-    if (entry.Id == Command::ZoomOut) bar->addWidget(MakeZoomBox());
-  }
-  // The style's own sign for further tools can't be seen on a dark desktop.
-  if (auto* more = bar->findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button")))
-    more->setIcon(OutlineIcon("M3.5 4 L7.5 8 L3.5 12 M8.5 4 L12.5 8 L8.5 12"));
-  for (QAction* action : bar->actions()) {
-    auto* button = qobject_cast<QToolButton*>(bar->widgetForAction(action));
-    if (button == nullptr) continue;
-    button->setObjectName(action->objectName() + QStringLiteral("Button"));
-    button->setAccessibleName(action->text().remove(QLatin1Char('&')));
-    button->setFocusPolicy(Qt::TabFocus);
-  }
+  actions_->FillToolbar(*bar, *pageBox_, *zoomBox_);
 }
 
-// The report's own tools show their text, too.
-void PreviewWindow::AddTool(const Tool& tool, QToolBar& bar) {
-  QAction* action = bar.addAction(OutlineIcon(ReportToolIcon), QString::fromStdString(tool.Caption));
-  action->setObjectName(QStringLiteral("tool%1").arg(tool.ID));
-  action->setData(tool.ID);
-  if (toolActions_.empty()) action->setShortcut(QKeySequence(QString::fromUtf8(ReportToolKey)));
-  action->setToolTip(ToolTipOf(*action));
-  connect(action, &QAction::triggered, this, [this, id = tool.ID] { emit toolUsed(id); });
-  qobject_cast<QToolButton*>(bar.widgetForAction(action))->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  addAction(action);
-  toolActions_.push_back(action);
+PreviewWindow::Handlers PreviewWindow::MakeHandlers() {
+  return {
+      {Command::Print, [this](bool) { output_->Print(); }},
+      {Command::SavePdf, [this](bool) { output_->SavePdf(); }},
+      {Command::SidePane, [this](bool checked) { pane_->setVisible(checked); }},
+      {Command::FirstPage,
+       [this](bool) {
+         Jump({0, 0});
+       }},
+      {Command::PreviousPage, [this](bool) { ScrollPages(*view_, -1); }},
+      {Command::NextPage, [this](bool) { ScrollPages(*view_, 1); }},
+      {Command::LastPage,
+       [this](bool) {
+         Jump({view_->Layout().PageCount() - 1, 0});
+       }},
+      {Command::GoToPage, [this](bool) { pageBox_->StartTyping(); }},
+      {Command::Back, [this](bool) { Walk(history_.Back(view_->CurrentPlace())); }},
+      {Command::Forward, [this](bool) { Walk(history_.Forward(view_->CurrentPlace())); }},
+      {Command::ZoomIn, [this](bool) { ZoomStep(*view_, 1); }},
+      {Command::ZoomOut, [this](bool) { ZoomStep(*view_, -1); }},
+      {Command::FitPage, [this](bool) { view_->SetZoomMode(ZoomMode::FitPage); }},
+      {Command::ActualSize, [this](bool) { view_->SetZoom(1); }},
+      {Command::FitWidth, [this](bool) { view_->SetZoomMode(ZoomMode::FitWidth); }},
+      {Command::Continuous, [this](bool checked) { view_->SetContinuous(checked); }},
+      {Command::Find, [this](bool) { finder_->Open(); }},
+      {Command::FindNext, [this](bool) { finder_->Step(1); }},
+      {Command::FindPrevious, [this](bool) { finder_->Step(-1); }},
+      {Command::Copy, [this](bool) { selector_->Copy(); }},
+      {Command::SelectAll, [this](bool) { selector_->SelectAll(); }},
+      {Command::Close, [this](bool) { emit toolUsed(CloseToolNumber); }},
+  };
 }
 
 void PreviewWindow::Connect() {
   // The desktop turns the menu key into a wish for the menu, but not everywhere its twin.
   connect(new QShortcut(Qt::SHIFT | Qt::Key_F10, this), &QShortcut::activated, this,
           [this] { ShowMenu(view_->mapToGlobal(view_->rect().center())); });
-
+  connect(actions_, &PreviewActions::Triggered, this,
+          [this](Command command, bool checked) { handlers_.at(command)(checked); });
+  connect(actions_, &PreviewActions::ToolUsed, this, &PreviewWindow::toolUsed);
   connect(view_, &PageView::PlaceChanged, this, &PreviewWindow::ShowPlace);
   connect(view_, &PageView::ZoomChanged, this, &PreviewWindow::ShowZoom);
   connect(pane_, &SidePane::PlaceChosen, this, &PreviewWindow::Jump);
   connect(output_, &DocumentOutput::Saved, savedBar_, &SavedBar::Show);
   connect(finder_, &Finder::Leaving, this, [this] { history_.Leave(view_->CurrentPlace()); });
-  ConnectSelection();
-}
-
-void PreviewWindow::ConnectSelection() {
-  connect(input_, &PageInput::Pressed, this, [this](const PageView::Spot& spot) {
-    selection_.Clear();
-    if (spot.Page >= 0) selection_.Start(spot.Page, spot.Point);
-    SelectionChanged();
-  });
-  connect(input_, &PageInput::Dragged, this, [this](const PageView::Spot& spot) {
-    if (spot.Page >= 0) selection_.ExtendTo(spot.Page, spot.Point);
-    SelectionChanged();
-  });
-  connect(input_, &PageInput::DoubleClicked, this, [this](const PageView::Spot& spot) {
-    if (spot.Page >= 0) selection_.SelectWord(spot.Page, spot.Point);
-    SelectionChanged();
-  });
+  connect(selector_, &Selector::Changed, this,
+          [this] { ActionOf(Command::Copy)->setEnabled(!selector_->IsEmpty()); });
   view_->SetHighlights([this](int page) {
     std::vector<Highlight> marks = finder_->Marks(page);
-    for (const QRectF& box : selection_.Boxes(page)) marks.push_back({box, SelectionTint});
+    for (const Highlight& mark : selector_->Marks(page)) marks.push_back(mark);
     return marks;
   });
 }
 
-void PreviewWindow::SelectionChanged() {
-  ActionOf(Command::Copy)->setEnabled(!selection_.IsEmpty());
-  view_->viewport()->update();
-}
-
-void PreviewWindow::Copy() {
-  if (!selection_.IsEmpty()) QGuiApplication::clipboard()->setText(selection_.Text());
-}
-
-void PreviewWindow::Run(Command command, bool checked) {
-  switch (command) {
-    case Command::Print:
-      return output_->Print();
-    case Command::SavePdf:
-      return output_->SavePdf();
-    case Command::SidePane:
-      return pane_->setVisible(checked);
-    case Command::FirstPage:
-      return Jump({0, 0});
-    case Command::PreviousPage:
-      return ScrollPages(*view_, -1);
-    case Command::NextPage:
-      return ScrollPages(*view_, 1);
-    case Command::LastPage:
-      return Jump({view_->Layout().PageCount() - 1, 0});
-    case Command::GoToPage:
-      return FocusPageBox();
-    case Command::Back:
-      return Walk(history_.Back(view_->CurrentPlace()));
-    case Command::Forward:
-      return Walk(history_.Forward(view_->CurrentPlace()));
-    case Command::ZoomIn:
-      return ZoomStep(*view_, 1);
-    case Command::ZoomOut:
-      return ZoomStep(*view_, -1);
-    case Command::FitPage:
-      return view_->SetZoomMode(ZoomMode::FitPage);
-    case Command::ActualSize:
-      return view_->SetZoom(1);
-    case Command::FitWidth:
-      return view_->SetZoomMode(ZoomMode::FitWidth);
-    case Command::Continuous:
-      return view_->SetContinuous(checked);
-    case Command::Find:
-      return finder_->Open();
-    case Command::FindNext:
-      return finder_->Step(1);
-    case Command::FindPrevious:
-      return finder_->Step(-1);
-    case Command::Copy:
-      return Copy();
-    case Command::SelectAll:
-      selection_.SelectAll();
-      return SelectionChanged();
-    case Command::Close:
-      emit toolUsed(CloseToolNumber);
-      return;
-  }
+void PreviewWindow::ConnectBoxes() {
+  connect(pageBox_, &PageBox::PageTyped, this, [this](int page) {
+    Jump({page, 0});
+    view_->setFocus();
+  });
+  connect(zoomBox_, &ZoomBox::ZoomChosen, this, [this](double zoom) { view_->SetZoom(zoom); });
+  connect(zoomBox_, &ZoomBox::Used, view_, [this] { view_->setFocus(); });
 }
 
 void PreviewWindow::Jump(const PagePlace& place) {
@@ -315,6 +226,26 @@ void PreviewWindow::Jump(const PagePlace& place) {
 void PreviewWindow::Walk(const std::optional<PagePlace>& place) {
   if (place) view_->GoTo(*place);
   ShowPlace();
+}
+
+void PreviewWindow::ShowPlace() {
+  const int count = view_->Layout().PageCount();
+  const int page = view_->CurrentPage();
+  pageBox_->ShowPage(page);
+  pane_->ShowPlace(view_->ReadPlace());
+  ActionOf(Command::FirstPage)->setEnabled(page > 0);
+  ActionOf(Command::PreviousPage)->setEnabled(page > 0);
+  ActionOf(Command::NextPage)->setEnabled(page + 1 < count);
+  ActionOf(Command::LastPage)->setEnabled(page + 1 < count);
+  ActionOf(Command::Back)->setEnabled(history_.CanGoBack());
+  ActionOf(Command::Forward)->setEnabled(history_.CanGoForward());
+}
+
+void PreviewWindow::ShowZoom() {
+  zoomBox_->ShowZoom(view_->Zoom());
+  ActionOf(Command::FitPage)->setChecked(view_->Layout().Mode() == ZoomMode::FitPage);
+  ActionOf(Command::FitWidth)->setChecked(view_->Layout().Mode() == ZoomMode::FitWidth);
+  ActionOf(Command::Continuous)->setChecked(view_->Layout().Continuous());
 }
 
 void PreviewWindow::closeEvent(QCloseEvent* event) {
@@ -330,13 +261,7 @@ void PreviewWindow::contextMenuEvent(QContextMenuEvent* event) {
 void PreviewWindow::ShowMenu(const QPoint& place) {
   QMenu menu(this);
   menu.setObjectName(QStringLiteral("contextMenu"));
-  for (const CommandEntry& entry : CommandTable()) {
-    if (entry.StartsGroup) menu.addSeparator();
-    if (entry.Id == Command::Close) {
-      for (QAction* action : toolActions_) menu.addAction(action);
-    }
-    menu.addAction(ActionOf(entry.Id));
-  }
+  actions_->FillMenu(menu);
   menu.exec(place);
 }
 

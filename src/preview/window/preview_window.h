@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <functional>
 #include <map>
 #include <memory>
 #include <vector>
@@ -9,25 +10,24 @@
 #include "preview/pages/page_layout.h"
 #include "preview/pages/place_history.h"
 #include "preview/paint/document_text.h"
-#include "preview/text/text_selection.h"
-#include "preview/window/commands.h"
 #include "preview/window/document_output.h"
+#include "preview/window/preview_actions.h"
 #include "report/engine/active_report.h"
 #include "report/engine/document.h"
 
-class QComboBox;
-class QLabel;
-class QLineEdit;
 class QSplitter;
 
 namespace tarvis {
 
 class FindBar;
 class Finder;
+class PageBox;
 class PageInput;
 class PageView;
 class SavedBar;
+class Selector;
 class SidePane;
+class ZoomBox;
 
 // How the report that is shown wants its window.
 struct PreviewSetup {
@@ -50,7 +50,7 @@ class PreviewWindow : public QMainWindow {
   PageView& View() { return *view_; }
   // Whether a print or an export is under way.
   bool IsBusy() const;
-  QAction* ActionOf(Command command) const { return actions_.at(command); }
+  QAction* ActionOf(Command command) const { return actions_->Of(command); }
 
  signals:
   // A tool that is none of the window's own business: an added tool, or CloseToolNumber.
@@ -65,46 +65,39 @@ class PreviewWindow : public QMainWindow {
   void hideEvent(QHideEvent* event) override;
 
  private:
+  using Handlers = std::map<Command, std::function<void(bool checked)>>;
+
   void PlaceOnScreen();
   void ShowAsBefore(const WindowState& state);
   WindowState State() const;
-  void MakeActions();
-  void MakeToolbar(const std::vector<Tool>& tools);
-  void AddTool(const Tool& tool, QToolBar& bar);
-  QWidget* MakePageBox();
-  QWidget* MakeZoomBox();
-  void ShowMenu(const QPoint& place);  // on the screen
+  void Arrange(const PreviewSetup& setup);
+  void MakeToolbar();
+  Handlers MakeHandlers();
   void Connect();
-  void ConnectSelection();
-  void Run(Command command, bool checked);
+  void ConnectBoxes();
+  void ShowMenu(const QPoint& place);  // on the screen
 
   void Jump(const PagePlace& place);
+  void Walk(const std::optional<PagePlace>& place);
   void ShowPlace();
   void ShowZoom();
-  void Walk(const std::optional<PagePlace>& place);
-  void FocusPageBox();
-  void ReadPageBox();
-  void ReadZoomBox();
-
-  void Copy();
-  void SelectionChanged();
 
   std::shared_ptr<const Document> document_;
   DocumentText text_;
-  TextSelection selection_;
   std::shared_ptr<PreviewMemory> memory_;
   PageView* view_;
   PageInput* input_;
+  Selector* selector_;
   DocumentOutput* output_;
   SidePane* pane_;
   FindBar* findBar_;
   SavedBar* savedBar_;
   Finder* finder_;
   QSplitter* splitter_;
-  QLineEdit* pageBox_ = nullptr;
-  QComboBox* zoomBox_ = nullptr;
-  std::map<Command, QAction*> actions_;
-  std::vector<QAction*> toolActions_;
+  PageBox* pageBox_;
+  ZoomBox* zoomBox_;
+  PreviewActions* actions_;
+  Handlers handlers_;
   PlaceHistory history_;
   std::optional<ReadingPlace> place_;  // to be shown when the window has its size
 };

@@ -1,0 +1,57 @@
+#include "preview/window/selector.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+namespace tarvis {
+namespace {
+
+const QColor SelectionTint(170, 205, 255);
+
+}  // namespace
+
+Selector::Selector(DocumentText& text, PageView& view, PageInput& input, QObject* parent)
+    : QObject(parent), view_(view), selection_(text) {
+  setObjectName(QStringLiteral("selector"));
+  connect(&input, &PageInput::Pressed, this, &Selector::Start);
+  connect(&input, &PageInput::Dragged, this, &Selector::Extend);
+  connect(&input, &PageInput::DoubleClicked, this, &Selector::SelectWord);
+}
+
+void Selector::Start(const PageView::Spot& spot) {
+  selection_.Clear();
+  if (spot.Page >= 0) selection_.Start(spot.Page, spot.Point);
+  TellChange();
+}
+
+void Selector::Extend(const PageView::Spot& spot) {
+  if (spot.Page >= 0) selection_.ExtendTo(spot.Page, spot.Point);
+  TellChange();
+}
+
+void Selector::SelectWord(const PageView::Spot& spot) {
+  if (spot.Page >= 0) selection_.SelectWord(spot.Page, spot.Point);
+  TellChange();
+}
+
+void Selector::SelectAll() {
+  selection_.SelectAll();
+  TellChange();
+}
+
+void Selector::Copy() const {
+  if (!selection_.IsEmpty()) QGuiApplication::clipboard()->setText(selection_.Text());
+}
+
+std::vector<Highlight> Selector::Marks(int page) const {
+  std::vector<Highlight> marks;
+  for (const QRectF& box : selection_.Boxes(page)) marks.push_back({box, SelectionTint});
+  return marks;
+}
+
+void Selector::TellChange() {
+  view_.viewport()->update();
+  emit Changed();
+}
+
+}  // namespace tarvis

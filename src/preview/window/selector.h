@@ -1,0 +1,37 @@
+// Selecting text on the pages by mouse, and copying it: ties the page view's input to the text selection.
+#pragma once
+
+#include <QObject>
+
+#include "preview/pages/page_input.h"
+#include "preview/text/text_selection.h"
+
+namespace tarvis {
+
+class Selector : public QObject {
+  Q_OBJECT
+ public:
+  // All must outlive it.
+  Selector(DocumentText& text, PageView& view, PageInput& input, QObject* parent);
+
+  bool IsEmpty() const { return selection_.IsEmpty(); }
+  void SelectAll();
+  // Puts the selected text on the clipboard; does nothing without a selection.
+  void Copy() const;
+  // The marks of a page.
+  std::vector<Highlight> Marks(int page) const;
+
+ signals:
+  void Changed();
+
+ private:
+  void Start(const PageView::Spot& spot);
+  void Extend(const PageView::Spot& spot);
+  void SelectWord(const PageView::Spot& spot);
+  void TellChange();
+
+  PageView& view_;
+  TextSelection selection_;
+};
+
+}  // namespace tarvis
