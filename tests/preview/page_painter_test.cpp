@@ -6,17 +6,22 @@
 
 #include <algorithm>
 
+#include "preview/output/reading_order.h"
 #include "support/sample_report.h"
 
 namespace tarvis {
 namespace {
 
+using testing::ElementsAre;
 using testing::IsEmpty;
 
-// Keeps the frames and strokes of one page.
+// Keeps the frames, strokes and texts of one page.
 class Recorder : public Canvas {
  public:
-  explicit Recorder(const Document& document, std::size_t page = 0) { PaintPage(document, page, *this); }
+  using Painting = void (*)(const Document& document, std::size_t page, Canvas& canvas);
+  explicit Recorder(const Document& document, std::size_t page = 0, Painting paint = PaintPage) {
+    paint(document, page, *this);
+  }
 
   void Fill(const std::vector<Rect>&, Color) override {}
   void Frame(const std::vector<Rect>& boxes, float) override {
@@ -25,11 +30,12 @@ class Recorder : public Canvas {
   void Strokes(const std::vector<Rect>& lines, float) override {
     Lines.insert(Lines.end(), lines.begin(), lines.end());
   }
-  void Text(const TextPiece&, const TextStyle&, const Rect&) override {}
+  void Text(const TextPiece& piece, const TextStyle&, const Rect&) override { Texts.push_back(piece.Text); }
   void Picture(const tarvis::Picture&, const Rect&) override {}
 
   std::vector<Rect> Frames;
   std::vector<Rect> Lines;
+  std::vector<std::string> Texts;
 };
 
 // Whether a horizontal line was painted at that height.
@@ -70,6 +76,16 @@ TEST(PagePainter, PaintsTheFramesOfWholeCellsAtOnce) {
   const Recorder page(document);
   EXPECT_EQ(page.Frames.size(), 3U);
   EXPECT_THAT(page.Lines, IsEmpty());
+}
+
+TEST(PagePainter, SortsTextsForReadersOfFilesOnlyAndLeavesThemAsLaidOutOnTheScreen) {
+  SampleReport report;
+  Section& detail = report.Growing(SectionKind::Detail, "d");
+  detail.AddField("value", {3000, 0, 1000, 283}, {}).Text = "40.0";
+  detail.AddField("number", {100, 0, 1000, 283}, {}).Text = "Pn100";
+  const Document document = ComposeSample(report, 2000);
+  EXPECT_THAT(Recorder(document).Texts, ElementsAre("40.0", "Pn100"));
+  EXPECT_THAT(Recorder(document, 0, PaintInReadingOrder).Texts, ElementsAre("Pn100", "40.0"));
 }
 
 TEST(PagePainter, ClipsTextBelowTheBottomOfItsBoxOnly) {

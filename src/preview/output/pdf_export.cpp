@@ -15,6 +15,7 @@
 
 #include "preview/output/pdf_greys.h"
 #include "preview/output/pdf_resources.h"
+#include "preview/output/reading_order.h"
 
 namespace tarvis {
 namespace {
@@ -59,7 +60,7 @@ bool AddPages(QPDF& pdf, const Document& document, const PdfSheets& sheets, cons
     const auto [content, isNew] = contents.try_emplace(page);
     if (isNew) {
       PdfCanvas canvas(sheets.Paper.height(), sheets.Scale, glyphs, pictures);
-      PaintPage(document, static_cast<std::size_t>(page), canvas);
+      PaintInReadingOrder(document, static_cast<std::size_t>(page), canvas);
       content->second = pdf.newStream(canvas.Finish());
     }
     pages.push_back(MakePage(pdf, sheets, content->second));

@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "preview/output/print_system.h"
+#include "preview/output/reading_order.h"
 #include "preview/paint/painter_canvas.h"
 
 namespace tarvis {
@@ -92,7 +93,7 @@ QString PrintDocument(const Document& document, const std::vector<int>& pages, Q
     if (index > 0 && !printer.newPage())
       return Text("The printer \"%1\" took no further page.").arg(printer.printerName());
     PainterCanvas canvas(painter);
-    PaintPage(document, static_cast<std::size_t>(pages[index]), canvas);
+    PaintInReadingOrder(document, static_cast<std::size_t>(pages[index]), canvas);
   }
   if (!progress(count, count)) return Drop(printer);
   if (!painter.end() || printer.printerState() == QPrinter::Error) {

@@ -102,7 +102,11 @@ void PaintLayer(const Document& document, const PageLayer& layer, Canvas& canvas
 }  // namespace
 
 void PaintPage(const Document& document, std::size_t page, Canvas& canvas) {
-  for (const PageLayer& layer : PlanPage(document, page)) PaintLayer(document, layer, canvas);
+  PaintLayers(document, PlanPage(document, page), canvas);
+}
+
+void PaintLayers(const Document& document, const std::vector<PageLayer>& layers, Canvas& canvas) {
+  for (const PageLayer& layer : layers) PaintLayer(document, layer, canvas);
 }
 
 TextFit FitText(const TextPiece& piece, const Rect& box) {

@@ -26,6 +26,8 @@ class Canvas {
 };
 
 void PaintPage(const Document& document, std::size_t page, Canvas& canvas);
+// The same for layers that PlanPage has made, in the order in which they now are.
+void PaintLayers(const Document& document, const std::vector<PageLayer>& layers, Canvas& canvas);
 
 // How a piece of text is fitted to the printed width of its item.
 struct TextFit {

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "preview/paint/document_text.h"
-
 namespace tarvis {
 namespace {
 
@@ -101,22 +99,6 @@ void AddTo(PageLayer& layer, const Item& item) {
   }
 }
 
-// Copied text, and that of a PDF above all, comes in the order in which it is painted.
-void PutTextsInReadingOrder(const Document& document, std::size_t page, std::vector<PageLayer>& layers) {
-  std::vector<std::uint32_t> ranks(document.Pages[page].ItemCount);
-  std::uint32_t rank = 0;
-  for (const ReadPiece& piece : ReadPage(document, page).Pieces) {
-    if (piece.PictureText >= 0) continue;  // pictures paint their own
-    ranks[piece.Item - document.Pages[page].FirstItem] = rank++;
-  }
-  const Item* first = document.Items.data() + document.Pages[page].FirstItem;
-  for (PageLayer& layer : layers) {
-    std::sort(layer.Texts.begin(), layer.Texts.end(), [&](const Item* a, const Item* b) {
-      return ranks[static_cast<std::size_t>(a - first)] < ranks[static_cast<std::size_t>(b - first)];
-    });
-  }
-}
-
 }  // namespace
 
 std::vector<PageLayer> PlanPage(const Document& document, std::size_t page) {
@@ -132,7 +114,6 @@ std::vector<PageLayer> PlanPage(const Document& document, std::size_t page) {
     AddTo(layers.back(), item);
     if (CanBeCovered(item)) painted.Add(item);
   }
-  PutTextsInReadingOrder(document, page, layers);
   return layers;
 }
 
