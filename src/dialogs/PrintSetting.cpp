@@ -4,17 +4,17 @@
 #include <utility>
 
 #include "dialogs/EditCover.h"
+#include "dialogs/controls/choice.h"
 #include "dialogs/controls/focus_guard.h"
 #include "dialogs/controls/help_context.h"
+#include "dialogs/cover_group.h"
 #include "dialogs/pages/InfIdxTbl.h"
 #include "dialogs/pages/item_pages.h"
 #include "printfiles/print_options_file.h"
 #include "run/failures.h"
 #include "run/print_run.h"
-#include "session/choices.h"
 #include "session/setting_rules.h"
 #include "text/native_path.h"
-#include "text/text.h"
 
 namespace tarvis {
 
@@ -24,21 +24,13 @@ constexpr FittedDialog::Plan DialogPlan{.Width = 5535, .Height = 8130, .ButtonsT
 constexpr int PageCount = 10;
 constexpr int ProgramTableEntry = 2;
 
-// The member of a family that a number of the options file chooses; `first` is the number of the first one.
-template <typename Control, std::size_t Count>
-Control& Chosen(PrintRun& run, const std::array<Control*, Count>& family, const std::int16_t& option,
-                int first) {
-  RequireChoice(run, option, first, first + static_cast<int>(Count) - 1);
-  return *family[static_cast<std::size_t>(option - first)];
-}
-
 }  // namespace
 
 PrintSetting::PrintSetting(PrintRun& run, PrintSettingServices services)
     : FittedDialog("PrintSetting", "Printing Item Setting", DialogPlan, nullptr),
       run_(run),
-      services_(std::move(services)) {
-  BuildCoverGroup();
+      services_(std::move(services)),
+      cover_(new CoverGroup(run, Upper())) {
   BuildFunctionGroup();
   BuildColorGroup();
   BuildButtons();
@@ -49,25 +41,6 @@ PrintSetting::PrintSetting(PrintRun& run, PrintSettingServices services)
 // The focus moves once more while the controls go; nobody is to be held back then.
 PrintSetting::~PrintSetting() {
   delete guard_;
-}
-
-void PrintSetting::BuildCoverGroup() {
-  auto* frame = new GroupFrame("Frame1", "Cover", {120, 45, 5300, 2640}, Upper());
-  chkCover_ = new TickBox("chkCover", NoFamily, "&Attaching the Cover", {240, 225, 1815, 375}, frame);
-  cmdEdit_ = MakeButton("cmdEdit", "Cover &Editing", {2640, 240, 1695, 495}, frame);
-  cmdEdit_->setEnabled(false);
-  lblCover1_ = MakeLabel("lblCover1", NoFamily, " Where to Submit", {360, 810, 3375, 255}, frame);
-  lblCover1_->setEnabled(false);
-  optDrow_ = {new OptionButton("optDrow", 0, " Where to Submit (No.&1)", {330, 1035, 1455, 375}, frame),
-              new OptionButton("optDrow", 1, " Where to Submit (No.&2)", {1800, 1035, 1455, 375}, frame),
-              new OptionButton("optDrow", 2, " Where to Submit (No.&3)", {3240, 1035, 1455, 375}, frame)};
-  drowGroup_ = new QButtonGroup(this);
-  for (OptionButton* option : optDrow_) {
-    option->setEnabled(false);
-    drowGroup_->addButton(option);
-  }
-  spread_ = new AddresseeGrid({105, 1440, 5145, 1140}, frame);
-  spread_->setEnabled(false);
 }
 
 void PrintSetting::BuildFunctionGroup() {
@@ -94,14 +67,7 @@ void PrintSetting::BuildButtons() {
 }
 
 void PrintSetting::Connect() {
-  connect(chkCover_, &TickBox::ValueChanged, this, &PrintSetting::CoverClicked);
-  for (std::int16_t index = 0; index < 3; ++index) {
-    connect(optDrow_.at(static_cast<std::size_t>(index)), &OptionButton::toggled, this,
-            [this, index](bool on) {
-              if (on) SubmitBlockClicked(index);
-            });
-  }
-  connect(cmdEdit_, &QPushButton::clicked, this, &PrintSetting::EditClicked);
+  connect(cover_, &CoverGroup::EditWanted, this, &PrintSetting::EditClicked);
   connect(cmbFunc_, &QComboBox::activated, this, &PrintSetting::FunctionChosen);
   for (std::int16_t index = 0; index < 2; ++index) {
     connect(optColor_.at(static_cast<std::size_t>(index)), &OptionButton::toggled, this,
@@ -122,7 +88,7 @@ void PrintSetting::LoadDialog() {
     services_.SetHelp(run_.Session.HelpFile, run_.Session.HelpContextId);
     SetHelpContext(*this, run_.Session.HelpContextId);
   }
-  LoadCover();
+  cover_->Load();
   FillFunctionList();
   SelectByMode();
   run_.Session.StepStartValid = -1;
@@ -142,12 +108,6 @@ void PrintSetting::ShowWithPage() {
     delete std::exchange(guard_, nullptr);  // the focus moves once more while the controls go
     throw;
   }
-}
-
-void PrintSetting::LoadCover() {
-  if (run_.Options.Cover == 0) return chkCover_->SetValue(0);
-  chkCover_->SetValue(1);
-  if (run_.Options.SelectCover > 0) Chosen(run_, optDrow_, run_.Options.SelectCover, 1).setChecked(true);
 }
 
 void PrintSetting::FillFunctionList() {
@@ -203,45 +163,11 @@ void PrintSetting::ShowPage(ItemPage& page) {
   if (loaded_) page.Load();
 }
 
-void PrintSetting::SetCoverControlsEnabled(bool enabled) {
-  cmdEdit_->setEnabled(enabled);
-  lblCover1_->setEnabled(enabled);
-  for (OptionButton* option : optDrow_) option->setEnabled(enabled);
-  spread_->setEnabled(enabled);
-}
-
-void PrintSetting::ShowSubmitBlock(bool show, std::int16_t index) {
-  const AddresseeBlock block =
-      show ? run_.Options.User.at(static_cast<std::size_t>(index)) : AddresseeBlock{};
-  spread_->SetSettingValue(1, block.Title);
-  spread_->SetSettingValue(2, block.Corp);
-  spread_->SetSettingValue(3, NewlinesToBlanks(block.Sect));
-  spread_->SetSettingValue(4, block.Name);
-}
-
-void PrintSetting::CoverClicked() {
-  SetCoverControlsEnabled(chkCover_->IsOn());
-  if (SwitchCover(run_.Options, chkCover_->IsOn())) optDrow_[0]->setChecked(true);
-  if (chkCover_->IsOn()) return;
-  drowGroup_->setExclusive(false);
-  for (OptionButton* option : optDrow_) option->setChecked(false);
-  drowGroup_->setExclusive(true);
-  ShowSubmitBlock(false, 0);
-}
-
-void PrintSetting::SubmitBlockClicked(std::int16_t index) {
-  ShowSubmitBlock(true, index);
-  run_.Options.SelectCover = static_cast<std::int16_t>(index + 1);
-}
-
 // Modal: this dialog gets no input until the editor has closed, and then shows what was edited.
 void PrintSetting::EditClicked() {
   auto* editor = new EditCover(run_, this);
   editor->setAttribute(Qt::WA_DeleteOnClose);
-  connect(editor, &QDialog::finished, this, [this] {
-    const std::int16_t selected = run_.Options.SelectCover;
-    if (selected != 0) SubmitBlockClicked(static_cast<std::int16_t>(selected - 1));
-  });
+  connect(editor, &QDialog::finished, cover_, &CoverGroup::ShowChosenBlock);
   editor->show();
   editor->activateWindow();
 }

@@ -1,7 +1,6 @@
 // "Printing Item Setting": the one window that every run passes through.
 #pragma once
 
-#include <QButtonGroup>
 #include <QComboBox>
 #include <array>
 #include <cstdint>
@@ -10,7 +9,6 @@
 #include <string>
 #include <vector>
 
-#include "dialogs/controls/addressee_grid.h"
 #include "dialogs/controls/controls.h"
 #include "dialogs/controls/fitted_dialog.h"
 #include "dialogs/pages/ItemPage.h"
@@ -19,6 +17,7 @@
 namespace tarvis {
 
 struct PrintRun;
+class CoverGroup;
 class FocusGuard;
 class InfIdxTbl;
 
@@ -53,7 +52,6 @@ class PrintSetting : public FittedDialog {
   TabControl& FrontTabs() const override;
 
  private:
-  void BuildCoverGroup();
   void BuildFunctionGroup();
   void BuildColorGroup();
   void BuildButtons();
@@ -61,7 +59,6 @@ class PrintSetting : public FittedDialog {
 
   void LoadDialog();
   void ShowWithPage();
-  void LoadCover();
   void FillFunctionList();
   void SelectByMode();
 
@@ -72,23 +69,13 @@ class PrintSetting : public FittedDialog {
   bool RefuseToLeaveRange(const QWidget& left, const QWidget& entered);
   void ShowPage(ItemPage& page);
 
-  void SetCoverControlsEnabled(bool enabled);
-  void ShowSubmitBlock(bool show, std::int16_t index);
-  void CoverClicked();
-  void SubmitBlockClicked(std::int16_t index);
   void EditClicked();
   void OkClicked();
 
   PrintRun& run_;
   PrintSettingServices services_;
   bool loaded_ = false;
-
-  TickBox* chkCover_ = nullptr;
-  QPushButton* cmdEdit_ = nullptr;
-  QLabel* lblCover1_ = nullptr;
-  std::array<OptionButton*, 3> optDrow_{};
-  QButtonGroup* drowGroup_ = nullptr;
-  AddresseeGrid* spread_ = nullptr;
+  CoverGroup* cover_;
 
   QComboBox* cmbFunc_ = nullptr;
   std::span<const FunctionEntry> entries_;
