@@ -1,6 +1,8 @@
 #include "dialogs/PrintSetting.h"
 
 #include <QSignalBlocker>
+#include <algorithm>
+#include <cassert>
 #include <utility>
 
 #include "dialogs/EditCover.h"
@@ -8,7 +10,6 @@
 #include "dialogs/controls/focus_guard.h"
 #include "dialogs/controls/help_context.h"
 #include "dialogs/cover_group.h"
-#include "dialogs/pages/InfIdxTbl.h"
 #include "dialogs/pages/item_pages.h"
 #include "printfiles/print_options_file.h"
 #include "run/failures.h"
@@ -22,7 +23,6 @@ namespace {
 
 constexpr FittedDialog::Plan DialogPlan{.Width = 5535, .Height = 8130, .ButtonsTop = 7510};
 constexpr int PageCount = 10;
-constexpr int ProgramTableEntry = 2;
 
 }  // namespace
 
@@ -50,7 +50,6 @@ void PrintSetting::BuildFunctionGroup() {
   frame->SetBuddy(cmbFunc_);
   Place(*cmbFunc_, {480, 360, 3975, 330});
   for (int id = 0; id < PageCount; ++id) pages_.push_back(MakeItemPage(static_cast<PageId>(id), run_, frame));
-  infIdxTbl_ = qobject_cast<InfIdxTbl*>(pages_.at(static_cast<std::size_t>(PageId::InfIdxTbl)));
 }
 
 void PrintSetting::BuildColorGroup() {
@@ -75,9 +74,8 @@ void PrintSetting::Connect() {
               if (on) run_.Options.ColorType = index;
             });
   }
-  guard_ = new FocusGuard(*this, [this](const QWidget& left, const QWidget& entered) {
-    return RefuseToLeaveRange(left, entered);
-  });
+  guard_ = new FocusGuard(
+      *this, [this](const QWidget& left, const QWidget& entered) { return RefuseToLeave(left, entered); });
   connect(cmdOK_, &QPushButton::clicked, this, &PrintSetting::OkClicked);
   connect(cmdCancel_, &QPushButton::clicked, this, &PrintSetting::reject);
 }
@@ -142,17 +140,26 @@ void PrintSetting::FunctionClicked() {
   ShowPage(*pages_.at(static_cast<std::size_t>(PageOf(run_.Session, entry))));
 }
 
-// True if the focus has left the page of the program table with a bad range; the user is back at it then.
-// The check of the box that was left comes first.
-bool PrintSetting::RefuseToLeaveRange(const QWidget& left, const QWidget& entered) {
-  infIdxTbl_->ControlLeft(left);
-  if (!infIdxTbl_->isAncestorOf(&left) || infIdxTbl_->isAncestorOf(&entered)) return false;
-  if (&entered == cmdCancel_) return false;
-  if (run_.Session.Mode != "PrnSetting" && run_.Session.Mode != "IdxTbl") return false;
-  if (infIdxTbl_->RangeIsValid()) return false;
-  SelectFunction(ProgramTableEntry);
-  infIdxTbl_->ReturnToRange();
+// True if the page that the focus has left holds the user back; he is on it again then. The check of the
+// control that was left comes first.
+bool PrintSetting::RefuseToLeave(const QWidget& left, const QWidget& entered) {
+  const auto found = std::find_if(pages_.begin(), pages_.end(),
+                                  [&left](const ItemPage* page) { return page->isAncestorOf(&left); });
+  if (found == pages_.end()) return false;
+  ItemPage& page = **found;
+  page.ControlLeft(left);
+  if (page.isAncestorOf(&entered) || &entered == cmdCancel_ || page.MayLeave()) return false;
+  SelectPage(static_cast<PageId>(found - pages_.begin()));
+  page.ReturnToFault();
   return true;
+}
+
+void PrintSetting::SelectPage(PageId id) {
+  const auto entry = std::find_if(entries_.begin(), entries_.end(), [&](const FunctionEntry& function) {
+    return PageOf(run_.Session, function) == id;
+  });
+  assert(entry != entries_.end());
+  SelectFunction(static_cast<int>(entry - entries_.begin()));
 }
 
 void PrintSetting::ShowPage(ItemPage& page) {

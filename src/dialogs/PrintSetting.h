@@ -19,7 +19,6 @@ namespace tarvis {
 struct PrintRun;
 class CoverGroup;
 class FocusGuard;
-class InfIdxTbl;
 
 // What the dialog asks of the program around it.
 struct PrintSettingServices {
@@ -66,7 +65,8 @@ class PrintSetting : public FittedDialog {
   // By the user.
   void FunctionChosen();
   void FunctionClicked();
-  bool RefuseToLeaveRange(const QWidget& left, const QWidget& entered);
+  bool RefuseToLeave(const QWidget& left, const QWidget& entered);
+  void SelectPage(PageId id);
   void ShowPage(ItemPage& page);
 
   void EditClicked();
@@ -80,7 +80,6 @@ class PrintSetting : public FittedDialog {
   QComboBox* cmbFunc_ = nullptr;
   std::span<const FunctionEntry> entries_;
   std::vector<ItemPage*> pages_;  // by PageId
-  InfIdxTbl* infIdxTbl_ = nullptr;
   FocusGuard* guard_ = nullptr;
   ItemPage* shown_ = nullptr;
 

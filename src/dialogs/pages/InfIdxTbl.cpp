@@ -103,11 +103,16 @@ void InfIdxTbl::ControlLeft(const QWidget& control) {
   if (&control == textStart_ || &control == textEnd_) CheckSteps();
 }
 
+bool InfIdxTbl::MayLeave() const {
+  const std::string& mode = Run().Session.Mode;
+  return (mode != "PrnSetting" && mode != "IdxTbl") || RangeIsValid();
+}
+
 bool InfIdxTbl::RangeIsValid() const {
   return StepRangeIsValid(Run().Session);
 }
 
-void InfIdxTbl::ReturnToRange() {
+void InfIdxTbl::ReturnToFault() {
   TabChg(ItemsTab);
   SetStepFocus(Run().Session.StepStartValid == 0 ? 1 : 2);
   Run().Desktop.ShowMessage(InputErrorTitle, "Wrong the inputted STEP number.Please input again.");
@@ -157,14 +162,14 @@ void InfIdxTbl::CheckSteps() {
 void InfIdxTbl::TabLeft(int left) {
   if (left != ItemsTab || option_.Range != TypedRange) return;
   CheckSteps();
-  if (!RangeIsValid()) ReturnToRange();
+  if (!RangeIsValid()) ReturnToFault();
 }
 
 void InfIdxTbl::CommentsClicked() {
   if (RangeIsValid()) {
     option_.Comment = chkItemEtc_->Value();
   } else {
-    ReturnToRange();
+    ReturnToFault();
   }
 }
 

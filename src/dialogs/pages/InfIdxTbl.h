@@ -31,13 +31,11 @@ class InfIdxTbl : public ItemPage {
   // 1 for the start, 2 for the end; anything else does nothing.
   void SetStepFocus(std::int16_t field);
 
-  // Runs the check of `control` if it is one of the boxes for a step. To be called when the focus has moved
-  // from it to another control of the dialog.
-  void ControlLeft(const QWidget& control);
-  // Whether both steps passed the check that ran last.
-  bool RangeIsValid() const;
-  // Puts the user back to the field that failed and tells him.
-  void ReturnToRange();
+  // Runs the check of `control` if it is one of the boxes for a step.
+  void ControlLeft(const QWidget& control) override;
+  // False after a bad range where a range is what the dialog was opened for.
+  [[nodiscard]] bool MayLeave() const override;
+  void ReturnToFault() override;
 
  protected:
   void ResetTab() override;
@@ -48,6 +46,8 @@ class InfIdxTbl : public ItemPage {
   void RangeClicked(std::int16_t index);
   void EnableRange(bool enabled);
   void CheckSteps();
+  // Whether both steps passed the check that ran last.
+  bool RangeIsValid() const;
   void TabLeft(int left);
   void CommentsClicked();
 

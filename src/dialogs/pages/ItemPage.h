@@ -61,6 +61,13 @@ class ItemPage : public QWidget {
 
   TabControl& Tabs() const { return *tabs_; }
 
+  // To be called when the focus has moved from `control` of this page to another control of the dialog.
+  virtual void ControlLeft(const QWidget& /*control*/) {}
+  // Whether what the user has typed lets him leave the page.
+  [[nodiscard]] virtual bool MayLeave() const { return true; }
+  // Brings the user of a page that he may not leave back to what is wrong, and tells him.
+  virtual void ReturnToFault() {}
+
  protected:
   ItemPage(PrintRun& run, const PageFrame& frame, QWidget* parent);
 
