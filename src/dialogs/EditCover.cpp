@@ -34,7 +34,7 @@ constexpr int GreetingWidth = 84;  // bytes
 constexpr int GreetingLimit = GreetingLines * GreetingWidth;
 constexpr int NoLimit = 0;
 constexpr int AnyEnter = -1;
-constexpr std::size_t ZipCode = 3;
+constexpr int ZipCode = 3;  // index in its families
 
 constexpr const char* LogoFilter =
     "All Images of |*.BMP;*.DIB;*.JPG;*.GIF;*.WMF;*.EMF;*.ICO;*.CUR|BMP Image (*.BMP)|*.BMP|DIB Image "
@@ -86,8 +86,8 @@ void EditCover::BuildSubmitterTab() {
   QWidget* tab = tabs_->AddTab("&Submitter");
   for (std::size_t i = 0; i < Plans.size(); ++i) AddField(Plans[i], "txtDrow", "Label1", 0, *texts[i]);
   // The zip code is never seen, but loaded, checked and stored like the others.
-  fields_[ZipCode].Control->hide();
-  tab->findChild<QLabel*>(QString::fromLatin1("Label1_%1").arg(ZipCode))->hide();
+  for (const char* family : {"txtDrow", "Label1"})
+    tab->findChild<QWidget*>(QString::fromLatin1("%1_%2").arg(QLatin1String(family)).arg(ZipCode))->hide();
   BuildLogo(tab);
   SetReadingOrder(*tab);
 }

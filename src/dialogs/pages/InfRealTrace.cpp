@@ -21,7 +21,7 @@ InfRealTrace::InfRealTrace(PrintRun& run, QWidget* parent)
                      {"chkItemUser", 4, "&Default Setting", 6, {2760, 1800, 1935, 255}},
                      {"chkItemEtc", NoFamily, "Comment&s", 7, {330, 2520, 1485, 255}}},
                     run.Options.RealTraceOption);
-  ConnectParameterBoxes(std::span(items_).subspan(1, ParameterBoxes));
+  ConnectParameterBoxes(items_);
 }
 
 void InfRealTrace::LoadItems() {

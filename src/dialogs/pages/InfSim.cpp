@@ -24,7 +24,7 @@ InfSim::InfSim(PrintRun& run, QWidget* parent)
                      {"chkItemUser", 4, "&Default Setting", 9, {2760, 2040, 1695, 255}},
                      {"chkItemEtc", NoFamily, "Comment&s", 10, {330, 2640, 1485, 255}}},
                     run.Options.SimOption);
-  ConnectParameterBoxes(std::span(items_).subspan(4, ParameterBoxes));
+  ConnectParameterBoxes(items_);
 }
 
 void InfSim::LoadItems() {

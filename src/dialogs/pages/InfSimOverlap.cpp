@@ -6,10 +6,6 @@
 
 namespace tarvis {
 
-namespace {
-constexpr std::size_t DetailBox = 2;
-}
-
 InfSimOverlap::InfSimOverlap(PrintRun& run, QWidget* parent)
     : ItemPage(
           run,
@@ -33,8 +29,8 @@ InfSimOverlap::InfSimOverlap(PrintRun& run, QWidget* parent)
                        {"chkItemUser", 4, "&Default Setting", 9, {2730, 2010, 1695, 255}},
                        {"chkItemEtc", NoFamily, "Comment&s", 10, {300, 2610, 1485, 255}}},
                       run.Options.SimOption);
-  ConnectParameterBoxes(std::span(details_).subspan(4, ParameterBoxes));
-  connect(overlap_[DetailBox].Box, &TickBox::ValueChanged, this, &InfSimOverlap::DetailClicked);
+  ConnectParameterBoxes(details_);
+  connect(&DetailsBox(), &TickBox::ValueChanged, this, &InfSimOverlap::DetailClicked);
 }
 
 void InfSimOverlap::BuildOverlapTab() {
@@ -51,11 +47,14 @@ void InfSimOverlap::BuildOverlapTab() {
             {2115, 1440, 2415, 495}, tab, true);
 }
 
+TickBox& InfSimOverlap::DetailsBox() const {
+  return BoxNamed(overlap_, "chkItemOverlap", 2);
+}
+
 // Only an overlapped print at hand can leave the details out; their tab can always be opened.
 void InfSimOverlap::DetailClicked() {
   const PrintSession& session = Run().Session;
-  if (session.Mode == "Sim" && session.OverlapMode == 1)
-    EnableDetails(details_, overlap_[DetailBox].Box->IsOn());
+  if (session.Mode == "Sim" && session.OverlapMode == 1) EnableDetails(details_, DetailsBox().IsOn());
 }
 
 void InfSimOverlap::LoadItems() {

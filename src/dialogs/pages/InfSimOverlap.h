@@ -16,6 +16,7 @@ class InfSimOverlap : public ItemPage {
 
  private:
   void BuildOverlapTab();
+  TickBox& DetailsBox() const;
   void DetailClicked();
 
   std::vector<BoundBox> overlap_;

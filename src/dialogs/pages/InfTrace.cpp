@@ -26,20 +26,24 @@ InfTrace::InfTrace(PrintRun& run, QWidget* parent)
                        {"chkItemUser", 4, "&Default Setting", 7, {2760, 2280, 1455, 255}},
                        {"chkItemEtc", NoFamily, "Comment&s", 8, {360, 2700, 1485, 255}}},
                       run.Options.TraceOption);
-  ConnectParameterBoxes(std::span(details_).subspan(2, ParameterBoxes));
-  connect(overlap_[0].Box, &TickBox::ValueChanged, this, &InfTrace::OverlapClicked);
+  ConnectParameterBoxes(details_);
+  connect(&OverlapBox(), &TickBox::ValueChanged, this, &InfTrace::OverlapClicked);
+}
+
+TickBox& InfTrace::OverlapBox() const {
+  return BoxNamed(overlap_, "chkItemOverlap");
 }
 
 // Only an overlapped print at hand can leave the details out.
 void InfTrace::OverlapClicked() {
   const PrintSession& session = Run().Session;
-  if (session.Mode == "Trace" && session.OverlapMode == 1) EnableDetails(details_, overlap_[0].Box->IsOn());
+  if (session.Mode == "Trace" && session.OverlapMode == 1) EnableDetails(details_, OverlapBox().IsOn());
 }
 
 void InfTrace::LoadItems() {
   ScanOverlap(Run(), "Trace.tmp");
   LoadBoxes(overlap_);
-  if (Run().Session.Mode == "Trace" && Run().Session.OverlapMode == 0) overlap_[0].Box->setEnabled(false);
+  if (Run().Session.Mode == "Trace" && Run().Session.OverlapMode == 0) OverlapBox().setEnabled(false);
   LoadBoxes(details_);
 }
 

@@ -15,6 +15,7 @@ class InfTrace : public ItemPage {
   void LoadItems() override;
 
  private:
+  TickBox& OverlapBox() const;
   void OverlapClicked();
 
   std::vector<BoundBox> overlap_;

@@ -16,8 +16,8 @@ InfUser::InfUser(PrintRun& run, QWidget* parent)
                      {"chkItemUser", 3, "&Default Setting", 4, {2400, 840, 1695, 255}},
                      {"chkItemEtc", NoFamily, "Comment&s", 5, {330, 2040, 1485, 255}}},
                     run.Options.UserOption);
-  TickBox* name = items_[0].Box;
-  TickBox* switches = items_[1].Box;
+  TickBox* name = &BoxNamed(items_, "chkItemUser", 0);
+  TickBox* switches = &BoxNamed(items_, "chkItemUser", 1);
   connect(name, &TickBox::ValueChanged, switches, [name, switches] { switches->setEnabled(name->IsOn()); });
 }
 

@@ -4,16 +4,12 @@
 
 namespace tarvis {
 
-namespace {
-constexpr int FileNameBox = 3;
-}
-
 InfWizard::InfWizard(PrintRun& run, QWidget* parent)
     : ItemPage(run, {"InfWizard", &PrintOptions::PrmWizHeader, "Parameter Wizard", {}}, parent) {
   const std::int16_t stored = Header().FileName;
-  HeaderBox(FileNameBox).SetValue(0);
+  HeaderBox(&HeaderOptions::FileName).SetValue(0);
   Header().FileName = stored;  // building the page is no click
-  HeaderBox(FileNameBox).hide();
+  HeaderBox(&HeaderOptions::FileName).hide();
 }
 
 // The wizard prints no file name, whatever the options file says.

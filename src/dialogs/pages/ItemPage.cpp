@@ -1,7 +1,10 @@
 #include "dialogs/pages/ItemPage.h"
 
 #include <QFrame>
+#include <algorithm>
 #include <array>
+#include <cassert>
+#include <string_view>
 
 #include "dialogs/controls/help_context.h"
 #include "dialogs/controls/input_limits.h"
@@ -45,6 +48,14 @@ void AddRule(const QLabel& heading) {
 
 }  // namespace
 
+TickBox& BoxNamed(std::span<const BoundBox> boxes, const char* name, int index) {
+  const auto found = std::find_if(boxes.begin(), boxes.end(), [&](const BoundBox& box) {
+    return box.Index == index && std::string_view(box.Name) == name;
+  });
+  assert(found != boxes.end());
+  return *found->Box;
+}
+
 ItemPage::ItemPage(PrintRun& run, const PageFrame& frame, QWidget* parent)
     : QWidget(parent), run_(run), header_(run.Options.*frame.Header) {
   NameControl(*this, frame.Name, NoFamily, QString::fromLatin1(frame.Title));
@@ -59,24 +70,34 @@ void ItemPage::BuildFirstTab(const PageFrame& frame) {
   QWidget* tab = tabs_->AddTab("&Header && Footer");
   AddLabels(tab, {{"Label2", "Header Info", {150, 390, 835, 180}},
                   {"Label3", "Footer Info", {150, 2220, 780, 180}}});
-  AddHeaderBox(tab, 0);
-  txtTitle_ = new LineBox("txtTitle", NoFamily, "Title text", TitleLimit, {1305, 660, 3330, 315}, tab);
+  AddHeaderBoxes(tab);
   txtTitle_->setText(QString::fromLatin1(frame.Title));
-  for (int index = 1; index < 4; ++index) AddHeaderBox(tab, index);
   chkFooter_ = new TickBox("chkFooter", NoFamily, "Pa&ges", {330, 2460, 1215, 255}, tab);
   chkFooter_->SetValue(1);
-  connect(chkHeader_[0], &TickBox::ValueChanged, this,
-          [this] { txtTitle_->setEnabled(chkHeader_[0]->IsOn()); });
   connect(txtTitle_, &LineBox::textChanged, this, &ItemPage::TitleChanged);
   connect(chkFooter_, &TickBox::ValueChanged, this, [this] { header_.Pages = chkFooter_->Value(); });
 }
 
-void ItemPage::AddHeaderBox(QWidget* tab, int index) {
-  const HeaderBoxPlan& plan = HeaderBoxes.at(static_cast<std::size_t>(index));
-  auto* box = new TickBox("chkHeader", index, plan.Caption, plan.Place, tab);
-  box->SetValue(1);
-  connect(box, &TickBox::ValueChanged, this, [this, box, &plan] { header_.*plan.Element = box->Value(); });
-  chkHeader_.push_back(box);
+void ItemPage::AddHeaderBoxes(QWidget* tab) {
+  for (const HeaderBoxPlan& plan : HeaderBoxes) {
+    auto* box = new TickBox("chkHeader", static_cast<int>(chkHeader_.size()), plan.Caption, plan.Place, tab);
+    box->SetValue(1);
+    connect(box, &TickBox::ValueChanged, this, [this, box, &plan] { header_.*plan.Element = box->Value(); });
+    chkHeader_.push_back(box);
+    if (plan.Element == &HeaderOptions::Title) AddTitleBox(tab);
+  }
+}
+
+void ItemPage::AddTitleBox(QWidget* tab) {
+  txtTitle_ = new LineBox("txtTitle", NoFamily, "Title text", TitleLimit, {1305, 660, 3330, 315}, tab);
+  const TickBox& title = HeaderBox(&HeaderOptions::Title);
+  connect(&title, &TickBox::ValueChanged, this, [this, &title] { txtTitle_->setEnabled(title.IsOn()); });
+}
+
+TickBox& ItemPage::HeaderBox(std::int16_t HeaderOptions::*element) const {
+  const auto plan = std::find_if(HeaderBoxes.begin(), HeaderBoxes.end(),
+                                 [&](const HeaderBoxPlan& box) { return box.Element == element; });
+  return *chkHeader_.at(static_cast<std::size_t>(plan - HeaderBoxes.begin()));
 }
 
 // A text above the limit is cut and written back, which comes here again: that nested run stores the title.
@@ -87,10 +108,9 @@ void ItemPage::TitleChanged() {
 void ItemPage::Load() {
   SetHelpContext(*tabs_, run_.Session.HelpContextId);
   ResetTab();
-  Show(*chkHeader_[0], header_.Title);
-  txtTitle_->SetText(header_.TitleText);
-  for (std::size_t index = 1; index < HeaderBoxes.size(); ++index) {
-    Show(*chkHeader_[index], header_.*HeaderBoxes[index].Element);
+  for (const HeaderBoxPlan& plan : HeaderBoxes) {
+    Show(HeaderBox(plan.Element), header_.*plan.Element);
+    if (plan.Element == &HeaderOptions::Title) txtTitle_->SetText(header_.TitleText);
   }
   Show(*chkFooter_, header_.Pages);
   LoadItems();
@@ -109,7 +129,7 @@ std::vector<BoundBox> ItemPage::AddBoxes(QWidget* tab, std::initializer_list<Ite
     std::int16_t& element = elements[static_cast<std::size_t>(plan.Element - 1)];
     box->SetValue(1);
     connect(box, &TickBox::ValueChanged, this, [box, &element] { element = box->Value(); });
-    made.push_back({box, &element});
+    made.push_back({plan.Name, plan.Index, box, &element});
   }
   SetReadingOrder(*tab);
   return made;

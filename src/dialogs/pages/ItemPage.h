@@ -43,9 +43,14 @@ struct ItemBox {
 
 // A box on its tab with its element.
 struct BoundBox {
+  const char* Name;
+  int Index;
   TickBox* Box;
   std::int16_t* Element;
 };
+
+// The box of that name, which must be among `boxes`.
+TickBox& BoxNamed(std::span<const BoundBox> boxes, const char* name, int index = NoFamily);
 
 inline constexpr const char* PrintingItemsTab = "&Printing Items";
 
@@ -77,7 +82,8 @@ class ItemPage : public QWidget {
 
   PrintRun& Run() const { return run_; }
   HeaderOptions& Header() const { return header_; }
-  TickBox& HeaderBox(int index) const { return *chkHeader_.at(static_cast<std::size_t>(index)); }
+  // The box of an element of the header options.
+  TickBox& HeaderBox(std::int16_t HeaderOptions::*element) const;
 
   void AddLabels(QWidget* tab, std::initializer_list<ItemLabel> labels);
   // The boxes in the order given, each writing through to its element of `elements` on a click. Starts
@@ -94,7 +100,8 @@ class ItemPage : public QWidget {
 
  private:
   void BuildFirstTab(const PageFrame& frame);
-  void AddHeaderBox(QWidget* tab, int index);
+  void AddHeaderBoxes(QWidget* tab);
+  void AddTitleBox(QWidget* tab);
   void TitleChanged();
 
   PrintRun& run_;

@@ -1,22 +1,34 @@
 #include "dialogs/pages/graph_items.h"
 
+#include <string_view>
+
 namespace tarvis {
 
 namespace {
 
-void SetEnabled(std::span<const BoundBox> boxes, bool enabled) {
-  for (const BoundBox& bound : boxes) bound.Box->setEnabled(enabled);
+// The family of the parameter block, and the indexes in it.
+constexpr const char* ParameterBlock = "chkItemUser";
+constexpr int ParametersBox = 0;
+constexpr int NameBox = 1;
+constexpr int SwitchesBox = 2;
+
+// Enables all boxes of the parameter block but the first, on which they depend.
+void EnableDependents(std::span<const BoundBox> boxes, bool enabled) {
+  for (const BoundBox& bound : boxes) {
+    const bool depends = std::string_view(bound.Name) == ParameterBlock && bound.Index != ParametersBox;
+    if (depends) bound.Box->setEnabled(enabled);
+  }
 }
 
 }  // namespace
 
 void ConnectParameterBoxes(std::span<const BoundBox> boxes) {
-  TickBox* parameters = boxes[0].Box;
-  TickBox* name = boxes[1].Box;
-  TickBox* switches = boxes[2].Box;
-  const std::vector<BoundBox> dependents(boxes.begin() + 1, boxes.end());
-  QObject::connect(parameters, &TickBox::ValueChanged, parameters, [parameters, name, switches, dependents] {
-    SetEnabled(dependents, parameters->IsOn());
+  TickBox* parameters = &BoxNamed(boxes, ParameterBlock, ParametersBox);
+  TickBox* name = &BoxNamed(boxes, ParameterBlock, NameBox);
+  TickBox* switches = &BoxNamed(boxes, ParameterBlock, SwitchesBox);
+  const std::vector<BoundBox> all(boxes.begin(), boxes.end());
+  QObject::connect(parameters, &TickBox::ValueChanged, parameters, [parameters, name, switches, all] {
+    EnableDependents(all, parameters->IsOn());
     if (!name->IsOn()) switches->setEnabled(false);
   });
   QObject::connect(name, &TickBox::ValueChanged, switches,
@@ -24,9 +36,8 @@ void ConnectParameterBoxes(std::span<const BoundBox> boxes) {
 }
 
 void EnableDetails(std::span<const BoundBox> boxes, bool on) {
-  SetEnabled(boxes, on);
-  const std::span<const BoundBox> user = boxes.last(ParameterBoxes + 1).first(ParameterBoxes);
-  SetEnabled(user.subspan(1), on && user[0].Box->IsOn());
+  for (const BoundBox& bound : boxes) bound.Box->setEnabled(on);
+  EnableDependents(boxes, on && BoxNamed(boxes, ParameterBlock, ParametersBox).IsOn());
 }
 
 }  // namespace tarvis

@@ -7,14 +7,12 @@
 
 namespace tarvis {
 
-// The five boxes of the parameter block: "Parameters", "Name", "Switches Info", "Unit", "Default Setting".
-// All depend on the first, and "Switches Info" depends on "Name" besides. A greyed box keeps its mark and
-// element.
-inline constexpr std::size_t ParameterBoxes = 5;
+// The five boxes of the parameter block are the family "chkItemUser": "Parameters", "Name", "Switches Info",
+// "Unit", "Default Setting". All depend on the first, and "Switches Info" depends on "Name" besides. A greyed
+// box keeps its mark and element.
 void ConnectParameterBoxes(std::span<const BoundBox> boxes);
 
 // Enables the printing items of one data set, which an overlapped print may leave out as a whole.
-// `boxes` are the graph boxes, the five boxes of the parameter block, and "Comments".
 // "Switches Info" follows "Parameters" here without a look at "Name".
 void EnableDetails(std::span<const BoundBox> boxes, bool on);
 
