@@ -50,7 +50,7 @@ void BackgroundJob::ShowProgress() {
   dialog_->setWindowModality(Qt::WindowModal);
   dialog_->setAutoClose(false);
   dialog_->setAutoReset(false);
-  // Asked for now and then, so that quick steps don't flood the window's thread.
+  // Polled, so that quick steps don't flood the window's thread with events.
   auto* look = new QTimer(dialog_);
   connect(look, &QTimer::timeout, dialog_, [this] {
     dialog_->setMaximum(total_);

@@ -1,4 +1,4 @@
-// Work that takes a while, in a thread of its own: from half a second on a window shows its progress and can
+// Work that takes a while, in a thread of its own: after half a second a window shows its progress and can
 // cancel it.
 #pragma once
 
@@ -33,7 +33,7 @@ class BackgroundJob : public QObject {
   static constexpr int ProgressDelay = 500;  // milliseconds
 
  signals:
-  // Comes once, on the thread of this object.
+  // Emitted once, on the thread of this object.
   void Finished(const QString& error);
 
  private:

@@ -99,7 +99,7 @@ void PdfCanvas::Text(const TextPiece& piece, const TextStyle& style, const Rect&
   }
 }
 
-// What was set between a q and its Q holds no longer.
+// The operator Q restores what was set before its q.
 void PdfCanvas::ForgetTextState() {
   ink_ = 0x1000000;  // no colour
   face_ = -1;
@@ -171,7 +171,7 @@ void PdfCanvas::Picture(const tarvis::Picture& picture, const Rect& box) {
   AddRect(box);
   Add("W n 20 0 0 -20 ");
   AppendNumber(content_, D(box.Left));
-  // Forms stand on their lower edge, which is rounded up to whole points.
+  // A form is placed by its lower edge; its height is rounded up to whole points.
   AppendNumber(content_, D(box.Top) + D(TwipsPerPoint) * PdfPictureHeight(box.Height));
   Add("cm /P" + std::to_string(number) + " Do Q\n");
 }

@@ -33,7 +33,7 @@ class PdfPictures {
   std::map<std::tuple<const Picture*, float, float>, std::size_t> numbers_;
 };
 
-// Makes the content of one page. Glyphs and pictures are noted for the resources that all pages share.
+// Makes the content of one page. Glyphs and pictures are collected for the resources that all pages share.
 class PdfCanvas : public Canvas {
  public:
   // `height` of the paper in twips; `scale` below 1 shrinks the page towards its top left corner.
@@ -45,7 +45,7 @@ class PdfCanvas : public Canvas {
   void Text(const TextPiece& piece, const TextStyle& style, const Rect& box) override;
   void Picture(const tarvis::Picture& picture, const Rect& box) override;
 
-  // Closes the content and hands it out; the canvas must not be used after that.
+  // Closes the content and returns it; the canvas must not be used after that.
   std::string Finish();
 
  private:
@@ -66,7 +66,7 @@ class PdfCanvas : public Canvas {
   Color ink_ = Black;
   float lineWidth_ = 0;
   bool inText_ = false;
-  double lineX_ = 0;  // where the text line in hand starts
+  double lineX_ = 0;  // where the current text line starts
   double lineY_ = 0;
   int face_ = -1;
   float size_ = 0;

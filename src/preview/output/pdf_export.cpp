@@ -32,7 +32,7 @@ QPDFObjectHandle Points(double twips) {
   return QPDFObjectHandle::newReal(twips / static_cast<double>(TwipsPerPoint), 2);
 }
 
-// Height above the foot of the paper of what stands `top` twips below the head of a page.
+// Height above the lower edge of the paper of a place `top` twips below the upper edge of a page.
 QPDFObjectHandle Height(const PdfSheets& sheets, float top) {
   return Points(sheets.Paper.height() - static_cast<double>(top) * sheets.Scale);
 }
@@ -74,15 +74,15 @@ bool AddPages(QPDF& pdf, const Document& document, const PdfSheets& sheets, cons
   return true;
 }
 
-// The first sheet that shows a page; none if no sheet does.
+// The first sheet with a page; none if there is no such sheet.
 std::optional<std::size_t> SheetOf(const PdfSheets& sheets, int page) {
   const auto sheet = std::find(sheets.Pages.begin(), sheets.Pages.end(), page);
   if (sheet == sheets.Pages.end()) return {};
   return static_cast<std::size_t>(sheet - sheets.Pages.begin());
 }
 
-// Contents entries whose pages are there. A parent leads where the first of its children leads if its own
-// page isn't.
+// Contents entries whose pages are in the file. A parent whose own page isn't leads to the page of its first
+// child.
 std::vector<ContentsEntry> EntriesOf(const Document& document, const PdfSheets& sheets) {
   std::vector<ContentsEntry> entries;
   const ContentsEntry* lostParent = nullptr;
@@ -148,7 +148,7 @@ void AddOutline(QPDF& pdf, const Document& document, const PdfSheets& sheets) {
   pdf.getRoot().replaceKey("/PageMode", Name("/UseOutlines"));
 }
 
-// Viewers show the numbers that stand at the foot of the pages.
+// Viewers show the page numbers that are printed at the foot of the pages.
 QPDFObjectHandle PageLabels(const PdfSheets& sheets) {
   QPDFObjectHandle runs = QPDFObjectHandle::newArray();
   for (std::size_t sheet = 0; sheet < sheets.Pages.size(); ++sheet) {
@@ -186,7 +186,7 @@ void AddMetadata(QPDF& pdf, const PdfInfo& info) {
   pdf.getTrailer().replaceKey("/Info", data);
 }
 
-// Unbuffered, and piece by piece: a full disk takes a part first and refuses the rest, and a buffer would
+// Unbuffered, and piece by piece: a full disk accepts a part first and refuses the rest, and a buffer would
 // hide that.
 bool WriteAll(QSaveFile& file, const char* bytes, qint64 size) {
   if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) return false;

@@ -30,8 +30,7 @@ struct PdfSheets {
   static PdfSheets AllOf(const Document& document);
 };
 
-// Whether a file may take the place of what is at `path`: nothing, or an ordinary file, to which a link may
-// lead.
+// Whether a file may replace what is at `path`: only nothing, or an ordinary file, also through a link.
 bool CanBeReplaced(const QString& path);
 
 // The bytes of the PDF; empty if `progress` cancels.
@@ -43,7 +42,7 @@ std::string MakePdf(const Document& document, const PdfSheets& sheets, const Pdf
 // cancelled.
 QString ExportPdf(const Document& document, const PdfSheets& sheets, const QString& path, const PdfInfo& info,
                   const Progress& progress);
-// The last step of it, with the bytes at hand.
+// Its last step, for bytes that are there already.
 QString WritePdf(std::string_view pdf, const QString& path);
 // The same with all pages.
 QString ExportPdf(const Document& document, const QString& path, const PdfInfo& info,

@@ -21,7 +21,7 @@ struct PdfGlyph {
 // The glyphs of one face, by code less one.
 struct PdfFace {
   std::vector<std::uint32_t> Glyphs;
-  std::vector<char32_t> Characters;  // what copied text gets
+  std::vector<char32_t> Characters;  // what is copied for the glyph
   std::vector<float> AdvancesEm;
 };
 

@@ -15,7 +15,7 @@ namespace {
 
 using Token = QPDFTokenizer::Token;
 
-// The usual weights of red, green and blue in how bright a colour looks.
+// The usual weights of red, green and blue in the brightness of a colour.
 double Grey(double red, double green, double blue) {
   return 0.299 * red + 0.587 * green + 0.114 * blue;
 }

@@ -11,7 +11,7 @@
 
 namespace tarvis {
 
-// Appends `value` with up to two decimals and a blank behind it.
+// Appends `value` with up to two decimals and a blank after it.
 inline void AppendNumber(std::string& out, double value) {
   const long long hundredths = std::llround(value * 100);
   std::array<char, 32> digits;

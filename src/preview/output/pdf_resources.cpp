@@ -28,7 +28,7 @@ void DrawGlyphs(QPainter& painter, const PdfGlyphs& glyphs, ReportFont& font) {
   }
 }
 
-// Makes a file in memory by what `paint` does with a writer and its painter.
+// Makes a file in memory: `paint` gets its writer and painter.
 template <typename Paint>
 QByteArray PaintHelperFile(Paint paint) {
   QByteArray bytes;
@@ -48,7 +48,7 @@ class HelperFile {
  public:
   explicit HelperFile(const QByteArray& bytes) : bytes_(bytes) {
     file_.processMemoryFile("helper", bytes_.constData(), static_cast<std::size_t>(bytes_.size()));
-    file_.setImmediateCopyFrom(true);  // it is gone when the PDF is written
+    file_.setImmediateCopyFrom(true);  // it no longer exists when the PDF is written
   }
   std::vector<QPDFPageObjectHelper> Pages() { return QPDFPageDocumentHelper(file_).getAllPages(); }
 
@@ -57,8 +57,8 @@ class HelperFile {
   QPDF file_;
 };
 
-// A page for each picture, after an empty one. Text of pictures has fonts of its own in this file: those of
-// the pages are told by glyphs and widths that pictures don't share.
+// A page for each picture, after an empty one. Text of pictures has fonts of its own in this file: the fonts
+// of the pages are recognized by glyphs and widths that pictures don't share.
 void PaintPictures(const PdfPictures& pictures, QPdfWriter& writer, QPainter& painter) {
   for (const PdfPicture& picture : pictures.All()) {
     const QSizeF points(std::floor(static_cast<double>(picture.Width) / 20) + 1,

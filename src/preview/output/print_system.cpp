@@ -32,7 +32,7 @@ constexpr std::array<Refusal, 4> Refusals = {{
 
 }  // namespace
 
-// What these functions tell and set is a matter of the calling thread.
+// These functions read and set state of the calling thread.
 
 QString RefusalOfLastJob() {
   constexpr int FirstErrorStatus = 0x0200;
@@ -46,11 +46,11 @@ QString RefusalOfLastJob() {
 
 void DropJobsOfThisThread() {
   auto* const useServer = ClientFunction<void(const char*)>("cupsSetServer");
-  if (useServer != nullptr) useServer("/dev/null");  // nobody listens there
+  if (useServer != nullptr) useServer("/dev/null");  // nothing listens there
 }
 
 void TakeOverChoiceOfPages(QPrinter& printer) {
-  // Names and values by turns; the number is the toolkit's for what it hands to this print system.
+  // Names and values alternate; the number is the toolkit's property for the options of this print system.
   constexpr auto JobOptions = static_cast<QPrintEngine::PrintEnginePropertyKey>(0xfe00);
   const QStringList given = printer.printEngine()->property(JobOptions).toStringList();
   QStringList kept;

@@ -46,7 +46,7 @@ QString Drop(QPrinter& printer) {
 }
 
 QString RefusalBy(const QPrinter& printer) {
-  // Printing into a file asks no print system.
+  // No print system takes part in printing into a file.
   const QString refusal = printer.outputFileName().isEmpty() ? RefusalOfLastJob() : QString();
   if (refusal.isEmpty()) return {};
   return Text("The printer \"%1\" did not take the document: %2").arg(printer.printerName(), refusal);

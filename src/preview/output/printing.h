@@ -15,7 +15,7 @@ namespace tarvis {
 // Whether the document's pages are shrunk to the size of the paper.
 enum class PrintScale { AsComposed, FitToPaper };
 
-// Width and height that the printable area of the printer's paper lacks for what the document prints, in
+// By how much the printable area of the printer's paper is too narrow and too short for the document, in
 // twips; 0 where all fits.
 QSizeF MissingRoom(const Document& document, const QPrinter& printer);
 

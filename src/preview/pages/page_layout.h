@@ -1,4 +1,4 @@
-// Where pages stand in the view, in logical pixels: plain arithmetic, no widget.
+// The places of pages in the view, in logical pixels: plain arithmetic, no widget.
 //
 //   continuous                    single
 //   ┌──────────────┐              ┌──────────────┐
@@ -65,9 +65,9 @@ class PageLayout {
     int Last = -1;
   };
   Range PagesBetween(double top, double bottom) const;
-  // Height of the content at which `place` stands.
+  // Height of `place` in the content.
   double YOf(const PagePlace& place) const;
-  // The place that stands at height `y` of the content.
+  // The place at height `y` of the content.
   PagePlace PlaceAt(double y) const;
 
  private:

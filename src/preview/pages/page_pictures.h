@@ -35,9 +35,9 @@ class PagePictures : public QObject {
   void Want(std::vector<Strip> strips);
   // Null if it isn't rendered.
   const QImage* Find(const Strip& strip);
-  // Has these strips rendered next and waits until they are, no longer than `milliseconds`.
+  // Renders these strips next and waits for them, but no longer than `milliseconds`.
   void WaitFor(const std::vector<Strip>& strips, int milliseconds);
-  // Strips of the page in the other size that best stands in for `pageWidth`.
+  // Strips of the page in the size that is the best substitute for `pageWidth`.
   std::vector<Strip> StandIns(int page, int pageWidth) const;
   std::int64_t Bytes() const;
 
@@ -56,7 +56,7 @@ class PagePictures : public QObject {
   };
 
   void StartNext();
-  // Takes in what the worker has done; tells which page that was.
+  // Takes over what the worker has rendered; returns the page of it.
   std::optional<int> TakeRendered();
   void Keep(const Strip& strip, QImage picture);
 

@@ -28,7 +28,7 @@ class PageView : public QAbstractScrollArea {
   int CurrentPage() const;
   // What the reader most likely looks at: a third below the top edge.
   PagePlace ReadPlace() const;
-  // What stands at the top edge of the view.
+  // The place at the top edge of the view.
   PagePlace CurrentPlace() const;
   double Zoom() const { return layout_.Zoom(); }
 
@@ -37,8 +37,8 @@ class PageView : public QAbstractScrollArea {
   void Reveal(int page, const QRectF& box);
   void SetContinuous(bool continuous);
   void SetZoomMode(ZoomMode mode);
-  // Keeps the point of the document that stands at `anchor` (view coordinates; the view's middle if none) in
-  // place.
+  // Keeps the point of the document that is at `anchor` in its place (view coordinates; the middle of the
+  // view if there is none).
   void SetZoom(double factor, std::optional<QPointF> anchor = {});
 
   // Asked for each page that is painted.

@@ -1,4 +1,4 @@
-// Which parts of pages are rendered when, which pictures are kept, and which stand in meanwhile: pure
+// Which parts of pages are rendered when, which pictures are kept, and which are shown meanwhile: pure
 // functions.
 #pragma once
 
@@ -14,7 +14,7 @@ namespace tarvis {
 struct Strip {
   int Page = 0;
   int Index = 0;
-  int Width = 0;  // of the whole page in device pixels: stands for the scale
+  int Width = 0;  // of the whole page in device pixels, which defines the scale
   auto operator<=>(const Strip&) const = default;
 };
 
@@ -36,8 +36,8 @@ struct ShownPart {
 // The strips of a page `width` by `height` device pixels large of which `part` shows something.
 std::vector<Strip> StripsOf(const ShownPart& part, int width, int height);
 
-// What is worth rendering, most urgent first: what shows, then one page each way: what comes next when
-// scrolling on before what was left behind.
+// What is worth rendering, most urgent first: what is shown, then a strip in each direction: first the one
+// that scrolling on will show, then the one before.
 std::vector<Strip> WantedStrips(std::span<const ShownPart> shown, int width, int height, int pageCount);
 
 struct CachedStrip {
@@ -46,12 +46,12 @@ struct CachedStrip {
   std::int64_t LastUse = 0;  // grows with each use
 };
 
-// Which strips must go so that the rest stays within `budget` bytes: the longest unused first, never one of
-// `wanted`.
+// Which strips must be dropped so that the rest stays within `budget` bytes: the longest unused first, never
+// one of `wanted`.
 std::vector<Strip> Evict(std::vector<CachedStrip> cached, std::span<const Strip> wanted, std::int64_t budget);
 
-// The page width among `widths` that best stands in for `wanted`: the nearest larger one, else the largest; 0
-// if none.
+// The page width among `widths` that is the best substitute for `wanted`: the nearest larger one, else the
+// largest; 0 if there is none.
 int StandIn(std::span<const int> widths, int wanted);
 
 }  // namespace tarvis

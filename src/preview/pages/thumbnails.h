@@ -13,10 +13,10 @@ class Thumbnails : public QAbstractScrollArea {
  public:
   explicit Thumbnails(std::shared_ptr<const Document> document, QWidget* parent = nullptr);
 
-  // Marks a page and scrolls it into sight.
+  // Marks a page and scrolls it into view.
   void SetCurrent(int page);
   int Current() const { return current_; }
-  // Where the thumbnail of a page stands in the viewport.
+  // The place of a page's thumbnail in the viewport.
   QRect PlaceOf(int page) const;
 
  signals:

@@ -17,7 +17,7 @@ struct Cell {
 };
 
 Cell& CellOf(std::vector<Cell>& cells, const Item& item) {
-  // A control's items follow each other, so the last cells are asked first.
+  // A control's items follow each other, so the last cells are compared first.
   for (std::size_t index = cells.size(); index-- > 0;) {
     if (cells[index].Control == item.Control) return cells[index];
   }
@@ -34,7 +34,7 @@ void AddItem(std::vector<Cell>& cells, const Item& item, std::uint32_t index) {
   }
 }
 
-// A frame around others is no cell of its own.
+// A frame around other cells is not a cell itself.
 bool IsFrame(const Cell& cell, const std::vector<Cell>& cells) {
   if (!cell.Lines.empty()) return false;
   return std::any_of(cells.begin(), cells.end(), [&](const Cell& other) {
@@ -92,7 +92,7 @@ void ReadBand(std::vector<Cell>& cells, PageText& text) {
   cells.clear();
 }
 
-// Texts of a picture follow the band that it stands in.
+// Texts of a picture follow the band that contains it.
 void ReadPicture(const Document& document, std::uint32_t index, PageText& text) {
   const PicturePtr& picture = document.Pictures[document.Items[index].Source];
   if (picture == nullptr) return;

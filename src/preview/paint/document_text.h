@@ -11,12 +11,12 @@
 
 namespace tarvis {
 
-// What stands between a piece of text and the one before it.
+// How a piece of text follows the one before it.
 enum class Join : std::uint8_t {
   Line,   // starts a new line (also the first piece of a page)
   Cell,   // next cell of the same row
-  Wrap,   // next line of the same cell, where other cells stand beside it
-  Break,  // next line of a cell that has its row for itself
+  Wrap,   // next line of the same cell, which has other cells beside it
+  Break,  // next line of a cell that is alone in its row
 };
 
 struct ReadPiece {

@@ -14,7 +14,7 @@ float LineWidth(const Item& item) {
   return static_cast<float>(item.Weight) * WeightUnit;
 }
 
-// Hands on runs of neighbours with the same `key`, so that the order stays.
+// Passes on runs of neighbours with the same `key`, so that their order stays the same.
 template <typename Key, typename Paint>
 void ByLook(const std::vector<const Item*>& items, Key key, Paint paint) {
   std::vector<Rect> boxes;
@@ -27,7 +27,7 @@ void ByLook(const std::vector<const Item*>& items, Key key, Paint paint) {
   }
 }
 
-// A square in the middle of the control's place, clear of the borders of the cell that it stands in.
+// A square in the middle of the control's place, away from the borders of the cell around it.
 void PaintTick(const Item& item, Canvas& canvas) {
   const float side = 0.7F * std::min(item.Box.Width, item.Box.Height);
   const float left = item.Box.Left + (item.Box.Width - side) / 2;

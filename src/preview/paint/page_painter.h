@@ -1,5 +1,5 @@
-// The one painter of pages, for screen, paper and PDF: it walks a page's layers and hands alike things
-// together to a canvas. All places are in twips from the top left corner of the paper.
+// The one painter of pages, for screen, paper and PDF: it walks a page's layers and passes items of the same
+// look to a canvas together. All places are in twips from the top left corner of the paper.
 #pragma once
 
 #include <optional>
@@ -36,7 +36,7 @@ struct TextFit {
 };
 TextFit FitText(const TextPiece& piece, const Rect& box);
 
-// What may be painted of a piece in its item's box, with room for letters that stand above or below their
+// What may be painted of a piece in its item's box, with room for letters that reach above or below their
 // line; none if it is to be painted whole.
 std::optional<Rect> ClipOfText(const TextFit& fit, const TextStyle& style, const Rect& box);
 

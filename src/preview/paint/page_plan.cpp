@@ -22,7 +22,8 @@ Rect Shrunk(const Rect& box, float by) {
   return {box.Left + by, box.Top + by, box.Width - 2 * by, box.Height - 2 * by};
 }
 
-// What the layer in hand has painted, by height on the page, so that a fill asks its neighbours only.
+// What the current layer has painted, by height on the page, so that a fill is compared with its neighbours
+// only.
 class PaintedPlaces {
  public:
   explicit PaintedPlaces(float pageHeight) : slice_(std::max(pageHeight, 1.0F) / SliceCount) {}

@@ -1,9 +1,9 @@
 // In which order the items of a page are painted.
 //
-// Items paint in layout order with opaque fills. Painting many alike in one call is far cheaper, so a page is
-// split into layers: within a layer, all fills come first, then pictures, borders, lines and texts. A fill or
-// picture that would cover something painted before it starts a new layer, so what is seen stays that of
-// layout order.
+// Items paint in layout order with opaque fills. Painting many items of the same look in one call is far
+// cheaper, so a page is split into layers: within a layer, all fills come first, then pictures, borders,
+// lines and texts. A fill or picture that would cover something painted before it starts a new layer, so the
+// result looks as if painted in layout order.
 #pragma once
 
 #include <vector>

@@ -29,7 +29,8 @@ class PainterCanvas : public Canvas {
   ReportFont& font_;
 };
 
-// The same for pixels: edges and upright lines stand on whole pixels, so that tables are sharp at any zoom.
+// The same for pixels: edges and straight lines are placed on whole pixels, so that tables are sharp at any
+// zoom.
 class PixelCanvas : public PainterCanvas {
  public:
   explicit PixelCanvas(QPainter& painter) : PainterCanvas(painter), toDevice_(painter.deviceTransform()) {}

@@ -1,4 +1,4 @@
-// A piece of text as glyphs at places: what canvases paint, and where characters stand for selecting.
+// A piece of text as glyphs at places: what canvases paint, and the edges of characters for selecting.
 #pragma once
 
 #include <QList>

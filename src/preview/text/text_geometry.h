@@ -1,6 +1,5 @@
-// What the texts of a page say and where their characters stand, be they of reports or inside pictures. A
-// piece of text is told as the reading order has it; places are in twips from the top left corner of the
-// paper.
+// The texts of a page and the places of their characters, both of reports and inside pictures. A piece of
+// text is one of the reading order; places are in twips from the top left corner of the paper.
 #pragma once
 
 #include <QPointF>
@@ -20,7 +19,7 @@ QRectF BoxOfLine(const Document& document, const ReadPiece& piece);
 // The box of characters `first` to before `end`.
 QRectF BoxOfCharacters(const Document& document, const ReadPiece& piece, std::size_t first, std::size_t end);
 
-// The number of characters that stand before `point` along the line, to the nearer edge.
+// The number of characters before `point` along the line, counted to the nearer edge.
 std::size_t CharacterAt(const Document& document, const ReadPiece& piece, QPointF point);
 
 std::size_t CharacterCount(const Document& document, const ReadPiece& piece);

@@ -19,8 +19,8 @@ struct SearchHit {
   std::vector<QRectF> Boxes;  // twips; several if the hit goes over lines of a cell
 };
 
-// All hits in reading order. A hit lies within one cell; where the cell wraps, a blank stands for the line's
-// end.
+// All hits in reading order. A hit lies within one cell; where the cell wraps, a blank takes the place of the
+// line's end.
 std::vector<SearchHit> Search(DocumentText& text, const QString& wanted, const SearchOptions& options);
 
 }  // namespace tarvis

@@ -30,7 +30,7 @@ enum class Command {
   Close,
 };
 
-// Where a command shows; all stand in the context menu.
+// Where a command is shown; all are in the context menu.
 enum class Shown { Toolbar, MenuOnly };
 
 struct CommandEntry {
@@ -41,13 +41,13 @@ struct CommandEntry {
   const char* Icon;     // see icons.h; empty for none
   Shown Where;
   bool Checkable;
-  bool StartsGroup;  // a separator stands before it
+  bool StartsGroup;  // a separator comes before it
   int Number;        // the tool's number, 0 for none
 };
 
 std::span<const CommandEntry> CommandTable();
 
-// Key of the first tool that the report brings along, and the icon of all of them. They stand before "Close".
+// Key of the first tool that the report adds, and the icon of all of them. They come before "Close".
 inline constexpr const char* ReportToolKey = "Ctrl+E";
 inline constexpr const char* ReportToolIcon = "M3 13 L3.8 9.8 L10.6 3 L13 5.4 L6.2 12.2 Z M9 4.6 L11.4 7";
 

@@ -23,7 +23,7 @@ QString ShortName(const QString& dataFile) {
   return name.contains(QLatin1Char('.')) ? name.section(QLatin1Char('.'), 0, -2) : name;
 }
 
-// A file name that tells what it is of and from which day, and that every system takes.
+// A file name with the title, the name of the data and the day, which is valid on every system.
 QString FileNameOf(const QString& title, const QString& dataFile) {
   const QString day = QDate::currentDate().toString(Qt::ISODate);
   QString name = QStringList{title.trimmed(), ShortName(dataFile).trimmed(), day}.join(QLatin1Char(' '));
@@ -103,7 +103,7 @@ void DocumentOutput::Print() {
            });
 }
 
-// False if the user would rather not print.
+// False if the user cancels.
 bool DocumentOutput::AskForScale(const QSizeF& missing, PrintScale& scale) {
   QMessageBox box(QMessageBox::Question, window_->windowTitle(),
                   missing.width() > 0

@@ -14,7 +14,7 @@ class QWidget;
 
 namespace tarvis {
 
-// Where the document comes from, as far as files that are made of it tell.
+// Where the document comes from, as far as it is written into files that are made of it.
 struct DocumentOrigin {
   QString Author;    // of a PDF
   QString DataFile;  // the file that the host's data come from, as the host names it; may be empty
@@ -23,8 +23,8 @@ struct DocumentOrigin {
 class DocumentOutput : public QObject {
   Q_OBJECT
  public:
-  // Dialogs and messages stand on `window`, which owns this. `currentPage` tells the index of the page that
-  // is being read.
+  // `window` is the parent of dialogs and messages, and owns this. `currentPage` returns the index of the
+  // page that is being read.
   DocumentOutput(std::shared_ptr<const Document> document, DocumentOrigin origin,
                  std::shared_ptr<PreviewMemory> memory, std::function<int()> currentPage, QWidget* window);
   // Cancels what is under way and waits for it.

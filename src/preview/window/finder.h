@@ -18,9 +18,9 @@ class Finder : public QObject {
 
   void Open();
   void Close();
-  // The next hit, from the last to the first. With no text yet, the bar opens.
+  // Goes to the next hit, after the last one to the first. With no text yet, opens the bar.
   void Step(int direction);
-  // The marks of a page; the current hit stands out.
+  // The marks of a page; the current hit has a colour of its own.
   std::vector<Highlight> Marks(int page) const;
   const std::vector<SearchHit>& Hits() const { return hits_; }
   int Current() const { return current_; }

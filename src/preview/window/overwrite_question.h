@@ -1,4 +1,4 @@
-// What may be written over, whichever dialog chose it.
+// Whether a file may be written to a path that a dialog has chosen.
 #pragma once
 
 #include <QString>
@@ -7,8 +7,8 @@ class QWidget;
 
 namespace tarvis {
 
-// Whether a file may be written at `path`. Asks before a file is replaced; says that a folder, a device or
-// anything else that is no file is never replaced.
+// Whether a file may be written at `path`. Asks before a file is replaced; tells the user that a folder, a
+// device or anything else that is no file is never replaced.
 bool MayWriteTo(const QString& path, QWidget* parent);
 
 }  // namespace tarvis

@@ -13,7 +13,7 @@ namespace {
 
 constexpr QChar Quote = QLatin1Char('"');
 
-// Not by the class, which has no translations of its own.
+// Translated without the class, which has no meta-object.
 QString Text(const char* text) {
   return QCoreApplication::translate("PdfFileDialog", text);
 }
@@ -35,7 +35,7 @@ PdfFileDialog::PdfFileDialog(QWidget* parent, const QString& path)
   selectFile(QFileInfo(path).fileName());
   const QLineEdit* name = NameBox(*this);
   if (name == nullptr) return;
-  // The toolkit looks at what stands between quotes and may find nothing there to save.
+  // The toolkit takes the text between quotes for the name, and disables the button if there is none.
   connect(name, &QLineEdit::textChanged, this, [this](const QString& text) {
     if (!text.contains(Quote)) return;
     findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->setEnabled(true);

@@ -1,11 +1,11 @@
-// Where a PDF is to be saved.
+// The dialog that asks where a PDF is to be saved.
 #pragma once
 
 #include <QFileDialog>
 
 namespace tarvis {
 
-// The toolkit shows the system's own dialog in place of this one where there is such. It recognizes its own
+// The toolkit shows the system's own dialog instead of this one where there is one. It recognizes its own
 // class by its meta-object, so this class must not have one.
 class PdfFileDialog : public QFileDialog {
  public:

@@ -10,14 +10,14 @@
 
 namespace tarvis {
 
-// Where the reader was in a document, told so that it can be found again in a document that was composed
-// anew.
+// Where the reader was in a document, described so that it can be found again in a document that was composed
+// again.
 struct ReadingPlace {
   QString Parent;       // text of the contents entry above `Entry`; empty for an entry of the first level
   QString Entry;        // text of the contents entry that was read; empty without contents
   int Occurrence = 0;   // of this pair in the contents, counted from 0
   double Below = 0;     // twips below the entry's own place, also over several pages
-  PagePlace Page = {};  // where the entry isn't there any more
+  PagePlace Page = {};  // used where the entry is missing
 };
 
 // How the user has set the window.

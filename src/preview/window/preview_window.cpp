@@ -189,7 +189,7 @@ PreviewWindow::Handlers PreviewWindow::MakeHandlers() {
 }
 
 void PreviewWindow::Connect() {
-  // The desktop turns the menu key into a wish for the menu, but not everywhere its twin.
+  // The desktop opens the menu on the menu key, but not everywhere on this key, which means the same.
   connect(new QShortcut(Qt::SHIFT | Qt::Key_F10, this), &QShortcut::activated, this,
           [this] { ShowMenu(view_->mapToGlobal(view_->rect().center())); });
   connect(actions_, &PreviewActions::Triggered, this,

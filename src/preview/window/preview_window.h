@@ -55,7 +55,7 @@ class PreviewWindow : public QMainWindow {
  signals:
   // A tool that is none of the window's own business: an added tool, or CloseToolNumber.
   void toolUsed(int id);
-  // The user has closed the window; closing it from code tells nothing.
+  // The user has closed the window; closing it from code sends no signal.
   void closedByUser();
 
  protected:

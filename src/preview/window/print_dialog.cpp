@@ -46,8 +46,8 @@ PrintDialog::PrintDialog(QPrinter& printer, int pageCount, const QString& pdf, Q
   OfferPdf(pdf);
 }
 
-// The toolkit would open what is already at the path, which may hang, and look for it in another folder than
-// it writes to. It knows neither where the last PDF was saved nor names with quotes.
+// The toolkit would open what is already at the path, which may hang, and would look for it in another folder
+// than the one it writes to. It knows neither where the last PDF was saved nor names with quotes.
 void PrintDialog::OfferPdf(const QString& path) {
   auto* file = Find<QLineEdit>(*this, "filename");
   auto* browse = Find<QToolButton>(*this, "fileBrowser");
@@ -65,7 +65,7 @@ void PrintDialog::OfferPdf(const QString& path) {
     file->setText(agreed_);
     printers->setCurrentIndex(printers->count() - 1);  // the file is the last one
   });
-  // The toolkit has taken its own measures by then.
+  // By then the toolkit has laid out the dialog.
   connect(printers, &QComboBox::currentIndexChanged, this, &PrintDialog::OfferAllPages);
   if (const auto* current = Find<QAbstractButton>(*this, "printCurrentPage"))
     connect(current, &QAbstractButton::toggled, this, &PrintDialog::OfferAllPages);
@@ -76,7 +76,7 @@ void PrintDialog::setVisible(bool visible) {
   if (visible) OfferAllPages();
 }
 
-// The toolkit takes single pages and page sets away where a file is written. That is our part.
+// The toolkit disables single pages and page sets where a file is written. We choose the pages ourselves.
 void PrintDialog::OfferAllPages() {
   if (auto* pages = Find<QWidget>(*this, "pagesRadioButton")) pages->setEnabled(true);
   if (auto* set = Find<QWidget>(*this, "pageSetCombo"))
@@ -92,7 +92,7 @@ void PrintDialog::CheckFile() {
   accept();
 }
 
-// The toolkit doesn't hand on the choice of greys for a printer.
+// The toolkit doesn't pass the choice of greys to a printer.
 void PrintDialog::accept() {
   QPrintDialog::accept();
   if (result() == QDialog::Accepted && IsChecked(*this, "grayscale"))

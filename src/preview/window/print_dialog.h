@@ -1,4 +1,4 @@
-// The toolkit's print dialog, with what it can't do by itself.
+// The toolkit's print dialog, extended by what it can't do by itself.
 #pragma once
 
 #include <QPrintDialog>
@@ -32,7 +32,7 @@ class PrintDialog : public QPrintDialog {
   void CheckFile();
   QPageRanges TypedRanges() const;
 
-  QString agreed_;  // the path that may be written to already, for it was asked for
+  QString agreed_;  // the path for which the user has already agreed that it is overwritten
 };
 
 }  // namespace tarvis

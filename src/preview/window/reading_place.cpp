@@ -7,7 +7,7 @@
 namespace tarvis {
 namespace {
 
-// Twips from the head of the first page, as if all pages hung together.
+// Twips from the head of the first page, as if all pages were one long sheet.
 double Depth(const Document& document, int page, double top) {
   return page * static_cast<double>(document.Setup.Height) + top;
 }

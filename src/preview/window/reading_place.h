@@ -6,11 +6,11 @@
 
 namespace tarvis {
 
-// How `place` is told to another document.
+// Describes `place` for another document.
 ReadingPlace Remember(const Document& document, const PagePlace& place);
 
-// The same contents entry at the same height. Where the entry isn't there any more, the same page, or the
-// last one of a shorter document.
+// The same contents entry at the same height. Where the entry is missing, the same page, or the last one of a
+// shorter document.
 PagePlace FindAgain(const Document& document, const ReadingPlace& place);
 
 }  // namespace tarvis
