@@ -12,14 +12,14 @@
 
 namespace tarvis {
 
-// Bounds in twips; labels stand at LabelLeft, at the height of their box.
+// Bounds in twips; labels are placed at LabelLeft, at the height of their box.
 struct EditCover::FieldPlan {
   int Index;
   const char* Caption;
   Bounds Place;
   bool SeveralLines;
   int ByteLimit;   // also the maximum length in characters
-  int EnterLimit;  // line breaks at which Enter is thrown away, -1 for never
+  int EnterLimit;  // line breaks from which on Enter is ignored, -1 for never
 };
 
 namespace {
@@ -61,7 +61,8 @@ EditCover::EditCover(PrintRun& run, QWidget* parent, EditCoverServices services)
       *this, [this](const QWidget& left, const QWidget& entered) { return RefuseToLeave(left, entered); });
 }
 
-// The focus moves once more while the controls go; nobody is to be held back then, and no picture read.
+// The focus moves once more while the controls are deleted; that must neither be refused nor start reading a
+// picture.
 EditCover::~EditCover() {
   logo_->disconnect(this);
   delete guard_;
@@ -174,7 +175,7 @@ void EditCover::Load() {
   ShowLogo();
 }
 
-// Bytes first; lines only of a text that passed. So one field gives one message.
+// Lines are checked only if the bytes have passed, so that one field causes at most one message.
 bool EditCover::Check(const Field& field) {
   if (field.ByteLimit == NoLimit) return true;
   if (!CheckByteLimit(run_, field.ByteLimit, *field.Box)) return false;

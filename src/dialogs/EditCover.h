@@ -25,7 +25,7 @@ struct EditCoverServices {
 };
 
 // Works on a copy: filled from the options when it is built, and nothing goes back until every field has
-// passed its check and the user confirms. A field that fails its check holds the focus until it passes or the
+// passed its check and the user confirms. A field that fails its check keeps the focus until it passes or the
 // user cancels.
 class EditCover : public FittedDialog {
   Q_OBJECT

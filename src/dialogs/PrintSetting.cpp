@@ -38,7 +38,7 @@ PrintSetting::PrintSetting(PrintRun& run, PrintSettingServices services)
   LoadDialog();
 }
 
-// The focus moves once more while the controls go; nobody is to be held back then.
+// The focus moves once more while the controls are deleted; that must not be refused.
 PrintSetting::~PrintSetting() {
   delete guard_;
 }
@@ -80,7 +80,7 @@ void PrintSetting::Connect() {
   connect(cmdCancel_, &QPushButton::clicked, this, &PrintSetting::reject);
 }
 
-// A page that appears while the dialog loads waits with its own load until the dialog's is over.
+// A page that appears while the dialog loads is loaded after the dialog itself.
 void PrintSetting::LoadDialog() {
   if (FileExists(run_.Session.HelpFile)) {
     services_.SetHelp(run_.Session.HelpFile, run_.Session.HelpContextId);
@@ -96,14 +96,14 @@ void PrintSetting::LoadDialog() {
   ShowWithPage();
 }
 
-// The page may have something to say about what it loads, which is to be said over the dialog and not before
-// any window is there.
+// The page may show a message about what it loads, which must appear over the dialog and not before any
+// window is shown.
 void PrintSetting::ShowWithPage() {
   show();
   try {
     shown_->Load();
   } catch (...) {
-    delete std::exchange(guard_, nullptr);  // the focus moves once more while the controls go
+    delete std::exchange(guard_, nullptr);  // the focus moves once more while the controls are deleted
     throw;
   }
 }
@@ -123,14 +123,14 @@ void PrintSetting::SelectByMode() {
   LoadStepLimit(run_);
 }
 
-// Runs the handling of the list also when the index stays, which the toolkit's own setter doesn't.
+// Runs the handling of the list also if the index doesn't change, unlike the toolkit's own setter.
 void PrintSetting::SelectFunction(int index) {
   cmbFunc_->setCurrentIndex(index);
   FunctionClicked();
 }
 
-// The page that was left may refuse it with a bad range. The wheel turns the list also while the dialog isn't
-// active, and then nothing else tells that the focus has moved.
+// The page that is left may refuse it. The wheel changes the list also while the dialog isn't active, and
+// then no signal shows that the focus has moved.
 void PrintSetting::FunctionChosen() {
   if (guard_->Enter(*cmbFunc_)) FunctionClicked();
 }
@@ -140,8 +140,8 @@ void PrintSetting::FunctionClicked() {
   ShowPage(*pages_.at(static_cast<std::size_t>(PageOf(run_.Session, entry))));
 }
 
-// True if the page that the focus has left holds the user back; he is on it again then. The check of the
-// control that was left comes first.
+// True if the page that the focus has left may not be left; the user has been brought back to it then. The
+// check of the control that was left comes first.
 bool PrintSetting::RefuseToLeave(const QWidget& left, const QWidget& entered) {
   const auto found = std::find_if(pages_.begin(), pages_.end(),
                                   [&left](const ItemPage* page) { return page->isAncestorOf(&left); });
@@ -180,11 +180,11 @@ void PrintSetting::EditClicked() {
 }
 
 // All input has been checked field by field, when its field was left. A key presses the button without
-// leaving the field, so it is left here.
+// leaving the field, so the focus is moved here.
 void PrintSetting::OkClicked() {
   if (!guard_->Enter(*cmdOK_)) return;
   StampOptions(run_);
-  // A file that can't be written stops nobody from printing.
+  // Printing goes on even if the file can't be written.
   static_cast<void>(WritePrintOptionsFile(run_, run_.Session.SystemFolder + "PrintOption.ToT"));
   if (run_.Session.Mode == "PrnSetting") EndRun(run_);
   const auto showPrintPreview = services_.ShowPrintPreview;  // outlives the dialog

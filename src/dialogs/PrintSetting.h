@@ -20,19 +20,18 @@ struct PrintRun;
 class CoverGroup;
 class FocusGuard;
 
-// What the dialog asks of the program around it.
+// What the dialog needs from the program around it.
 struct PrintSettingServices {
-  // Called once, after the user has confirmed, the options are written and the dialog is gone from the
-  // screen.
+  // Called once, after the user has confirmed, the options are written and the dialog is hidden.
   std::function<void()> ShowPrintPreview;
   // Sets the application's help file and the context number of this dialog; only if the file exists.
   std::function<void(const std::string& helpFile, std::int32_t helpContextId)> SetHelp;
 };
 
 // Edits the options of the run in place, at each click and change; there is nothing to collect. Building it
-// is its load: an edition, version or mode that it doesn't know, and a program table that can't be read, end
-// the run as numbered failures; options that no control can show throw RunTimeFailure, and so may every
-// handling that a click runs, through the event loop to the application object.
+// is its load: an unknown edition, version or mode, and a program table that can't be read, end the run as
+// numbered failures; options that no control can show throw RunTimeFailure. Every handling of a click may
+// throw it, too, through the event loop to the application object.
 //
 // Create it with new: it shows itself, modeless. When the user confirms it deletes itself; every other way
 // out of it ends the run.

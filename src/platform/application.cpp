@@ -11,7 +11,7 @@
 namespace tarvis {
 namespace {
 
-// Of the exception in hand.
+// Describes the exception that is being handled.
 std::string Words() {
   try {
     throw;
@@ -22,9 +22,9 @@ std::string Words() {
   }
 }
 
-// The toolkit's file dialog would note folders, names and column widths in a settings file of its own below
-// the user's home; of a run, only the print options stay. Below a device there is no folder to write to.
-// Where the toolkit shows the system's own dialog, that one keeps what it likes.
+// The toolkit's file dialog would store folders, names and column widths in a settings file of its own in the
+// user's home folder, but only the print options may outlive a run. Below a device there is no folder to
+// write to. Where the toolkit shows the system's own dialog, that dialog stores its own settings.
 void KeepNoToolkitSettings() {
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
 }

@@ -1,5 +1,4 @@
-// The event loop of the program, with a floor under it: what no routine handles ends the run as a run-time
-// failure.
+// The event loop of the program. An exception that no routine handles ends the run as a run-time failure.
 #pragma once
 
 #include <QApplication>
@@ -11,7 +10,7 @@
 
 namespace tarvis {
 
-// What the toolkit is told of the command line: the program's name, and none of the arguments.
+// The part of the command line that the toolkit gets: the program's name, and none of the arguments.
 struct ToolkitArguments {
   explicit ToolkitArguments(char* programName) : Values{{programName, nullptr}} {}
 
@@ -27,12 +26,12 @@ class Application : public QApplication {
   // Runs `start`, then the event loop until the process ends.
   [[noreturn]] void Run(const std::function<void()>& start);
 
-  // Catches what escapes an event handler.
+  // Catches exceptions that leave an event handler.
   bool notify(QObject* receiver, QEvent* event) override;
 
-  // To be called in a catch block. Says on standard error and in a box titled "Run-time error" what happened
-  // and where, and ends the process with status 1. Deletes no file. The box is left out for a failure while
-  // another one is being shown.
+  // To be called in a catch block. Reports on standard error and in a box titled "Run-time error" what
+  // happened and where, and ends the process with status 1. Deletes no file. The box is left out for a
+  // failure while another one is being shown.
   [[noreturn]] void Fail();
   // While the box of a failure is shown.
   bool IsFailing() const { return failing_; }
@@ -42,8 +41,8 @@ class Application : public QApplication {
   bool failing_ = false;
 };
 
-// Makes the application. A toolkit that can't start, for want of a display above all, ends the process with
-// status 1 and one line on standard error.
+// Makes the application. A toolkit that can't start, most often because there is no display, ends the process
+// with status 1 and one line on standard error.
 std::unique_ptr<Application> StartApplication(ToolkitArguments& arguments, Desktop& desktop);
 
 }  // namespace tarvis

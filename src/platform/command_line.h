@@ -6,7 +6,7 @@
 namespace tarvis {
 
 // Where the system hands over separate arguments they are joined with blanks, so that a quoted blank
-// separates arguments there as it does where the line comes whole. UTF-8.
+// separates arguments there just as on systems that hand over the whole line. UTF-8.
 std::string CommandLineText(int argc, char* const* argv);
 
 }  // namespace tarvis

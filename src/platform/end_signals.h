@@ -1,4 +1,5 @@
-// The system's wish that the process ends: the user logs out, the machine goes down, an administrator asks.
+// Requests by the operating system to terminate: the user logs out, the machine shuts down, an administrator
+// ends the process.
 #pragma once
 
 #include <QObject>
@@ -6,15 +7,15 @@
 
 namespace tarvis {
 
-// As long as it lives, the first such wish calls `end` from the event loop, so never in the middle of the
-// program's own work. A second one ends the process as if nobody watched. A wish that the caller has told the
-// process to ignore stays ignored. There is one object of this kind at a time.
+// During its lifetime, the first such request calls `end` from the event loop, so never in the middle of the
+// program's own work. A second one ends the process at once, as without this object. A signal that the parent
+// process has set to be ignored stays ignored. There is one object of this kind at a time.
 class EndSignals : public QObject {
  public:
   explicit EndSignals(std::function<void()> end);
   ~EndSignals() override;
 
-  // For work that keeps the event loop waiting: calls `end` if there was such a wish by now.
+  // For work that blocks the event loop: calls `end` if there was a request meanwhile.
   void Answer();
 
  private:

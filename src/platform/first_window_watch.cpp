@@ -11,7 +11,7 @@
 namespace tarvis {
 namespace {
 
-// Follows the first window by the events of the application.
+// Observes the first window by the events of the application.
 class WindowEvents : public QObject {
  public:
   WindowEvents(std::function<void(std::string)> waitsFor, std::function<void()> shown)
@@ -26,7 +26,7 @@ class WindowEvents : public QObject {
     } else if (receiver->isWidgetType() && event->type() == QEvent::Show) {
       waitsFor_("the window manager, which was asked to show a window");
     } else if (receiver->isWidgetType() && !std::exchange(isBuilding_, true)) {
-      // Building widgets asks nobody but the buses, which assistive tools and global menus live on.
+      // Building widgets uses nothing outside but the buses, for assistive tools and global menus.
       waitsFor_("its dialog to be built, which asks the message buses of the desktop");
     }
     return QObject::eventFilter(receiver, event);

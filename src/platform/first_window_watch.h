@@ -1,5 +1,5 @@
-// Watches for the first window of a run. What the start waits for may keep it away for ever: a display, a
-// print system or a message bus that takes connections and never answers, a window manager that is stuck.
+// Watches for the first window of a run. What the start waits for may prevent it for ever: a display, a print
+// system or a message bus that takes connections and never answers, a window manager that is stuck.
 #pragma once
 
 #include <QObject>
@@ -14,22 +14,22 @@
 
 namespace tarvis {
 
-// Waits in a thread of its own, since the start hangs in calls of the toolkit that return late or never. If
-// one step of the start takes longer than `patience` and no window shows, it says once, on standard error,
-// what the start waits for, and leaves the start alone. A start that is only slow goes from step to step. It
-// says nothing once a window has been shown or the object is gone.
+// Waits in a thread of its own, since the start is blocked in calls of the toolkit that return late or never.
+// If one step of the start takes longer than `patience` and no window is shown, it reports once, on standard
+// error, what the start waits for; the start itself goes on. A start that is only slow goes from step to
+// step. Nothing is reported once a window has been shown or the object is destroyed.
 class FirstWindowWatch {
  public:
-  // `desktop` must outlive the watch; `Diagnose` is called from the thread. If the system gives no thread,
+  // `desktop` must outlive the watch; `Diagnose` is called from the thread. If no thread can be started,
   // nothing is watched.
   explicit FirstWindowWatch(Desktop& desktop, std::chrono::seconds patience = std::chrono::seconds(10));
   ~FirstWindowWatch();
   FirstWindowWatch(const FirstWindowWatch&) = delete;
   FirstWindowWatch& operator=(const FirstWindowWatch&) = delete;
 
-  // What the start does from now on, in words that follow "has waited 10 s for".
+  // What the start does from now on, as a text that follows "has waited 10 s for".
   void WaitsFor(std::string what);
-  // To be called once the application object exists: from now on, its windows are noticed.
+  // To be called once the application object exists: from now on, its windows are observed.
   void NoticeWindows();
 
  private:
@@ -47,7 +47,7 @@ class FirstWindowWatch {
   std::thread thread_;
 };
 
-// The display of the environment, in words for `FirstWindowWatch::WaitsFor`.
+// The display of the environment, as a text for `FirstWindowWatch::WaitsFor`.
 std::string DisplayInWords();
 
 }  // namespace tarvis

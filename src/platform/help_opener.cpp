@@ -13,8 +13,8 @@
 namespace tarvis {
 namespace {
 
-// Some systems take any bytes as the name of a file. Those that are no text stay the bytes that they are, in
-// the escapes of the address.
+// Some systems accept any bytes as the name of a file. Those that are no text are kept as they are, as
+// escapes of the address.
 QUrl AddressOf(const std::filesystem::path& file) {
   const std::u8string name = file.generic_u8string();
   const QByteArray bytes(reinterpret_cast<const char*>(name.data()), static_cast<qsizetype>(name.size()));

@@ -12,7 +12,7 @@ class HelpOpener : public QObject {
  public:
   // Empty for none; a path as the system forms it, with backslashes.
   void SetHelpFile(const std::string& path) { helpFile_ = path; }
-  // The context number where the control that has the focus has none.
+  // The context number that is used if the control with the focus has none.
   void SetContext(std::int32_t helpContextId) { context_ = helpContextId; }
 
   // An .html file opens at the anchor named by the context number of the control that has the focus, any

@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::array WatchedSignals = {SIGTERM, SIGHUP, SIGINT};
 
-// From the signal handler, which may do next to nothing, to the event loop.
+// From the signal handler, in which hardly anything is allowed, to the event loop.
 std::array<int, 2> pipeToLoop = {-1, -1};
 
 void Wake(int /*signal*/) {
@@ -38,7 +38,7 @@ void Watch(int signal) {
 }  // namespace
 
 EndSignals::EndSignals(std::function<void()> end) : end_(std::move(end)) {
-  if (pipe2(pipeToLoop.data(), O_CLOEXEC | O_NONBLOCK) != 0) return;  // signals end the process, as ever
+  if (pipe2(pipeToLoop.data(), O_CLOEXEC | O_NONBLOCK) != 0) return;  // signals then end the process as usual
   auto* notifier = new QSocketNotifier(pipeToLoop[0], QSocketNotifier::Read, this);
   connect(notifier, &QSocketNotifier::activated, this, [this] { Answer(); });
   for (const int signal : WatchedSignals) Watch(signal);

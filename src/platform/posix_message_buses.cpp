@@ -17,7 +17,7 @@
 namespace tarvis {
 namespace {
 
-// An address that no library can connect to, and that none goes looking for another one for.
+// An address that no library can connect to, and that makes none look for another one.
 constexpr const char* SwitchedOff = "disabled:";
 
 struct Bus {
@@ -85,8 +85,8 @@ ssize_t Listen(int stream) {
   return count;
 }
 
-// Asks for the ways to sign in, which every bus answers at once. Any other failure than silence is left to
-// the toolkit, which tells it at once.
+// Requests the ways to sign in, to which every bus replies at once. Every failure but a missing reply is left
+// to the toolkit, which notices it at once.
 bool IsSilent(int stream, const std::string& name) {
   constexpr std::string_view Question("\0AUTH\r\n", 7);
   const bool failed = !Connect(stream, name) ||

@@ -14,7 +14,7 @@
 namespace tarvis {
 namespace {
 
-// Shows that the program is busy until its end, whatever happens.
+// Shows the busy pointer during its lifetime, also if an exception is thrown.
 class BusyPointer {
  public:
   BusyPointer() { QApplication::setOverrideCursor(Qt::WaitCursor); }
@@ -60,7 +60,7 @@ void QtProgramWindows::ShowPrintSetting() {
 }
 
 void QtProgramWindows::ShowMasterReport() {
-  pictures_.Forget();  // the host may have drawn them anew
+  pictures_.Forget();  // the host may have drawn them again
   report_ = std::make_unique<rptTarvis>(ReportContext{run_, pictures_}, CreateFunctionReport, *this);
   const std::shared_ptr<const Document> document =
       ComposeForDesk(run_, *report_);  // fills caption and tools, too
@@ -79,7 +79,7 @@ void QtProgramWindows::ShowPreview() {
 void QtProgramWindows::UnloadMasterReport() {
   run_.Session.MasterReport = nullptr;
   preview_->hide();
-  preview_.release()->deleteLater();  // its own event may have led here
+  preview_.release()->deleteLater();  // its own event may have called this
 }
 
 void QtProgramWindows::SetHelpFile(const std::string& path) {

@@ -1,4 +1,4 @@
-// The program's windows: the dialog and the preview, one at a time, and the road between them.
+// The program's windows: the dialog and the preview, one at a time, and the change between them.
 #pragma once
 
 #include <QObject>
@@ -27,10 +27,11 @@ class QtProgramWindows : public QObject, public ProgramWindows {
   void UnloadMasterReport() override;
   void SetHelpFile(const std::string& path) override;
 
-  // While the windows keep the event loop waiting for long, they call `answer` again and again.
+  // While the windows block the event loop for long, they call `answer` repeatedly.
   void AnswerEndRequestsWith(std::function<void()> answer) { answerEndRequest_ = std::move(answer); }
 
-  // Calls off what the preview is saving or printing, so that the process can end without half a file left.
+  // Cancels what the preview is saving or printing, so that the process can end without leaving an incomplete
+  // file.
   void StopWork();
 
  private:
@@ -41,7 +42,7 @@ class QtProgramWindows : public QObject, public ProgramWindows {
   HelpOpener help_;
   std::function<void()> answerEndRequest_;
   PictureFileLoader pictures_;
-  // The master report handles the preview's events, so it lives on until the next one is shown.
+  // The master report handles the preview's events, so it is kept until the next one is shown.
   std::unique_ptr<rptTarvis> report_;
   std::unique_ptr<PreviewWindow> preview_;
 };

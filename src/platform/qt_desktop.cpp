@@ -14,8 +14,8 @@ namespace {
 
 constexpr std::chrono::milliseconds BeepDistance(200);
 
-// While it lives, the pointer is the one of the window below it, even if the program is busy: the user is
-// asked.
+// During its lifetime, the pointer is the normal one even if the program is busy, because the user has to
+// answer.
 class PlainPointer {
  public:
   PlainPointer() {

@@ -10,7 +10,7 @@ namespace tarvis {
 // Needs a QApplication for Beep and ShowMessage; Diagnose and EndProcess work without one.
 class QtDesktop : public Desktop {
  public:
-  // Beeps that follow one another keep a distance at which they are heard one by one.
+  // Beeps that follow one another are delayed so that each can be heard.
   void Beep() override;
   void ShowMessage(const std::string& title, const std::string& text) override;
   void Diagnose(const std::string& line) override;

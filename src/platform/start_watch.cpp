@@ -16,13 +16,13 @@ struct Told {
 };
 
 Desktop* watching = nullptr;
-std::vector<Told> told;  // warnings of the start so far
+std::vector<Told> told;  // warnings of the start until now
 
 bool IsUnset(const char* variable) {
   return qEnvironmentVariableIsEmpty(variable);
 }
 
-// The first complaint is the cause, whatever follows from it.
+// The first warning names the cause; the others follow from it.
 std::string Cause(const QString& lastWords) {
   std::string cause =
       (told.empty() ? lastWords.section(u'\n', 0, 0) : told.front().Text).trimmed().toStdString();

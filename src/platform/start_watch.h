@@ -1,4 +1,5 @@
-// Watches the toolkit start. Without a display it would abort the process after a page of advice.
+// Watches the start of the toolkit, which without a display would abort the process after many lines of
+// advice.
 #pragma once
 
 #include <QtGlobal>
@@ -7,8 +8,9 @@
 
 namespace tarvis {
 
-// As long as it lives, a start that fails ends the process with status 1 and one line on standard error. What
-// the toolkit says of a start that works is passed on. There is one object of this kind at a time.
+// During its lifetime, a start that fails ends the process with status 1 and one line on standard error.
+// Messages of the toolkit during a start that succeeds are passed on. There is one object of this kind at a
+// time.
 class StartWatch {
  public:
   // `desktop` must outlive the watch.

@@ -11,8 +11,8 @@ class SystemPrinters : public Printers {
   // `countsPdf` counts saving as PDF as a printer. `watch` must outlive the object.
   SystemPrinters(bool countsPdf, FirstWindowWatch& watch) : countsPdf_(countsPdf), watch_(watch) {}
 
-  // How many there are at least: where saving as PDF counts, the print system isn't asked, for a server of it
-  // that doesn't answer takes two minutes. Without that, the answer is waited for.
+  // A lower limit of their number: where saving as PDF counts, the print system isn't queried, since a print
+  // server that doesn't answer takes two minutes. Otherwise the answer is waited for.
   int NDevices() override;
   void PrintDialog() override;
 

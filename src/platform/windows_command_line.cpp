@@ -6,7 +6,7 @@
 
 namespace tarvis {
 
-// The raw line without the program's name, which alone may stand in quotation marks.
+// The raw line without the program's name; only the name may be enclosed in quotation marks.
 std::string CommandLineText(int, char* const*) {
   const QString line = QString::fromWCharArray(GetCommandLineW());
   const QChar nameEnd = line.startsWith('"') ? '"' : ' ';

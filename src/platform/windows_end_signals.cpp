@@ -4,12 +4,12 @@
 
 namespace tarvis {
 
-// Windows asks the windows of a program, and their closing ends the run.
+// The system closes the windows of a program, and that ends the run.
 EndSignals::EndSignals(std::function<void()> end) : end_(std::move(end)) {}
 
 EndSignals::~EndSignals() = default;
 
-// A window can't be asked while the event loop waits.
+// No window can be closed while the event loop is blocked.
 void EndSignals::Answer() {}
 
 }  // namespace tarvis

@@ -2,7 +2,7 @@
 
 namespace tarvis {
 
-// The toolkit speaks to no message bus here.
+// The toolkit uses no message bus here.
 void LeaveOutSilentBuses(Desktop& /*desktop*/, std::chrono::milliseconds /*patience*/) {}
 
 }  // namespace tarvis

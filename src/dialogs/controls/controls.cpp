@@ -12,7 +12,7 @@ namespace tarvis {
 
 namespace {
 
-constexpr int SmallestFontPixels = 8;  // below this nobody can read
+constexpr int SmallestFontPixels = 8;  // smaller text can't be read
 constexpr int TitleInset = 135;        // twips, of the title of a group
 constexpr int RowTolerance = 120;      // twips by which controls of one row may be out of line
 

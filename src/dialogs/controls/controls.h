@@ -1,4 +1,4 @@
-// The plain controls of the dialogs: what the toolkit's own lack of names, captions and values.
+// The plain controls of the dialogs: the toolkit's own, extended by names, captions and values.
 #pragma once
 
 #include <QCheckBox>
@@ -44,7 +44,7 @@ class TickBox : public QCheckBox {
   bool IsOn() const { return Value() == 1; }
 
  signals:
-  // The click: it comes from the user and from SetValue alike, and only when the value changes.
+  // The click: it comes from the user and also from SetValue, but only when the value changes.
   void ValueChanged();
 
  protected:
@@ -55,7 +55,7 @@ class TickBox : public QCheckBox {
   bool wraps_ = false;
 };
 
-// Its handling belongs to `toggled` with true alone: going off runs nothing.
+// Its handling runs on `toggled` with true only: switching it off runs nothing.
 class OptionButton : public QRadioButton {
   Q_OBJECT
 
@@ -69,15 +69,15 @@ class OptionButton : public QRadioButton {
   bool wraps_ = false;
 };
 
-// A group whose rule runs at the height of its title, so that controls right below the title stand inside it.
+// A group whose rule runs at the height of its title, so that controls right below the title are inside it.
 class GroupFrame : public QGroupBox {
   Q_OBJECT
 
  public:
   GroupFrame(const char* name, const char* caption, const Bounds& bounds, QWidget* parent);
 
-  // The control inside to which the mnemonic of the title leads. The toolkit would go back to the one that
-  // had the focus last.
+  // The control inside that the mnemonic of the title gives the focus. The toolkit would give it to the one
+  // that had it last.
   void SetBuddy(QWidget* control) { buddy_ = control; }
 
  protected:

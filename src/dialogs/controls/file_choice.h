@@ -16,8 +16,8 @@ using FileChoice = std::function<QString(QWidget* parent, const QString& filter,
 
 QString ChooseFile(QWidget* parent, const QString& filter, const std::string& present);
 
-// The filter as the toolkit takes it. Each pattern stands there twice, since file names may be of either
-// case.
+// The filter as the toolkit takes it. Each pattern is contained twice, since file names may be in upper or
+// lower case.
 QString ToolkitFilter(const QString& filter);
 
 // The folder of a path; empty if there is none, or if its file system doesn't answer at once.

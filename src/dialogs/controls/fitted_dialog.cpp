@@ -14,7 +14,7 @@ namespace tarvis {
 
 namespace {
 
-// What the window manager adds to the height and width of a window, where it hasn't told yet.
+// What the window manager adds to the height and width of a window, as long as the real size is unknown.
 constexpr QSize UsualFrame(10, 40);
 
 }  // namespace
@@ -33,7 +33,7 @@ FittedDialog::FittedDialog(const char* name, const char* caption, const Plan& pl
   scroll_->setWidget(upper);
   connect(qApp, &QApplication::focusChanged, this,
           [this](QWidget*, QWidget* entered) { FollowFocus(entered); });
-  // As shortcuts, since a list takes these keys for letters to search.
+  // These are shortcuts, since a list would take the keys as letters to search for.
   const auto turns = [this](const QKeyCombination& keys, int tabs) {
     connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, tabs] { FrontTabs().Turn(tabs); });
   };
@@ -42,7 +42,7 @@ FittedDialog::FittedDialog(const char* name, const char* caption, const Plan& pl
   Fit();
 }
 
-// The focus moves once more while the controls go.
+// The focus moves once more while the controls are deleted.
 FittedDialog::~FittedDialog() {
   disconnect(qApp, nullptr, this, nullptr);
 }
@@ -73,7 +73,7 @@ void FittedDialog::Fit() {
   for (const BottomButton& button : buttons_) button.Button->move(button.Place - QPoint(0, hidden));
 }
 
-// Only now the window knows its screen and its frame.
+// Only from now on the window knows its screen and its frame.
 void FittedDialog::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   connect(windowHandle(), &QWindow::screenChanged, this, &FittedDialog::Fit, Qt::UniqueConnection);

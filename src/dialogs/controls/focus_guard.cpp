@@ -42,7 +42,7 @@ void FocusGuard::Ask(QWidget& left, QWidget& entered) {
 bool FocusGuard::Enter(QWidget& control) {
   refused_ = false;
   if (!control.hasFocus()) control.setFocus(Qt::ShortcutFocusReason);
-  if (!refused_) FocusMoved(&control);  // nothing more to do if the signal has come
+  if (!refused_) FocusMoved(&control);  // nothing is left to do if the signal was sent
   return !refused_;
 }
 
@@ -53,7 +53,8 @@ bool FocusGuard::eventFilter(QObject* watched, QEvent* event) {
   auto* control = qobject_cast<QWidget*>(watched);
   if (!IsOfWindow(control)) return false;
   if (press) {
-    if (swallowInput_) event->accept();  // a turn of the wheel would go on to what is around the control
+    if (swallowInput_)
+      event->accept();  // otherwise a turn of the wheel would be passed to the control's parent
     return std::exchange(swallowInput_, false);
   }
   auto* button = qobject_cast<QAbstractButton*>(control);

@@ -1,4 +1,4 @@
-// Holds the user back in a field whose text was refused, whichever way he tries to leave it.
+// Keeps the user in a field whose text was refused, whichever way he tries to leave it.
 #pragma once
 
 #include <QObject>
@@ -8,11 +8,11 @@
 
 namespace tarvis {
 
-// Asks `refuse` whenever the focus has moved from one control of the window to another one of it, also while
-// another window was in front in between; switching to another window or program alone is no leave. Who
-// refuses returns true and has put the focus back and told the user; the press, the turn of the wheel or the
-// shortcut that moved the focus then does nothing more.
-// Mnemonics of buttons click at once.
+// Asks `refuse` whenever the focus has moved from one control of the window to another one of it, also if
+// another window was in front in between; switching to another window or program alone doesn't count as
+// leaving. A function that refuses has moved the focus back, has informed the user, and returns true; the
+// press, the turn of the wheel or the shortcut that moved the focus then has no further effect. Mnemonics of
+// buttons click at once.
 class FocusGuard : public QObject {
   Q_OBJECT
 
@@ -22,8 +22,8 @@ class FocusGuard : public QObject {
   // `window` owns the guard.
   FocusGuard(QWidget& window, Refuse refuse);
 
-  // Moves the focus to `control` before something that a key does to it without moving the focus. False if
-  // that was refused.
+  // Moves the focus to `control`, for a key that works on it without moving the focus. False if that was
+  // refused.
   bool Enter(QWidget& control);
 
  protected:

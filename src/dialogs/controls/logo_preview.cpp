@@ -28,10 +28,10 @@ QRectF Fitted(const PaintablePicture& picture, const QRectF& room) {
 
 }  // namespace
 
-// Where the thread that reads leaves the picture.
+// The reading thread puts the picture here.
 struct LogoPreview::Mailbox : std::enable_shared_from_this<Mailbox> {
   std::mutex Mutex;
-  LogoPreview* Reader;  // nullptr once nobody awaits the picture any more
+  LogoPreview* Reader;  // nullptr once the picture isn't needed any more
 
   explicit Mailbox(LogoPreview* reader) : Reader(reader) {}
 
@@ -56,7 +56,7 @@ std::shared_ptr<const PaintablePicture> ReadPicture(const std::string& path) {
     if (!FileExists(path)) return nullptr;
     return std::dynamic_pointer_cast<const PaintablePicture>(PictureFileLoader().Load(path));
   } catch (const std::exception&) {
-    return nullptr;  // the cover letter tells what is wrong with the file
+    return nullptr;  // the report of the cover letter informs the user about the file
   }
 }
 

@@ -1,4 +1,4 @@
-// A courtesy beside the path of the logo: the picture as it will be on the cover letter.
+// A preview beside the path of the logo: the picture as it will be on the cover letter.
 #pragma once
 
 #include <QFrame>
@@ -12,14 +12,14 @@ namespace tarvis {
 
 class PaintablePicture;
 
-// Reads a picture; nullptr if there is none that can be shown. Is called in a thread of its own, which may
-// live longer than the program's windows, and never throws.
+// Reads a picture; returns nullptr if there is none that can be shown. It is called in a thread of its own,
+// which may live longer than the program's windows, and must not throw.
 using PictureReader = std::function<std::shared_ptr<const PaintablePicture>(const std::string& path)>;
 
 // Opens regular files only.
 std::shared_ptr<const PaintablePicture> ReadPicture(const std::string& path);
 
-// Says nothing about a path that names no picture: the report does that. It can't be seen then.
+// Invisible while the path names no picture; the report informs the user about that.
 class LogoPreview : public QFrame {
   Q_OBJECT
 
@@ -29,7 +29,7 @@ class LogoPreview : public QFrame {
 
   // Returns at once and shows the picture when it has been read, unless another path has been named by then.
   void ShowFile(const std::string& path);
-  // The path isn't what it was, and not known yet.
+  // The path has changed, and the new one isn't complete yet.
   void Forget();
 
  protected:
@@ -42,7 +42,7 @@ class LogoPreview : public QFrame {
 
   PictureReader read_;
   std::string path_;
-  std::shared_ptr<Mailbox> mailbox_;  // of the reading that is awaited
+  std::shared_ptr<Mailbox> mailbox_;  // of the latest reading
   std::shared_ptr<const PaintablePicture> picture_;
 };
 

@@ -16,7 +16,7 @@ namespace tarvis {
 namespace {
 
 constexpr QChar ParagraphEnd(0x2029);  // a line break, as the toolkit keeps it
-constexpr QChar LoneLineFeed(0x2028);  // shown as a line break too, and told apart from it
+constexpr QChar LoneLineFeed(0x2028);  // also shown as a line break, but another character
 constexpr int TextMarginPixels = 2;
 
 // `raw` as the toolkit keeps it, with CR LF.
@@ -26,7 +26,7 @@ QString WithLineBreaks(QString raw) {
   return raw;
 }
 
-// What the toolkit takes for one line break each.
+// The texts that the toolkit takes as one line break each.
 QString Normalized(QString text) {
   text.replace(QString::fromLatin1("\r\n"), QString::fromLatin1("\n"));
   text.replace(QChar(u'\r'), QChar(u'\n'));
@@ -35,7 +35,7 @@ QString Normalized(QString text) {
   return text;
 }
 
-// As much of a normalized text as takes `room` characters, a line break being two and never halved.
+// The first `room` characters of a normalized text; a line break counts as two and is never divided.
 QString CutToRoom(const QString& text, qsizetype room) {
   qsizetype end = 0;
   while (end < text.size()) {
@@ -88,7 +88,7 @@ void MemoBox::keyPressEvent(QKeyEvent* event) {
   QPlainTextEdit::keyPressEvent(event);
 }
 
-// The toolkit would make another kind of line break of Enter with Shift.
+// The toolkit would insert another kind of line break for Enter with Shift.
 void MemoBox::PressEnter() {
   if (enterLimit_ >= 0 && CountLineBreaks(Text()) >= enterLimit_) return;
   if (Room() < 2) return;

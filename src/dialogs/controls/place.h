@@ -1,5 +1,5 @@
-// Geometry of the dialogs: told in twips, 1440 to the inch, and drawn at 96 dots to the inch in a font of 11
-// pixels. In a larger font the dialogs are drawn larger as a whole.
+// Geometry of the dialogs: given in twips, 1440 to the inch, for a drawing at 96 dots to the inch in a font
+// of 11 pixels. In a larger font the dialogs are drawn larger as a whole.
 #pragma once
 
 #include <QFontInfo>
@@ -24,7 +24,7 @@ constexpr int Pixels(int twips, int fontPixels) {
   return (twips * fontPixels + Divisor / 2) / Divisor;
 }
 
-// How long something in `widget` is, which has its font already, most often from its parent.
+// The length of something in `widget`, which must have its font already, most often from its parent.
 inline int Pixels(int twips, const QWidget& widget) {
   return Pixels(twips, QFontInfo(widget.font()).pixelSize());
 }

@@ -10,7 +10,7 @@
 namespace tarvis {
 
 // Unlike the toolkit's, it never changes the page while a control of the old page holds the focus: the focus
-// goes to the row of tabs first, and if a handler takes it back, the tab stays.
+// goes to the row of tabs first, and if a handler moves it back, the tab isn't changed.
 class TabControl : public QWidget {
   Q_OBJECT
 
@@ -21,13 +21,13 @@ class TabControl : public QWidget {
   QWidget* AddTab(const char* caption);
   int CurrentTab() const { return current_; }
   void SetCurrentTab(int index);
-  // Goes on by so many tabs, from the last one to the first.
+  // Goes on by `tabs` tabs, after the last one to the first.
   void Turn(int tabs);
   QWidget* Page(int index) const { return pages_.at(static_cast<std::size_t>(index)); }
   QTabBar* Bar() const { return bar_; }
 
  signals:
-  // `left` is the tab that was in front.
+  // `left` is the tab that was in front before.
   void TabChanged(int left);
 
  protected:

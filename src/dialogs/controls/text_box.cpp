@@ -31,8 +31,8 @@ QString FirstLine(const QString& text) {
   return text.left(FirstLineLength(text));
 }
 
-// Sees the text after every change. It costs the box its undo history to change the text here, so the box
-// itself looks at what the user puts in; what is left are the ways around it, such as assistive tools.
+// Sees the text after every change. A change of the text here would delete the undo history of the box, so
+// the box itself checks what the user enters; this handles only the other ways, such as assistive tools.
 class OneLineOnly : public QValidator {
  public:
   using QValidator::QValidator;
@@ -78,9 +78,9 @@ void LineBox::SetMaximumLength(int characters) {
   ApplyMaximumLength(text().size());
 }
 
-// The toolkit cuts a text that is longer than its maximum, so that never goes below the text's own length:
-// what is too long stays, but the user can't add to it. Each change of the maximum costs the user the undo
-// history and the place of the cursor, so there is none without need.
+// The toolkit cuts a text that is longer than its maximum, so the maximum is never below the length of the
+// text: what is too long stays, but the user can't add to it. Each change of the maximum deletes the undo
+// history and moves the cursor, so it is changed only if necessary.
 void LineBox::ApplyMaximumLength(qsizetype length) {
   const int wanted = std::max(maximumLength_ == 0 ? Unlimited : maximumLength_, static_cast<int>(length));
   if (wanted == maxLength()) return;

@@ -25,7 +25,8 @@ class InputBox {
   virtual void GiveFocus() = 0;
 };
 
-// A text box of one line: of a text of several lines it takes the first one, whichever way the text comes in.
+// A text box of one line: of a text of several lines it takes the first one, whichever way the text is
+// entered.
 class LineBox : public QLineEdit, public InputBox {
   Q_OBJECT
 

@@ -1,4 +1,5 @@
-// Work that nobody waits for, since a file system that has stopped answering may hold it for minutes.
+// Work that is started without waiting for it, since a file system that has stopped answering may delay it
+// for minutes.
 #pragma once
 
 #include <functional>

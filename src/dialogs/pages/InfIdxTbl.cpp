@@ -27,13 +27,13 @@ bool IsThrownAway(std::int16_t code) {
   return (code >= 58 && code <= 126) || (code >= 0 && code <= 47 && code != 8);
 }
 
-// Keys that belong to the dialog never reach a text box.
+// Keys that the dialog handles itself must not be ignored by the box.
 bool IsDialogKey(int key) {
   return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape || key == Qt::Key_Tab ||
          key == Qt::Key_Backtab;
 }
 
-// Keys that work on the text as a whole enter no character by themselves.
+// Keys that work on the whole text enter no character themselves.
 bool IsEditingKey(const QKeyEvent& event) {
   static constexpr std::array Keys{QKeySequence::SelectAll, QKeySequence::Copy, QKeySequence::Cut,
                                    QKeySequence::Paste,     QKeySequence::Undo, QKeySequence::Redo};

@@ -8,7 +8,7 @@
 
 namespace tarvis {
 
-// A box for a step number, which throws away what is no digit.
+// A box for a step number, which ignores everything but digits.
 class StepBox : public LineBox {
   Q_OBJECT
 

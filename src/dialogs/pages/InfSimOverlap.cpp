@@ -51,7 +51,7 @@ TickBox& InfSimOverlap::DetailsBox() const {
   return BoxNamed(overlap_, "chkItemOverlap", 2);
 }
 
-// Only an overlapped print at hand can leave the details out; their tab can always be opened.
+// Only a print of overlapped data can leave the details out; their tab can always be opened.
 void InfSimOverlap::DetailClicked() {
   const PrintSession& session = Run().Session;
   if (session.Mode == "Sim" && session.OverlapMode == 1) EnableDetails(details_, DetailsBox().IsOn());

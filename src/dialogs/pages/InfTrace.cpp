@@ -34,7 +34,7 @@ TickBox& InfTrace::OverlapBox() const {
   return BoxNamed(overlap_, "chkItemOverlap");
 }
 
-// Only an overlapped print at hand can leave the details out.
+// Only a print of overlapped data can leave the details out.
 void InfTrace::OverlapClicked() {
   const PrintSession& session = Run().Session;
   if (session.Mode == "Trace" && session.OverlapMode == 1) EnableDetails(details_, OverlapBox().IsOn());

@@ -8,7 +8,7 @@ InfWizard::InfWizard(PrintRun& run, QWidget* parent)
     : ItemPage(run, {"InfWizard", &PrintOptions::PrmWizHeader, "Parameter Wizard", {}}, parent) {
   const std::int16_t stored = Header().FileName;
   HeaderBox(&HeaderOptions::FileName).SetValue(0);
-  Header().FileName = stored;  // building the page is no click
+  Header().FileName = stored;  // building the page doesn't count as a click
   HeaderBox(&HeaderOptions::FileName).hide();
 }
 

@@ -100,7 +100,7 @@ TickBox& ItemPage::HeaderBox(std::int16_t HeaderOptions::*element) const {
   return *chkHeader_.at(static_cast<std::size_t>(plan - HeaderBoxes.begin()));
 }
 
-// A text above the limit is cut and written back, which comes here again: that nested run stores the title.
+// A text above the limit is cut and written back, which calls this again: the nested call stores the title.
 void ItemPage::TitleChanged() {
   if (TrimToByteLimit(run_, TitleLimit, *txtTitle_)) header_.TitleText = txtTitle_->Text();
 }

@@ -54,7 +54,7 @@ TickBox& BoxNamed(std::span<const BoundBox> boxes, const char* name, int index =
 
 inline constexpr const char* PrintingItemsTab = "&Printing Items";
 
-// Holds no state of its own: every click and change writes through to the options of the run. Stands hidden
+// Holds no state of its own: every click and change writes through to the options of the run. It is hidden
 // until the dialog shows it.
 class ItemPage : public QWidget {
   Q_OBJECT
@@ -70,7 +70,8 @@ class ItemPage : public QWidget {
   virtual void ControlLeft(const QWidget& /*control*/) {}
   // Whether what the user has typed lets him leave the page.
   [[nodiscard]] virtual bool MayLeave() const { return true; }
-  // Brings the user of a page that he may not leave back to what is wrong, and tells him.
+  // Moves the focus back to the fault and shows a message. To be called on a page that the user may not
+  // leave.
   virtual void ReturnToFault() {}
 
  protected:
@@ -94,8 +95,8 @@ class ItemPage : public QWidget {
   std::vector<BoundBox> AddComments(std::int16_t& element);
   // Applies the elements to boxes made by AddBoxes, in their order.
   void LoadBoxes(const std::vector<BoundBox>& boxes);
-  // Applies an element of the options to its box. What no box can show is a RunTimeFailure that tells where
-  // it stands in the options file.
+  // Applies an element of the options to its box. A value that no box can show is a RunTimeFailure with its
+  // place in the options file.
   void Show(TickBox& box, const std::int16_t& element);
 
  private:

@@ -23,9 +23,9 @@ std::string Environment(const char* name) {
 
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
-// Whether `path` is a pipe or a device: opening one may take for ever, and reading it may never end.
+// Whether `path` is a pipe or a device: opening one may block for ever, and reading it may never end.
 bool IsSpecialFile(const std::string& path) {
-  std::error_code ignored;  // what can't be looked at is told when it is opened
+  std::error_code ignored;  // a failure is reported when the file is opened
   return std::filesystem::is_other(std::filesystem::status(path, ignored));
 }
 
@@ -96,7 +96,7 @@ std::string ConfigurationPath() {
   if (const std::string home = Environment("HOME"); folder.empty() && !home.empty())
     folder = home + "/.config";
   std::string own = folder + "/tarvis/tarvis.ini";
-  std::error_code ignored;  // a folder that can't be looked into holds no file for this user
+  std::error_code ignored;  // a folder that can't be read contains no file for this user
   if (!folder.empty() && std::filesystem::exists(own, ignored)) return own;
   return "/etc/tarvis/tarvis.ini";
 }

@@ -13,13 +13,12 @@
 namespace tarvis {
 namespace {
 
-// The toolkit works in UTF-8. Where the environment asks for another encoding, as it does where it says
-// nothing at all, newer toolkits complain on standard error. Language, measures and formats stay those of the
-// user.
+// The toolkit works in UTF-8. Where the environment demands another encoding, or contains no setting at all,
+// newer toolkits print a warning on standard error. Language, measures and formats stay those of the user.
 void AskForUtf8() {
   std::setlocale(LC_ALL, "");
   if (std::string(nl_langinfo(CODESET)) == "UTF-8") return;
-  const char* all = std::getenv("LC_ALL");  // counts before all others, so it must give way
+  const char* all = std::getenv("LC_ALL");  // has precedence over all others, so it must be replaced
   if (all != nullptr && *all != '\0') setenv("LANG", all, 1);
   unsetenv("LC_ALL");
   setenv("LC_CTYPE", "C.UTF-8", 1);

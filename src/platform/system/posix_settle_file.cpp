@@ -12,9 +12,9 @@ bool SettleFile(const std::filesystem::path& fresh, const std::filesystem::path&
   const int file = open(fresh.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW);
   if (file < 0) return false;
   struct stat old = {};
-  // Only the system's own user may give files away; anyone else's file stays his.
+  // Only the superuser may give files away; with other users the file keeps its owner.
   if (stat(replaced.c_str(), &old) == 0) static_cast<void>(!fchown(file, old.st_uid, old.st_gid));
-  const bool settled = fsync(file) == 0 || errno == EINVAL;  // a file system that can't tell
+  const bool settled = fsync(file) == 0 || errno == EINVAL;  // a file system that doesn't support it
   close(file);
   return settled;
 }

@@ -1,4 +1,4 @@
-// Makes a file that was written safe against a loss of power. The standard library has no such call.
+// Makes a written file safe against a loss of power. The standard library has no such call.
 #pragma once
 
 #include <filesystem>

@@ -1,4 +1,4 @@
-// Widths of characters as the reports are painted: the composer's seam to the fonts.
+// Widths of characters as the reports are painted: the composer's interface to the fonts.
 #pragma once
 
 #include "report/engine/text_measurer.h"

@@ -9,7 +9,7 @@ namespace {
 
 constexpr qsizetype LongestValue = 1024;
 
-// The host is a 32-bit program, so its keys lie in the registry's 32-bit half.
+// The host is a 32-bit program, so its keys are in the 32-bit view of the registry.
 class WindowsRegistry : public HostSettings {
  public:
   std::string Value(const std::string& key, const std::string& valueName) override {
