@@ -1,3 +1,4 @@
+// The command line where the system hands over separate arguments.
 #include "platform/command_line.h"
 
 namespace tarvis {

@@ -1,3 +1,4 @@
+// Requests to terminate on POSIX systems: signals.
 #include <fcntl.h>
 #include <unistd.h>
 

@@ -1,3 +1,4 @@
+// Message buses of desktops on POSIX systems that don't answer.
 #include <sys/socket.h>
 #include <sys/time.h>
 #include <sys/un.h>

@@ -1,3 +1,4 @@
+// The command line on Windows, which hands it over as one text.
 #include <windows.h>
 
 #include <QString>

@@ -1,3 +1,4 @@
+// Requests to terminate on Windows, where the windows of the program get them.
 #include <utility>
 
 #include "platform/end_signals.h"

@@ -1,3 +1,4 @@
+// Message buses on Windows: there are none.
 #include "platform/message_buses.h"
 
 namespace tarvis {

@@ -1,3 +1,4 @@
+// Host settings without a registry: the configuration file.
 #include "platform/system/configuration_registry.h"
 #include "platform/system/host_settings.h"
 

@@ -1,3 +1,4 @@
+// What the process sets up for itself on POSIX systems.
 #include <fcntl.h>
 #include <langinfo.h>
 #include <unistd.h>

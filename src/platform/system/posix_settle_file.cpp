@@ -1,3 +1,4 @@
+// Safe writing of files on POSIX systems.
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>

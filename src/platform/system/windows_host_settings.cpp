@@ -1,3 +1,4 @@
+// Host settings on Windows: the registry.
 #include <windows.h>
 
 #include <QSettings>

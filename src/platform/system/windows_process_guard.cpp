@@ -1,3 +1,4 @@
+// What the process sets up for itself on Windows: nothing.
 #include "platform/system/process_guard.h"
 
 namespace tarvis {

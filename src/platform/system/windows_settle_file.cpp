@@ -1,3 +1,4 @@
+// Safe writing of files on Windows.
 #include <windows.h>
 
 #include "platform/system/settle_file.h"
