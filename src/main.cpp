@@ -22,7 +22,7 @@ int main(int argc, char** argv) {
   ToolkitArguments arguments(argv[0]);
   LeaveOutSilentBuses(desktop);
   FirstWindowWatch watch(desktop);
-  watch.WaitsFor(DisplayInWords());
+  watch.WaitsFor(DisplayName());
   const std::unique_ptr<Application> application = StartApplication(arguments, desktop);
   watch.NoticeWindows();
   watch.WaitsFor("the fonts");

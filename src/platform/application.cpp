@@ -12,7 +12,7 @@ namespace tarvis {
 namespace {
 
 // Describes the exception that is being handled.
-std::string Words() {
+std::string Description() {
   try {
     throw;
   } catch (const std::exception& failure) {
@@ -57,11 +57,11 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 }
 
 void Application::Fail() {
-  const std::string words = Words();
-  desktop_.Diagnose("run-time error: " + words);
+  const std::string description = Description();
+  desktop_.Diagnose("run-time error: " + description);
   if (!failing_) {
     failing_ = true;
-    desktop_.ShowMessage("Run-time error", words);
+    desktop_.ShowMessage("Run-time error", description);
   }
   desktop_.EndProcess(ExitAfterRunTimeFailure);
   std::abort();  // not reached

@@ -85,7 +85,7 @@ void FirstWindowWatch::End() {
   changed_.notify_all();
 }
 
-std::string DisplayInWords() {
+std::string DisplayName() {
   for (const char* variable : {"WAYLAND_DISPLAY", "DISPLAY"}) {
     const QByteArray name = qgetenv(variable);
     if (!name.isEmpty()) return "the display " + name.toStdString();

@@ -48,6 +48,6 @@ class FirstWindowWatch {
 };
 
 // The display of the environment, as a text for `FirstWindowWatch::WaitsFor`.
-std::string DisplayInWords();
+std::string DisplayName();
 
 }  // namespace tarvis

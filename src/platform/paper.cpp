@@ -22,7 +22,7 @@ QPageSize UsualPaper() {
 
 }  // namespace
 
-PageSetup PaperOfTheDesk() {
+PageSetup DefaultPaper() {
   QPageSize paper = QPrinterInfo::defaultPrinter().defaultPageSize();
   if (!paper.isValid()) paper = UsualPaper();
   const QSizeF size = paper.size(QPageSize::Millimeter);

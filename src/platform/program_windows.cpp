@@ -21,10 +21,9 @@ class BusyPointer {
   ~BusyPointer() { QApplication::restoreOverrideCursor(); }
 };
 
-std::shared_ptr<const Document> ComposeForDesk(PrintRun& run, rptTarvis& report) {
+std::shared_ptr<const Document> ComposeOnDefaultPaper(PrintRun& run, rptTarvis& report) {
   const BusyPointer busy;
-  return std::make_shared<const Document>(
-      ComposeMasterReport(run, report, PaperOfTheDesk(), QtTextMeasurer()));
+  return std::make_shared<const Document>(ComposeMasterReport(run, report, DefaultPaper(), QtTextMeasurer()));
 }
 
 PreviewSetup SetupOf(const ActiveReport& report, const FileHeader& data,
@@ -63,7 +62,7 @@ void QtProgramWindows::ShowMasterReport() {
   pictures_.Forget();  // the host may have drawn them again
   report_ = std::make_unique<rptTarvis>(ReportContext{run_, pictures_}, CreateFunctionReport, *this);
   const std::shared_ptr<const Document> document =
-      ComposeForDesk(run_, *report_);  // fills caption and tools, too
+      ComposeOnDefaultPaper(run_, *report_);  // fills caption and tools, too
   preview_ = std::make_unique<PreviewWindow>(document, SetupOf(*report_, run_.Header, memory_));
   ShowPreview();
 }

@@ -9,23 +9,23 @@
 namespace tarvis {
 namespace {
 
-struct Told {
+struct Message {
   QtMsgType Type;
   QString Category;
   QString Text;
 };
 
 Desktop* watching = nullptr;
-std::vector<Told> told;  // warnings of the start until now
+std::vector<Message> messages;  // warnings of the start until now
 
 bool IsUnset(const char* variable) {
   return qEnvironmentVariableIsEmpty(variable);
 }
 
 // The first warning names the cause; the others follow from it.
-std::string Cause(const QString& lastWords) {
+std::string Cause(const QString& lastMessage) {
   std::string cause =
-      (told.empty() ? lastWords.section(u'\n', 0, 0) : told.front().Text).trimmed().toStdString();
+      (messages.empty() ? lastMessage.section(u'\n', 0, 0) : messages.front().Text).trimmed().toStdString();
   if (IsUnset("QT_QPA_PLATFORM") && IsUnset("DISPLAY") && IsUnset("WAYLAND_DISPLAY"))
     cause += " (DISPLAY is not set)";
   return cause;
@@ -33,7 +33,7 @@ std::string Cause(const QString& lastWords) {
 
 void Listen(QtMsgType type, const QMessageLogContext& context, const QString& text) {
   if (type != QtFatalMsg) {
-    told.push_back({type, QString::fromUtf8(context.category), text});
+    messages.push_back({type, QString::fromUtf8(context.category), text});
     return;
   }
   watching->Diagnose("no window can be shown: " + Cause(text));
@@ -48,7 +48,7 @@ StartWatch::StartWatch(Desktop& desktop) : before_(qInstallMessageHandler(Listen
 
 StartWatch::~StartWatch() {
   qInstallMessageHandler(before_);
-  for (const Told& message : std::exchange(told, {})) {
+  for (const Message& message : std::exchange(messages, {})) {
     const QByteArray category = message.Category.toUtf8();
     qt_message_output(message.Type, QMessageLogContext(nullptr, 0, nullptr, category.constData()),
                       message.Text);

@@ -103,10 +103,10 @@ TEST(RenderPolicy, WhatIsWantedStaysEvenBeyondTheBudget) {
 
 TEST(RenderPolicy, TheNearestLargerPictureIsShownMeanwhileElseTheLargest) {
   const std::vector<int> widths{100, 400, 900};
-  EXPECT_EQ(StandIn(widths, 300), 400);
-  EXPECT_EQ(StandIn(widths, 400), 400);
-  EXPECT_EQ(StandIn(widths, 1000), 900);
-  EXPECT_EQ(StandIn({}, 300), 0);
+  EXPECT_EQ(SubstituteWidth(widths, 300), 400);
+  EXPECT_EQ(SubstituteWidth(widths, 400), 400);
+  EXPECT_EQ(SubstituteWidth(widths, 1000), 900);
+  EXPECT_EQ(SubstituteWidth({}, 300), 0);
 }
 
 TEST(PlaceHistory, ANewJumpForgetsWhatWasAhead) {

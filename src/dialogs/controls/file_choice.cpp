@@ -7,7 +7,7 @@
 #include <future>
 #include <memory>
 
-#include "dialogs/controls/unawaited.h"
+#include "dialogs/controls/detached.h"
 #include "text/native_path.h"
 
 namespace tarvis {
@@ -20,7 +20,7 @@ constexpr std::chrono::milliseconds LongestAnswer{300};
 bool IsFolder(const std::filesystem::path& folder) {
   const auto answer = std::make_shared<std::promise<bool>>();
   std::future<bool> isFolder = answer->get_future();
-  const bool asked = RunUnawaited([answer, folder] {
+  const bool asked = RunDetached([answer, folder] {
     std::error_code unreadable;
     answer->set_value(std::filesystem::is_directory(folder, unreadable));
   });

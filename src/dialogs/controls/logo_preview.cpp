@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "dialogs/controls/controls.h"
-#include "dialogs/controls/unawaited.h"
+#include "dialogs/controls/detached.h"
 #include "pictures/picture_file_loader.h"
 #include "text/native_path.h"
 
@@ -78,7 +78,7 @@ void LogoPreview::ShowFile(const std::string& path) {
   if (path.empty()) return;
   path_ = path;
   mailbox_ = std::make_shared<Mailbox>(this);
-  RunUnawaited([read = read_, path, mailbox = mailbox_] { mailbox->Deliver(read(path)); });
+  RunDetached([read = read_, path, mailbox = mailbox_] { mailbox->Deliver(read(path)); });
 }
 
 void LogoPreview::Forget() {

@@ -91,7 +91,7 @@ bool ConfigurationRegistry::CountsPdfPrinter() const {
 }
 
 std::string ConfigurationPath() {
-  if (std::string told = Environment("TARVIS_CONFIG"); !told.empty()) return told;
+  if (std::string path = Environment("TARVIS_CONFIG"); !path.empty()) return path;
   std::string folder = Environment("XDG_CONFIG_HOME");
   if (const std::string home = Environment("HOME"); folder.empty() && !home.empty())
     folder = home + "/.config";

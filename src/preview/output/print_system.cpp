@@ -19,8 +19,8 @@ Function* ClientFunction(const char* name) {
 }
 
 struct Refusal {
-  int Status;         // as the print system's protocol numbers it
-  const char* Words;  // ours, where the client library has only the system error that it met last
+  int Status;        // as the print system's protocol numbers it
+  const char* Text;  // ours, where the client library has only the system error that it met last
 };
 
 constexpr std::array<Refusal, 4> Refusals = {{
@@ -40,7 +40,7 @@ QString RefusalOfLastJob() {
   auto* const words = ClientFunction<const char*()>("cupsLastErrorString");
   if (status == nullptr || words == nullptr || status() < FirstErrorStatus) return {};
   const auto* const ours = std::ranges::find(Refusals, status(), &Refusal::Status);
-  if (ours != Refusals.end()) return QCoreApplication::translate("Printing", ours->Words);
+  if (ours != Refusals.end()) return QCoreApplication::translate("Printing", ours->Text);
   return QString::fromUtf8(words());
 }
 

@@ -74,14 +74,14 @@ void PagePictures::WaitFor(const std::vector<Strip>& strips, int milliseconds) {
   }
 }
 
-std::vector<Strip> PagePictures::StandIns(int page, int pageWidth) const {
+std::vector<Strip> PagePictures::SubstituteStrips(int page, int pageWidth) const {
   std::vector<int> widths;
   const auto first = entries_.lower_bound(Strip{page, 0, 0});
   const auto end = entries_.lower_bound(Strip{page + 1, 0, 0});
   for (auto entry = first; entry != end; ++entry) {
     if (entry->first.Width != pageWidth) widths.push_back(entry->first.Width);
   }
-  const int best = StandIn(widths, pageWidth);
+  const int best = SubstituteWidth(widths, pageWidth);
   std::vector<Strip> strips;
   for (auto entry = first; entry != end; ++entry) {
     if (entry->first.Width == best) strips.push_back(entry->first);

@@ -38,7 +38,7 @@ class PagePictures : public QObject {
   // Renders these strips next and waits for them, but no longer than `milliseconds`.
   void WaitFor(const std::vector<Strip>& strips, int milliseconds);
   // Strips of the page in the size that is the best substitute for `pageWidth`.
-  std::vector<Strip> StandIns(int page, int pageWidth) const;
+  std::vector<Strip> SubstituteStrips(int page, int pageWidth) const;
   std::int64_t Bytes() const;
 
  signals:

@@ -12,14 +12,14 @@ class PlaceHistory {
  public:
   // A jump leaves `from`; what was ahead is forgotten.
   void Leave(const PagePlace& from) {
-    ahead_.clear();
-    if (behind_.empty() || behind_.back() != from) behind_.push_back(from);
+    forward_.clear();
+    if (back_.empty() || back_.back() != from) back_.push_back(from);
   }
-  bool CanGoBack() const { return !behind_.empty(); }
-  bool CanGoForward() const { return !ahead_.empty(); }
+  bool CanGoBack() const { return !back_.empty(); }
+  bool CanGoForward() const { return !forward_.empty(); }
   // `now` is kept to come back to; empty if there is nowhere to go.
-  std::optional<PagePlace> Back(const PagePlace& now) { return Walk(behind_, ahead_, now); }
-  std::optional<PagePlace> Forward(const PagePlace& now) { return Walk(ahead_, behind_, now); }
+  std::optional<PagePlace> Back(const PagePlace& now) { return Walk(back_, forward_, now); }
+  std::optional<PagePlace> Forward(const PagePlace& now) { return Walk(forward_, back_, now); }
 
  private:
   static std::optional<PagePlace> Walk(std::vector<PagePlace>& from, std::vector<PagePlace>& to,
@@ -31,8 +31,8 @@ class PlaceHistory {
     return place;
   }
 
-  std::vector<PagePlace> behind_;
-  std::vector<PagePlace> ahead_;
+  std::vector<PagePlace> back_;
+  std::vector<PagePlace> forward_;
 };
 
 }  // namespace tarvis

@@ -66,7 +66,7 @@ std::vector<Strip> Evict(std::vector<CachedStrip> cached, std::span<const Strip>
   return evicted;
 }
 
-int StandIn(std::span<const int> widths, int wanted) {
+int SubstituteWidth(std::span<const int> widths, int wanted) {
   int best = 0;
   for (const int width : widths) {
     const bool better = best < wanted ? width > best : width >= wanted && width < best;

@@ -52,6 +52,6 @@ std::vector<Strip> Evict(std::vector<CachedStrip> cached, std::span<const Strip>
 
 // The page width among `widths` that is the best substitute for `wanted`: the nearest larger one, else the
 // largest; 0 if there is none.
-int StandIn(std::span<const int> widths, int wanted);
+int SubstituteWidth(std::span<const int> widths, int wanted);
 
 }  // namespace tarvis

@@ -24,11 +24,11 @@ void StripPainter::Paint(int page, const QRectF& place, const QRect& exposed) {
   const bool whole = std::all_of(sharp.begin(), sharp.end(),
                                  [this](const Strip& strip) { return pictures_.Find(strip) != nullptr; });
   if (!whole) {
-    const std::vector<Strip> standIns = pictures_.StandIns(page, pageWidth_);
+    const std::vector<Strip> substitutes = pictures_.SubstituteStrips(page, pageWidth_);
     // Most pages are there within a few milliseconds; one that isn't must not hold up the window.
-    if (standIns.empty()) pictures_.WaitFor(sharp, Patience);
+    if (substitutes.empty()) pictures_.WaitFor(sharp, Patience);
     painter_.fillRect(place, Qt::white);
-    for (const Strip& strip : standIns) PaintStrip(strip, place);
+    for (const Strip& strip : substitutes) PaintStrip(strip, place);
   }
   for (const Strip& strip : sharp) PaintStrip(strip, place);
 }

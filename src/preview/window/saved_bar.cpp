@@ -13,13 +13,13 @@
 
 namespace tarvis {
 
-SavedBar::SavedBar(QWidget* parent) : QWidget(parent), words_(new QLabel(this)) {
+SavedBar::SavedBar(QWidget* parent) : QWidget(parent), message_(new QLabel(this)) {
   setObjectName(QStringLiteral("savedBar"));
-  words_->setObjectName(QStringLiteral("savedWords"));
-  words_->setTextFormat(Qt::PlainText);
-  words_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  words_->setSizePolicy(QSizePolicy::Ignored,
-                        QSizePolicy::Preferred);  // a long path must not widen the window
+  message_->setObjectName(QStringLiteral("savedWords"));
+  message_->setTextFormat(Qt::PlainText);
+  message_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  message_->setSizePolicy(QSizePolicy::Ignored,
+                          QSizePolicy::Preferred);  // a long path must not widen the window
   auto* open = new QPushButton(tr("Op&en"), this);
   open->setObjectName(QStringLiteral("savedOpenButton"));
   auto* folder = new QPushButton(tr("S&how in folder"), this);
@@ -33,7 +33,7 @@ SavedBar::SavedBar(QWidget* parent) : QWidget(parent), words_(new QLabel(this)) 
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(6, 3, 6, 3);
   row->addWidget(close);
-  row->addWidget(words_, 1);
+  row->addWidget(message_, 1);
   row->addWidget(open);
   row->addWidget(folder);
   connect(close, &QToolButton::clicked, this, &QWidget::hide);
@@ -46,8 +46,8 @@ SavedBar::SavedBar(QWidget* parent) : QWidget(parent), words_(new QLabel(this)) 
 
 void SavedBar::Show(const QString& path) {
   path_ = path;
-  words_->setText(tr("Saved as %1").arg(QDir::toNativeSeparators(path)));
-  words_->setToolTip(words_->text());
+  message_->setText(tr("Saved as %1").arg(QDir::toNativeSeparators(path)));
+  message_->setToolTip(message_->text());
   show();
 }
 

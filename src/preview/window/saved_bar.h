@@ -17,7 +17,7 @@ class SavedBar : public QWidget {
 
  private:
   QString path_;
-  QLabel* words_;
+  QLabel* message_;
 };
 
 }  // namespace tarvis

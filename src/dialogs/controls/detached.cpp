@@ -1,4 +1,4 @@
-#include "dialogs/controls/unawaited.h"
+#include "dialogs/controls/detached.h"
 
 #include <system_error>
 #include <thread>
@@ -6,7 +6,7 @@
 
 namespace tarvis {
 
-bool RunUnawaited(std::function<void()> work) {
+bool RunDetached(std::function<void()> work) {
   try {
     std::thread(std::move(work)).detach();
     return true;
