@@ -12,12 +12,14 @@
 
 namespace tarvis {
 
+enum class FieldLines { One, Several };
+
 // Bounds in twips; labels are placed at LabelLeft, at the height of their box.
 struct EditCover::FieldPlan {
   int Index;
   const char* Caption;
   Bounds Place;
-  bool SeveralLines;
+  FieldLines Lines;
   int ByteLimit;   // also the maximum length in characters
   int EnterLimit;  // line breaks from which on Enter is ignored, -1 for never
 };
@@ -32,6 +34,8 @@ constexpr int AddressWidth = 50;  // bytes
 constexpr int GreetingLines = 11;
 constexpr int GreetingWidth = 84;  // bytes
 constexpr int GreetingLimit = GreetingLines * GreetingWidth;
+constexpr auto OneLine = FieldLines::One;
+constexpr auto SeveralLines = FieldLines::Several;
 constexpr int NoLimit = 0;
 constexpr int AnyEnter = -1;
 constexpr int ZipCode = 3;  // index in its families
@@ -71,14 +75,14 @@ EditCover::~EditCover() {
 // The order of the boxes is not the order of the keys in the file.
 void EditCover::BuildSubmitterTab() {
   static constexpr std::array<FieldPlan, 8> Plans{{
-      {0, "Co&mpany Name:", {1500, 555, 4600, 315}, false, 50, AnyEnter},
-      {1, "&Department Name:", {1500, 930, 4600, 540}, true, 100, 1},
-      {2, "&Name:", {1500, 1590, 4600, 315}, false, 50, AnyEnter},
-      {3, "&Zip Code:", {1500, 2070, 4600, 315}, false, 50, AnyEnter},
-      {4, "&Address:", {1500, 1950, 4600, 540}, true, 100, 1},
-      {5, "&TEL:", {1500, 2550, 4600, 315}, false, 50, AnyEnter},
-      {6, "&FAX:", {1500, 2910, 4600, 315}, false, 50, AnyEnter},
-      {7, "&e-mail:", {1500, 3270, 4600, 315}, false, 50, AnyEnter},
+      {0, "Co&mpany Name:", {1500, 555, 4600, 315}, OneLine, 50, AnyEnter},
+      {1, "&Department Name:", {1500, 930, 4600, 540}, SeveralLines, 100, 1},
+      {2, "&Name:", {1500, 1590, 4600, 315}, OneLine, 50, AnyEnter},
+      {3, "&Zip Code:", {1500, 2070, 4600, 315}, OneLine, 50, AnyEnter},
+      {4, "&Address:", {1500, 1950, 4600, 540}, SeveralLines, 100, 1},
+      {5, "&TEL:", {1500, 2550, 4600, 315}, OneLine, 50, AnyEnter},
+      {6, "&FAX:", {1500, 2910, 4600, 315}, OneLine, 50, AnyEnter},
+      {7, "&e-mail:", {1500, 3270, 4600, 315}, OneLine, 50, AnyEnter},
   }};
   PrintOptions& options = run_.Options;
   const std::array<std::string*, Plans.size()> texts{&options.DrowCorp, &options.DrowSect, &options.DrowName,
@@ -111,11 +115,11 @@ void EditCover::BuildLogo(QWidget* tab) {
 
 void EditCover::BuildAddresseeTab(int block) {
   static constexpr std::array<FieldPlan, 5> Plans{{
-      {0, "T&itle", {1500, 705, 5145, 315}, false, 56, AnyEnter},
-      {1, "Co&mpany Name:", {1500, 1245, 4600, 315}, false, 50, AnyEnter},
-      {2, "&Department Name:", {1500, 1785, 4600, 540}, true, 100, 1},
-      {3, "&Name:", {1500, 2565, 4600, 315}, false, 50, AnyEnter},
-      {4, "&Address:", {1500, 3150, 4600, 540}, true, 100, AnyEnter},
+      {0, "T&itle", {1500, 705, 5145, 315}, OneLine, 56, AnyEnter},
+      {1, "Co&mpany Name:", {1500, 1245, 4600, 315}, OneLine, 50, AnyEnter},
+      {2, "&Department Name:", {1500, 1785, 4600, 540}, SeveralLines, 100, 1},
+      {3, "&Name:", {1500, 2565, 4600, 315}, OneLine, 50, AnyEnter},
+      {4, "&Address:", {1500, 3150, 4600, 540}, SeveralLines, 100, AnyEnter},
   }};
   static constexpr std::array Tabs{"Where to Submit (No.&1)", "Where to Submit (No.&2)",
                                    "Where to Submit (No.&3)"};
@@ -135,11 +139,11 @@ void EditCover::BuildAddresseeTab(int block) {
 void EditCover::AddField(const FieldPlan& plan, const char* family, const char* labelFamily, int tab,
                          std::string& stored) {
   QWidget* page = tabs_->Page(tab);
-  QLabel* label =
-      MakeLabel(labelFamily, plan.Index, plan.Caption,
-                {LabelLeft, plan.Place.Top, LabelWidth, plan.Place.Height}, page, plan.SeveralLines);
+  QLabel* label = MakeLabel(labelFamily, plan.Index, plan.Caption,
+                            {LabelLeft, plan.Place.Top, LabelWidth, plan.Place.Height}, page,
+                            plan.Lines == SeveralLines ? LabelLines::Wrapped : LabelLines::One);
   const std::string name = label->accessibleName().toStdString();
-  if (plan.SeveralLines) {
+  if (plan.Lines == SeveralLines) {
     auto* box = new MemoBox(family, plan.Index, name.c_str(), plan.ByteLimit, plan.Place, page);
     box->LimitEnterKey(plan.EnterLimit);
     label->setBuddy(box);
@@ -153,7 +157,7 @@ void EditCover::AddField(const FieldPlan& plan, const char* family, const char* 
 
 void EditCover::BuildGreetingTab() {
   QWidget* tab = tabs_->AddTab("&Greeting Sentences");
-  lblGreeting_ = MakeLabel("lblGreeting", NoFamily, "", {315, 675, 5775, 825}, tab, true);
+  lblGreeting_ = MakeLabel("lblGreeting", NoFamily, "", {315, 675, 5775, 825}, tab, LabelLines::Wrapped);
   auto* box =
       new MemoBox("txtGreeting", NoFamily, "Greeting Sentences", GreetingLimit, {135, 1440, 7700, 2100}, tab);
   box->LimitEnterKey(GreetingLines - 1);

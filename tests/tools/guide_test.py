@@ -78,7 +78,7 @@ class Captions(unittest.TestCase):
 class Limits(unittest.TestCase):
     def test_limits_of_the_cover_letter_are_those_of_its_fields(self):
         text = source("dialogs/EditCover.cpp")
-        plans = re.findall(r'\{\d, "([^"]+)", \{[\d, ]+\}, (?:true|false), (\d+), \w+\}', text)
+        plans = re.findall(r'\{\d, "([^"]+)", \{[\d, ]+\}, (?:OneLine|SeveralLines), (\d+), \w+\}', text)
         self.assertGreaterEqual(len(plans), 13)
         documented = {name: row[1] for row in GUIDE.rows("![The greeting](pictures/cover-greeting.png)") for name in
                 re.split(", ", row[0].replace(" of an addressee", ""))}

@@ -189,14 +189,14 @@ void GroupFrame::paintEvent(QPaintEvent*) {
 }
 
 QLabel* MakeLabel(const char* name, int index, const char* caption, const Bounds& bounds, QWidget* parent,
-                  bool wordWrap) {
+                  LabelLines lines) {
   auto* label = new QLabel(QString::fromLatin1(caption), parent);
   label->setTextFormat(Qt::PlainText);
   NameControl(*label, name, index, PlainCaption(label->text()));
-  label->setWordWrap(wordWrap);
+  label->setWordWrap(lines == LabelLines::Wrapped);
   QRect place = PixelRect(bounds, *label);
   const QSize wanted = label->sizeHint();
-  if (wordWrap) {
+  if (lines == LabelLines::Wrapped) {
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   } else {
     place.setWidth(std::max(place.width(), wanted.width()));

@@ -88,9 +88,11 @@ class GroupFrame : public QGroupBox {
   QWidget* buddy_ = nullptr;
 };
 
-// Grows to the right and to the height of its font; `wordWrap` keeps the width instead.
+enum class LabelLines { One, Wrapped };
+
+// A label of one line grows to the right and to the height of its font; one that wraps keeps its width.
 QLabel* MakeLabel(const char* name, int index, const char* caption, const Bounds& bounds, QWidget* parent,
-                  bool wordWrap = false);
+                  LabelLines lines = LabelLines::One);
 
 QPushButton* MakeButton(const char* name, const char* caption, const Bounds& bounds, QWidget* parent);
 

@@ -8,6 +8,6 @@ namespace tarvis {
 
 // Runs `work` in a thread of its own, which may live longer than everything else in the program, so `work`
 // must own what it uses and must not throw. False if the system has no thread left.
-bool RunDetached(std::function<void()> work);
+[[nodiscard]] bool RunDetached(std::function<void()> work);
 
 }  // namespace tarvis

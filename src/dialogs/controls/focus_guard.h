@@ -24,7 +24,7 @@ class FocusGuard : public QObject {
 
   // Moves the focus to `control`, for a key that works on it without moving the focus. False if that was
   // refused.
-  bool Enter(QWidget& control);
+  [[nodiscard]] bool Enter(QWidget& control);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

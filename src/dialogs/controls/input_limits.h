@@ -11,13 +11,13 @@ struct PrintRun;
 // cut, character by character, to what fits and written back, which runs the change handling of the box with
 // a text that passes; the box takes no more characters, a message informs the user, and the box gets the
 // focus.
-bool TrimToByteLimit(PrintRun& run, int limit, InputBox& box);
+[[nodiscard]] bool TrimToByteLimit(PrintRun& run, int limit, InputBox& box);
 
 // Whether the text is within `limit` bytes. Otherwise shows a message, gives the box the focus and doesn't
 // change the text.
-bool CheckByteLimit(PrintRun& run, int limit, InputBox& box);
+[[nodiscard]] bool CheckByteLimit(PrintRun& run, int limit, InputBox& box);
 
 // The same for a text that may take `maxLines` lines of `width` bytes.
-bool CheckLineLimit(PrintRun& run, int maxLines, int width, InputBox& box);
+[[nodiscard]] bool CheckLineLimit(PrintRun& run, int maxLines, int width, InputBox& box);
 
 }  // namespace tarvis

@@ -78,7 +78,8 @@ void LogoPreview::ShowFile(const std::string& path) {
   if (path.empty()) return;
   path_ = path;
   mailbox_ = std::make_shared<Mailbox>(this);
-  RunDetached([read = read_, path, mailbox = mailbox_] { mailbox->Deliver(read(path)); });
+  // Without a thread there is no preview.
+  static_cast<void>(RunDetached([read = read_, path, mailbox = mailbox_] { mailbox->Deliver(read(path)); }));
 }
 
 void LogoPreview::Forget() {

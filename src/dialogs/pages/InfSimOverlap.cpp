@@ -42,9 +42,10 @@ void InfSimOverlap::BuildOverlapTab() {
                        {"chkItemOverlap", 2, "Detail of o&verlapping data", 13, {360, 1200, 3045, 255}}},
                       Run().Options.SimOption);
   // A legend of two lines, read across.
-  MakeLabel("Label5", NoFamily, "Box checked  Box unchecked", {840, 1440, 1215, 495}, tab, true);
+  MakeLabel("Label5", NoFamily, "Box checked  Box unchecked", {840, 1440, 1215, 495}, tab,
+            LabelLines::Wrapped);
   MakeLabel("Label1", NoFamily, ":Details tab page enabled. :Details tab page disabled.",
-            {2115, 1440, 2415, 495}, tab, true);
+            {2115, 1440, 2415, 495}, tab, LabelLines::Wrapped);
 }
 
 TickBox& InfSimOverlap::DetailsBox() const {

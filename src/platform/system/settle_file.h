@@ -7,6 +7,6 @@ namespace tarvis {
 
 // Returns when the bytes of the closed file `fresh` are on the disk. Gives it the owner and the group of the
 // file `replaced` if that one exists and this process may. False if the bytes may be lost.
-bool SettleFile(const std::filesystem::path& fresh, const std::filesystem::path& replaced);
+[[nodiscard]] bool SettleFile(const std::filesystem::path& fresh, const std::filesystem::path& replaced);
 
 }  // namespace tarvis

@@ -18,6 +18,6 @@ struct PageChoice {
 };
 
 // Indexes of the chosen pages of a document of `pageCount` pages, as they follow one another in the output.
-std::vector<int> PagesInOrder(const PageChoice& choice, int pageCount);
+[[nodiscard]] std::vector<int> PagesInOrder(const PageChoice& choice, int pageCount);
 
 }  // namespace tarvis

@@ -31,21 +31,21 @@ struct PdfSheets {
 };
 
 // Whether a file may replace what is at `path`: only nothing, or an ordinary file, also through a link.
-bool CanBeReplaced(const QString& path);
+[[nodiscard]] bool CanBeReplaced(const QString& path);
 
 // The bytes of the PDF; empty if `progress` cancels.
-std::string MakePdf(const Document& document, const PdfSheets& sheets, const PdfInfo& info,
-                    const Progress& progress);
+[[nodiscard]] std::string MakePdf(const Document& document, const PdfSheets& sheets, const PdfInfo& info,
+                                  const Progress& progress);
 
 // Writes to a temporary file beside `path` first and replaces `path` only by a whole file, so that nothing is
 // lost on a failure or when `progress` cancels. Returns an error text for the user, empty if all is well or
 // cancelled.
-QString ExportPdf(const Document& document, const PdfSheets& sheets, const QString& path, const PdfInfo& info,
-                  const Progress& progress);
+[[nodiscard]] QString ExportPdf(const Document& document, const PdfSheets& sheets, const QString& path,
+                                const PdfInfo& info, const Progress& progress);
 // Its last step, for bytes that are there already.
-QString WritePdf(std::string_view pdf, const QString& path);
+[[nodiscard]] QString WritePdf(std::string_view pdf, const QString& path);
 // The same with all pages.
-QString ExportPdf(const Document& document, const QString& path, const PdfInfo& info,
-                  const Progress& progress);
+[[nodiscard]] QString ExportPdf(const Document& document, const QString& path, const PdfInfo& info,
+                                const Progress& progress);
 
 }  // namespace tarvis

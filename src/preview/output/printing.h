@@ -17,15 +17,15 @@ enum class PrintScale { AsComposed, FitToPaper };
 
 // By how much the printable area of the printer's paper is too narrow and too short for the document, in
 // twips; 0 where all fits.
-QSizeF MissingRoom(const Document& document, const QPrinter& printer);
+[[nodiscard]] QSizeF MissingRoom(const Document& document, const QPrinter& printer);
 
 // The sheets of a PDF that is to look as `printer` is set.
-PdfSheets SheetsLike(const Document& document, const QPrinter& printer, std::vector<int> pages,
-                     PrintScale scale);
+[[nodiscard]] PdfSheets SheetsLike(const Document& document, const QPrinter& printer, std::vector<int> pages,
+                                   PrintScale scale);
 
 // Prints the pages of these indexes, in this order. Returns an error text for the user, empty if all is well
 // or cancelled.
-QString PrintDocument(const Document& document, const std::vector<int>& pages, QPrinter& printer,
-                      PrintScale scale, const Progress& progress);
+[[nodiscard]] QString PrintDocument(const Document& document, const std::vector<int>& pages,
+                                    QPrinter& printer, PrintScale scale, const Progress& progress);
 
 }  // namespace tarvis

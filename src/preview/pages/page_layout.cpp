@@ -1,6 +1,7 @@
 #include "preview/pages/page_layout.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 
 namespace tarvis {
@@ -40,6 +41,7 @@ QSizeF PageLayout::ContentSize() const {
 }
 
 QRectF PageLayout::PageRect(int page) const {
+  assert(page >= 0);
   const QSizeF size = PageSize();
   const double left = std::max(Margin, std::floor((ContentSize().width() - size.width()) / 2));
   const double rows = continuous_ ? count_ : 1;

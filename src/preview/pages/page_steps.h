@@ -20,7 +20,7 @@ void GoToStart(PageView& view);
 void GoToEnd(PageView& view);
 
 // Turns the page of a single-page view. False where pages are continuous, and at the last page.
-bool TurnPage(PageView& view, int direction);
+[[nodiscard]] bool TurnPage(PageView& view, int direction);
 
 // To the next larger or smaller zoom step, around `anchor` as in PageView::SetZoom.
 void ZoomStep(PageView& view, int direction, std::optional<QPointF> anchor = {});

@@ -1,7 +1,7 @@
 #include "preview/paint/document_text.h"
 
 #include <algorithm>
-#include <cmath>
+#include <cassert>
 
 namespace tarvis {
 namespace {
@@ -11,7 +11,6 @@ constexpr float RowTolerance = 100;
 
 struct Cell {
   std::uint16_t Control = 0;
-  bool HasBox = false;
   Rect Place;
   std::vector<std::uint32_t> Lines;  // text items
 };
@@ -21,17 +20,13 @@ Cell& CellOf(std::vector<Cell>& cells, const Item& item) {
   for (std::size_t index = cells.size(); index-- > 0;) {
     if (cells[index].Control == item.Control) return cells[index];
   }
-  cells.push_back({item.Control, false, item.Box, {}});
+  cells.push_back({item.Control, item.Box, {}});
   return cells.back();
 }
 
 void AddItem(std::vector<Cell>& cells, const Item& item, std::uint32_t index) {
   if (item.Kind == ItemKind::Text) CellOf(cells, item).Lines.push_back(index);
-  if (item.Kind == ItemKind::Box && item.Weight > 0) {
-    Cell& cell = CellOf(cells, item);
-    cell.HasBox = true;
-    cell.Place = item.Box;
-  }
+  if (item.Kind == ItemKind::Box && item.Weight > 0) CellOf(cells, item).Place = item.Box;
 }
 
 // A frame around other cells is not a cell itself.
@@ -111,6 +106,7 @@ PageText ReadPage(const Document& document, std::size_t page) {
     for (const std::uint32_t picture : pictures) ReadPicture(document, picture, text);
     pictures.clear();
   };
+  assert(page < document.Pages.size());
   const tarvis::Page& range = document.Pages[page];
   std::uint32_t band = 0;
   for (std::uint32_t index = range.FirstItem; index < range.FirstItem + range.ItemCount; ++index) {
@@ -125,6 +121,7 @@ PageText ReadPage(const Document& document, std::size_t page) {
 }
 
 const PageText& DocumentText::Page(int page) {
+  assert(page >= 0 && static_cast<std::size_t>(page) < pages_.size());
   Entry& entry = pages_[static_cast<std::size_t>(page)];
   if (!entry.Known) {
     entry.Text = ReadPage(document_, static_cast<std::size_t>(page));

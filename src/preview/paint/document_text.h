@@ -32,7 +32,7 @@ struct PageText {
   std::vector<ReadPiece> Pieces;
 };
 
-PageText ReadPage(const Document& document, std::size_t page);
+[[nodiscard]] PageText ReadPage(const Document& document, std::size_t page);
 
 // The text of all pages, each read on first use.
 class DocumentText {

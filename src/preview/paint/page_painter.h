@@ -34,10 +34,10 @@ struct TextFit {
   float Stretch = 1;     // below 1: condensed sideways, to 0.5 at most
   bool Clipped = false;  // wider than its box even then
 };
-TextFit FitText(const TextPiece& piece, const Rect& box);
+[[nodiscard]] TextFit FitText(const TextPiece& piece, const Rect& box);
 
 // What may be painted of a piece in its item's box, with room for letters that reach above or below their
 // line; none if it is to be painted whole.
-std::optional<Rect> ClipOfText(const TextFit& fit, const TextStyle& style, const Rect& box);
+[[nodiscard]] std::optional<Rect> ClipOfText(const TextFit& fit, const TextStyle& style, const Rect& box);
 
 }  // namespace tarvis

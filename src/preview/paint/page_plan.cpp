@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 
 namespace tarvis {
 namespace {
@@ -105,6 +106,7 @@ void AddTo(PageLayer& layer, const Item& item) {
 std::vector<PageLayer> PlanPage(const Document& document, std::size_t page) {
   std::vector<PageLayer> layers(1);
   PaintedPlaces painted(document.Setup.Height);
+  assert(page < document.Pages.size());
   const Page& range = document.Pages[page];
   for (std::uint32_t index = range.FirstItem; index < range.FirstItem + range.ItemCount; ++index) {
     const Item& item = document.Items[index];

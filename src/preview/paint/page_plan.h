@@ -22,6 +22,6 @@ struct PageLayer {
 };
 
 // The layers of page `page`, valid as long as the document.
-std::vector<PageLayer> PlanPage(const Document& document, std::size_t page);
+[[nodiscard]] std::vector<PageLayer> PlanPage(const Document& document, std::size_t page);
 
 }  // namespace tarvis

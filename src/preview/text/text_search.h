@@ -21,6 +21,7 @@ struct SearchHit {
 
 // All hits in reading order. A hit lies within one cell; where the cell wraps, a blank takes the place of the
 // line's end.
-std::vector<SearchHit> Search(DocumentText& text, const QString& wanted, const SearchOptions& options);
+[[nodiscard]] std::vector<SearchHit> Search(DocumentText& text, const QString& wanted,
+                                            const SearchOptions& options);
 
 }  // namespace tarvis

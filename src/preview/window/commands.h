@@ -33,6 +33,12 @@ enum class Command {
 // Where a command is shown; all are in the context menu.
 enum class Shown { Toolbar, MenuOnly };
 
+// What a command does when it is chosen: it acts, or it changes a state, which is shown by a check mark.
+enum class ActionKind { Push, Toggle };
+
+// A separator comes before the first command of a group.
+enum class InGroup { First, Next };
+
 struct CommandEntry {
   Command Id;
   const char* Name;     // object name of its action and, with "Button", of its tool
@@ -40,9 +46,9 @@ struct CommandEntry {
   const char* Keys;     // portable key sequences, several separated by "; "
   const char* Icon;     // see icons.h; empty for none
   Shown Where;
-  bool Checkable;
-  bool StartsGroup;  // a separator comes before it
-  int Number;        // the tool's number, 0 for none
+  ActionKind Kind;
+  InGroup Place;
+  int Number;  // the tool's number, 0 for none
 };
 
 std::span<const CommandEntry> CommandTable();

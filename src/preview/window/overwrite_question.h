@@ -9,6 +9,6 @@ namespace tarvis {
 
 // Whether a file may be written at `path`. Asks before a file is replaced; tells the user that a folder, a
 // device or anything else that is no file is never replaced.
-bool MayWriteTo(const QString& path, QWidget* parent);
+[[nodiscard]] bool MayWriteTo(const QString& path, QWidget* parent);
 
 }  // namespace tarvis

@@ -49,7 +49,7 @@ void PreviewActions::AddCommand(const CommandEntry& entry, QWidget& window) {
   action->setShortcuts(KeysOf(entry));
   action->setToolTip(ToolTipOf(*action));
   if (*entry.Icon != '\0') action->setIcon(OutlineIcon(entry.Icon));
-  action->setCheckable(entry.Checkable);
+  action->setCheckable(entry.Kind == ActionKind::Toggle);
   if (entry.Number != 0) action->setData(entry.Number);
   connect(action, &QAction::triggered, this,
           [this, id = entry.Id](bool checked) { emit Triggered(id, checked); });
@@ -71,7 +71,7 @@ void PreviewActions::AddTool(const Tool& tool, QWidget& window) {
 void PreviewActions::FillToolbar(QToolBar& bar, QWidget& pageBox, QWidget& zoomBox) const {
   for (const CommandEntry& entry : CommandTable()) {
     if (entry.Where != Shown::Toolbar) continue;
-    if (entry.StartsGroup) bar.addSeparator();
+    if (entry.Place == InGroup::First) bar.addSeparator();
     if (entry.Id == Command::Close) {
       bar.addActions({tools_.begin(), tools_.end()});
       bar.addSeparator();
@@ -91,7 +91,7 @@ void PreviewActions::FillToolbar(QToolBar& bar, QWidget& pageBox, QWidget& zoomB
 
 void PreviewActions::FillMenu(QMenu& menu) const {
   for (const CommandEntry& entry : CommandTable()) {
-    if (entry.StartsGroup) menu.addSeparator();
+    if (entry.Place == InGroup::First) menu.addSeparator();
     if (entry.Id == Command::Close) menu.addActions({tools_.begin(), tools_.end()});
     menu.addAction(Of(entry.Id));
   }

@@ -7,10 +7,10 @@
 namespace tarvis {
 
 // Describes `place` for another document.
-ReadingPlace Remember(const Document& document, const PagePlace& place);
+[[nodiscard]] ReadingPlace Remember(const Document& document, const PagePlace& place);
 
 // The same contents entry at the same height. Where the entry is missing, the same page, or the last one of a
 // shorter document.
-PagePlace FindAgain(const Document& document, const ReadingPlace& place);
+[[nodiscard]] PagePlace FindAgain(const Document& document, const ReadingPlace& place);
 
 }  // namespace tarvis
