@@ -78,12 +78,6 @@ class Silence(ProgramCase):
         os.kill(manager, signal.SIGCONT)
         session.wait_for(DIALOG)
 
-    def test_of_a_file_of_the_host_is_told(self):
-        self.host.configuration.unlink()
-        os.mkfifo(self.host.configuration)
-        self.start("User")
-        self.expect_told("the files of the host")
-
     def test_of_the_session_bus_leaves_it_out(self):
         bus = self.silent_bus("silent")
         self.expect_left_out({"DBUS_SESSION_BUS_ADDRESS": bus}, "message bus of the session", bus)

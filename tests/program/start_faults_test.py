@@ -82,6 +82,11 @@ class Configuration(ProgramCase):
         self.host.configuration.mkdir()
         self.expect_wrong_argument("can't be read: Is a directory")
 
+    def test_that_is_a_pipe_holds_up_nothing(self):
+        self.host.configuration.unlink()
+        os.mkfifo(self.host.configuration)
+        self.expect_wrong_argument("can't be read: is no regular file")
+
     def test_of_random_bytes(self):
         self.host.configuration.write_bytes(bytes(k * k % 251 for k in range(100_000)))
         section = r"[SOFTWARE\Korvane\Tessaline\Brenmark\Quillon\Setup]"
