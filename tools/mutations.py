@@ -16,9 +16,11 @@ TOKEN = re.compile(
 
 COMPARISONS = {"<": "<=", "<=": "<", ">": ">=", ">=": ">", "==": "!=", "!=": "=="}
 SIGNS = {"+": "-", "-": "+", "+=": "-=", "-=": "+=", "*": "/", "++": "--", "--": "++"}
+PREFIXES = {"!": "NotSwitch", "-": "MinusSwitch", "++": "StepSwitch"}  # of mutant_switch.h
 CONDITIONS = {"&&": "||", "||": "&&", "true": "false", "false": "true", "?": "== false ?"}
 SPACED = {"<", ">", "+", "-", "*"}  # means something else where it has no blank on both sides
 BEFORE_MINUS = {"(", ",", "=", "return", "?", ":", "{", "<", ">", "=="}  # where a minus has one operand
+BEFORE_OPERAND = BEFORE_MINUS | {";", "}", "&&", "||", "!=", "<=", ">=", "+", "+=", "-="}  # the same for any operator
 TYPE_WORDS = {"class", "struct", "union", "enum", "namespace"}
 BEFORE_CODE = {")", "else", "do", "try", "const", "override", "noexcept", "final", "mutable"}
 # What a statement that can be left out never begins with: it declares something, or the rest needs it.
@@ -47,6 +49,7 @@ class Mutant:
     start: int
     old: str
     new: str
+    operands: int = 0  # of an operator that can be switched: 1 if it stands before the only one
 
     @property
     def end(self):
@@ -64,6 +67,12 @@ class Mutant:
             return f"{{ if (!IsMutated({number}LL)) ", " }", True
         if self.kind == "condition" and self.new == f"!({self.old})":
             return f"IsMutated({number}LL) != static_cast<bool>(", ")", True
+        if self.old == "?":
+            return f"^ Flip{{{number}LL}} ", "", True
+        if self.operands == 2:
+            return f"{self.old} Switch{{{number}LL}} ", "", True
+        if self.operands == 1:
+            return f"{PREFIXES[self.old]}{{{number}LL}} ->* ", "", False
         return None
 
     def __str__(self):
@@ -185,7 +194,7 @@ def without_control(tokens, first, last):
             if tokens[first + 1].text == "constexpr":
                 first += 1
             first = closing(tokens, first + 1) + 1
-        elif word == "else":
+        elif word in ("else", "do"):
             first += 1
         elif word in ("case", "default"):
             first = next(at for at in range(first, last) if tokens[at].text == ":") + 1
@@ -216,10 +225,25 @@ def omissions(code, tokens):
         yield "statement", Token("", code[tokens[first].start:tokens[last].end], tokens[first].start), ";"
 
 
+def operand_counts(tokens):
+    """For the place of each operator that can be switched: how many operands it has."""
+    counts = {}
+    for before, token, after in zip(tokens, tokens[1:], tokens[2:]):
+        if token.text in PREFIXES and before.text in BEFORE_OPERAND:
+            counts[token.start] = 1
+        elif after.text == "{":  # a list has no type that a function could take
+            continue
+        elif token.text in COMPARISONS or token.text in SIGNS and token.text not in ("++", "--"):
+            counts[token.start] = 2
+    return counts
+
+
 def mutants_of(file, code):
     """All mutants of the code of one file, in the order of the file."""
     tokens = tokens_of(code)
-    found = [Mutant(file, code.count("\n", 0, token.start) + 1, kind, token.start, token.text, new)
+    operands = operand_counts(tokens)
+    found = [Mutant(file, code.count("\n", 0, token.start) + 1, kind, token.start, token.text, new,
+                    operands.get(token.start, 0) if token.kind == "sign" else 0)
              for changes in (token_changes(code, tokens), negations(code, tokens), omissions(code, tokens))
              for kind, token, new in changes]
     return sorted(found, key=lambda mutant: (mutant.start, mutant.kind, mutant.new))

@@ -78,7 +78,7 @@ TEST(PagePainter, PaintsTheFramesOfWholeCellsAtOnce) {
   EXPECT_THAT(page.Lines, IsEmpty());
 }
 
-TEST(PagePainter, SortsTextsForReadersOfFilesOnlyAndLeavesThemAsLaidOutOnTheScreen) {
+TEST(PagePainter, SortsTextsIntoReadingOrderForFilesOnly) {
   SampleReport report;
   Section& detail = report.Growing(SectionKind::Detail, "d");
   detail.AddField("value", {3000, 0, 1000, 283}, {}).Text = "40.0";
