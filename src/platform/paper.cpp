@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "report/paper_setup.h"
+
 namespace tarvis {
 namespace {
 
@@ -26,10 +28,8 @@ PageSetup DefaultPaper() {
   QPageSize paper = QPrinterInfo::defaultPrinter().defaultPageSize();
   if (!paper.isValid()) paper = UsualPaper();
   const QSizeF size = paper.size(QPageSize::Millimeter);
-  PageSetup setup;
-  setup.Width = Twips(std::min(size.width(), size.height()));
-  setup.Height = Twips(std::max(size.width(), size.height()));
-  return setup;
+  return SetupForPaper(Twips(std::min(size.width(), size.height())),
+                       Twips(std::max(size.width(), size.height())));
 }
 
 }  // namespace tarvis

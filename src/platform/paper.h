@@ -5,8 +5,8 @@
 
 namespace tarvis {
 
-// The default printer's paper, upright; where no printer is set up, the usual one of the country: A4 or
-// Letter.
-[[nodiscard]] PageSetup DefaultPaper();
+// For the default printer's paper, upright; where no printer is set up, for the usual one of the country: A4
+// or Letter.
+PageSetup DefaultPaper();
 
 }  // namespace tarvis

@@ -43,7 +43,7 @@ void ShowPrintPreview(PrintRun& run, ProgramWindows& windows) {
 }
 
 rptTarvis::rptTarvis(ReportContext context, ReportFactory factory, ProgramWindows& windows)
-    : ActiveReport("rptTarvis", 10000), context_(context), factory_(std::move(factory)), windows_(windows) {
+    : ActiveReport("rptTarvis", MasterPrintWidth), context_(context), factory_(std::move(factory)), windows_(windows) {
   Caption = "Print Preview";
   Detail.NewPageBefore = true;
   txtPageNumber.Summary = Summary::PageNumber;

@@ -13,6 +13,8 @@ namespace tarvis {
 inline constexpr int EditItemsTool = 999;
 inline constexpr int CloseTool = 5113;
 
+inline constexpr float MasterPrintWidth = 10000;  // twips
+
 class rptTarvis : public ActiveReport {
  public:
   // `windows` must outlive the report.
@@ -44,7 +46,7 @@ class rptTarvis : public ActiveReport {
 
   Section& PageHeader = AddSection(SectionKind::PageHeader, "PageHeader", 0);
   Section& Detail = AddSection(SectionKind::Detail, "Detail", 795);
-  SubReport& sbrModule = Detail.AddSubReport("sbrModule", {0, 0, 10000, 2693});
+  SubReport& sbrModule = Detail.AddSubReport("sbrModule", {0, 0, MasterPrintWidth, 2693});
   Section& PageFooter = AddSection(SectionKind::PageFooter, "PageFooter", 480);
   Label& Label2 = PageFooter.AddLabel("Label2", {7370, 142, 567, 280}, "Page");
   Field& txtPageNumber =
