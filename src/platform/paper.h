@@ -7,6 +7,6 @@ namespace tarvis {
 
 // For the default printer's paper, upright; where no printer is set up, for the usual one of the country: A4
 // or Letter.
-PageSetup DefaultPaper();
+[[nodiscard]] PageSetup DefaultPaper();
 
 }  // namespace tarvis
