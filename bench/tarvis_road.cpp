@@ -1,3 +1,4 @@
+// The program's way of making a document: from the host's files to pages, PDF and print spool.
 #include <QImage>
 
 #include "document_roads.h"

@@ -1,3 +1,4 @@
+// The toolkit's own way of making the same document: a text document with tables of the same rows.
 #include <QAbstractTextDocumentLayout>
 #include <QFile>
 #include <QImage>

@@ -1,3 +1,4 @@
+// Fuzzes the reader of IdxIdxTbl.tmp.
 #include "fuzz_reader.h"
 #include "printfiles/idx_tbl_file.h"
 

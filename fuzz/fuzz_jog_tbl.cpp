@@ -1,3 +1,4 @@
+// Fuzzes the reader of IdxJogTbl.tmp.
 #include "fuzz_reader.h"
 #include "printfiles/jog_tbl_file.h"
 

@@ -1,3 +1,4 @@
+// Fuzzes the reader of Mecha.tmp.
 #include "fuzz_reader.h"
 #include "printfiles/mecha_file.h"
 

@@ -1,3 +1,4 @@
+// Fuzzes the reader of RealTrace.tmp.
 #include "fuzz_reader.h"
 #include "printfiles/real_trace_file.h"
 

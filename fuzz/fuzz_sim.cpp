@@ -1,3 +1,4 @@
+// Fuzzes the reader of Sim.tmp.
 #include "fuzz_reader.h"
 #include "printfiles/sim_file.h"
 

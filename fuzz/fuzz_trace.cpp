@@ -1,3 +1,4 @@
+// Fuzzes the reader of Trace.tmp.
 #include "fuzz_reader.h"
 #include "printfiles/trace_file.h"
 

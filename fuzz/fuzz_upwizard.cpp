@@ -1,3 +1,4 @@
+// Fuzzes the reader of UPWizard.tmp.
 #include "fuzz_reader.h"
 #include "printfiles/upwizard_file.h"
 

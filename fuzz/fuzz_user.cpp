@@ -1,3 +1,4 @@
+// Fuzzes the reader of User.tmp.
 #include "fuzz_reader.h"
 #include "printfiles/user_file.h"
 

@@ -1,3 +1,4 @@
+// Fuzzes the reader of IdxZoneTbl.tmp.
 #include "fuzz_reader.h"
 #include "printfiles/zone_tbl_file.h"
 

@@ -1,3 +1,4 @@
+// How long the texts of the cover letter may be, and what happens at one byte or line more.
 #include <QInputMethodEvent>
 
 #include "dialogs/cover_editor.h"

@@ -1,3 +1,4 @@
+// The editor of the cover letter: its fields, tabs and buttons.
 #include "dialogs/EditCover.h"
 
 #include "dialogs/cover_editor.h"

@@ -1,3 +1,4 @@
+// The page of the program table: its range of steps, and how a wrong one is caught.
 #include "dialogs/pages/InfIdxTbl.h"
 
 #include <QInputMethodEvent>

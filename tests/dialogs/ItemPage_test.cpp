@@ -1,3 +1,4 @@
+// What all item pages share: header keys, titles, when they load and store.
 #include "dialogs/pages/ItemPage.h"
 
 #include <QClipboard>

@@ -1,3 +1,4 @@
+// The dialog "Printing Item Setting": function list, cover group, OK and Cancel.
 #include "dialogs/PrintSetting.h"
 
 #include <QLabel>

@@ -1,3 +1,4 @@
+// Dialogs on screens of other sizes and with other fonts.
 #include "dialogs/controls/fitted_dialog.h"
 
 #include <QScreen>

@@ -1,3 +1,4 @@
+// The item pages of the functions with graphs: which boxes enable which.
 #include "dialogs/dialog_run.h"
 
 namespace tarvis {

@@ -1,3 +1,4 @@
+// The checks of typed text by bytes and lines.
 #include "dialogs/controls/input_limits.h"
 
 #include "dialogs/dialog_run.h"

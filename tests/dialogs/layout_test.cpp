@@ -1,3 +1,4 @@
+// Every control is visible whole, apart from its neighbours, and reachable, in every font size.
 #include "dialogs/EditCover.h"
 #include "dialogs/dialog_run.h"
 #include "dialogs/layout_checks.h"

@@ -1,3 +1,4 @@
+// The logo of the cover letter: choosing, dropping and showing a picture file.
 #include <QDropEvent>
 #include <QMimeData>
 #include <QUrl>

@@ -1,3 +1,4 @@
+// Runs the tests of the dialogs on the offscreen platform.
 #include <gtest/gtest.h>
 
 #include "dialogs/test_application.h"

@@ -1,3 +1,4 @@
+// Boxes of one line take no second one, whatever is pasted.
 #include <QAccessible>
 #include <QContextMenuEvent>
 #include <QDropEvent>

@@ -1,3 +1,4 @@
+// On which page the dialog opens, for each mode and edition.
 #include "dialogs/dialog_run.h"
 
 namespace tarvis {

@@ -1,3 +1,4 @@
+// Runs the tests of pictures on the offscreen platform.
 #include <gtest/gtest.h>
 
 #include <QGuiApplication>

@@ -1,3 +1,4 @@
+// Picture files by their content: which are loaded, which are refused and why.
 #include "pictures/picture_file_loader.h"
 
 #include <gtest/gtest.h>

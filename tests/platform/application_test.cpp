@@ -1,3 +1,4 @@
+// How a run ends that fails within an event handler.
 #include "platform/application.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// The command line as one text.
 #include "platform/command_line.h"
 
 #include <gtest/gtest.h>

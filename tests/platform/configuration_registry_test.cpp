@@ -1,3 +1,4 @@
+// The configuration file in place of the registry: its place, its grammar, its faults.
 #include "platform/system/configuration_registry.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// Requests by the operating system to terminate.
 #include "platform/end_signals.h"
 
 #include <gtest/gtest.h>

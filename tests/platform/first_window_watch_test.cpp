@@ -1,3 +1,4 @@
+// The line for a start that shows no window for long.
 #include "platform/first_window_watch.h"
 
 #include <gtest/gtest.h>

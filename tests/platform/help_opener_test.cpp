@@ -1,3 +1,4 @@
+// F1 opens the host's help file.
 #include "platform/help_opener.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Runs the tests of the platform on the offscreen platform.
 #include <gtest/gtest.h>
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// Message boxes, beeps, standard error and the end of the process.
 #include "platform/qt_desktop.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// A file's bytes reach the disk before it takes its place.
 #include "platform/system/settle_file.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Whether there is a printer, and what the user reads if not.
 #include "platform/system_printers.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Widths of text for composing.
 #include "platform/system/text_measurer.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Work that takes long shows its progress and can be cancelled.
 #include "preview/output/background_job.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// The find bar, driven by keys.
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>

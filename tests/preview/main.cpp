@@ -1,3 +1,4 @@
+// Runs the tests of the preview on the offscreen platform.
 #include <gtest/gtest.h>
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// Ways through the pages: keys, boxes, wheel, contents and thumbnails.
 #include <QComboBox>
 #include <QLineEdit>
 #include <QScrollBar>

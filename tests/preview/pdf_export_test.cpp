@@ -1,3 +1,4 @@
+// The PDF, read back by independent tools: text, places, fonts, outline, metadata.
 #include "preview/output/pdf_export.h"
 
 #include <gtest/gtest.h>

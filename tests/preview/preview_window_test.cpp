@@ -1,3 +1,4 @@
+// The window "Print Preview": tools, menus, closing.
 #include "preview/window/preview_window.h"
 
 #include <QtTest/qtestspontaneevent.h>

@@ -1,3 +1,4 @@
+// The fonts of pages: widths, fallbacks, marks.
 #include "preview/paint/report_font.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Selecting and copying text of pages.
 #include <QClipboard>
 
 #include "preview/text/text_selection.h"

@@ -9,15 +9,19 @@ class CheckNames(TreeCheck):
 
     def test_names_by_the_rule_pass(self):
         self.expect_clean({
-            "src/text/code_page.h": "", "src/functions/user/rptUserPrm.cpp": "", "src/dialogs/pages/InfTrace.h": "",
-            "src/dialogs/PrintSetting.h": "", "tests/core/rptUserPrm_test.cpp": "", "tools/build": "",
+            "src/text/code_page.h": "", "src/text/code_page.cpp": "", "src/functions/user/rptUserPrm.h": "", "src/dialogs/pages/InfTrace.h": "",
+            "src/dialogs/PrintSetting.h": "", "tests/core/rptUserPrm_test.cpp": "// What it is for.\n", "tools/build": "",
             "fuzz/corpus/sim/no-count": "", "tests/CMakeLists.txt": "", "tests/README.md": "",
-            "tests/text_test.cpp": "TEST(LoadLines, EndsALineAtCrLf) {}\nTEST_F(Dialog, ABadRangeHoldsTheUser) {}\n"
+            "tests/text_test.cpp": "// What it is for.\nTEST(LoadLines, EndsALineAtCrLf) {}\nTEST_F(Dialog, ABadRangeHoldsTheUser) {}\n"
                                    "TEST(DesktopDeathTest, OffersNothing) {}\nTEST_P(Form, InfinityIsRefused) {}\n"})
 
     def test_file_in_another_case_is_named(self):
         for name in ("src/report/BitTable.h", "src/text/codePage.cpp", "tests/core/user-file_test.cpp", "tools/Check.py"):
             self.expect_breach({name: ""}, f"{name}:1: the name of a file is in snake_case")
+
+    def test_source_without_header_and_first_line_is_named(self):
+        self.expect_breach({"src/text/posix_text.cpp": "#include <string>\n"},
+                           "src/text/posix_text.cpp:1: a source without a header of its own")
 
     def test_suite_that_ends_in_test_is_named(self):
         self.expect_breach({"tests/a.cpp": "\nTEST_F(DialogTest, Opens) {}\n"}, "tests/a.cpp:2: the suite DialogTest")

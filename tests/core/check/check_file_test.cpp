@@ -1,3 +1,4 @@
+// What tarvis-check says of good files, among them the examples of the documentation, and of bad ones.
 #include "check/check_file.h"
 
 #include <gtest/gtest.h>

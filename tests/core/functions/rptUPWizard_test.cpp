@@ -1,3 +1,4 @@
+// The electrical schematic diagram: places, layers and pictures of its parts.
 #include "functions/wizard/rptUPWizard.h"
 
 #include <gmock/gmock.h>

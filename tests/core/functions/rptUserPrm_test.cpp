@@ -1,3 +1,4 @@
+// The parameter list: which parameters it prints, and how its rows grow.
 #include "functions/user/rptUserPrm.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// The switch list: rows of digits beside and below one another.
 #include "functions/user/rptUserSwitch.h"
 
 #include <gmock/gmock.h>

@@ -1,3 +1,4 @@
+// The main routine: arguments, folders, printer guard, options, and what it does where one of them is wrong.
 #include "launch/launch.h"
 
 #include <gmock/gmock.h>

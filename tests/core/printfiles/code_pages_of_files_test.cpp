@@ -1,3 +1,4 @@
+// Files of the host in code pages of one and two bytes a character.
 #include <gtest/gtest.h>
 
 #include <string>

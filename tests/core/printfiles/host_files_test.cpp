@@ -1,3 +1,4 @@
+// Lines and fields of the host's files, and how a file is read.
 #include "printfiles/host_files.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// The reader of Mecha.tmp, key by key.
 #include "printfiles/mecha_file.h"
 
 #include <gtest/gtest.h>

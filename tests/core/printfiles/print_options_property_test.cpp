@@ -1,3 +1,4 @@
+// Random option files that are read and written again stay the same.
 #include <gtest/gtest.h>
 
 #include <random>

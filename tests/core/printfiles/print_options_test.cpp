@@ -1,3 +1,4 @@
+// The options file: defaults, every key, old versions, bad lines, and writing.
 #include <gtest/gtest.h>
 
 #include <algorithm>

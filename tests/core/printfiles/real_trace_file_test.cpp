@@ -1,3 +1,4 @@
+// The reader of RealTrace.tmp, key by key.
 #include "printfiles/real_trace_file.h"
 
 #include <gtest/gtest.h>

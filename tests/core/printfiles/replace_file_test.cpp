@@ -1,3 +1,4 @@
+// Replacing a file: the old one stays until the new one is complete.
 #include "printfiles/replace_file.h"
 
 #include <gtest/gtest.h>

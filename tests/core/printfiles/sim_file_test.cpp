@@ -1,3 +1,4 @@
+// The reader of Sim.tmp and of its companions, key by key.
 #include "printfiles/sim_file.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// The readers of the program, zone and jog speed tables, key by key.
 #include <gtest/gtest.h>
 
 #include "core/support/line_cases.h"

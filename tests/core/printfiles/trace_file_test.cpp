@@ -1,3 +1,4 @@
+// The reader of Trace.tmp and of its companions, key by key.
 #include "printfiles/trace_file.h"
 
 #include <gtest/gtest.h>

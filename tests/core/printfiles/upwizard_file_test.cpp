@@ -1,3 +1,4 @@
+// The reader of UPWizard.tmp, key by key.
 #include "printfiles/upwizard_file.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// The reader of User.tmp: parameters, switches and comment.
 #include "printfiles/user_file.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// The picture in the title of each report: its size and its pixels.
 #include "report/band_bitmap.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// The comparison with goldens itself: it finds the first line that differs.
 #include "support/golden.h"
 
 #include <gtest/gtest.h>

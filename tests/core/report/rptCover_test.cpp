@@ -1,3 +1,4 @@
+// The cover letter, control by control.
 #include "report/rptCover.h"
 
 #include <gmock/gmock.h>

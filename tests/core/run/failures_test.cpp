@@ -1,3 +1,4 @@
+// Numbered failures and the end of a run: messages, beeps, exit status, deleted files.
 #include "run/failures.h"
 
 #include <gmock/gmock.h>

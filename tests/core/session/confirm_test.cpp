@@ -1,10 +1,11 @@
+// The item setting dialog confirmed as it opens, without a dialog: what is written and which failures come.
 #include "session/confirm.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "core/support/test_run.h"
 #include "printfiles/print_options_file.h"
+#include "support/test_run.h"
 
 namespace tarvis {
 namespace {

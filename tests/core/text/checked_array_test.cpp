@@ -1,3 +1,4 @@
+// Arrays whose index comes from a file.
 #include "text/checked_array.h"
 
 #include <gtest/gtest.h>

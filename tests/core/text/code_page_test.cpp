@@ -1,3 +1,4 @@
+// Text to bytes of a code page and back, lengths in bytes.
 #include "text/code_page.h"
 
 #include <gtest/gtest.h>

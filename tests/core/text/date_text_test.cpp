@@ -1,3 +1,4 @@
+// Dates as pages and files show them.
 #include "text/date_text.h"
 
 #include <gtest/gtest.h>

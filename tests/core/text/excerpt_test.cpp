@@ -1,3 +1,4 @@
+// Long texts shortened for a message.
 #include "text/excerpt.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Texts to numbers, strictly and leniently.
 #include "text/numbers.h"
 
 #include <gtest/gtest.h>

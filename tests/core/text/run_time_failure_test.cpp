@@ -1,3 +1,4 @@
+// The message of a run-time failure: file, line, key and text.
 #include "text/run_time_failure.h"
 
 #include <gtest/gtest.h>

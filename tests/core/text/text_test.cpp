@@ -1,3 +1,4 @@
+// Fields, line breaks, escapes and byte limits of a text.
 #include "text/text.h"
 
 #include <gtest/gtest.h>
