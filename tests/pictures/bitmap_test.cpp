@@ -10,8 +10,6 @@
 namespace tarvis {
 namespace {
 
-const QColor Red(255, 0, 0), Green(0, 255, 0), Blue(0, 0, 255), White(255, 255, 255);
-
 struct Dib {
   int HeaderSize = 40;
   int Width = 2;

@@ -1,6 +1,7 @@
 // Writes the little-endian bytes of made-up picture files.
 #pragma once
 
+#include <QColor>
 #include <QImage>
 #include <QPainter>
 #include <bit>
@@ -11,6 +12,9 @@
 #include "pictures/picture_file_loader.h"
 
 namespace tarvis {
+
+// What a test expects of a pixel.
+inline const QColor Red(255, 0, 0), Green(0, 255, 0), Blue(0, 0, 255), White(255, 255, 255), Black(0, 0, 0);
 
 class ByteWriter {
  public:

@@ -6,9 +6,6 @@
 namespace tarvis {
 namespace {
 
-const QColor Red(255, 0, 0), Green(0, 255, 0), Blue(0, 0, 255), White(255, 255, 255), Black(0, 0, 0);
-constexpr std::uint32_t RedInk = Rgb(255, 0, 0), GreenInk = Rgb(0, 255, 0), BlueInk = Rgb(0, 0, 255);
-
 TEST(EmfMapping, WindowAndViewportStretch) {
   EmfWriter emf;
   emf.Set(17, 8).Pair(10, 1000, 1000).Pair(9, 2000, 2000).Pair(12, 10, 20).Pair(11, 50, 50);

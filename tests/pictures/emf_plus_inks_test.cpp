@@ -8,9 +8,6 @@
 namespace tarvis {
 namespace {
 
-const QColor Red(255, 0, 0), Blue(0, 0, 255), White(255, 255, 255);
-constexpr std::uint32_t RedInk = 0xFFFF0000, BlueInk = 0xFF0000FF, WhiteInk = 0xFFFFFFFF;
-
 ByteWriter Rect(float x, float y, float width, float height) {
   return ByteWriter().F32(x).F32(y).F32(width).F32(height);
 }
@@ -28,7 +25,7 @@ PlusWriter& FillWith(PlusWriter& plus, const ByteWriter& brush, const ByteWriter
 }
 
 ByteWriter PathGradientBrush(const std::vector<std::uint32_t>& around) {
-  ByteWriter brush = ByteWriter().U32(PlusVersion).U32(3).U32(0).U32(4).U32(WhiteInk).F32(50).F32(50);
+  ByteWriter brush = ByteWriter().U32(PlusVersion).U32(3).U32(0).U32(4).U32(OpaqueWhite).F32(50).F32(50);
   brush.U32(static_cast<std::uint32_t>(around.size()));
   for (const std::uint32_t color : around) brush.U32(color);
   return brush.U32(4).F32(0).F32(0).F32(100).F32(0).F32(100).F32(100).F32(0).F32(100);
@@ -36,7 +33,7 @@ ByteWriter PathGradientBrush(const std::vector<std::uint32_t>& around) {
 
 TEST(EmfPlusBrushes, APathGradientRunsFromItsOutlineToItsCentre) {
   PlusWriter plus;
-  const QImage shown = FillWith(plus, PathGradientBrush({BlueInk}), Rect(0, 0, 100, 100)).Show();
+  const QImage shown = FillWith(plus, PathGradientBrush({OpaqueBlue}), Rect(0, 0, 100, 100)).Show();
   EXPECT_GT(shown.pixelColor(50, 50).red(), 235);
   EXPECT_LT(shown.pixelColor(2, 50).red(), 25);
   EXPECT_NEAR(shown.pixelColor(25, 50).red(), 128, 12);
@@ -46,7 +43,7 @@ TEST(EmfPlusBrushes, APathGradientRunsFromItsOutlineToItsCentre) {
 
 TEST(EmfPlusBrushes, APathGradientMayHaveAColorForEachCorner) {
   PlusWriter plus;
-  const auto brush = PathGradientBrush({RedInk, RedInk, BlueInk, BlueInk});
+  const auto brush = PathGradientBrush({OpaqueRed, OpaqueRed, OpaqueBlue, OpaqueBlue});
   const QImage shown = FillWith(plus, brush, Rect(0, 0, 100, 100)).Show();
   EXPECT_GT(shown.pixelColor(50, 3).red(), 200);
   EXPECT_LT(shown.pixelColor(50, 3).blue(), 80);
@@ -55,23 +52,23 @@ TEST(EmfPlusBrushes, APathGradientMayHaveAColorForEachCorner) {
 
 TEST(EmfPlusBrushes, APathGradientStaysInsideWhatItFills) {
   PlusWriter plus;
-  const QImage shown = FillWith(plus, PathGradientBrush({BlueInk}), Rect(0, 0, 40, 100)).Show();
+  const QImage shown = FillWith(plus, PathGradientBrush({OpaqueBlue}), Rect(0, 0, 40, 100)).Show();
   EXPECT_NE(shown.pixelColor(20, 50), White);
   EXPECT_EQ(InkedPixels(shown, QRect(42, 0, 58, 100)), 0);
 }
 
 TEST(EmfPlusBrushes, APathGradientWithoutAnOutlineIsCounted) {
-  ByteWriter brush = ByteWriter().U32(PlusVersion).U32(3).U32(0).U32(4).U32(WhiteInk).F32(50).F32(50);
-  brush.U32(2).U32(RedInk).U32(BlueInk).U32(0);
+  ByteWriter brush = ByteWriter().U32(PlusVersion).U32(3).U32(0).U32(4).U32(OpaqueWhite).F32(50).F32(50);
+  brush.U32(2).U32(OpaqueRed).U32(OpaqueBlue).U32(0);
   PlusWriter plus;
   FillWith(plus, brush, Rect(0, 0, 9, 9));
-  EXPECT_EQ(Play(plus.FillRect(RedInk, 0, 0, 9, 9).Emf().Bytes())->SkippedRecords(), 1);
+  EXPECT_EQ(Play(plus.FillRect(OpaqueRed, 0, 0, 9, 9).Emf().Bytes())->SkippedRecords(), 1);
 }
 
 TEST(EmfPlusBrushes, ATextureIsMappedByItsTransform) {
   ByteWriter brush = ByteWriter().U32(PlusVersion).U32(2).U32(2).U32(0);
   brush.F32(50).F32(0).F32(0).F32(50).F32(0).F32(0);
-  brush.U32(PlusVersion).U32(1).U32(2).U32(1).U32(8).U32(0x26200A).U32(0).U32(RedInk).U32(BlueInk);
+  brush.U32(PlusVersion).U32(1).U32(2).U32(1).U32(8).U32(0x26200A).U32(0).U32(OpaqueRed).U32(OpaqueBlue);
   PlusWriter plus;
   const QImage shown = FillWith(plus, brush, Rect(0, 0, 100, 100)).Show();
   EXPECT_EQ(shown.pixelColor(25, 50), Red);
@@ -81,7 +78,7 @@ TEST(EmfPlusBrushes, ATextureIsMappedByItsTransform) {
 TEST(EmfPlusBrushes, FineHatchesHaveMoreInkThanWideOnes) {
   const auto ink = [](std::uint32_t hatch) {
     PlusWriter plus;
-    const ByteWriter brush = ByteWriter().U32(PlusVersion).U32(1).U32(hatch).U32(RedInk).U32(WhiteInk);
+    const ByteWriter brush = ByteWriter().U32(PlusVersion).U32(1).U32(hatch).U32(OpaqueRed).U32(OpaqueWhite);
     return InkedPixels(FillWith(plus, brush, Rect(0, 0, 100, 100)).Show());
   };
   constexpr std::uint32_t vertical = 1, lightVertical = 24, darkVertical = 28;
@@ -90,7 +87,7 @@ TEST(EmfPlusBrushes, FineHatchesHaveMoreInkThanWideOnes) {
 }
 
 ByteWriter HatchBrush(std::uint32_t style) {
-  return ByteWriter().U32(PlusVersion).U32(1).U32(style).U32(RedInk).U32(WhiteInk);
+  return ByteWriter().U32(PlusVersion).U32(1).U32(style).U32(OpaqueRed).U32(OpaqueWhite);
 }
 
 constexpr std::uint32_t HatchStyles = 53;
@@ -146,12 +143,13 @@ TEST(EmfPlusBrushes, DotsOfHatchesAreTheSameOnADeviceWithoutPixels) {
 TEST(EmfPlusBrushes, HatchesBeyondTheLastAreCounted) {
   PlusWriter plus;
   FillWith(plus, HatchBrush(HatchStyles), Rect(0, 0, 9, 9));
-  EXPECT_EQ(Play(plus.FillRect(RedInk, 0, 0, 9, 9).Emf().Bytes())->SkippedRecords(), 2);  // it, and its fill
+  EXPECT_EQ(Play(plus.FillRect(OpaqueRed, 0, 0, 9, 9).Emf().Bytes())->SkippedRecords(),
+            2);  // it, and its fill
 }
 
 TEST(EmfPlusImages, ShowIndexedColors) {
   ByteWriter image = ByteWriter().U32(PlusVersion).U32(1).U32(2).U32(1).U32(4).U32(0x30803).U32(0);
-  image.U32(0).U32(2).U32(RedInk).U32(BlueInk).U8(0).U8(1).U16(0);
+  image.U32(0).U32(2).U32(OpaqueRed).U32(OpaqueBlue).U8(0).U8(1).U16(0);
   ByteWriter draw = ByteWriter().U32(0).U32(2).Add(Rect(0, 0, 2, 1)).Add(Rect(0, 0, 100, 100));
   const QImage shown = PlusWriter().Object(5, 0, image).Add(0x401A, 0, draw).Show();
   EXPECT_EQ(shown.pixelColor(10, 50), Red);
@@ -161,7 +159,7 @@ TEST(EmfPlusImages, ShowIndexedColors) {
 TEST(EmfPlusPoints, MayEachBeRelativeToTheLast) {
   // From 10, 10: 80 to the right (in two bytes), then 60 down, then back.
   const std::string steps("\x0A\x0A\x80\x50\x00\x00\x3C\xFF\xB0\x00", 10);
-  const ByteWriter polygon = ByteWriter().U32(RedInk).U32(4).Text(steps);
+  const ByteWriter polygon = ByteWriter().U32(OpaqueRed).U32(4).Text(steps);
   const QImage shown = PlusWriter().Add(0x400C, 0x8800, polygon).Show();
   EXPECT_EQ(shown.pixelColor(12, 40), Red);
   EXPECT_EQ(shown.pixelColor(88, 68), Red);
@@ -171,7 +169,7 @@ TEST(EmfPlusPoints, MayEachBeRelativeToTheLast) {
 
 ByteWriter PenWithEnd(std::uint32_t flags, const ByteWriter& cap) {
   ByteWriter pen = ByteWriter().U32(PlusVersion).U32(0).U32(flags).U32(0).F32(6).Add(cap);
-  return pen.U32(PlusVersion).U32(0).U32(RedInk);
+  return pen.U32(PlusVersion).U32(0).U32(OpaqueRed);
 }
 
 QImage LineWith(const ByteWriter& pen) {
@@ -196,7 +194,7 @@ TEST(EmfPlusPens, EndInArrows) {
 TEST(EmfPlusPens, DrawWithTheirGradient) {
   ByteWriter pen =
       ByteWriter().U32(PlusVersion).U32(0).U32(0).U32(0).F32(20).U32(PlusVersion).U32(4).U32(0).U32(0);
-  pen.Add(Rect(10, 0, 80, 100)).U32(RedInk).U32(BlueInk).U32(0).U32(0);
+  pen.Add(Rect(10, 0, 80, 100)).U32(OpaqueRed).U32(OpaqueBlue).U32(0).U32(0);
   const QImage shown = LineWith(pen);
   EXPECT_GT(shown.pixelColor(14, 50).red(), 220);
   EXPECT_GT(shown.pixelColor(86, 50).blue(), 220);
@@ -207,7 +205,7 @@ QImage TextIn(const ByteWriter& box, std::uint32_t formatFlags) {
   ByteWriter font = ByteWriter().U32(PlusVersion).F32(20).U32(2).U32(0).U32(0).U32(5);
   for (const char c : std::string("Arial")) font.U16(static_cast<unsigned char>(c));
   const ByteWriter format = ByteWriter().U32(PlusVersion).U32(formatFlags).U32(0).U32(0).U32(0).Zeros(40);
-  ByteWriter text = ByteWriter().U32(RedInk).U32(1).U32(static_cast<std::uint32_t>(words.size())).Add(box);
+  ByteWriter text = ByteWriter().U32(OpaqueRed).U32(1).U32(static_cast<std::uint32_t>(words.size())).Add(box);
   for (const char c : words) text.U16(static_cast<unsigned char>(c));
   return PlusWriter().Object(6, 0, font).Object(7, 1, format).Add(0x401C, 0x8000, text).Show();
 }
@@ -227,13 +225,13 @@ TEST(EmfPlusText, StaysOnOneLineWhereItsFormatSaysSo) {
 TEST(EmfPlus, ACurveMayShowSomeOfItsSegmentsOnly) {
   const ByteWriter curve =
       ByteWriter().F32(0).U32(1).U32(1).U32(3).I16(0).I16(50).I16(50).I16(50).I16(100).I16(50);
-  const QImage shown = PlusWriter().Pen(0, RedInk, 4).Add(0x4018, 0x4000, curve).Show();
+  const QImage shown = PlusWriter().Pen(0, OpaqueRed, 4).Add(0x4018, 0x4000, curve).Show();
   EXPECT_EQ(shown.pixelColor(75, 50), Red);
   EXPECT_EQ(InkedPixels(shown, QRect(0, 0, 48, 100)), 0);
 }
 
 TEST(EmfPlus, APageWithoutAScaleHasOne) {
-  EXPECT_EQ(PlusWriter().Add(0x4030, 2).FillRect(RedInk, 10, 10, 30, 30).Show().pixelColor(35, 35), Red);
+  EXPECT_EQ(PlusWriter().Add(0x4030, 2).FillRect(OpaqueRed, 10, 10, 30, 30).Show().pixelColor(35, 35), Red);
 }
 
 }  // namespace

@@ -6,9 +6,6 @@
 namespace tarvis {
 namespace {
 
-const QColor Red(255, 0, 0), Green(0, 255, 0), Blue(0, 0, 255), White(255, 255, 255), Black(0, 0, 0);
-constexpr std::uint32_t RedInk = Rgb(255, 0, 0), GreenInk = Rgb(0, 255, 0), BlueInk = Rgb(0, 0, 255);
-
 TEST(EmfShapes, ARectangleIsFilledInItsPlace) {
   const QImage shown = EmfWriter().Brush(RedInk).NoPen().Rectangle(20, 30, 60, 80).Show();
   EXPECT_EQ(shown.pixelColor(21, 31), Red);

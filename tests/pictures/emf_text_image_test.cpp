@@ -6,9 +6,6 @@
 namespace tarvis {
 namespace {
 
-const QColor Red(255, 0, 0), Green(0, 255, 0), Blue(0, 0, 255), White(255, 255, 255), Black(0, 0, 0);
-constexpr std::uint32_t RedInk = Rgb(255, 0, 0), GreenInk = Rgb(0, 255, 0);
-
 // The box around what isn't white.
 QRect Ink(const QImage& image) {
   QRect ink;

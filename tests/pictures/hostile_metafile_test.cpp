@@ -9,8 +9,6 @@
 namespace tarvis {
 namespace {
 
-constexpr std::uint32_t RedInk = Rgb(255, 0, 0);
-
 void ExpectRefused(const std::string& bytes, const std::string& what, const std::string& reason = {}) {
   PictureFileLoader loader;
   try {

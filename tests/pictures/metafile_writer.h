@@ -10,6 +10,7 @@ namespace tarvis {
 inline constexpr std::uint32_t Rgb(std::uint32_t red, std::uint32_t green, std::uint32_t blue) {
   return red | green << 8 | blue << 16;
 }
+inline constexpr std::uint32_t RedInk = Rgb(255, 0, 0), GreenInk = Rgb(0, 255, 0), BlueInk = Rgb(0, 0, 255);
 
 inline ByteWriter Box32(int left, int top, int right, int bottom) {
   return ByteWriter().I32(left).I32(top).I32(right).I32(bottom);

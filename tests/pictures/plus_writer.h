@@ -7,6 +7,9 @@ namespace tarvis {
 
 inline constexpr std::uint32_t PlusVersion = 0xDBC01002;
 
+// Colors of extended records hold how opaque they are.
+inline constexpr std::uint32_t OpaqueRed = 0xFFFF0000, OpaqueBlue = 0xFF0000FF, OpaqueWhite = 0xFFFFFFFF;
+
 // The extended records of one comment.
 class PlusWriter {
  public:

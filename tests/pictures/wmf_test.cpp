@@ -7,9 +7,6 @@
 namespace tarvis {
 namespace {
 
-const QColor Red(255, 0, 0), Green(0, 255, 0), Blue(0, 0, 255), White(255, 255, 255), Black(0, 0, 0);
-constexpr std::uint32_t RedInk = Rgb(255, 0, 0), BlueInk = Rgb(0, 0, 255);
-
 WmfWriter Plain() {
   WmfWriter wmf;
   wmf.Words(0x0103, {8}).Window(0, 0, 100, 100);

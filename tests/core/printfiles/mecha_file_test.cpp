@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/support/line_cases.h"
+#include "core/support/reader_run.h"
 
 namespace tarvis {
 namespace {
@@ -12,19 +12,15 @@ using enum LastPart;
 
 const HostFile kMechaFile = {"Mecha.tmp", ReadMechaFile, {}};
 
-class MechaFile : public testing::Test, protected TestRun {
+class MechaFile : public ReaderRun {
  protected:
-  using TestRun::Run;
-
-  bool Read(const std::vector<std::string>& lines) {
-    Load("Mecha.tmp", lines);
-    return ReadMechaFile(Run);
-  }
-  static TextLine Setting(const char* key, NameValueUnit& setting) {
-    return {key, kField, {setting.Name, setting.Value, setting.Unit}};
-  }
+  MechaFile() : ReaderRun(kMechaFile) {}
 
   MechaData& Mecha = Run.Mecha;
+};
+}
+
+MechaData& Mecha = Run.Mecha;
 };
 
 TEST_F(MechaFile, FillsWhatEachKeyNames) {

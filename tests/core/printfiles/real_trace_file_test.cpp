@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/support/line_cases.h"
+#include "core/support/reader_run.h"
 
 namespace tarvis {
 namespace {
@@ -12,14 +12,9 @@ using enum LastPart;
 
 const HostFile kRealTraceFile = {"RealTrace.tmp", ReadRealTraceFile, {"CursolSelect,2"}};
 
-class RealTraceFile : public testing::Test, protected TestRun {
+class RealTraceFile : public ReaderRun {
  protected:
-  using TestRun::Run;
-
-  bool Read(const std::vector<std::string>& lines) {
-    Load("RealTrace.tmp", lines);
-    return ReadRealTraceFile(Run);
-  }
+  RealTraceFile() : ReaderRun(kRealTraceFile) {}
 
   RealTraceData& Trace = Run.RealTrace;
 };

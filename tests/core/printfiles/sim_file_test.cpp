@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/support/line_cases.h"
+#include "core/support/reader_run.h"
 
 namespace tarvis {
 namespace {
@@ -12,22 +12,15 @@ using enum LastPart;
 
 const HostFile kSimFile = {"Sim.tmp", ReadSimFile, {"CursolSelect,2"}};
 
-class SimFile : public testing::Test, protected TestRun {
+class SimFile : public ReaderRun {
  protected:
-  using TestRun::Run;
-
-  bool Read(const std::vector<std::string>& lines, const std::string& name = "Sim.tmp") {
-    Load(name, lines);
-    return ReadSimFile(Run);
-  }
-  std::string Stopped(const std::vector<std::string>& lines) {
-    return RunTimeFailureOf([&] { Read(lines); });
-  }
-  static TextLine Setting(const char* key, NameValueUnit& setting) {
-    return {key, kField, {setting.Name, setting.Value, setting.Unit}};
-  }
+  SimFile() : ReaderRun(kSimFile) {}
 
   SimData& Sim = Run.Sim;
+};
+}
+
+SimData& Sim = Run.Sim;
 };
 
 // "key,name,unit,1,2,...,count"

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/support/line_cases.h"
+#include "core/support/reader_run.h"
 #include "printfiles/host_files.h"
 
 namespace tarvis {
@@ -13,14 +13,9 @@ using enum LastPart;
 
 const HostFile kTraceFile = {"Trace.tmp", ReadTraceFile, {"CursolSelect,2"}};
 
-class TraceFile : public testing::Test, protected TestRun {
+class TraceFile : public ReaderRun {
  protected:
-  using TestRun::Run;
-
-  bool Read(const std::vector<std::string>& lines, const std::string& name = "Trace.tmp") {
-    Load(name, lines);
-    return ReadTraceFile(Run);
-  }
+  TraceFile() : ReaderRun(kTraceFile) {}
 
   TraceData& Trace = Run.Trace;
 };

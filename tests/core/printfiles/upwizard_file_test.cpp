@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/support/line_cases.h"
+#include "core/support/reader_run.h"
 
 namespace tarvis {
 namespace {
@@ -12,17 +12,9 @@ using enum LastPart;
 
 const HostFile kWizardFile = {"UPWizard.tmp", ReadUPWizardFile, {}};
 
-class UPWizardFile : public testing::Test, protected TestRun {
+class UPWizardFile : public ReaderRun {
  protected:
-  using TestRun::Run;
-
-  bool Read(const std::vector<std::string>& lines) {
-    Load("UPWizard.tmp", lines);
-    return ReadUPWizardFile(Run);
-  }
-  std::string Stopped(const std::string& line) {
-    return RunTimeFailureOf([&] { Read({line}); });
-  }
+  UPWizardFile() : ReaderRun(kWizardFile) {}
 
   UPWizardData& Wizard = Run.UPWizard;
 };
@@ -73,15 +65,15 @@ TEST_F(UPWizardFile, StopsAtASlotOutOfRange) {
   for (const char* line : {"OUTNUM,0", "OUTNUM,5", "OUTNUM,-1", "OUTSTR,0", "OUTSTR,8", "RY,0", "RY,9"}) {
     const std::string key = std::string(line).substr(0, std::string(line).find(','));
     const std::string slot = std::string(line).substr(key.size() + 1);
-    EXPECT_EQ(Stopped(std::string(line) + ",x"),
+    EXPECT_EQ(Stopped({std::string(line) + ",x"}),
               "UPWizard.tmp:1: " + key + ": subscript out of range: '" + slot + "'");
   }
 }
 
 TEST_F(UPWizardFile, StopsAtASlotThatIsNoNumber) {
-  EXPECT_EQ(Stopped("OUTNUM,one,x"), "UPWizard.tmp:1: OUTNUM: element 1: not a number: 'one'");
-  EXPECT_EQ(Stopped("OUTSTR"), "UPWizard.tmp:1: OUTSTR: element 1: not a number: ''");
-  EXPECT_EQ(Stopped("RY,,x"), "UPWizard.tmp:1: RY: element 1: not a number: ''");
+  EXPECT_EQ(Stopped({"OUTNUM,one,x"}), "UPWizard.tmp:1: OUTNUM: element 1: not a number: 'one'");
+  EXPECT_EQ(Stopped({"OUTSTR"}), "UPWizard.tmp:1: OUTSTR: element 1: not a number: ''");
+  EXPECT_EQ(Stopped({"RY,,x"}), "UPWizard.tmp:1: RY: element 1: not a number: ''");
 }
 
 TEST_F(UPWizardFile, RoundsAndTrimsASlotButKeepsItsText) {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "core/support/line_cases.h"
+#include "core/support/reader_run.h"
 #include "printfiles/host_files.h"
 
 namespace tarvis {
@@ -14,19 +14,9 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-class UserFile : public testing::Test, protected TestRun {
+class UserFile : public ReaderRun {
  protected:
-  using TestRun::Run;
-
-  bool Read(const Lines& lines) {
-    Load("User.tmp", lines);
-    return ReadUserFile(Run);
-  }
-  // What is written to standard error for a file that must be refused.
-  std::string Refused(const Lines& lines) { return Read(lines) ? "(accepted)" : Run.Session.Diagnosis; }
-  std::string Stopped(const Lines& lines) {
-    return RunTimeFailureOf([&] { Read(lines); });
-  }
+  UserFile() : ReaderRun({"User.tmp", ReadUserFile, {}}) {}
 };
 
 TEST_F(UserFile, FillsHeaderParametersSwitchesAndComment) {
