@@ -155,6 +155,14 @@ class Commands(unittest.TestCase):
                     self.assertEqual(hidden, [], document.name)
 
 
+class Words(unittest.TestCase):
+    def test_words_that_the_glossary_replaces_are_not_used(self):
+        replaced = re.compile(r"\b(told|tells?|stands?|stood|behind|lacks?|alike|in hand)\b", re.IGNORECASE)
+        for document in documents():
+            own_words = re.sub(r'"[^"]*"', "", document.prose)
+            self.assertEqual(replaced.findall(own_words), [], document.name)
+
+
 class Paths(unittest.TestCase):
     def test_every_path_exists(self):
         for document in documents():
