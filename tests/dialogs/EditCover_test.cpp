@@ -1,6 +1,7 @@
 // The editor of the cover letter: its fields, tabs and buttons.
 #include "dialogs/EditCover.h"
 
+#include "dialogs/controls/addressee_grid.h"
 #include "dialogs/cover_editor.h"
 
 namespace tarvis {

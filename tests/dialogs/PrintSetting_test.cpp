@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QWheelEvent>
 
+#include "dialogs/controls/addressee_grid.h"
 #include "dialogs/dialog_run.h"
 #include "run/failures.h"
 

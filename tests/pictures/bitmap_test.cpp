@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "byte_writer.h"
+#include "pixel_colors.h"
 #include "text/run_time_failure.h"
 
 namespace tarvis {

@@ -13,9 +13,6 @@
 
 namespace tarvis {
 
-// What a test expects of a pixel.
-inline const QColor Red(255, 0, 0), Green(0, 255, 0), Blue(0, 0, 255), White(255, 255, 255), Black(0, 0, 0);
-
 class ByteWriter {
  public:
   ByteWriter& U8(std::uint32_t value) {

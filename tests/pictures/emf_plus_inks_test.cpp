@@ -3,6 +3,7 @@
 
 #include <QPicture>
 
+#include "pixel_colors.h"
 #include "plus_writer.h"
 
 namespace tarvis {

@@ -3,6 +3,7 @@
 
 #include <QBuffer>
 
+#include "pixel_colors.h"
 #include "plus_writer.h"
 
 namespace tarvis {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "metafile_writer.h"
+#include "pixel_colors.h"
 
 namespace tarvis {
 namespace {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "metafile_writer.h"
+#include "pixel_colors.h"
 #include "text/run_time_failure.h"
 
 namespace tarvis {

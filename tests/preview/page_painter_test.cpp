@@ -30,7 +30,9 @@ class Recorder : public Canvas {
   void Strokes(const std::vector<Rect>& lines, float) override {
     Lines.insert(Lines.end(), lines.begin(), lines.end());
   }
-  void Text(const TextPiece& piece, const TextStyle&, const Rect&) override { Texts.push_back(piece.Text); }
+  void Text(const TextPiece& piece, const TextStyle&, const Rect&) override {
+    Texts.emplace_back(piece.Text);
+  }
   void Picture(const tarvis::Picture&, const Rect&) override {}
 
   std::vector<Rect> Frames;

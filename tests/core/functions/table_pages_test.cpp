@@ -26,7 +26,7 @@ struct ProgramTables : HostRun {
     Run.Options.IdxTblOption = {range, first, last, 0};
   }
   std::vector<std::string> Steps(const std::string& report = "rptIdxIdxTblTable") {
-    return TextsOf(Report.ComposeAlone(report), "txtIdNum");
+    return ColumnOf(Report.ComposeAlone(report), "txtIdNum");
   }
   std::vector<float> Heights(const std::string& control = "txtPOSVal",
                              const std::string& report = "rptIdxIdxTblTable") {
@@ -47,8 +47,8 @@ TEST_F(ProgramTables, FoldGapsBetweenProgramsIntoOneRow) {
     const Document document = Report.ComposeAlone(report);
     for (const char* column : {"txtPOSVal", "txtSPDVal", "txtRDSTVal", "txtRSPDVal", "txtPOUTVal",
                                "txtEVENTVal", "txtLOOPVal", "txtNEXTVal"}) {
-      EXPECT_EQ(TextsOf(document, column).at(1), "") << column;
-      EXPECT_NE(TextsOf(document, column).at(2), "") << column;
+      EXPECT_EQ(ColumnOf(document, column).at(1), "") << column;
+      EXPECT_NE(ColumnOf(document, column).at(2), "") << column;
     }
   }
 }
@@ -57,7 +57,7 @@ TEST_F(ProgramTables, PassOverAThousandEmptyStepsOnOnePage) {
   AddSteps(1000, {0, 999});
   Print(1);
   const Document document = Report.ComposeAlone("rptIdxIdxTblTable");
-  EXPECT_THAT(TextsOf(document, "txtIdNum"), ElementsAre("0", ":", "999"));
+  EXPECT_THAT(ColumnOf(document, "txtIdNum"), ElementsAre("0", ":", "999"));
   EXPECT_THAT(document.Pages, SizeIs(1));
 }
 
@@ -75,7 +75,7 @@ TEST_F(ProgramTables, PrintTheTitlesOverARangeThatStartsLater) {
   AddSteps(128);
   Print(2, "100", "101");
   const Document document = Report.ComposeAlone("rptIdxIdxTblTable");
-  EXPECT_THAT(TextsOf(document, "Field1"), ElementsAre("STEP"));
+  EXPECT_THAT(ColumnOf(document, "Field1"), ElementsAre("STEP"));
   EXPECT_EQ(PrintedOf(document, "txtIdNum").at(0).Box.Top, PrintedOf(document, "Field1").at(0).Box.Bottom());
 }
 
@@ -184,7 +184,7 @@ TEST_F(PatternTables, PrintRowsThatTheFileDoesNotHoldAsZero) {
   Run.ZoneTbl.Zone.Resize(2);
   Run.ZoneTbl.Zone[0] = {1, "1", "2"};
   Run.ZoneTbl.ZoneCnt = 2;
-  EXPECT_THAT(TextsOf(Report.ComposeAlone("rptIdxZoneTblTable"), "txtIdNum"), ElementsAre("1", "0"));
+  EXPECT_THAT(ColumnOf(Report.ComposeAlone("rptIdxZoneTblTable"), "txtIdNum"), ElementsAre("1", "0"));
 }
 
 }  // namespace

@@ -18,10 +18,6 @@ class MechaFile : public ReaderRun {
 
   MechaData& Mecha = Run.Mecha;
 };
-}
-
-MechaData& Mecha = Run.Mecha;
-};
 
 TEST_F(MechaFile, FillsWhatEachKeyNames) {
   ExpectHeaderLines(*this, kMechaFile);

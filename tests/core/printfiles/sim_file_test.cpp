@@ -18,10 +18,6 @@ class SimFile : public ReaderRun {
 
   SimData& Sim = Run.Sim;
 };
-}
-
-SimData& Sim = Run.Sim;
-};
 
 // "key,name,unit,1,2,...,count"
 std::string ValuesLine(const std::string& key, int count) {
