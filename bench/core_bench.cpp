@@ -20,7 +20,7 @@ constexpr int Switches = 1800;
 struct Bench : ReportRun {
   Bench() {
     PrintSession& session = Run.Session;
-    session.Mode = "User";
+    session.Mode = Mode::User;
     if (const char* folder = std::getenv("TARVIS_BENCH_FOLDER")) session.TempFolder = folder;
     session.ActiveHeader = {1, 1, 1, 1, 1, "Parameters"};
     Run.Options.UserHeader = session.ActiveHeader;

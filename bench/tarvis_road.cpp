@@ -32,7 +32,7 @@ class OwnRoad : public DocumentRoad {
  public:
   explicit OwnRoad(const BenchJob& job) {
     PrintSession& session = run_.Session;
-    session.Mode = job.Mode;
+    session.Mode = ModeOf(job.Mode);
     session.TempFolder = job.Folder;
     session.OverlapMode = job.Overlapped > 0 ? 1 : 0;
     session.OverlapNum = job.Overlapped;
@@ -44,8 +44,9 @@ class OwnRoad : public DocumentRoad {
   }
 
   void Read() override {
-    const bool isRead = LoadLines(run_, run_.Session.TempFolder + run_.Session.Mode + ".tmp") >= 0 &&
-                        (run_.Session.Mode == "User" ? ReadUserFile(run_) : ReadSimFile(run_));
+    const bool isRead =
+        LoadLines(run_, run_.Session.TempFolder + std::string(TextOf(run_.Session.Mode)) + ".tmp") >= 0 &&
+        (run_.Session.Mode == Mode::User ? ReadUserFile(run_) : ReadSimFile(run_));
     if (!isRead) qFatal("%s", run_.Session.Diagnosis.c_str());
   }
   void Compose() override {

@@ -27,23 +27,23 @@ namespace {
 struct FileKind {
   std::string_view Stem;
   std::string_view Ending;
-  const char* Mode;   // of the runs that print it; null for the options
+  tarvis::Mode Mode;  // of the runs that print it; none for the options
   bool IsOverlapped;  // has companions such as Trace1.tmp
   bool (*Read)(PrintRun& run);
   std::string (*Contents)(const PrintRun& run);
 };
 
 constexpr std::array Kinds = {
-    FileKind{"PrintOption", ".ToT", nullptr, false, ReadPrintOptionsFile, OptionsContents},
-    FileKind{"User", ".tmp", "User", false, ReadUserFile, UserContents},
-    FileKind{"UPWizard", ".tmp", "UPWizard", false, ReadUPWizardFile, UPWizardContents},
-    FileKind{"Trace", ".tmp", "Trace", true, ReadTraceFile, TraceContents},
-    FileKind{"RealTrace", ".tmp", "RealTrace", false, ReadRealTraceFile, RealTraceContents},
-    FileKind{"Mecha", ".tmp", "Mecha", false, ReadMechaFile, MechaContents},
-    FileKind{"Sim", ".tmp", "Sim", true, ReadSimFile, SimContents},
-    FileKind{"IdxIdxTbl", ".tmp", "IdxTbl", false, ReadIdxTblFile, IdxTblContents},
-    FileKind{"IdxZoneTbl", ".tmp", "ZoneTbl", false, ReadZoneTblFile, ZoneTblContents},
-    FileKind{"IdxJogTbl", ".tmp", "JogTbl", false, ReadJogTblFile, JogTblContents},
+    FileKind{"PrintOption", ".ToT", Mode::None, false, ReadPrintOptionsFile, OptionsContents},
+    FileKind{"User", ".tmp", Mode::User, false, ReadUserFile, UserContents},
+    FileKind{"UPWizard", ".tmp", Mode::UPWizard, false, ReadUPWizardFile, UPWizardContents},
+    FileKind{"Trace", ".tmp", Mode::Trace, true, ReadTraceFile, TraceContents},
+    FileKind{"RealTrace", ".tmp", Mode::RealTrace, false, ReadRealTraceFile, RealTraceContents},
+    FileKind{"Mecha", ".tmp", Mode::Mecha, false, ReadMechaFile, MechaContents},
+    FileKind{"Sim", ".tmp", Mode::Sim, true, ReadSimFile, SimContents},
+    FileKind{"IdxIdxTbl", ".tmp", Mode::IdxTbl, false, ReadIdxTblFile, IdxTblContents},
+    FileKind{"IdxZoneTbl", ".tmp", Mode::ZoneTbl, false, ReadZoneTblFile, ZoneTblContents},
+    FileKind{"IdxJogTbl", ".tmp", Mode::JogTbl, false, ReadJogTblFile, JogTblContents},
 };
 
 bool IsOfKind(std::string_view name, const FileKind& kind) {
@@ -72,7 +72,7 @@ bool IsRead(PrintRun& run, const FileKind& kind, std::string_view path) {
   const std::size_t nameStart = path.find_last_of("\\/") + 1;
   TakeOverlap(run, kind, path.substr(0, nameStart));
   if (LoadLines(run, path) < 0 || !kind.Read(run)) return false;
-  if (kind.Mode == nullptr) {
+  if (kind.Mode == Mode::None) {
     RequireChoices(run);
     return true;
   }

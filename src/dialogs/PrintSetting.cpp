@@ -186,7 +186,7 @@ void PrintSetting::OkClicked() {
   StampOptions(run_);
   // Printing goes on even if the file can't be written.
   static_cast<void>(WritePrintOptionsFile(run_, run_.Session.SystemFolder + "PrintOption.ToT"));
-  if (run_.Session.Mode == "PrnSetting") EndRun(run_);
+  if (run_.Session.Mode == Mode::PrnSetting) EndRun(run_);
   const auto showPrintPreview = services_.ShowPrintPreview;  // outlives the dialog
   hide();
   deleteLater();

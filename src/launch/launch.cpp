@@ -40,7 +40,7 @@ Integer Number(const CheckedArray<std::string>& arguments, int argument,
 
 // Settings can be changed without a printer; everything else would print.
 void RequirePrinter(PrintRun& run, Printers& printers) {
-  if (run.Session.Mode == "PrnSetting" || printers.NDevices() != 0) return;
+  if (run.Session.Mode == Mode::PrnSetting || printers.NDevices() != 0) return;
   printers.PrintDialog();
   EndRun(run);
 }
@@ -56,7 +56,8 @@ void Launch(PrintRun& run, std::string_view commandLine, const LaunchServices& s
   }
   session.HostEdition = Number(arguments, EditionArgument, StrictInteger);
   LoadSystemPaths(run, services.Registry);
-  session.Mode = Text(arguments, ModeArgument);
+  session.ModeText = Text(arguments, ModeArgument);
+  session.Mode = ModeOf(session.ModeText);
   session.HelpFile += Text(arguments, HelpFileArgument);
   session.HelpContextId = Number(arguments, HelpContextArgument, StrictLong);
   RequirePrinter(run, services.Printers);

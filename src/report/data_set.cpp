@@ -151,7 +151,7 @@ Modules JogTblModules(PrintRun& run) {
 }
 
 struct DataSet {
-  const char* Mode;
+  tarvis::Mode Mode;
   bool OverlapResult;
   const char* File;  // without suffix and extension
   bool (*Read)(PrintRun&);
@@ -160,17 +160,18 @@ struct DataSet {
 };
 
 constexpr std::array<DataSet, 11> DataSets{{
-    {"User", false, "User", ReadUserFile, Failure::WrongParameterFile, UserModules},
-    {"UPWizard", false, "UPWizard", ReadUPWizardFile, Failure::WrongParameterWizardFile, UPWizardModules},
-    {"Trace", false, "Trace", ReadTraceFile, Failure::WrongTraceFile, TraceModules},
-    {"Trace", true, "Trace", ReadTraceFile, Failure::WrongTraceFile, TraceOverlapModules},
-    {"RealTrace", false, "RealTrace", ReadRealTraceFile, Failure::WrongRealTimeTraceFile, RealTraceModules},
-    {"Mecha", false, "Mecha", ReadMechaFile, Failure::WrongMechanicalAnalysisFile, MechaModules},
-    {"Sim", false, "Sim", ReadSimFile, Failure::WrongSimulationFile, SimModules},
-    {"Sim", true, "Sim", ReadSimFile, Failure::WrongSimulationFile, SimOverlapModules},
-    {"IdxTbl", false, "IdxIdxTbl", ReadIdxTblFile, Failure::WrongProgramTableFile, IdxTblModules},
-    {"ZoneTbl", false, "IdxZoneTbl", ReadZoneTblFile, Failure::WrongZoneTableFile, ZoneTblModules},
-    {"JogTbl", false, "IdxJogTbl", ReadJogTblFile, Failure::WrongJogSpeedTableFile, JogTblModules},
+    {Mode::User, false, "User", ReadUserFile, Failure::WrongParameterFile, UserModules},
+    {Mode::UPWizard, false, "UPWizard", ReadUPWizardFile, Failure::WrongParameterWizardFile, UPWizardModules},
+    {Mode::Trace, false, "Trace", ReadTraceFile, Failure::WrongTraceFile, TraceModules},
+    {Mode::Trace, true, "Trace", ReadTraceFile, Failure::WrongTraceFile, TraceOverlapModules},
+    {Mode::RealTrace, false, "RealTrace", ReadRealTraceFile, Failure::WrongRealTimeTraceFile,
+     RealTraceModules},
+    {Mode::Mecha, false, "Mecha", ReadMechaFile, Failure::WrongMechanicalAnalysisFile, MechaModules},
+    {Mode::Sim, false, "Sim", ReadSimFile, Failure::WrongSimulationFile, SimModules},
+    {Mode::Sim, true, "Sim", ReadSimFile, Failure::WrongSimulationFile, SimOverlapModules},
+    {Mode::IdxTbl, false, "IdxIdxTbl", ReadIdxTblFile, Failure::WrongProgramTableFile, IdxTblModules},
+    {Mode::ZoneTbl, false, "IdxZoneTbl", ReadZoneTblFile, Failure::WrongZoneTableFile, ZoneTblModules},
+    {Mode::JogTbl, false, "IdxJogTbl", ReadJogTblFile, Failure::WrongJogSpeedTableFile, JogTblModules},
 }};
 
 void ReadDataFile(PrintRun& run, const DataSet& set, const std::string& suffix) {
@@ -191,7 +192,7 @@ void ListModules(PrintRun& run, const DataSet& set) {
 // Title and group of overlapped data sets. The title is joined to the options' own text each time.
 void NameOverlappedSet(PrintRun& run, const std::string& suffix, bool overlapResult) {
   PrintSession& session = run.Session;
-  const bool sim = session.Mode == "Sim";
+  const bool sim = session.Mode == Mode::Sim;
   const bool detail =
       sim ? On(run.Options.SimOption, OverlapDetailOfSim) : On(run.Options.TraceOption, OverlapDetailOfTrace);
   const std::string name = (sim ? run.Options.SimHeader : run.Options.TraceHeader).TitleText + "-";
@@ -230,7 +231,7 @@ void LoadFunctionDataSet(PrintRun& run, const std::string& suffix, bool overlapR
     if (run.Session.Mode != set.Mode || overlapResult != set.OverlapResult) continue;
     ReadDataFile(run, set, suffix);
     ListModules(run, set);
-    if (run.Session.Mode == "Trace" || run.Session.Mode == "Sim")
+    if (run.Session.Mode == Mode::Trace || run.Session.Mode == Mode::Sim)
       NameOverlappedSet(run, suffix, overlapResult);
   }
 }

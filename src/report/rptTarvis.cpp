@@ -12,20 +12,20 @@ namespace {
 using HeaderOfMode = HeaderOptions PrintOptions::*;
 
 struct ModeHeader {
-  const char* Mode;
+  tarvis::Mode Mode;
   HeaderOfMode Header;
 };
 
 constexpr std::array<ModeHeader, 9> ModeHeaders{{
-    {"User", &PrintOptions::UserHeader},
-    {"UPWizard", &PrintOptions::PrmWizHeader},
-    {"Trace", &PrintOptions::TraceHeader},
-    {"RealTrace", &PrintOptions::RealTraceHeader},
-    {"Mecha", &PrintOptions::MechaHeader},
-    {"Sim", &PrintOptions::SimHeader},
-    {"IdxTbl", &PrintOptions::IdxTblHeader},
-    {"ZoneTbl", &PrintOptions::ZoneTblHeader},
-    {"JogTbl", &PrintOptions::JogTblHeader},
+    {Mode::User, &PrintOptions::UserHeader},
+    {Mode::UPWizard, &PrintOptions::PrmWizHeader},
+    {Mode::Trace, &PrintOptions::TraceHeader},
+    {Mode::RealTrace, &PrintOptions::RealTraceHeader},
+    {Mode::Mecha, &PrintOptions::MechaHeader},
+    {Mode::Sim, &PrintOptions::SimHeader},
+    {Mode::IdxTbl, &PrintOptions::IdxTblHeader},
+    {Mode::ZoneTbl, &PrintOptions::ZoneTblHeader},
+    {Mode::JogTbl, &PrintOptions::JogTblHeader},
 }};
 
 void SelectHeaderOptions(PrintRun& run, const HeaderOptions& record) {
@@ -43,7 +43,10 @@ void ShowPrintPreview(PrintRun& run, ProgramWindows& windows) {
 }
 
 rptTarvis::rptTarvis(ReportContext context, ReportFactory factory, ProgramWindows& windows)
-    : ActiveReport("rptTarvis", MasterPrintWidth), context_(context), factory_(std::move(factory)), windows_(windows) {
+    : ActiveReport("rptTarvis", MasterPrintWidth),
+      context_(context),
+      factory_(std::move(factory)),
+      windows_(windows) {
   Caption = "Print Preview";
   Detail.NewPageBefore = true;
   txtPageNumber.Summary = Summary::PageNumber;
@@ -70,8 +73,8 @@ void rptTarvis::ActiveReport_ReportStart() {
 
 // Whether the detail print of overlapped data is on for the function in `Mode`.
 bool rptTarvis::DetailIsOn() const {
-  if (Run.Session.Mode == "Trace") return Run.Options.TraceOption[8] == 1;
-  return Run.Session.Mode == "Sim" && Run.Options.SimOption[12] == 1;
+  if (Run.Session.Mode == Mode::Trace) return Run.Options.TraceOption[8] == 1;
+  return Run.Session.Mode == Mode::Sim && Run.Options.SimOption[12] == 1;
 }
 
 void rptTarvis::ActiveReport_FetchData(bool& endOfData) {
@@ -96,7 +99,7 @@ void rptTarvis::ActiveReport_FetchData(bool& endOfData) {
 // reached its end. With an engine that runs sub-reports to their end the gate never closes; twice in a row
 // would be for ever.
 bool rptTarvis::PassGate() {
-  if (Run.Session.Mode != "Trace" && Run.Session.Mode != "Sim") return true;
+  if (Run.Session.Mode != Mode::Trace && Run.Session.Mode != Mode::Sim) return true;
   const bool open = ModuleIndex <= Run.Session.FinishedReports;
   if (!open && gateWasClosed_) {
     throw RunTimeFailure("the report before has not reached its end",
@@ -107,7 +110,7 @@ bool rptTarvis::PassGate() {
 }
 
 void rptTarvis::LoadDataSet() {
-  if (Run.Session.Mode != "Trace" && Run.Session.Mode != "Sim") {
+  if (Run.Session.Mode != Mode::Trace && Run.Session.Mode != Mode::Sim) {
     LoadFunctionDataSet(Run, {}, false);
     return;
   }

@@ -6,6 +6,7 @@
 #include <map>
 #include <string>
 
+#include "run/mode.h"
 #include "text/checked_array.h"
 #include "text/text_lines.h"
 
@@ -25,7 +26,8 @@ struct HeaderOptions {
 
 // Each field is zero or empty until the step of the run that sets it. Session flags are -1 true, 0 false.
 struct PrintSession {
-  std::string Mode;
+  tarvis::Mode Mode = tarvis::Mode::None;
+  std::string ModeText;  // the argument as the host wrote it
   std::int16_t HostEdition = 0;
   std::string HostVersion;   // first three characters of the host's version
   std::string SystemFolder;  // ends in a backslash

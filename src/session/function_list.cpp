@@ -38,16 +38,16 @@ std::span<const FunctionEntry> OfVersion(std::span<const FunctionEntry> entries,
 }
 
 constexpr std::array ModeChoices{
-    ModeChoice{2, "User", 0, false},      ModeChoice{2, "Trace", 1, false},
-    ModeChoice{2, "IdxTbl", 2, false},    ModeChoice{2, "ZoneTbl", 3, false},
-    ModeChoice{2, "JogTbl", 4, false},    ModeChoice{2, "PrnSetting", 0, true},
-    ModeChoice{4, "User", 0, false},      ModeChoice{4, "Trace", 1, false},
-    ModeChoice{4, "RealTrace", 2, false}, ModeChoice{4, "Mecha", 3, false},
-    ModeChoice{4, "Sim", 4, false},       ModeChoice{4, "SimEx", 4, false},
-    ModeChoice{4, "PrnSetting", 0, true}, ModeChoice{1, "User", 0, false},
-    ModeChoice{1, "UPWizard", 1, false},  ModeChoice{1, "Trace", 2, false},
-    ModeChoice{1, "RealTrace", 3, false}, ModeChoice{1, "Mecha", 4, false},
-    ModeChoice{1, "Sim", 5, false},       ModeChoice{1, "PrnSetting", 0, true},
+    ModeChoice{2, Mode::User, 0, false},      ModeChoice{2, Mode::Trace, 1, false},
+    ModeChoice{2, Mode::IdxTbl, 2, false},    ModeChoice{2, Mode::ZoneTbl, 3, false},
+    ModeChoice{2, Mode::JogTbl, 4, false},    ModeChoice{2, Mode::PrnSetting, 0, true},
+    ModeChoice{4, Mode::User, 0, false},      ModeChoice{4, Mode::Trace, 1, false},
+    ModeChoice{4, Mode::RealTrace, 2, false}, ModeChoice{4, Mode::Mecha, 3, false},
+    ModeChoice{4, Mode::Sim, 4, false},       ModeChoice{4, Mode::SimEx, 4, false},
+    ModeChoice{4, Mode::PrnSetting, 0, true}, ModeChoice{1, Mode::User, 0, false},
+    ModeChoice{1, Mode::UPWizard, 1, false},  ModeChoice{1, Mode::Trace, 2, false},
+    ModeChoice{1, Mode::RealTrace, 3, false}, ModeChoice{1, Mode::Mecha, 4, false},
+    ModeChoice{1, Mode::Sim, 5, false},       ModeChoice{1, Mode::PrnSetting, 0, true},
 };
 
 }  // namespace
@@ -65,7 +65,7 @@ std::span<const FunctionEntry> FunctionEntries(std::int16_t edition, std::string
   }
 }
 
-const ModeChoice* FindModeChoice(std::int16_t edition, std::string_view mode) {
+const ModeChoice* FindModeChoice(std::int16_t edition, Mode mode) {
   for (const ModeChoice& choice : ModeChoices) {
     if (choice.Edition == edition && choice.Mode == mode) return &choice;
   }

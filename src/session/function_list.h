@@ -5,6 +5,8 @@
 #include <span>
 #include <string_view>
 
+#include "run/mode.h"
+
 namespace tarvis {
 
 // The ten item pages.
@@ -32,12 +34,12 @@ std::span<const FunctionEntry> FunctionEntries(std::int16_t edition, std::string
 // The entry with which the dialog opens.
 struct ModeChoice {
   std::int16_t Edition;
-  std::string_view Mode;
+  tarvis::Mode Mode;
   int Index;
   bool ListEnabled;
 };
 
-// nullptr if the edition has no such mode. Modes are compared with case.
-const ModeChoice* FindModeChoice(std::int16_t edition, std::string_view mode);
+// nullptr if the edition has no such mode.
+const ModeChoice* FindModeChoice(std::int16_t edition, Mode mode);
 
 }  // namespace tarvis

@@ -49,31 +49,31 @@ const ModeChoice& OpenMode(PrintRun& run, std::span<const FunctionEntry> functio
   PrintSession& session = run.Session;
   const ModeChoice* choice = FindModeChoice(session.HostEdition, session.Mode);
   if (choice == nullptr) {
-    RefuseHost(run,
-               "command line: no such mode of edition " + std::to_string(session.HostEdition),
-               session.Mode);
+    RefuseHost(run, "command line: no such mode of edition " + std::to_string(session.HostEdition),
+               session.ModeText);
   }
-  if (session.Mode == "SimEx") {
-    session.Mode = "Sim";
+  if (session.Mode == Mode::SimEx) {
+    session.Mode = Mode::Sim;
     session.SimExMode = 1;
   }
   if (static_cast<std::size_t>(choice->Index) >= functions.size()) {
     throw RunTimeFailure(
         "no function of this version",
-        {.File = "command line", .Line = 0, .Key = "mode", .Text = Excerpt(session.Mode)});
+        {.File = "command line", .Line = 0, .Key = "mode", .Text = Excerpt(TextOf(session.Mode))});
   }
   return *choice;
 }
 
 void LoadStepLimit(PrintRun& run) {
   PrintSession& session = run.Session;
-  if (session.Mode == "IdxTbl") ReadStepCount(run);
-  if (session.HostEdition == 2 && session.Mode == "PrnSetting") session.StepLimit = StepsWithoutTable;
+  if (session.Mode == Mode::IdxTbl) ReadStepCount(run);
+  if (session.HostEdition == 2 && session.Mode == Mode::PrnSetting) session.StepLimit = StepsWithoutTable;
 }
 
 // Edition 4 compares simulations; edition 1 has no such page, not even for PrnSetting.
 PageId PageOf(const PrintSession& session, const FunctionEntry& entry) {
-  const bool compares = session.HostEdition == 4 && (session.Mode == "PrnSetting" || session.SimExMode == 1);
+  const bool compares =
+      session.HostEdition == 4 && (session.Mode == Mode::PrnSetting || session.SimExMode == 1);
   return entry.Page == PageId::InfSim && compares ? PageId::InfSimOverlap : entry.Page;
 }
 

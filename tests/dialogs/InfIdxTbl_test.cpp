@@ -309,7 +309,7 @@ TEST_F(ProgramTablePage, AnUnknownRangeChoiceIsARunTimeFailure) {
   Run.Options.IdxTblOption.Range = 3;
   WriteFile("IdxIdxTbl.tmp", "IndexCnt,128\r\n");
   Run.Session.HostEdition = 2;
-  Run.Session.Mode = "IdxTbl";
+  Run.Session.Mode = Mode::IdxTbl;
   EXPECT_THROW(delete new PrintSetting(Run, {}), RunTimeFailure);
 }
 

@@ -121,7 +121,7 @@ TEST_F(ItemPages, TheCutTitleIsStoredBeforeTheMessageShows) {
   desktop.Watched = &run;
   DefaultPrintOptions(run);
   run.Session.HostEdition = 2;
-  run.Session.Mode = "User";
+  run.Session.Mode = Mode::User;
   run.Options.UserHeader.TitleText = FortyOne;
   delete new PrintSetting(run, {});
   EXPECT_EQ(desktop.Seen, Forty);

@@ -71,7 +71,7 @@ TEST_F(SettingDialog, SettingsOfTheComparingEditionShowTheOverlapPage) {
 
 TEST_F(SettingDialog, ASecondLoadAfterSimExShowsTheSamePage) {
   Open(4, "200", "SimEx");
-  EXPECT_EQ(Run.Session.Mode, "Sim");
+  EXPECT_EQ(Run.Session.Mode, Mode::Sim);
   EXPECT_EQ(Run.Session.SimExMode, 1);
   Reopen();
   EXPECT_EQ(ShownPages(), "InfSimOverlap");
@@ -89,7 +89,7 @@ TEST_F(SettingDialog, UnknownHostsAreFailureOne) {
     Desktop.Messages.clear();
     Run.Session.HostEdition = host.Edition;
     Run.Session.HostVersion = host.Version;
-    Run.Session.Mode = host.Mode;
+    Run.Session.Mode = ModeOf(host.Mode);
     ExpectLoadFails<RunEnded>(Run);
     ASSERT_EQ(Desktop.Messages.size(), 1u);
     EXPECT_EQ(
@@ -102,14 +102,14 @@ TEST_F(SettingDialog, AModeWithoutItsEntryIsARunTimeFailure) {
   for (const char* mode : {"Mecha", "Sim", "SimEx"}) {
     Run.Session.HostEdition = 4;
     Run.Session.HostVersion = "100";
-    Run.Session.Mode = mode;
+    Run.Session.Mode = ModeOf(mode);
     ExpectLoadFails<RunTimeFailure>(Run);
   }
 }
 
 TEST_F(SettingDialog, OptionsThatNoControlCanShowAreRunTimeFailures) {
   Run.Session.HostEdition = 2;
-  Run.Session.Mode = "User";
+  Run.Session.Mode = Mode::User;
   Run.Options.ColorType = 2;
   ExpectLoadFails<RunTimeFailure>(Run);
   Run.Options.ColorType = 0;
@@ -134,7 +134,7 @@ TEST_F(SettingDialog, ATableWithoutStepCountLeavesNone) {
 
 TEST_F(SettingDialog, AMissingTableIsFailureFifteen) {
   Run.Session.HostEdition = 2;
-  Run.Session.Mode = "IdxTbl";
+  Run.Session.Mode = Mode::IdxTbl;
   ExpectLoadFails<RunEnded>(Run);
   ASSERT_EQ(Desktop.Messages.size(), 1u);
   EXPECT_EQ(Desktop.Messages[0].find(std::string("Printing Error|") +
@@ -145,7 +145,7 @@ TEST_F(SettingDialog, AMissingTableIsFailureFifteen) {
 TEST_F(SettingDialog, ABadStepCountNamesFileLineAndText) {
   WriteFile("IdxIdxTbl.tmp", "File-Spec,4\r\nIndexCnt,many\r\n");
   Run.Session.HostEdition = 2;
-  Run.Session.Mode = "IdxTbl";
+  Run.Session.Mode = Mode::IdxTbl;
   try {
     delete new PrintSetting(Run, {});
     FAIL();

@@ -51,15 +51,15 @@ class Confirming : public DialogRun, public testing::WithParamInterface<Kept> {
   }
 
   static std::string StateOf(const PrintSession& session) {
-    return session.Mode + " " + std::to_string(session.OverlapMode) + " " +
+    return std::string(TextOf(session.Mode)) + " " + std::to_string(session.OverlapMode) + " " +
            std::to_string(session.OverlapNum) + " " + std::to_string(session.SimExMode) + " " +
            std::to_string(session.StepLimit);
   }
 
   void ConfirmBoth(const ModeChoice& choice) {
-    Open(choice.Edition, "200", std::string(choice.Mode));
+    Open(choice.Edition, "200", std::string(TextOf(choice.Mode)));
     QTest::mouseClick(&Find<QPushButton>("cmdOK"), Qt::LeftButton);
-    if (choice.Mode == "PrnSetting") ExpectRunEnded();
+    if (choice.Mode == Mode::PrnSetting) ExpectRunEnded();
     Quiet.Session.HostEdition = choice.Edition;
     Quiet.Session.HostVersion = "200";
     Quiet.Session.Mode = choice.Mode;

@@ -46,7 +46,7 @@ class DialogRun : public testing::Test, protected TestRunOn<BoxDesktop> {
   void Open(std::int16_t edition, const std::string& version, const std::string& mode) {
     Run.Session.HostEdition = edition;
     Run.Session.HostVersion = version;
-    Run.Session.Mode = mode;
+    Run.Session.Mode = ModeOf(mode);
     Reopen();
   }
   void Reopen() {

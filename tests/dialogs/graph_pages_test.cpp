@@ -166,7 +166,7 @@ TEST_F(GraphPages, ABadNumberInTheScanNamesFileAndLine) {
   try {
     Run.Session.HostEdition = 4;
     Run.Session.HostVersion = "200";
-    Run.Session.Mode = "Trace";
+    Run.Session.Mode = Mode::Trace;
     delete new PrintSetting(Run, {});
     FAIL();
   } catch (const RunTimeFailure& failure) {

@@ -104,8 +104,8 @@ void InfIdxTbl::ControlLeft(const QWidget& control) {
 }
 
 bool InfIdxTbl::MayLeave() const {
-  const std::string& mode = Run().Session.Mode;
-  return (mode != "PrnSetting" && mode != "IdxTbl") || RangeIsValid();
+  const Mode mode = Run().Session.Mode;
+  return (mode != Mode::PrnSetting && mode != Mode::IdxTbl) || RangeIsValid();
 }
 
 bool InfIdxTbl::RangeIsValid() const {

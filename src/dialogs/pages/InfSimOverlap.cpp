@@ -55,13 +55,13 @@ TickBox& InfSimOverlap::DetailsBox() const {
 // Only a print of overlapped data can leave the details out; their tab can always be opened.
 void InfSimOverlap::DetailClicked() {
   const PrintSession& session = Run().Session;
-  if (session.Mode == "Sim" && session.OverlapMode == 1) EnableDetails(details_, DetailsBox().IsOn());
+  if (session.Mode == Mode::Sim && session.OverlapMode == 1) EnableDetails(details_, DetailsBox().IsOn());
 }
 
 void InfSimOverlap::LoadItems() {
   ScanOverlap(Run(), "Sim.tmp");
   LoadBoxes(overlap_);
-  if (Run().Session.Mode == "Sim" && Run().Session.OverlapMode == 0) {
+  if (Run().Session.Mode == Mode::Sim && Run().Session.OverlapMode == 0) {
     for (const BoundBox& bound : overlap_) bound.Box->setEnabled(false);
   }
   LoadBoxes(details_);

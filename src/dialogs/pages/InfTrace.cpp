@@ -37,13 +37,13 @@ TickBox& InfTrace::OverlapBox() const {
 // Only a print of overlapped data can leave the details out.
 void InfTrace::OverlapClicked() {
   const PrintSession& session = Run().Session;
-  if (session.Mode == "Trace" && session.OverlapMode == 1) EnableDetails(details_, OverlapBox().IsOn());
+  if (session.Mode == Mode::Trace && session.OverlapMode == 1) EnableDetails(details_, OverlapBox().IsOn());
 }
 
 void InfTrace::LoadItems() {
   ScanOverlap(Run(), "Trace.tmp");
   LoadBoxes(overlap_);
-  if (Run().Session.Mode == "Trace" && Run().Session.OverlapMode == 0) OverlapBox().setEnabled(false);
+  if (Run().Session.Mode == Mode::Trace && Run().Session.OverlapMode == 0) OverlapBox().setEnabled(false);
   LoadBoxes(details_);
 }
 

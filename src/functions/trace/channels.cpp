@@ -15,7 +15,7 @@ constexpr int DisplayElement = 2;
 }  // namespace
 
 bool PrintsSimulation(const PrintRun& run) {
-  return run.Session.Mode == "Sim";
+  return run.Session.Mode == Mode::Sim;
 }
 
 std::array<const TraceItem*, 6> Channels(const PrintRun& run) {

@@ -28,7 +28,7 @@ void PrintTo(const KeptReport& report, std::ostream* out) {
 struct KeptGroup : testing::TestWithParam<KeptReport> {
   KeptGroup() {
     PrintRun& run = Report.Run;
-    run.Session.Mode = "Trace";
+    run.Session.Mode = Mode::Trace;
     run.Session.OverlapNum = 3;
     run.Options.ColorType = 2;  // prints no picture
     run.User.UserNum = run.User.SwitchNum = 3;

@@ -15,7 +15,7 @@ struct LateFailure : HostRun {
     Lines file = {mode + "Graph," + Picture("graph.bmp")};
     file.insert(file.end(), lines.begin(), lines.end());
     WriteLines(mode + ".tmp", file);
-    Run.Session.Mode = mode;
+    Run.Session.Mode = ModeOf(mode);
     Run.Options.SimOption[0] = 1;
     return RunTimeFailureOf([&] { Report.ComposeMaster(); });
   }

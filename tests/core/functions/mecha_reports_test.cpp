@@ -14,7 +14,7 @@ using testing::IsEmpty;
 
 struct MechanicalAnalysis : HostRun {
   MechanicalAnalysis() {
-    Run.Session.Mode = "Mecha";
+    Run.Session.Mode = Mode::Mecha;
     Run.Options.MechaHeader = {1, 1, 1, 1, 1, "Mechanical Analysis"};
     Run.Options.MechaOption = {1, 1, 1, 1, 1};
   }

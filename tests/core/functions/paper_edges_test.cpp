@@ -79,7 +79,7 @@ struct PaperEdges : HostRun, testing::WithParamInterface<const char*> {
     options.Greeting = "We send you what was measured.";
   }
   Document ComposeOn(const PageSetup& setup) {
-    Run.Session.Mode = GetParam();
+    Run.Session.Mode = ModeOf(GetParam());
     Run.Session.OverlapMode = Run.Session.OverlapNum = 0;
     return Report.ComposeMaster(setup);
   }

@@ -13,7 +13,7 @@ using testing::ElementsAre;
 struct RealTimeTracing : HostRun {};
 
 TEST_F(RealTimeTracing, PrintsGraphAndInfoOnOnePage) {
-  Run.Session.Mode = "RealTrace";
+  Run.Session.Mode = Mode::RealTrace;
   Run.Options.RealTraceHeader = {1, 1, 1, 1, 1, "Real-Time Tracing"};
   Run.Options.RealTraceOption = {1, 0, 0, 0, 0, 0, 1};
   WriteLines("RealTrace.tmp",

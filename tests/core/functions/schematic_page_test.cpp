@@ -16,7 +16,7 @@ struct Schematic : HostRun {
 };
 
 TEST_F(Schematic, PrintsAFileOnOnePage) {
-  Run.Session.Mode = "UPWizard";
+  Run.Session.Mode = Mode::UPWizard;
   Run.Options.PrmWizHeader = {1, 1, 1, 0, 1, "Parameter wizard"};
   std::vector<std::string> lines{"File-Spec,3", "MechaInfo,Servo pack 400 W", "BASE," + PathOf("base.bmp"),
                                  "CONTROL,Control Method,Position control",

@@ -147,7 +147,7 @@ struct OverlappedSim : HostRun {
       Folder.Write("Sim" + std::to_string(number) + ".tmp",
                    SimFile(Folder, 0, std::to_string(number) + ".sim"));
     }
-    Session.Mode = "Sim";
+    Session.Mode = Mode::Sim;
     Session.OverlapMode = 1;
     Session.OverlapNum = static_cast<std::int16_t>(simulations);
     Report.Run.Options.SimHeader = {1, 1, 1, 1, 1, "Dynamics Simulation"};

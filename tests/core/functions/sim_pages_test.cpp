@@ -69,7 +69,7 @@ const Lines MotorLines{"MtRatedOutput,Rated Output,400,W",
 
 struct SimPages : HostRun {
   SimPages() {
-    Run.Session.Mode = "Sim";
+    Run.Session.Mode = Mode::Sim;
     Run.Options.SimHeader = {1, 1, 1, 1, 1, "Dynamics Simulation"};
     Picture("graph.bmp");
     Picture("model.bmp");

@@ -116,7 +116,7 @@ TEST_F(ProgramTables, KeepTheirHeightForALongValueOfAStepThatDoesNotPrint) {
 
 struct ProgramTableFiles : ProgramTables {
   Document ComposeFile(const std::string& type) {
-    Run.Session.Mode = "IdxTbl";
+    Run.Session.Mode = Mode::IdxTbl;
     Run.Options.IdxTblHeader = {1, 1, 0, 1, 1, "Program table"};
     Run.Options.IdxTblOption = {1, "0", "127", 1};
     WriteLines(
@@ -158,7 +158,7 @@ TEST_F(PatternTables, GrowWithAUnitOfTwoLines) {
 }
 
 TEST_F(PatternTables, PrintAZoneFile) {
-  Run.Session.Mode = "ZoneTbl";
+  Run.Session.Mode = Mode::ZoneTbl;
   Run.Options.ZoneTblHeader = {1, 1, 1, 1, 1, "Zone table"};
   Run.Options.ZoneTblOption = 1;
   WriteLines("IdxZoneTbl.tmp",
@@ -171,7 +171,7 @@ TEST_F(PatternTables, PrintAZoneFile) {
 }
 
 TEST_F(PatternTables, PrintAJogSpeedFile) {
-  Run.Session.Mode = "JogTbl";
+  Run.Session.Mode = Mode::JogTbl;
   Run.Options.JogTblHeader = {1, 1, 1, 1, 1, "Jog speed table"};
   WriteLines("IdxJogTbl.tmp", {"File-Spec,3", "File,axis1.jog", "Speed-Unit,[reference unit/s]", "JspdCnt,2",
                                "Jspd,1,1000", "Jspd,10,2500", "CommentCnt,1", "Comment,Door"});

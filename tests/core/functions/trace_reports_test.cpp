@@ -17,7 +17,7 @@ using testing::IsEmpty;
 
 struct Tracing : HostRun {
   Tracing() {
-    Run.Session.Mode = "Trace";
+    Run.Session.Mode = Mode::Trace;
     Run.Options.TraceHeader = {1, 1, 1, 1, 1, "Tracing"};
     Run.Options.TraceOption = {1, 0, 0, 0, 0, 0, 0, 0, 0};
   }
@@ -109,7 +109,7 @@ TEST_F(Tracing, AnEmptyCompanionEndsTheRunForItsGraphWhenItsPassBegins) {
 
 struct TraceObject : HostRun {
   TraceObject() {
-    Run.Session.Mode = "Trace";
+    Run.Session.Mode = Mode::Trace;
     Run.Trace.DataTrace1 = {"Feedback speed", "1", "min-1"};
     Run.Trace.DataTrace2 = {"Torque reference", "0", "%"};
     Run.Trace.IOTrace3 = {"Alarm", "-1", "-"};
@@ -134,7 +134,7 @@ TEST_F(TraceObject, LabelsItsSixRowsInTracing) {
 }
 
 TEST_F(TraceObject, LabelsItsSixRowsInDynamicsSimulation) {
-  Run.Session.Mode = "Sim";
+  Run.Session.Mode = Mode::Sim;
   const Document document = Compose();
   EXPECT_THAT(ColumnOf(document, "Label1"), ElementsAre("Simulation Object Setting"));
   EXPECT_THAT(
@@ -144,13 +144,13 @@ TEST_F(TraceObject, LabelsItsSixRowsInDynamicsSimulation) {
 }
 
 TEST_F(TraceObject, AReferenceWithoutNameLeavesItsLabelEmpty) {
-  Run.Session.Mode = "Sim";
+  Run.Session.Mode = Mode::Sim;
   Run.Sim.Ref.Name.clear();
   EXPECT_EQ(ColumnOf(Compose(), "txtValueTrace").at(2), "");
 }
 
 TEST_F(TraceObject, AnyOtherModeCountsAsTracing) {
-  Run.Session.Mode = "sim";
+  Run.Session.Mode = ModeOf("sim");
   EXPECT_THAT(ColumnOf(Compose(), "Label1"), ElementsAre("Trace Object Setting"));
 }
 
@@ -219,7 +219,7 @@ TEST_F(TraceObject, IsSplitOverTwoPagesInTracingAndItsTitlesPrintOnce) {
 }
 
 TEST_F(TraceObject, StaysOnOnePageInDynamicsSimulation) {
-  Run.Session.Mode = "Sim";
+  Run.Session.Mode = Mode::Sim;
   const Document document = ComposeBelow(Report, 14918 - 855 - 1055 - 3 * 283);
   ASSERT_EQ(document.Pages.size(), 2U);
   EXPECT_EQ(PrintedOf(document, "Image1").at(0).Box.Top, 210) << "the whole table is on page 2";
@@ -251,7 +251,7 @@ TEST_F(OverlapTarget, AnUnnamedChannelShowsAnEmptyBoxWhateverItsDisplay) {
 }
 
 TEST_F(OverlapTarget, ReadsTheChannelsOfTheSimulationInThatFunction) {
-  Run.Session.Mode = "Sim";
+  Run.Session.Mode = Mode::Sim;
   EXPECT_THAT(Ticks(), ElementsAre(true, false, false, false, false, false));
   EXPECT_EQ(ColumnOf(Compose(), "txtValueName").at(0), "Simulated speed");
 }

@@ -194,7 +194,7 @@ struct FirstParameterPage : HostRun {
       lines.emplace_back("UserValue,1,2,Hz");
     }
     WriteLines("User.tmp", lines);
-    Run.Session.Mode = "User";
+    Run.Session.Mode = Mode::User;
     Run.Options.UserOption = {1, 1, 1, 1, 0};
     const Document document = Report.ComposeMaster();
     std::vector<int> rows;

@@ -32,7 +32,7 @@ std::string SampleFile() {
 struct ParameterPages : HostRun {
   ParameterPages() {
     Folder.Write("User.tmp", SampleFile());
-    Report.Run.Session.Mode = "User";
+    Report.Run.Session.Mode = Mode::User;
     Report.Run.Options.UserHeader = {1, 1, 1, 1, 1, "Parameters"};
     Report.Run.Options.UserOption = {1, 1, 1, 1, 1};
   }

@@ -102,7 +102,7 @@ class LaunchedRun : public testing::Test, protected TestRun {
 
 TEST_F(LaunchedRun, LeavesTheSessionFilledAndTheDialogOpen) {
   EXPECT_THAT(CallsOf("User help.html 7 1"), ElementsAre("dialog"));
-  EXPECT_EQ(Run.Session.Mode, "User");
+  EXPECT_EQ(Run.Session.Mode, Mode::User);
   EXPECT_EQ(Run.Session.HostEdition, 1);
   EXPECT_EQ(Run.Session.HostVersion, "200");
   EXPECT_EQ(Run.Session.SystemFolder, Folder.Path().string() + "\\bin\\");
@@ -131,8 +131,7 @@ TEST_F(LaunchedRun, IsFailure1WithAnUnknownEditionBeforeTheFoldersAreKnown) {
   for (const char* edition : {"3", "0", "-1", "5"}) {
     Desktop.Calls.clear();
     const std::vector<std::string> calls = CallsOf("User help.html 7 " + std::string(edition));
-    EXPECT_EQ(calls.at(0),
-              "diagnose command line: no such edition: '" + std::string(edition) + "'");
+    EXPECT_EQ(calls.at(0), "diagnose command line: no such edition: '" + std::string(edition) + "'");
     EXPECT_EQ(calls.at(6), "message Printing Error|Argument is wrong.\nPrinting Process is canceled.")
         << edition;
     EXPECT_EQ(Run.Session.TempFolder, "");
@@ -155,9 +154,10 @@ TEST_F(LaunchedRun, StopsAtANumberThatIsNone) {
             "command line: argument 3: number out of range: '2147483648'");
 }
 
-TEST_F(LaunchedRun, KeepsTheModeAsItIsWritten) {
+TEST_F(LaunchedRun, KeepsTheTextOfAModeThatItDoesNotKnow) {
   EXPECT_THAT(CallsOf("user help.html 7 1"), ElementsAre("dialog"));
-  EXPECT_EQ(Run.Session.Mode, "user");
+  EXPECT_EQ(Run.Session.Mode, Mode::None);
+  EXPECT_EQ(Run.Session.ModeText, "user");
 }
 
 TEST_F(LaunchedRun, ShowsAMessageAndEndsWithoutPrinter) {

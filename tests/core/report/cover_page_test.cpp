@@ -117,7 +117,7 @@ TEST_F(CoverLetter, CountsTheBytesOfJapaneseGreetings) {
 }
 
 TEST_F(CoverLetter, IsPageOneOfTheDocument) {
-  Run.Session.Mode = "UPWizard";
+  Run.Session.Mode = Mode::UPWizard;
   Options.PrmWizHeader = {1, 1, 1, 0, 1, "Parameter wizard"};
   Options.Cover = 1;
   Options.SelectCover = 2;

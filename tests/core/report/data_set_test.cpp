@@ -20,7 +20,7 @@ struct DataSets : HostRun {
     return ListOfFile(mode, overlapResult);
   }
   Names ListOfFile(const std::string& mode, bool overlapResult = false) {
-    Run.Session.Mode = mode;
+    Run.Session.Mode = ModeOf(mode);
     LoadFunctionDataSet(Run, {}, overlapResult);
     Names names;
     for (int index = 0; index <= Run.Session.ModuleLast; ++index) {
@@ -150,7 +150,7 @@ TEST_F(DataSets, PassFourElementsOnToTheColumnsOfTheParameterList) {
 TEST_F(DataSets, AreNumberedWithinTheirGroupInAnOverlappedRun) {
   Run.Session.OverlapNum = 4;
   for (const char* mode : {"Trace", "Sim"}) {
-    Run.Session.Mode = mode;
+    Run.Session.Mode = ModeOf(mode);
     (std::string(mode) == "Sim" ? Run.Options.SimHeader : Run.Options.TraceHeader).TitleText = "Title";
     struct Case {
       const char* Suffix;

@@ -293,7 +293,7 @@ TEST_F(Cover, IsTheFirstPageOfAPrintAndItsFooterFollowsThePagesFlag) {
   const TempFolder folder;
   folder.Write("User.tmp", "");
   Run.Session.TempFolder = folder.SystemPath();
-  Run.Session.Mode = "User";
+  Run.Session.Mode = Mode::User;
   Options.Cover = 1;
   Options.UserOption = {1, 1, 1, 1, 1};
   Options.UserHeader = {1, 1, 1, 1, 1, "Parameters"};

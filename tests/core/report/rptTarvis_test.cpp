@@ -25,7 +25,7 @@ std::string UserFile(int parameters) {
 
 struct MasterReport : HostRun {
   MasterReport() {
-    Session.Mode = "User";
+    Session.Mode = Mode::User;
     Options.UserHeader = {1, 1, 1, 1, 1, "Parameters"};
     Options.UserOption = {1, 1, 1, 1, 1};
     Options.TraceHeader = {1, 1, 1, 1, 1, "Tracing"};
@@ -35,7 +35,7 @@ struct MasterReport : HostRun {
   // Loads the data set of `mode` from an empty file and returns the module list.
   std::vector<std::string> ModulesOf(const std::string& mode, const std::string& file,
                                      bool overlapResult = false) {
-    Session.Mode = mode;
+    Session.Mode = ModeOf(mode);
     Folder.Write(file, "");
     LoadFunctionDataSet(Report.Run, {}, overlapResult);
     std::vector<std::string> names;
@@ -130,7 +130,7 @@ TEST_F(MasterReport, ListsTheReportsOfEachFunctionByItsOptionElements) {
 
 TEST_F(MasterReport, ListsTheSimulationReportsByPatternKind) {
   Options.SimOption = {1, 1, 1, 1, 1, 0, 0, 0, 0, 1, 0, 0, 0};
-  Session.Mode = "Sim";
+  Session.Mode = Mode::Sim;
   Folder.Write("Sim.tmp", "PatternSetting,n,0,p,1\r\n");
   LoadFunctionDataSet(Report.Run, {}, false);
   EXPECT_EQ(Session.ModuleNames[3], "rptSimRef1");
@@ -181,7 +181,7 @@ TEST_F(MasterReport, CopiesTheColumnSwitchesOfFunctionsWithParametersOnly) {
 }
 
 TEST_F(MasterReport, NamesAndGroupsOverlappedDataSets) {
-  Session.Mode = "Trace";
+  Session.Mode = Mode::Trace;
   Session.OverlapNum = 3;
   Options.TraceOption[8] = 1;
   for (const char* file : {"Trace.tmp", "Trace1.tmp", "Trace2.tmp", "Trace3.tmp"}) Folder.Write(file, "");
@@ -197,7 +197,7 @@ TEST_F(MasterReport, NamesAndGroupsOverlappedDataSets) {
 }
 
 TEST_F(MasterReport, AnOverlapResultWithoutDetailsHasNoGroup) {
-  Session.Mode = "Sim";
+  Session.Mode = Mode::Sim;
   Folder.Write("Sim.tmp", "");
   LoadFunctionDataSet(Report.Run, {}, true);
   EXPECT_EQ(Session.ActiveHeader.TitleText, "Dynamics Simulation-Overlapping result");
@@ -216,7 +216,7 @@ TEST_F(MasterReport, AWrongFileEndsTheRunWithTheNumberOfItsFunction) {
       {"ZoneTbl", "Zone Table File is wrong."},
       {"JogTbl", "Jog Speed Table File is wrong."}};
   for (const auto& [mode, message] : modes) {
-    Session.Mode = mode;
+    Session.Mode = ModeOf(mode);
     EXPECT_THROW(LoadFunctionDataSet(Report.Run, {}, false), RunEnded) << mode;
     EXPECT_EQ(Report.Desktop.Messages.back(),
               "Printing Error|" + message + "\nPrinting Process is canceled.");
@@ -234,7 +234,7 @@ std::shared_ptr<ActiveReport> BoxReport(const std::string& name, ReportContext) 
 
 struct OverlappedTrace : MasterReport {
   OverlappedTrace() {
-    Session.Mode = "Trace";
+    Session.Mode = Mode::Trace;
     Session.OverlapMode = 1;
     Session.OverlapNum = 2;
     Options.TraceOption[8] = 1;
@@ -282,7 +282,7 @@ TEST_F(OverlappedTrace, ModeZeroPrintsOneOrdinarySet) {
 TEST_F(OverlappedTrace, ACoverComesFirst) {
   Options.Cover = 1;
   // The cover of this test doesn't count itself as finished, as the real one does.
-  Session.Mode = "User";
+  Session.Mode = Mode::User;
   Folder.Write("User.tmp", "");
   EXPECT_THAT(Compose(), ElementsAre("1: rptCover", "2: rptUserPrm rptUserComment"));
 }

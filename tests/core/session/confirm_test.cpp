@@ -17,14 +17,14 @@ struct Confirm : testing::Test, TestRun {
     Run.Session.TempFolder = Folder.SystemPath();
     Run.Session.HostEdition = 1;
     Run.Session.HostVersion = "200";
-    Run.Session.Mode = "User";
+    Run.Session.Mode = Mode::User;
     DefaultPrintOptions(Run);
   }
 
   // The failure that a mode of an edition ends with, as the user reads it.
   std::string FailureOf(const std::string& mode, std::int16_t edition, const std::string& version) {
     Desktop = {};
-    Run.Session.Mode = mode;
+    Run.Session.Mode = ModeOf(mode);
     Run.Session.HostEdition = edition;
     Run.Session.HostVersion = version;
     EXPECT_THROW(ConfirmKeptOptions(Run), RunEnded);
@@ -47,7 +47,7 @@ TEST_F(Confirm, RefusesWhatTheDialogRefuses) {
   EXPECT_EQ(FailureOf("UPWizard", 2, ""), wrongArgument);
   EXPECT_EQ(FailureOf("IdxTbl", 2, ""),
             "Printing Error|Program Table File is wrong.\nPrinting Process is canceled.");
-  Run.Session.Mode = "Mecha";
+  Run.Session.Mode = Mode::Mecha;
   Run.Session.HostEdition = 1;
   Run.Session.HostVersion = "100";
   EXPECT_EQ(RunTimeFailureOf([this] { ConfirmKeptOptions(Run); }),
