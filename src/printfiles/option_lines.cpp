@@ -108,6 +108,12 @@ OptionLine List(std::string_view key, Parts&... parts) {
           }};
 }
 
+template <typename Element>
+OptionLine Elements(std::string_view key, OptionElements<Element>& elements) {
+  typename OptionElements<Element>::Values& values = elements;
+  return List(key, values);
+}
+
 OptionLine Header(std::string_view key, HeaderOptions& header) {
   return List(key, header.Title, header.ModelsInfo, header.PrintDate, header.FileName, header.Pages,
               header.TitleText);
@@ -118,32 +124,33 @@ OptionLine AcceptedOnly(std::string_view key) {
           [](const std::int16_t&) { return std::nullopt; }};
 }
 
-// Reads the elements of `numbers` from `first` to `last`, counted from 1.
-template <std::size_t Count>
-void ReadElements(std::array<std::int16_t, Count>& numbers, std::size_t first, std::size_t last,
-                  LineValue& value) {
-  for (std::size_t element = first; element <= last; ++element) value.Fields(numbers.at(element - 1));
+template <typename Element>
+void ReadElements(OptionElements<Element>& elements, Element first, Element last, LineValue& value) {
+  for (int element = static_cast<int>(first); element <= static_cast<int>(last); ++element)
+    value.Fields(elements[static_cast<Element>(element)]);
 }
 
 // TraceOption and SimOption share the text of the former's element 9: SimOption asks whether it was empty
 // before it sets its own last elements. That stays so, whatever the line order makes of it.
 std::pair<OptionLine, OptionLine> TraceAndSimOption(PrintOptions& options) {
   const auto element9 = std::make_shared<std::string>();
-  OptionLine trace = List("TraceOption", options.TraceOption);
+  OptionLine trace = Elements("TraceOption", options.TraceOption);
   trace.Read = [&options, element9](LineValue& value) -> Refusal {
-    ReadElements(options.TraceOption, 1, 8, value);
+    ReadElements(options.TraceOption, TraceElement::Trigger, TraceElement::Comments, value);
     if (options.FileSpec <= NoTraceDetail) return Accepted;
     *element9 = value.Field();
-    if (!element9->empty()) options.TraceOption[8] = value.Number(*element9);
+    if (!element9->empty()) options.TraceOption[TraceElement::OverlapDetail] = value.Number(*element9);
     return Accepted;
   };
-  OptionLine sim = List("SimOption", options.SimOption);
+  OptionLine sim = Elements("SimOption", options.SimOption);
   sim.Read = [&options, element9](LineValue& value) -> Refusal {
-    ReadElements(options.SimOption, 1, 10, value);
+    ReadElements(options.SimOption, SimElement::Reference, SimElement::Comments, value);
     if (options.FileSpec <= NoSimComparison) {
-      options.SimOption[10] = options.SimOption[11] = options.SimOption[12] = 1;
+      options.SimOption[SimElement::TimeComparison] = 1;
+      options.SimOption[SimElement::ParameterComparison] = 1;
+      options.SimOption[SimElement::OverlapDetail] = 1;
     } else if (!element9->empty()) {
-      ReadElements(options.SimOption, 11, 13, value);
+      ReadElements(options.SimOption, SimElement::TimeComparison, SimElement::OverlapDetail, value);
     }
     return Accepted;
   };
@@ -189,15 +196,15 @@ void AddFunctions(std::vector<OptionLine>& lines, PrintOptions& options) {
   auto [traceOption, simOption] = TraceAndSimOption(options);
   IdxTblOptions& idxTbl = options.IdxTblOption;
   lines.push_back(Header("UserHeader", options.UserHeader));
-  lines.push_back(List("UserOption", options.UserOption));
+  lines.push_back(Elements("UserOption", options.UserOption));
   lines.push_back(Header("PrmWizHeader", options.PrmWizHeader));
   lines.push_back(AcceptedOnly("PrmWizOption"));
   lines.push_back(Header("TraceHeader", options.TraceHeader));
   lines.push_back(std::move(traceOption));
   lines.push_back(Header("RealTraceHeader", options.RealTraceHeader));
-  lines.push_back(List("RealTraceOption", options.RealTraceOption));
+  lines.push_back(Elements("RealTraceOption", options.RealTraceOption));
   lines.push_back(Header("MechaHeader", options.MechaHeader));
-  lines.push_back(List("MechaOption", options.MechaOption));
+  lines.push_back(Elements("MechaOption", options.MechaOption));
   lines.push_back(Header("SimHeader", options.SimHeader));
   lines.push_back(std::move(simOption));
   lines.push_back(Whole("ColorType", options.ColorType));

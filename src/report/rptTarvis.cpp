@@ -73,8 +73,8 @@ void rptTarvis::ActiveReport_ReportStart() {
 
 // Whether the detail print of overlapped data is on for the function in `Mode`.
 bool rptTarvis::DetailIsOn() const {
-  if (Run.Session.Mode == Mode::Trace) return Run.Options.TraceOption[8] == 1;
-  return Run.Session.Mode == Mode::Sim && Run.Options.SimOption[12] == 1;
+  if (Run.Session.Mode == Mode::Trace) return Run.Options.TraceOption.IsOn(TraceElement::OverlapDetail);
+  return Run.Session.Mode == Mode::Sim && Run.Options.SimOption.IsOn(SimElement::OverlapDetail);
 }
 
 void rptTarvis::ActiveReport_FetchData(bool& endOfData) {

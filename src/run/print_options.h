@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -27,7 +28,64 @@ struct IdxTblOptions {
   std::int16_t Comment = 0;  // element 4
 };
 
-// Elements of an option key are counted from 1: element n is index n - 1 of its array.
+// The elements of an option key, in the order in which they stand on its line, counted from 1.
+enum class UserElement { Name = 1, Switches, Unit, Default, Comments, Last = Comments };
+enum class TraceElement {
+  Trigger = 1,
+  Date,
+  Parameters,
+  Name,
+  Switches,
+  Unit,
+  Default,
+  Comments,
+  OverlapDetail,
+  Last = OverlapDetail
+};
+enum class RealTraceElement {
+  Info = 1,
+  Parameters,
+  Name,
+  Switches,
+  Unit,
+  Default,
+  Comments,
+  Last = Comments
+};
+enum class MechaElement { Resonance = 1, Notch, Measurement, Date, Comments, Last = Comments };
+enum class SimElement {
+  Reference = 1,
+  ServoAndMotor,
+  Mechanics,
+  Date,
+  Parameters,
+  Name,
+  Switches,
+  Unit,
+  Default,
+  Comments,
+  TimeComparison,
+  ParameterComparison,
+  OverlapDetail,
+  Last = OverlapDetail
+};
+
+template <typename Element>
+inline constexpr std::size_t ElementCount = static_cast<std::size_t>(Element::Last);
+
+// The values of an option key, 1 on and 0 off. They can also be reached by index, which counts from 0.
+template <typename Element>
+struct OptionElements : std::array<std::int16_t, ElementCount<Element>> {
+  using Values = std::array<std::int16_t, ElementCount<Element>>;
+  using Values::operator[];
+
+  std::int16_t& operator[](Element element) { return (*this)[static_cast<std::size_t>(element) - 1]; }
+  const std::int16_t& operator[](Element element) const {
+    return (*this)[static_cast<std::size_t>(element) - 1];
+  }
+  bool IsOn(Element element) const { return (*this)[element] == 1; }
+};
+
 struct PrintOptions {
   std::int16_t FileSpec = 0;
   std::string FileType;
@@ -49,16 +107,16 @@ struct PrintOptions {
   std::string Greeting;
   std::int16_t ColorType = 0;
   HeaderOptions UserHeader;
-  std::array<std::int16_t, 5> UserOption{};
+  OptionElements<UserElement> UserOption{};
   HeaderOptions PrmWizHeader;
   HeaderOptions TraceHeader;
-  std::array<std::int16_t, 9> TraceOption{};
+  OptionElements<TraceElement> TraceOption{};
   HeaderOptions RealTraceHeader;
-  std::array<std::int16_t, 7> RealTraceOption{};
+  OptionElements<RealTraceElement> RealTraceOption{};
   HeaderOptions MechaHeader;
-  std::array<std::int16_t, 5> MechaOption{};
+  OptionElements<MechaElement> MechaOption{};
   HeaderOptions SimHeader;
-  std::array<std::int16_t, 13> SimOption{};
+  OptionElements<SimElement> SimOption{};
   HeaderOptions IdxTblHeader;
   IdxTblOptions IdxTblOption;
   HeaderOptions ZoneTblHeader;

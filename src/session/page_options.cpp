@@ -7,7 +7,8 @@
 namespace tarvis {
 namespace {
 
-constexpr std::size_t WithoutComparison = 10;  // elements of SimOption where nothing is compared
+// Elements of SimOption where nothing is compared.
+constexpr auto WithoutComparison = static_cast<std::size_t>(SimElement::Comments);
 
 using Marks = std::vector<const std::int16_t*>;
 

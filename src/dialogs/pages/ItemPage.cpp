@@ -22,6 +22,9 @@ constexpr int RuleGap = 90;  // twips between a heading and its rule, and betwee
 
 using HeaderElement = std::int16_t HeaderOptions::*;
 
+// Of the option keys of the tables.
+enum class OnlyElement { Comments = 1 };
+
 struct HeaderBoxPlan {
   const char* Caption;
   HeaderElement Element;
@@ -126,7 +129,7 @@ std::vector<BoundBox> ItemPage::AddBoxes(QWidget* tab, std::initializer_list<Ite
   std::vector<BoundBox> made;
   for (const ItemBox& plan : boxes) {
     auto* box = new TickBox(plan.Name, plan.Index, plan.Caption, plan.Place, tab);
-    std::int16_t& element = elements[static_cast<std::size_t>(plan.Element - 1)];
+    std::int16_t& element = elements[static_cast<std::size_t>(plan.Element.Value - 1)];
     box->SetValue(1);
     connect(box, &TickBox::ValueChanged, this, [box, &element] { element = box->Value(); });
     made.push_back({plan.Name, plan.Index, box, &element});
@@ -138,7 +141,8 @@ std::vector<BoundBox> ItemPage::AddBoxes(QWidget* tab, std::initializer_list<Ite
 std::vector<BoundBox> ItemPage::AddComments(std::int16_t& element) {
   QWidget* tab = tabs_->Page(1);
   AddLabels(tab, {{"Label1", "Others", {150, 600, 495, 210}}});
-  return AddBoxes(tab, {{"chkItemEtc", NoFamily, "Comment&s", 1, {330, 840, 1485, 255}}}, {&element, 1});
+  return AddBoxes(tab, {{"chkItemEtc", NoFamily, "Comment&s", OnlyElement::Comments, {330, 840, 1485, 255}}},
+                  {&element, 1});
 }
 
 void ItemPage::LoadBoxes(const std::vector<BoundBox>& boxes) {

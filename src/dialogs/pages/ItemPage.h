@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <initializer_list>
 #include <span>
+#include <type_traits>
 #include <vector>
 
 #include "dialogs/controls/controls.h"
@@ -32,12 +33,21 @@ struct ItemLabel {
   Bounds Place;
 };
 
-// A check box of printing items and the element of the option key that it drives, counted from 1.
+// An element of whichever option key a page edits.
+struct ElementNumber {
+  template <typename Element>
+  requires std::is_enum_v<Element>
+  constexpr ElementNumber(Element element) : Value(static_cast<int>(element)) {}
+
+  int Value;  // counted from 1
+};
+
+// A check box of printing items and the element of the option key that it drives.
 struct ItemBox {
   const char* Name;
   int Index;  // NoFamily for a single box
   const char* Caption;
-  int Element;
+  ElementNumber Element;
   Bounds Place;
 };
 
