@@ -62,7 +62,7 @@ void ReadAndComposeWholeDocument(benchmark::State& state) {
   const ArialMeasurer measurer;
   double pages = 0;
   for (auto _ : state) {
-    rptTarvis report({bench.Run, bench.Pictures}, CreateFunctionReport, bench.Windows);
+    rptTarvis report({bench.Run, bench.Pictures}, AllFunctions(), CreateFunctionReport, bench.Windows);
     bench.Run.Session.MasterReport = &report;
     pages = static_cast<double>(Compose(report, PageSetup(), measurer).Pages.size());
   }

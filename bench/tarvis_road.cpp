@@ -51,7 +51,7 @@ class OwnRoad : public DocumentRoad {
   }
   void Compose() override {
     const QtTextMeasurer measurer;
-    rptTarvis report({run_, pictures_}, CreateFunctionReport, windows_);
+    rptTarvis report({run_, pictures_}, AllFunctions(), CreateFunctionReport, windows_);
     run_.Session.MasterReport = &report;
     document_ = tarvis::Compose(report, PageSetup(), measurer);
   }

@@ -1,16 +1,12 @@
-// What only shows when a file is used: on the pages of its function, or in the dialog of the options.
+// What only shows when a data file is used: on the pages of its function.
 #pragma once
+
+#include "report/data_set.h"
 
 namespace tarvis {
 
-struct PrintRun;
-
-// Makes the pages of the data file that was read last, each report with all that it can print. `Mode` and the
-// overlap of the session say which reports. What would stop the program there is a RunTimeFailure; pictures
-// are not looked for.
-void MakePages(PrintRun& run, bool overlapResult);
-
-// Stops at a number of the options that nothing in the dialog or on the pages can show.
-void RequireChoices(PrintRun& run);
+// Makes the pages of the data file that was read last, each report with all that it can print. What would
+// stop the program there is a RunTimeFailure; pictures are not looked for.
+void MakePages(PrintRun& run, const PrintFunction& function, DataSetKind kind);
 
 }  // namespace tarvis

@@ -49,18 +49,20 @@ QtProgramWindows::QtProgramWindows(PrintRun& run)
 QtProgramWindows::~QtProgramWindows() = default;
 
 void QtProgramWindows::ShowPrintSetting() {
-  const PrintSettingServices services{.ShowPrintPreview = [this] { ShowPrintPreview(run_, *this); },
-                                      .SetHelp =
-                                          [this](const std::string& helpFile, std::int32_t helpContextId) {
-                                            help_.SetHelpFile(helpFile);
-                                            help_.SetContext(helpContextId);
-                                          }};
+  const PrintSettingServices services{
+      .ShowPrintPreview = [this] { ShowPrintPreview(run_, AllFunctions(), *this); },
+      .SetHelp =
+          [this](const std::string& helpFile, std::int32_t helpContextId) {
+            help_.SetHelpFile(helpFile);
+            help_.SetContext(helpContextId);
+          }};
   new PrintSetting(run_, services);  // it shows and deletes itself
 }
 
 void QtProgramWindows::ShowMasterReport() {
   pictures_.Forget();  // the host may have drawn them again
-  report_ = std::make_unique<rptTarvis>(ReportContext{run_, pictures_}, CreateFunctionReport, *this);
+  report_ = std::make_unique<rptTarvis>(ReportContext{run_, pictures_}, AllFunctions(), CreateFunctionReport,
+                                        *this);
   const std::shared_ptr<const Document> document =
       ComposeOnDefaultPaper(run_, *report_);  // fills caption and tools, too
   preview_ = std::make_unique<PreviewWindow>(document, SetupOf(*report_, run_.Header, memory_));

@@ -1,24 +1,22 @@
-// The data sets of a print: which file is read, which function reports follow, under which title and group.
+// The data sets of a print: loads a file and lists the function reports that print it.
 #pragma once
 
 #include <string>
 
+#include "report/print_function.h"
+
 namespace tarvis {
 
-struct PrintRun;
+// What is printed of a data file: the data themselves, or the comparison of all data sets that are laid over
+// each other.
+enum class DataSetKind { Data, OverlapResult };
 
-// Loads the data set of the function in `Mode` and fills module list, column switches, title and group of the
-// session. `suffix` is "" or the number of an overlapped set, `overlapResult` asks for the comparison over
-// the first file; both count for traces and simulations only. A file that is wrong ends the run with its
-// failure.
-void LoadFunctionDataSet(PrintRun& run, const std::string& suffix, bool overlapResult);
+// Loads a data set of `function` and fills module list, column switches, title and group of the session.
+// `suffix` is empty or the number of an overlapped data set. A file that is wrong ends the run with the
+// failure of the function.
+void LoadDataSet(PrintRun& run, const PrintFunction& function, const std::string& suffix, DataSetKind kind);
 
-// Lists the function reports that `Mode` prints of the data file that was read last, with their column
-// switches.
-void ListFunctionModules(PrintRun& run, bool overlapResult);
-
-// Stores the highest index of the module list, keeping the names that are there.
-void SetModuleCount(PrintRun& run, int last);
-void SetModuleName(PrintRun& run, int index, const std::string& name);
+// Lists the function reports that print the data file that was read last, with their column switches.
+void ListModules(PrintRun& run, const PrintFunction& function, DataSetKind kind);
 
 }  // namespace tarvis

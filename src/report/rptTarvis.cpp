@@ -1,50 +1,23 @@
 #include "report/rptTarvis.h"
 
-#include <array>
-
 #include "report/data_set.h"
 #include "report/rptBaseHeader.h"
 #include "run/failures.h"
 
 namespace tarvis {
-namespace {
 
-using HeaderOfMode = HeaderOptions PrintOptions::*;
-
-struct ModeHeader {
-  tarvis::Mode Mode;
-  HeaderOfMode Header;
-};
-
-constexpr std::array<ModeHeader, 9> ModeHeaders{{
-    {Mode::User, &PrintOptions::UserHeader},
-    {Mode::UPWizard, &PrintOptions::PrmWizHeader},
-    {Mode::Trace, &PrintOptions::TraceHeader},
-    {Mode::RealTrace, &PrintOptions::RealTraceHeader},
-    {Mode::Mecha, &PrintOptions::MechaHeader},
-    {Mode::Sim, &PrintOptions::SimHeader},
-    {Mode::IdxTbl, &PrintOptions::IdxTblHeader},
-    {Mode::ZoneTbl, &PrintOptions::ZoneTblHeader},
-    {Mode::JogTbl, &PrintOptions::JogTblHeader},
-}};
-
-void SelectHeaderOptions(PrintRun& run, const HeaderOptions& record) {
-  run.Session.ActiveHeader = record;
-}
-
-}  // namespace
-
-void ShowPrintPreview(PrintRun& run, ProgramWindows& windows) {
+void ShowPrintPreview(PrintRun& run, FunctionTable functions, ProgramWindows& windows) {
   windows.SetHelpFile({});
-  for (const ModeHeader& entry : ModeHeaders) {
-    if (run.Session.Mode == entry.Mode) SelectHeaderOptions(run, run.Options.*entry.Header);
-  }
+  if (const PrintFunction* function = FindFunction(functions, run.Session.Mode))
+    run.Session.ActiveHeader = run.Options.*function->Header;
   windows.ShowMasterReport();
 }
 
-rptTarvis::rptTarvis(ReportContext context, ReportFactory factory, ProgramWindows& windows)
+rptTarvis::rptTarvis(ReportContext context, FunctionTable functions, ReportFactory factory,
+                     ProgramWindows& windows)
     : ActiveReport("rptTarvis", MasterPrintWidth),
       context_(context),
+      functions_(functions),
       factory_(std::move(factory)),
       windows_(windows) {
   Caption = "Print Preview";
@@ -56,6 +29,7 @@ rptTarvis::rptTarvis(ReportContext context, ReportFactory factory, ProgramWindow
 
 void rptTarvis::ActiveReport_ReportStart() {
   PrintSession& session = Run.Session;
+  function_ = FindFunction(functions_, session.Mode);
   ModuleIndex = 0;
   ModuleCount = 1;
   Tools.push_back({"Editing of the Printing Items", 0});
@@ -71,10 +45,12 @@ void rptTarvis::ActiveReport_ReportStart() {
   TOCWidth = 2300;
 }
 
-// Whether the detail print of overlapped data is on for the function in `Mode`.
+bool rptTarvis::Overlaps() const {
+  return function_ != nullptr && function_->Overlap != nullptr;
+}
+
 bool rptTarvis::DetailIsOn() const {
-  if (Run.Session.Mode == Mode::Trace) return Run.Options.TraceOption.IsOn(TraceElement::OverlapDetail);
-  return Run.Session.Mode == Mode::Sim && Run.Options.SimOption.IsOn(SimElement::OverlapDetail);
+  return Overlaps() && function_->Overlap->PrintsDetail(Run.Options);
 }
 
 void rptTarvis::ActiveReport_FetchData(bool& endOfData) {
@@ -86,7 +62,7 @@ void rptTarvis::ActiveReport_FetchData(bool& endOfData) {
   if (Run.Options.Cover == 1 && ModuleIndex == 0) {
     sbrModule.object = factory_("rptCover", context_);
   } else if (PassGate()) {
-    LoadDataSet();
+    LoadNextDataSet();
     sbrModule.object = std::make_shared<rptBaseHeader>(context_, factory_);
   } else {
     sbrModule.object.reset();
@@ -95,11 +71,10 @@ void rptTarvis::ActiveReport_FetchData(bool& endOfData) {
   ++ModuleIndex;
 }
 
-// The data sets of a trace or simulation share one record: the next file waits until the report before it has
-// reached its end. With an engine that runs sub-reports to their end the gate never closes; twice in a row
-// would be for ever.
+// Overlapped data sets share one record: the next file waits until the report before it has reached its end.
+// With an engine that runs sub-reports to their end the gate never closes; twice in a row would be for ever.
 bool rptTarvis::PassGate() {
-  if (Run.Session.Mode != Mode::Trace && Run.Session.Mode != Mode::Sim) return true;
+  if (!Overlaps()) return true;
   const bool open = ModuleIndex <= Run.Session.FinishedReports;
   if (!open && gateWasClosed_) {
     throw RunTimeFailure("the report before has not reached its end",
@@ -109,13 +84,12 @@ bool rptTarvis::PassGate() {
   return open;
 }
 
-void rptTarvis::LoadDataSet() {
-  if (Run.Session.Mode != Mode::Trace && Run.Session.Mode != Mode::Sim) {
-    LoadFunctionDataSet(Run, {}, false);
-    return;
-  }
-  const bool overlapResult = OverlapIndex == 0 && Run.Session.OverlapMode != 0;
-  LoadFunctionDataSet(Run, OverlapIndex == 0 ? std::string() : std::to_string(OverlapIndex), overlapResult);
+void rptTarvis::LoadNextDataSet() {
+  if (function_ == nullptr) return;
+  if (!Overlaps()) return LoadDataSet(Run, *function_, {}, DataSetKind::Data);
+  const bool isResult = OverlapIndex == 0 && Run.Session.OverlapMode != 0;
+  LoadDataSet(Run, *function_, OverlapIndex == 0 ? std::string() : std::to_string(OverlapIndex),
+              isResult ? DataSetKind::OverlapResult : DataSetKind::Data);
   ++OverlapIndex;
 }
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "report/report_context.h"
+#include "report/print_function.h"
 #include "run/print_run.h"
 
 namespace tarvis {
@@ -17,8 +17,8 @@ inline constexpr float MasterPrintWidth = 10000;  // twips
 
 class rptTarvis : public ActiveReport {
  public:
-  // `windows` must outlive the report.
-  rptTarvis(ReportContext context, ReportFactory factory, ProgramWindows& windows);
+  // `functions` and `windows` must outlive the report.
+  rptTarvis(ReportContext context, FunctionTable functions, ReportFactory factory, ProgramWindows& windows);
 
   void ActiveReport_ReportStart() override;
   void ActiveReport_FetchData(bool& endOfData) override;
@@ -32,16 +32,21 @@ class rptTarvis : public ActiveReport {
   void PageFooter_BeforePrint();
   void ShowPageNumbers(bool visible);
   bool PassGate();
-  void LoadDataSet();
+  void LoadNextDataSet();
+  // Whether the data sets of the function can be laid over each other.
+  bool Overlaps() const;
+  // Whether each of the overlapped data sets is printed after their result.
   bool DetailIsOn() const;
 
   ReportContext context_;
+  FunctionTable functions_;
   ReportFactory factory_;
   ProgramWindows& windows_;
   PrintRun& Run = context_.Run;
-  std::int16_t ModuleIndex = 0;   // rows done so far
-  std::int16_t ModuleCount = 0;   // rows wanted
-  std::int16_t OverlapIndex = 0;  // next data set of a trace or simulation print
+  const PrintFunction* function_ = nullptr;  // that prints; null if the mode has none
+  std::int16_t ModuleIndex = 0;              // rows done so far
+  std::int16_t ModuleCount = 0;              // rows wanted
+  std::int16_t OverlapIndex = 0;             // next of the overlapped data sets
   bool gateWasClosed_ = false;
 
   Section& PageHeader = AddSection(SectionKind::PageHeader, "PageHeader", 0);
@@ -56,6 +61,6 @@ class rptTarvis : public ActiveReport {
 };
 
 // Picks the header options of the function in `Mode` and shows the master report.
-void ShowPrintPreview(PrintRun& run, ProgramWindows& windows);
+void ShowPrintPreview(PrintRun& run, FunctionTable functions, ProgramWindows& windows);
 
 }  // namespace tarvis

@@ -46,8 +46,8 @@ struct ReportRun : TestRun {
 
   // The whole document of the function in `Mode`, from the data files in the temporary folder.
   Document ComposeMaster(const PageSetup& setup = {}) {
-    ShowPrintPreview(Run, Windows);
-    Master = std::make_unique<rptTarvis>(Context(), CreateFunctionReport, Windows);
+    ShowPrintPreview(Run, AllFunctions(), Windows);
+    Master = std::make_unique<rptTarvis>(Context(), AllFunctions(), CreateFunctionReport, Windows);
     Run.Session.MasterReport = Master.get();
     return Compose(*Master, setup, ArialMeasurer());
   }

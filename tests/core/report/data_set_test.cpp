@@ -15,13 +15,16 @@ using testing::ElementsAreArray;
 using Names = std::vector<std::string>;
 
 struct DataSets : HostRun {
-  Names ListOf(const std::string& mode, const std::string& file, bool overlapResult = false) {
-    WriteLines(file, {});
-    return ListOfFile(mode, overlapResult);
+  void Load(const std::string& suffix, DataSetKind kind = DataSetKind::Data) {
+    LoadDataSet(Run, *FindFunction(AllFunctions(), Run.Session.Mode), suffix, kind);
   }
-  Names ListOfFile(const std::string& mode, bool overlapResult = false) {
+  Names ListOf(const std::string& mode, const std::string& file, DataSetKind kind = DataSetKind::Data) {
+    WriteLines(file, {});
+    return ListOfFile(mode, kind);
+  }
+  Names ListOfFile(const std::string& mode, DataSetKind kind = DataSetKind::Data) {
     Run.Session.Mode = ModeOf(mode);
-    LoadFunctionDataSet(Run, {}, overlapResult);
+    Load({}, kind);
     Names names;
     for (int index = 0; index <= Run.Session.ModuleLast; ++index) {
       names.push_back(Run.Session.ModuleNames[index]);
@@ -102,9 +105,10 @@ TEST_F(DataSets, ListTheComparisonsOfAnOverlapResult) {
     Run.Session.OverlapNum = each.Simulations;
     Names expected{"rptSimGraph", "rptTraceObjrctOverlap"};
     expected.insert(expected.end(), each.Chosen.begin(), each.Chosen.end());
-    EXPECT_THAT(ListOf("Sim", "Sim.tmp", true), ElementsAreArray(expected));
+    EXPECT_THAT(ListOf("Sim", "Sim.tmp", DataSetKind::OverlapResult), ElementsAreArray(expected));
   }
-  EXPECT_THAT(ListOf("Trace", "Trace.tmp", true), ElementsAre("rptTraceGraph", "rptTraceObjrctOverlap"));
+  EXPECT_THAT(ListOf("Trace", "Trace.tmp", DataSetKind::OverlapResult),
+              ElementsAre("rptTraceGraph", "rptTraceObjrctOverlap"));
 }
 
 TEST_F(DataSets, ListATableByItsTypeAndItsComment) {
@@ -161,7 +165,7 @@ TEST_F(DataSets, AreNumberedWithinTheirGroupInAnOverlappedRun) {
                              Case{"2", "Title-Overlapping data", "Overlapping data 1/3"},
                              Case{"4", "Title-Overlapping data", "Overlapping data 3/3"}}) {
       WriteLines(std::string(mode) + each.Suffix + ".tmp", {});
-      LoadFunctionDataSet(Run, each.Suffix, false);
+      Load(each.Suffix);
       EXPECT_EQ(Run.Session.ActiveHeader.TitleText, each.Title);
       EXPECT_EQ(Run.Session.TocGroup, each.Group);
     }

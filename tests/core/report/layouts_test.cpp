@@ -133,7 +133,7 @@ struct Layout : testing::TestWithParam<std::string> {
   // The list of a data set spells one name differently.
   std::shared_ptr<ActiveReport> Create(const std::string& name) {
     if (name == "rptTarvis") {
-      return std::make_shared<rptTarvis>(Run.Context(), CreateFunctionReport, Run.Windows);
+      return std::make_shared<rptTarvis>(Run.Context(), AllFunctions(), CreateFunctionReport, Run.Windows);
     }
     if (name == "rptBaseHeader") return std::make_shared<rptBaseHeader>(Run.Context(), CreateFunctionReport);
     if (name == "rptCover") return std::make_shared<rptCover>(Run.Context());

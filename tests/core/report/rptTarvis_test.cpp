@@ -32,12 +32,15 @@ struct MasterReport : HostRun {
     Options.SimHeader = {1, 1, 1, 1, 1, "Dynamics Simulation"};
   }
 
+  void Load(const std::string& suffix, DataSetKind kind = DataSetKind::Data) {
+    LoadDataSet(Report.Run, *FindFunction(AllFunctions(), Session.Mode), suffix, kind);
+  }
   // Loads the data set of `mode` from an empty file and returns the module list.
   std::vector<std::string> ModulesOf(const std::string& mode, const std::string& file,
-                                     bool overlapResult = false) {
+                                     DataSetKind kind = DataSetKind::Data) {
     Session.Mode = ModeOf(mode);
     Folder.Write(file, "");
-    LoadFunctionDataSet(Report.Run, {}, overlapResult);
+    Load({}, kind);
     std::vector<std::string> names;
     for (int index = 0; index <= Session.ModuleLast; ++index) names.push_back(Session.ModuleNames[index]);
     return names;
@@ -132,10 +135,10 @@ TEST_F(MasterReport, ListsTheSimulationReportsByPatternKind) {
   Options.SimOption = {1, 1, 1, 1, 1, 0, 0, 0, 0, 1, 0, 0, 0};
   Session.Mode = Mode::Sim;
   Folder.Write("Sim.tmp", "PatternSetting,n,0,p,1\r\n");
-  LoadFunctionDataSet(Report.Run, {}, false);
+  Load({});
   EXPECT_EQ(Session.ModuleNames[3], "rptSimRef1");
   Folder.Write("Sim.tmp", "PatternSetting,n,0.5,p,1\r\n");
-  LoadFunctionDataSet(Report.Run, {}, false);
+  Load({});
   EXPECT_EQ(Session.ModuleNames[3], "rptSimRef2");
   EXPECT_EQ(Session.ModuleLast, 8);
 }
@@ -143,16 +146,17 @@ TEST_F(MasterReport, ListsTheSimulationReportsByPatternKind) {
 TEST_F(MasterReport, ListsTheComparisonsOfAnOverlappedSimulation) {
   Session.OverlapNum = 7;
   Options.SimOption = {};
-  EXPECT_THAT(ModulesOf("Sim", "Sim.tmp", true), ElementsAre("rptSimGraph", "rptTraceObjrctOverlap"));
+  EXPECT_THAT(ModulesOf("Sim", "Sim.tmp", DataSetKind::OverlapResult),
+              ElementsAre("rptSimGraph", "rptTraceObjrctOverlap"));
   Options.SimOption[10] = 1;
-  EXPECT_THAT(ModulesOf("Sim", "Sim.tmp", true),
+  EXPECT_THAT(ModulesOf("Sim", "Sim.tmp", DataSetKind::OverlapResult),
               ElementsAre("rptSimGraph", "rptTraceObjrctOverlap", "rptSimCmpFileList", "rptSimCmpTime"));
   Options.SimOption[10] = 0;
   Options.SimOption[11] = 1;
-  EXPECT_THAT(ModulesOf("Sim", "Sim.tmp", true),
+  EXPECT_THAT(ModulesOf("Sim", "Sim.tmp", DataSetKind::OverlapResult),
               ElementsAre("rptSimGraph", "rptTraceObjrctOverlap", "rptSimCmpFileList", "rptSimCmpUser"));
   Session.OverlapNum = 8;
-  EXPECT_EQ(ModulesOf("Sim", "Sim.tmp", true).back(), "rptSimCmpUserEx");
+  EXPECT_EQ(ModulesOf("Sim", "Sim.tmp", DataSetKind::OverlapResult).back(), "rptSimCmpUserEx");
 }
 
 TEST_F(MasterReport, AnUnknownTableTypeLeavesIndexZeroEmptyAlsoAfterAnotherPrint) {
@@ -172,7 +176,7 @@ TEST_F(MasterReport, CopiesTheColumnSwitchesOfFunctionsWithParametersOnly) {
   EXPECT_EQ(Session.ShowPrmUnit, 3);
   EXPECT_EQ(Session.ShowPrmDefault, 4);
   Options.TraceOption = {0, 0, 0, 5, 6, 7, 8, 0, 0};
-  ModulesOf("Trace", "Trace.tmp", true);
+  ModulesOf("Trace", "Trace.tmp", DataSetKind::OverlapResult);
   EXPECT_EQ(Session.ShowPrmName, 1) << "the overlap result copies nothing";
   ModulesOf("Trace", "Trace.tmp");
   EXPECT_EQ(Session.ShowPrmSwitches, 6);
@@ -185,13 +189,13 @@ TEST_F(MasterReport, NamesAndGroupsOverlappedDataSets) {
   Session.OverlapNum = 3;
   Options.TraceOption[8] = 1;
   for (const char* file : {"Trace.tmp", "Trace1.tmp", "Trace2.tmp", "Trace3.tmp"}) Folder.Write(file, "");
-  LoadFunctionDataSet(Report.Run, {}, true);
+  Load({}, DataSetKind::OverlapResult);
   EXPECT_EQ(Session.ActiveHeader.TitleText, "Tracing-Overlapping result");
   EXPECT_EQ(Session.TocGroup, "Overlapping result");
-  LoadFunctionDataSet(Report.Run, "1", false);
+  Load("1");
   EXPECT_EQ(Session.ActiveHeader.TitleText, "Tracing-Overlapping target");
   EXPECT_EQ(Session.TocGroup, "Overlapping target");
-  LoadFunctionDataSet(Report.Run, "3", false);
+  Load("3");
   EXPECT_EQ(Session.ActiveHeader.TitleText, "Tracing-Overlapping data") << "titles don't pile up";
   EXPECT_EQ(Session.TocGroup, "Overlapping data 2/2");
 }
@@ -199,7 +203,7 @@ TEST_F(MasterReport, NamesAndGroupsOverlappedDataSets) {
 TEST_F(MasterReport, AnOverlapResultWithoutDetailsHasNoGroup) {
   Session.Mode = Mode::Sim;
   Folder.Write("Sim.tmp", "");
-  LoadFunctionDataSet(Report.Run, {}, true);
+  Load({}, DataSetKind::OverlapResult);
   EXPECT_EQ(Session.ActiveHeader.TitleText, "Dynamics Simulation-Overlapping result");
   EXPECT_EQ(Session.TocGroup, "");
 }
@@ -217,7 +221,7 @@ TEST_F(MasterReport, AWrongFileEndsTheRunWithTheNumberOfItsFunction) {
       {"JogTbl", "Jog Speed Table File is wrong."}};
   for (const auto& [mode, message] : modes) {
     Session.Mode = ModeOf(mode);
-    EXPECT_THROW(LoadFunctionDataSet(Report.Run, {}, false), RunEnded) << mode;
+    EXPECT_THROW(Load({}), RunEnded) << mode;
     EXPECT_EQ(Report.Desktop.Messages.back(),
               "Printing Error|" + message + "\nPrinting Process is canceled.");
   }
@@ -241,8 +245,8 @@ struct OverlappedTrace : MasterReport {
     for (const char* file : {"Trace.tmp", "Trace1.tmp", "Trace2.tmp"}) Folder.Write(file, "");
   }
   std::vector<std::string> Compose() {
-    ShowPrintPreview(Report.Run, Report.Windows);
-    rptTarvis master(Report.Context(), BoxReport, Report.Windows);
+    ShowPrintPreview(Report.Run, AllFunctions(), Report.Windows);
+    rptTarvis master(Report.Context(), AllFunctions(), BoxReport, Report.Windows);
     const Document document = tarvis::Compose(master, PageSetup{}, ArialMeasurer());
     std::vector<std::string> places;
     for (std::size_t page = 0; page < document.Pages.size(); ++page) {
@@ -331,7 +335,7 @@ TEST_F(MasterReport, CloseToolAndClosingByTheUserEndTheRun) {
 }
 
 TEST_F(MasterReport, ShowingThePreviewClearsTheHelpFileAndPicksTheHeaderOptions) {
-  ShowPrintPreview(Report.Run, Report.Windows);
+  ShowPrintPreview(Report.Run, AllFunctions(), Report.Windows);
   EXPECT_THAT(Report.Windows.Calls, ElementsAre("help:", "preview"));
   EXPECT_EQ(Session.ActiveHeader.TitleText, "Parameters");
 }
