@@ -15,8 +15,6 @@
 namespace tarvis {
 namespace {
 
-constexpr std::string_view OptionsStem = "PrintOption";
-constexpr std::string_view OptionsExtension = ".ToT";
 constexpr std::string_view DataExtension = ".tmp";
 
 // What the name of a file says.
@@ -24,21 +22,20 @@ struct FileName {
   std::string_view Folder;  // with its last backslash or slash
   std::string_view Name;
 
-  bool IsOptions() const { return IsNumbered(OptionsStem, OptionsExtension, ""); }
+  bool IsOptions() const { return Name == OptionsFile; }
   // The data file of the function, or one of its overlapped data sets such as Trace1.tmp.
   bool IsOf(const PrintFunction& function) const {
-    return IsNumbered(function.File, DataExtension, function.Overlap == nullptr ? "" : "0123456789");
+    return IsNumbered(function.File, function.Overlap == nullptr ? "" : "0123456789");
   }
-  bool IsMainFileOf(const PrintFunction& function) const {
-    return IsNumbered(function.File, DataExtension, "");
-  }
+  bool IsMainFileOf(const PrintFunction& function) const { return IsNumbered(function.File, ""); }
 
  private:
-  // Whether the name is `stem`, a number of `digits` without leading zero or nothing, and `extension`.
-  bool IsNumbered(std::string_view stem, std::string_view extension, std::string_view digits) const {
-    if (Name.size() < stem.size() + extension.size()) return false;
-    if (!Name.starts_with(stem) || !Name.ends_with(extension)) return false;
-    const std::string_view number = Name.substr(stem.size(), Name.size() - stem.size() - extension.size());
+  // Whether the name is `stem`, a number of `digits` without leading zero or nothing, and the extension.
+  bool IsNumbered(std::string_view stem, std::string_view digits) const {
+    if (Name.size() < stem.size() + DataExtension.size()) return false;
+    if (!Name.starts_with(stem) || !Name.ends_with(DataExtension)) return false;
+    const std::size_t digitCount = Name.size() - stem.size() - DataExtension.size();
+    const std::string_view number = Name.substr(stem.size(), digitCount);
     return number.find_first_not_of(digits) == std::string_view::npos && !number.starts_with('0');
   }
 };

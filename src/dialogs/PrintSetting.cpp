@@ -185,7 +185,7 @@ void PrintSetting::OkClicked() {
   if (!guard_->Enter(*cmdOK_)) return;
   StampOptions(run_);
   // Printing goes on even if the file can't be written.
-  static_cast<void>(WritePrintOptionsFile(run_, run_.Session.SystemFolder + "PrintOption.ToT"));
+  static_cast<void>(WritePrintOptionsFile(run_, run_.Session.SystemFolder + OptionsFile));
   if (run_.Session.Mode == Mode::PrnSetting) EndRun(run_);
   const auto showPrintPreview = services_.ShowPrintPreview;  // outlives the dialog
   hide();

@@ -22,7 +22,7 @@ void ClearProgress(PrintSession& session) {
 }  // namespace
 
 void LoadPrintOptions(PrintRun& run) {
-  const std::string path = run.Session.SystemFolder + "PrintOption.ToT";
+  const std::string path = run.Session.SystemFolder + OptionsFile;
   if (FileExists(path)) return LoadPrintOptions(run, path);
   DefaultPrintOptions(run);
   ClearProgress(run.Session);

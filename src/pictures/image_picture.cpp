@@ -10,11 +10,10 @@
 
 #include "pictures/dib.h"
 #include "pictures/toolkit_image.h"
+#include "report/engine/units.h"
 
 namespace tarvis {
 namespace {
-
-constexpr float TwipsPerPixel = 15;  // at 96 pixels to the inch; only the proportion matters
 
 bool StartsWith(Bytes bytes, std::string_view start) {
   return bytes.size() >= start.size() && std::memcmp(bytes.data(), start.data(), start.size()) == 0;

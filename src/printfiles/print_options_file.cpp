@@ -13,7 +13,6 @@ namespace tarvis {
 namespace {
 
 constexpr std::int16_t FileSpec = 4;
-constexpr const char* OptionsFile = "PrintOption.ToT";
 
 HeaderOptions DefaultHeader(const char* title) {
   return {.Title = 1, .ModelsInfo = 1, .PrintDate = 1, .FileName = 1, .Pages = 1, .TitleText = title};

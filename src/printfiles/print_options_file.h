@@ -10,6 +10,9 @@ namespace tarvis {
 
 struct PrintRun;
 
+// In the system folder.
+inline constexpr const char* OptionsFile = "PrintOption.ToT";
+
 // Fills `Options` from the lines loaded last. A key that the file lacks leaves its field. False, with the
 // reason in the session's diagnosis, for a file that is refused; a strict number that fails throws
 // RunTimeFailure.

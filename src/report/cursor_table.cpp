@@ -1,11 +1,9 @@
 #include "report/cursor_table.h"
 
+#include "report/cell_styles.h"
+
 namespace tarvis {
-namespace {
-
-constexpr CellStyle RightAligned{.Alignment = Align::Right, .Border = true, .Filled = true};
-
-}  // namespace
+namespace {}  // namespace
 
 CursorTable::CursorTable(Section& ghGuide, Section& detail, const CursorLayout& layout)
     : txtTitleName(ghGuide.AddField("txtTitleName", layout.TitleName, TitleCell, "Name/Unit")),
@@ -13,9 +11,9 @@ CursorTable::CursorTable(Section& ghGuide, Section& detail, const CursorLayout& 
       txtTitleCurB(ghGuide.AddField("txtTitleCurB", layout.TitleCurB, TitleCell, "Cursor B")),
       txtTitleCurB_A(ghGuide.AddField("txtTitleCurB_A", layout.TitleCurB_A, TitleCell, "B-A")),
       txtValueName(detail.AddField("txtValueName", layout.ValueName, ValueCell)),
-      txtValueCurA(detail.AddField("txtValueCurA", layout.ValueCurA, RightAligned)),
-      txtValueCurB(detail.AddField("txtValueCurB", layout.ValueCurB, RightAligned)),
-      txtValueCurB_A(detail.AddField("txtValueCurB_A", layout.ValueCurB_A, RightAligned)) {}
+      txtValueCurA(detail.AddField("txtValueCurA", layout.ValueCurA, RightAlignedCell)),
+      txtValueCurB(detail.AddField("txtValueCurB", layout.ValueCurB, RightAlignedCell)),
+      txtValueCurB_A(detail.AddField("txtValueCurB_A", layout.ValueCurB_A, RightAlignedCell)) {}
 
 void CursorTable::Show(const CursorRow& row) {
   txtValueName.Text = row.NameUnit;

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "report/cell_styles.h"
 #include "report/report_context.h"
 #include "run/failures.h"
 #include "run/print_run.h"

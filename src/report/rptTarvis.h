@@ -9,10 +9,6 @@
 
 namespace tarvis {
 
-// IDs of the preview's tools that the master report handles.
-inline constexpr int EditItemsTool = 999;
-inline constexpr int CloseTool = 5113;
-
 inline constexpr float MasterPrintWidth = 10000;  // twips
 
 class rptTarvis : public ActiveReport {

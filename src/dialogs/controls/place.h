@@ -6,6 +6,8 @@
 #include <QRect>
 #include <QWidget>
 
+#include "report/engine/units.h"
+
 namespace tarvis {
 
 // Twips, relative to the container.
@@ -16,11 +18,10 @@ struct Bounds {
   int Height;
 };
 
-constexpr int TwipsPerPixel = 15;
 constexpr int DrawnFontPixels = 11;
 
 constexpr int Pixels(int twips, int fontPixels) {
-  constexpr int Divisor = TwipsPerPixel * DrawnFontPixels;
+  constexpr int Divisor = static_cast<int>(TwipsPerPixel) * DrawnFontPixels;
   return (twips * fontPixels + Divisor / 2) / Divisor;
 }
 

@@ -18,9 +18,6 @@ class SimCmpReport : public FunctionReport {
   // "Target", then "1", "2" and on.
   static std::string SimulationNo(int row) { return row == 0 ? "Target" : std::to_string(row); }
 
-  static constexpr CellStyle Centred{.Alignment = Align::Centre, .Border = true, .Filled = true};
-  static constexpr CellStyle RightAligned{.Alignment = Align::Right, .Border = true, .Filled = true};
-
   Section& ghGuide = AddGrowing(SectionKind::GroupHeader, "ghGuide", 420);
   Section& Detail = AddGrowing(SectionKind::Detail, "Detail", 300);
   Section& GroupFooter2 = AddGrowing(SectionKind::GroupFooter, "GroupFooter2", 10);

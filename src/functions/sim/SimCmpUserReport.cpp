@@ -11,7 +11,7 @@ SimCmpUserReport::SimCmpUserReport(const char* name, ReportContext context,
     txtTitleFile.push_back(&ghGuide.AddField(column.TitleControl, {column.Left, 142, column.Width, 283},
                                              TitleCell, column.Title));
     txtValueVal.push_back(
-        &Detail.AddField(column.ValueControl, {column.Left, 0, column.Width, 283}, RightAligned));
+        &Detail.AddField(column.ValueControl, {column.Left, 0, column.Width, 283}, RightAlignedCell));
   }
   // The titles go when the title band is formatted, before their own section.
   ghTitle.Format = [this] { HideColumnsBeyond(Run.Session.OverlapNum, txtTitleFile); };

@@ -24,7 +24,7 @@ class SimCmpUserReport : public SimCmpReport {
   SimCmpUserReport(const char* name, ReportContext context, std::span<const SimulationColumn> columns);
 
   Field& txtTitleNo = ghGuide.AddField("txtTitleNo", {142, 142, 708, 283}, TitleCell, "No.");
-  Field& txtValueNo = Detail.AddField("txtValueNo", {142, 0, 708, 283}, Centred);
+  Field& txtValueNo = Detail.AddField("txtValueNo", {142, 0, 708, 283}, CentredCell);
   std::vector<Field*> txtTitleFile;
   std::vector<Field*> txtValueVal;
 };

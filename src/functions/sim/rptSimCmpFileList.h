@@ -25,7 +25,7 @@ class rptSimCmpFileList : public SimCmpReport {
   Field& txtTitleOverlap =
       ghGuide.AddField("txtTitleOverlap", {850, 142, 2410, 283}, TitleCell, "Overlapping");
   Field& txtTitleFile = ghGuide.AddField("txtTitleFile", {3260, 142, 5669, 283}, TitleCell, "File name");
-  Field& txtValNo = Detail.AddField("txtValNo", {138, 0, 708, 283}, Centred);
+  Field& txtValNo = Detail.AddField("txtValNo", {138, 0, 708, 283}, CentredCell);
   Field& txtValueOverlap = Detail.AddField("txtValueOverlap", {850, 0, 2410, 283}, ValueCell);
   Field& txtValueFile = Detail.AddField("txtValueFile", {3260, 0, 5669, 283}, ValueCell);
 };

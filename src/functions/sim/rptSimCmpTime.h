@@ -26,9 +26,9 @@ class rptSimCmpTime : public SimCmpReport {
       ghGuide.AddField("txtTitleControl", {850, 142, 6378, 283}, TitleCell, "Control Mode");
   Field& txtTitleTime =
       ghGuide.AddField("txtTitleTime", {7228, 142, 1701, 283}, TitleCell, "Setting time [ms]");
-  Field& txtValNo = Detail.AddField("txtValNo", {142, 0, 708, 283}, Centred);
+  Field& txtValNo = Detail.AddField("txtValNo", {142, 0, 708, 283}, CentredCell);
   Field& txtValueControl = Detail.AddField("txtValueControl", {850, 0, 6378, 283}, ValueCell);
-  Field& txtValueTime = Detail.AddField("txtValueTime", {7228, 0, 1701, 283}, RightAligned);
+  Field& txtValueTime = Detail.AddField("txtValueTime", {7228, 0, 1701, 283}, RightAlignedCell);
 };
 
 }  // namespace tarvis

@@ -19,7 +19,6 @@ class rptSimRef1 : public SimRefReport {
   static constexpr std::array<PatternRow SimData::*, 8> Patterns{
       &SimData::StartTime,  &SimData::AccTime,      &SimData::RunTime,      &SimData::DecTime,
       &SimData::EndRefTime, &SimData::AccOffsetSpd, &SimData::DecOffsetSpd, &SimData::MaxSpd};
-  static constexpr CellStyle RightAligned{.Alignment = Align::Right, .Border = true, .Filled = true};
 
   void GroupFooter2_Format();
 
@@ -41,18 +40,18 @@ class rptSimRef1 : public SimRefReport {
 
   Section& Detail = AddGrowing(SectionKind::Detail, "Detail", 300);
   Field& txtValueName = Detail.AddField("txtValueName", {142, 0, 1984, 283}, ValueCell);
-  Field& txtValueUnit = Detail.AddField("txtValueUnit", {2126, 0, 567, 283}, RightAligned);
+  Field& txtValueUnit = Detail.AddField("txtValueUnit", {2126, 0, 567, 283}, RightAlignedCell);
   const std::array<Field*, Columns> txtValueVal{
-      &Detail.AddField("txtValueVal1", {2693, 0, 709, 283}, RightAligned),
-      &Detail.AddField("txtValueVal2", {3402, 0, 708, 283}, RightAligned),
-      &Detail.AddField("txtValueVal3", {4110, 0, 709, 283}, RightAligned),
-      &Detail.AddField("txtValueVal4", {4819, 0, 709, 283}, RightAligned),
-      &Detail.AddField("txtValueVal5", {5528, 0, 708, 283}, RightAligned),
-      &Detail.AddField("txtValueVal6", {6236, 0, 709, 283}, RightAligned),
-      &Detail.AddField("txtValueVal7", {6945, 0, 709, 283}, RightAligned),
-      &Detail.AddField("txtValueVal8", {7654, 0, 708, 283}, RightAligned),
-      &Detail.AddField("txtValueVal9", {8362, 0, 709, 283}, RightAligned),
-      &Detail.AddField("txtValueVal10", {9071, 0, 709, 283}, RightAligned),
+      &Detail.AddField("txtValueVal1", {2693, 0, 709, 283}, RightAlignedCell),
+      &Detail.AddField("txtValueVal2", {3402, 0, 708, 283}, RightAlignedCell),
+      &Detail.AddField("txtValueVal3", {4110, 0, 709, 283}, RightAlignedCell),
+      &Detail.AddField("txtValueVal4", {4819, 0, 709, 283}, RightAlignedCell),
+      &Detail.AddField("txtValueVal5", {5528, 0, 708, 283}, RightAlignedCell),
+      &Detail.AddField("txtValueVal6", {6236, 0, 709, 283}, RightAlignedCell),
+      &Detail.AddField("txtValueVal7", {6945, 0, 709, 283}, RightAlignedCell),
+      &Detail.AddField("txtValueVal8", {7654, 0, 708, 283}, RightAlignedCell),
+      &Detail.AddField("txtValueVal9", {8362, 0, 709, 283}, RightAlignedCell),
+      &Detail.AddField("txtValueVal10", {9071, 0, 709, 283}, RightAlignedCell),
   };
 
   Section& GroupFooter2 = AddGrowing(SectionKind::GroupFooter, "GroupFooter2", 1395);
@@ -62,11 +61,11 @@ class rptSimRef1 : public SimRefReport {
   Field& txtTitleUnitG = GroupFooter2.AddField("txtTitleUnitG", {6661, 283, 2268, 284}, TitleCell, "Unit");
   Field& txtValueNameG1 = GroupFooter2.AddField("txtValueNameG1", {142, 567, 3685, 283}, ValueCell, "Filter");
   Field& txtValueValG1 = GroupFooter2.AddField("txtValueValG1", {3827, 567, 2834, 283}, ValueCell);
-  Field& txtValueUnitG1 = GroupFooter2.AddField("txtValueUnitG1", {6661, 567, 2268, 283}, RightAligned);
+  Field& txtValueUnitG1 = GroupFooter2.AddField("txtValueUnitG1", {6661, 567, 2268, 283}, RightAlignedCell);
   Field& txtValueNameG2 =
       GroupFooter2.AddField("txtValueNameG2", {142, 850, 3685, 284}, ValueCell, "Filter Time");
   Field& txtValueValG2 = GroupFooter2.AddField("txtValueValG2", {3827, 850, 2834, 284}, ValueCell);
-  Field& txtValueUnitG2 = GroupFooter2.AddField("txtValueUnitG2", {6661, 850, 2268, 284}, RightAligned);
+  Field& txtValueUnitG2 = GroupFooter2.AddField("txtValueUnitG2", {6661, 850, 2268, 284}, RightAlignedCell);
   Section& GroupFooter1 = AddGrowing(SectionKind::GroupFooter, "GroupFooter1", 0);
 };
 

@@ -15,8 +15,6 @@ class rptSimRef2 : public SimRefReport {
  private:
   void RequireRoom() const;
 
-  static constexpr CellStyle RightAligned{.Alignment = Align::Right, .Border = true, .Filled = true};
-
   Section& ghGuide = AddGrowing(SectionKind::GroupHeader, "ghGuide", 420);
   Field& txtTitleNo = ghGuide.AddField("txtTitleNo", {142, 142, 708, 283}, TitleCell, "No");
   Field& txtTitleStartTime =
@@ -26,10 +24,10 @@ class rptSimRef2 : public SimRefReport {
   Field& txtTitleArrivalSpeed =
       ghGuide.AddField("txtTitleArrivalSpeed", {6236, 142, 2693, 283}, TitleCell, " Arrival Speed [min-1]");
   Section& Detail = AddGrowing(SectionKind::Detail, "Detail", 435);
-  Field& txtValNo = Detail.AddField("txtValNo", {142, 0, 708, 283}, RightAligned);
-  Field& txtValStartTime = Detail.AddField("txtValStartTime", {850, 0, 2693, 283}, RightAligned);
-  Field& txtValEndTime = Detail.AddField("txtValEndTime", {3543, 0, 2693, 283}, RightAligned);
-  Field& txtValArrivalSpeed = Detail.AddField("txtValArrivalSpeed", {6236, 0, 2693, 283}, RightAligned);
+  Field& txtValNo = Detail.AddField("txtValNo", {142, 0, 708, 283}, RightAlignedCell);
+  Field& txtValStartTime = Detail.AddField("txtValStartTime", {850, 0, 2693, 283}, RightAlignedCell);
+  Field& txtValEndTime = Detail.AddField("txtValEndTime", {3543, 0, 2693, 283}, RightAlignedCell);
+  Field& txtValArrivalSpeed = Detail.AddField("txtValArrivalSpeed", {6236, 0, 2693, 283}, RightAlignedCell);
   Section& GroupFooter2 = AddGrowing(SectionKind::GroupFooter, "GroupFooter2", 15);
   Section& GroupFooter1 = AddGrowing(SectionKind::GroupFooter, "GroupFooter1", 0);
 };

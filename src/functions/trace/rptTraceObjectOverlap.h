@@ -12,8 +12,6 @@ class rptTraceObjectOverlap : public FunctionReport {
   void ActiveReport_FetchData(bool& endOfData) override;
 
  private:
-  static constexpr CellStyle Centred{.Alignment = Align::Centre, .Border = true, .Filled = true};
-
   Section& ghGuide = AddGrowing(SectionKind::GroupHeader, "ghGuide", 420);
   Field& txtTitleCheck = ghGuide.AddField("txtTitleCheck", {142, 142, 1134, 283}, TitleCell, "Display");
   Field& txtTitleName = ghGuide.AddField("txtTitleName", {1276, 142, 4677, 283}, TitleCell, "Target");
@@ -21,7 +19,7 @@ class rptTraceObjectOverlap : public FunctionReport {
 
   Section& Detail = AddGrowing(SectionKind::Detail, "Detail", 300);
   // Stays empty: it is the cell around the check box.
-  Field& txtValueTrace = Detail.AddField("txtValueTrace", {142, 0, 1134, 283}, Centred);
+  Field& txtValueTrace = Detail.AddField("txtValueTrace", {142, 0, 1134, 283}, CentredCell);
   CheckBox& CheckValue = Detail.AddCheckBox("CheckValue", {567, 0, 283, 283});
   Field& txtValueName = Detail.AddField("txtValueName", {1276, 0, 4677, 283}, ValueCell);
   Field& txtValueUnit = Detail.AddField("txtValueUnit", {5953, 0, 1984, 283}, ValueCell);

@@ -17,8 +17,6 @@ class rptUserPrm : public FunctionReport {
 
  private:
   static constexpr int Groups = 4;
-  static constexpr CellStyle Centred{.Alignment = Align::Centre, .Border = true, .Filled = true};
-  static constexpr CellStyle RightAligned{.Alignment = Align::Right, .Border = true, .Filled = true};
   static constexpr CellStyle NoBorder{.Alignment = Align::Centre};
   static constexpr CellStyle Heading{.Border = true, .Filled = true, .Fill = 0xF0F0F0};
   static constexpr CellStyle Spacer{.Filled = true, .RoomOnly = true};
@@ -53,12 +51,12 @@ class rptUserPrm : public FunctionReport {
 
   Section& Detail = AddGrowing(SectionKind::Detail, "Detail", 3585);
   Shape& shapeNibble = Detail.AddShape("shapeNibble", {142, 142, 8810, 283});
-  Field& txtValueNo = Detail.AddField("txtValueNo", {142, 142, 708, 283}, Centred);
+  Field& txtValueNo = Detail.AddField("txtValueNo", {142, 142, 708, 283}, CentredCell);
   Field& txtValueNoReal = Detail.AddField("txtValueNoReal", {135, 135, 705, 285}, NoBorder);
   Field& txtValueName = Detail.AddField("txtValueName", {850, 142, 3827, 283}, ValueCell);
-  Field& txtValueVal = Detail.AddField("txtValueVal", {4677, 142, 1134, 283}, RightAligned);
+  Field& txtValueVal = Detail.AddField("txtValueVal", {4677, 142, 1134, 283}, RightAlignedCell);
   Field& txtValueUnit = Detail.AddField("txtValueUnit", {5805, 135, 1984, 285}, ValueCell);
-  Field& txtValueDefault = Detail.AddField("txtValueDefault", {7800, 285, 1134, 285}, RightAligned);
+  Field& txtValueDefault = Detail.AddField("txtValueDefault", {7800, 285, 1134, 285}, RightAlignedCell);
   Field& spaceNibbleTop = Detail.AddField("spaceNibbleTop", {992, 425, 7795, 142}, Spacer);
   // Holds a "1", which makes it grow by a line; the room below each framed block comes from that.
   Field& spaceNibbleBottom = Detail.AddField("spaceNibbleBottom", {283, 2835, 8504, 141}, BottomSpacer, "1");
@@ -69,10 +67,10 @@ class rptUserPrm : public FunctionReport {
       &Detail.AddField("txtPos3", {1134, 2268, 7653, 283}, Heading, "3"),
   };
   std::array<Field*, Groups> txtValueBitValue{
-      &Detail.AddField("txtValueBit0Value", {1134, 850, 567, 284}, Centred, "0"),
-      &Detail.AddField("txtValueBit1Value", {1134, 1417, 567, 284}, Centred, "1"),
-      &Detail.AddField("txtValueBit2Value", {1134, 1984, 567, 284}, Centred, "2"),
-      &Detail.AddField("txtValueBit3Value", {1134, 2551, 567, 284}, Centred, "3"),
+      &Detail.AddField("txtValueBit0Value", {1134, 850, 567, 284}, CentredCell, "0"),
+      &Detail.AddField("txtValueBit1Value", {1134, 1417, 567, 284}, CentredCell, "1"),
+      &Detail.AddField("txtValueBit2Value", {1134, 1984, 567, 284}, CentredCell, "2"),
+      &Detail.AddField("txtValueBit3Value", {1134, 2551, 567, 284}, CentredCell, "3"),
   };
   std::array<Field*, Groups> txtValueBitName{
       &Detail.AddField("txtValueBit0Name", {1701, 850, 7086, 284}, ValueCell),

@@ -18,7 +18,6 @@ class rptUserSwitch : public FunctionReport {
 
  private:
   static constexpr std::size_t Rows = 4;
-  static constexpr CellStyle Centred{.Alignment = Align::Centre, .Border = true, .Filled = true};
 
   void ghGuide_BeforePrint();
   void Detail_Format();
@@ -40,15 +39,15 @@ class rptUserSwitch : public FunctionReport {
   Field& txtTitleDefault = ghGuide.AddField("txtTitleDefault", {8085, 135, 855, 285}, TitleCell, "Default");
 
   Section& Detail = AddGrowing(SectionKind::Detail, "Detail", 3225);
-  Field& txtValueNo = Detail.AddField("txtValueNo", {135, 135, 855, 285}, Centred);
+  Field& txtValueNo = Detail.AddField("txtValueNo", {135, 135, 855, 285}, CentredCell);
   Field& txtValueName = Detail.AddField("txtValueName", {990, 135, 6240, 285}, ValueCell);
-  Field& txtValueVal = Detail.AddField("txtValueVal", {7230, 135, 855, 285}, Centred);
-  Field& txtValueDefault = Detail.AddField("txtValueDefault", {8085, 135, 855, 285}, Centred);
+  Field& txtValueVal = Detail.AddField("txtValueVal", {7230, 135, 855, 285}, CentredCell);
+  Field& txtValueDefault = Detail.AddField("txtValueDefault", {8085, 135, 855, 285}, CentredCell);
   std::array<Field*, Rows> txtPos{
-      &Detail.AddField("txtPos0", {990, 420, 855, 570}, Centred, "0"),
-      &Detail.AddField("txtPos1", {990, 990, 855, 570}, Centred, "1"),
-      &Detail.AddField("txtPos2", {990, 1560, 855, 570}, Centred, "2"),
-      &Detail.AddField("txtPos3", {990, 2130, 855, 570}, Centred, "3"),
+      &Detail.AddField("txtPos0", {990, 420, 855, 570}, CentredCell, "0"),
+      &Detail.AddField("txtPos1", {990, 990, 855, 570}, CentredCell, "1"),
+      &Detail.AddField("txtPos2", {990, 1560, 855, 570}, CentredCell, "2"),
+      &Detail.AddField("txtPos3", {990, 2130, 855, 570}, CentredCell, "3"),
   };
   std::array<Field*, Rows> txtValueBitName{
       &Detail.AddField("txtValueBit0Name", {1845, 420, 5385, 570}, ValueCell),
@@ -57,16 +56,16 @@ class rptUserSwitch : public FunctionReport {
       &Detail.AddField("txtValueBit3Name", {1845, 2130, 5385, 570}, ValueCell),
   };
   std::array<Field*, Rows> txtValueBitVal{
-      &Detail.AddField("txtValueBit0Val", {7230, 420, 855, 570}, Centred),
-      &Detail.AddField("txtValueBit1Val", {7230, 990, 855, 570}, Centred),
-      &Detail.AddField("txtValueBit2Val", {7230, 1560, 855, 570}, Centred),
-      &Detail.AddField("txtValueBit3Val", {7230, 2130, 855, 570}, Centred),
+      &Detail.AddField("txtValueBit0Val", {7230, 420, 855, 570}, CentredCell),
+      &Detail.AddField("txtValueBit1Val", {7230, 990, 855, 570}, CentredCell),
+      &Detail.AddField("txtValueBit2Val", {7230, 1560, 855, 570}, CentredCell),
+      &Detail.AddField("txtValueBit3Val", {7230, 2130, 855, 570}, CentredCell),
   };
   std::array<Field*, Rows> txtValueBitDefault{
-      &Detail.AddField("txtValueBit0Default", {8085, 420, 855, 570}, Centred),
-      &Detail.AddField("txtValueBit1Default", {8085, 990, 855, 570}, Centred),
-      &Detail.AddField("txtValueBit2Default", {8085, 1560, 855, 570}, Centred),
-      &Detail.AddField("txtValueBit3Default", {8085, 2130, 855, 570}, Centred),
+      &Detail.AddField("txtValueBit0Default", {8085, 420, 855, 570}, CentredCell),
+      &Detail.AddField("txtValueBit1Default", {8085, 990, 855, 570}, CentredCell),
+      &Detail.AddField("txtValueBit2Default", {8085, 1560, 855, 570}, CentredCell),
+      &Detail.AddField("txtValueBit3Default", {8085, 2130, 855, 570}, CentredCell),
   };
 
   Section& GroupFooter2 = AddGrowing(SectionKind::GroupFooter, "GroupFooter2", 10);

@@ -18,7 +18,6 @@ class rptUPWizard : public FunctionReport {
   static constexpr std::size_t Relays = 7;
   static constexpr std::size_t OutNumbers = 3;
   static constexpr std::size_t OutNames = 6;
-  static constexpr CellStyle RightAligned{.Alignment = Align::Right};
   static constexpr CellStyle ServoName{.Size = 10, .Alignment = Align::Centre};
 
   void FillRelays();
@@ -62,21 +61,23 @@ class rptUPWizard : public FunctionReport {
   Label& lblControl = Detail.AddLabel("lblControl", {}, "Control Method");
   Field& txtControl = Detail.AddField("txtControl", {});
   Label& lblPGRatio = Detail.AddLabel("lblPGRatio", {}, "Encoder Dividing Ratio");
-  Field& txtPGRatio = Detail.AddField("txtPGRatio", {}, RightAligned);
+  Field& txtPGRatio = Detail.AddField("txtPGRatio", {}, RightAlignedText);
   Field& txtPGRatioUnit = Detail.AddField("txtPGRatioUnit", {}, {}, "[P/R]");
   const std::array<Field*, Relays> txtRyNumber{
       &Detail.AddField("txtRyNumber1", {}), &Detail.AddField("txtRyNumber2", {}),
       &Detail.AddField("txtRyNumber3", {}), &Detail.AddField("txtRyNumber4", {}),
       &Detail.AddField("txtRyNumber5", {}), &Detail.AddField("txtRyNumber6", {}),
       &Detail.AddField("txtRyNumber7", {})};
-  const std::array<Field*, Relays> txtRyName{
-      &Detail.AddField("txtRyName1", {}, RightAligned), &Detail.AddField("txtRyName2", {}, RightAligned),
-      &Detail.AddField("txtRyName3", {}, RightAligned), &Detail.AddField("txtRyName4", {}, RightAligned),
-      &Detail.AddField("txtRyName5", {}, RightAligned), &Detail.AddField("txtRyName6", {}, RightAligned),
-      &Detail.AddField("txtRyName7", {}, RightAligned)};
-  const std::array<Field*, OutNumbers> txtOutNumber{&Detail.AddField("txtOutNumber1", {}, RightAligned),
-                                                    &Detail.AddField("txtOutNumber2", {}, RightAligned),
-                                                    &Detail.AddField("txtOutNumber3", {}, RightAligned)};
+  const std::array<Field*, Relays> txtRyName{&Detail.AddField("txtRyName1", {}, RightAlignedText),
+                                             &Detail.AddField("txtRyName2", {}, RightAlignedText),
+                                             &Detail.AddField("txtRyName3", {}, RightAlignedText),
+                                             &Detail.AddField("txtRyName4", {}, RightAlignedText),
+                                             &Detail.AddField("txtRyName5", {}, RightAlignedText),
+                                             &Detail.AddField("txtRyName6", {}, RightAlignedText),
+                                             &Detail.AddField("txtRyName7", {}, RightAlignedText)};
+  const std::array<Field*, OutNumbers> txtOutNumber{&Detail.AddField("txtOutNumber1", {}, RightAlignedText),
+                                                    &Detail.AddField("txtOutNumber2", {}, RightAlignedText),
+                                                    &Detail.AddField("txtOutNumber3", {}, RightAlignedText)};
   const std::array<Field*, OutNames> txtOutName{
       &Detail.AddField("txtOutName1", {}), &Detail.AddField("txtOutName2", {}),
       &Detail.AddField("txtOutName3", {}), &Detail.AddField("txtOutName4", {}),

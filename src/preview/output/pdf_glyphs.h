@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "preview/paint/report_font.h"
+#include "report/engine/units.h"
 
 namespace tarvis {
 
@@ -46,7 +47,7 @@ class PdfGlyphs {
 
 // Height in points of the form that holds a picture `height` twips high.
 inline int PdfPictureHeight(float height) {
-  return static_cast<int>(height / 20) + 1;
+  return static_cast<int>(height / TwipsPerPoint) + 1;
 }
 
 }  // namespace tarvis

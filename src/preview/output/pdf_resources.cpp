@@ -61,7 +61,7 @@ class HelperFile {
 // of the pages are recognized by glyphs and widths that pictures don't share.
 void PaintPictures(const PdfPictures& pictures, QPdfWriter& writer, QPainter& painter) {
   for (const PdfPicture& picture : pictures.All()) {
-    const QSizeF points(std::floor(static_cast<double>(picture.Width) / 20) + 1,
+    const QSizeF points(std::floor(static_cast<double>(picture.Width) / TwipsPerPoint) + 1,
                         PdfPictureHeight(picture.Height));
     writer.setPageSize(QPageSize(points, QPageSize::Point, {}, QPageSize::ExactMatch));
     writer.newPage();

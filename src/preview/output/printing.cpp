@@ -69,7 +69,7 @@ PdfSheets SheetsLike(const Document& document, const QPrinter& printer, std::vec
   // A printer's paper is measured in whole points.
   const QSizeF paper = PaperSize(printer);
   const QSizeF more = paper - sheets.Paper;
-  constexpr double OnePoint = 20;
+  constexpr double OnePoint = TwipsPerPoint;
   if (std::abs(more.width()) > OnePoint || std::abs(more.height()) > OnePoint) sheets.Paper = paper;
   sheets.Scale = ScaleOf(document, printer, scale);
   sheets.Greys = printer.colorMode() == QPrinter::GrayScale;

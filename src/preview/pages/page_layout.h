@@ -22,7 +22,7 @@ namespace tarvis {
 enum class ZoomMode { Factor, FitWidth, FitPage };
 
 // Twips to a logical pixel at 100 %.
-inline constexpr double TwipsPerScreenPixel = 15;
+inline constexpr double TwipsPerScreenPixel = TwipsPerPixel;
 
 // A place to go to: a page and a height on it, in twips.
 struct PagePlace {

@@ -8,10 +8,8 @@
 namespace tarvis {
 namespace {
 
-constexpr float WeightUnit = 15;  // twips
-
 float LineWidth(const Item& item) {
-  return static_cast<float>(item.Weight) * WeightUnit;
+  return static_cast<float>(item.Weight) * LineWeightUnit;
 }
 
 // Passes on runs of neighbours with the same `key`, so that their order stays the same.
@@ -34,7 +32,7 @@ void PaintTick(const Item& item, Canvas& canvas) {
   const float top = item.Box.Top + (item.Box.Height - side) / 2;
   const Rect box{left, top, side, side};
   canvas.Fill({box}, White);
-  canvas.Frame({box}, WeightUnit);
+  canvas.Frame({box}, LineWeightUnit);
   if (!item.Ticked) return;
   canvas.Strokes({{left + 0.2F * side, top + 0.5F * side, 0.22F * side, 0.27F * side},
                   {left + 0.42F * side, top + 0.77F * side, 0.4F * side, -0.5F * side}},
@@ -89,7 +87,7 @@ void PaintLayer(const Document& document, const PageLayer& layer, Canvas& canvas
   }
   PaintBorders(layer.Borders, canvas);
   ByLook(layer.Lines, LineWidth, [&](std::vector<Rect> lines, float width) {
-    if (width <= WeightUnit) CloseCorners(lines, width);
+    if (width <= LineWeightUnit) CloseCorners(lines, width);
     canvas.Strokes(lines, width);
   });
   for (const Item* item : layer.Ticks) PaintTick(*item, canvas);

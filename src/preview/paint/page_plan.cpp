@@ -8,7 +8,7 @@ namespace tarvis {
 namespace {
 
 // A fill may touch its neighbour's border, which both paint in the same place.
-constexpr float SharedEdge = 15;
+constexpr float SharedEdge = LineWeightUnit;
 
 bool Overlaps(const Rect& a, const Rect& b) {
   return a.Left < b.Right() && b.Left < a.Right() && a.Top < b.Bottom() && b.Top < a.Bottom();

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "report/engine/active_report.h"
+
 namespace tarvis {
 namespace {
 
@@ -50,8 +52,7 @@ constexpr std::array<CommandEntry, 22> Table{{
     {FindPrevious, "findPrevious", "Find pre&vious", "Shift+F3", "", Menu, Push, Next, 0},
     {Copy, "copy", "Cop&y", "Ctrl+C", "R5 2 8 9 M5 5 L3 5 L3 14 L11 14 L11 11", Menu, Push, First, 0},
     {SelectAll, "selectAll", "Select a&ll", "Ctrl+A", "", Menu, Push, Next, 0},
-    {Close, "close", "Clos&e", "Ctrl+W; Ctrl+Q", "M4 4 L12 12 M12 4 L4 12", Bar, Push, First,
-     CloseToolNumber},
+    {Close, "close", "Clos&e", "Ctrl+W; Ctrl+Q", "M4 4 L12 12 M12 4 L4 12", Bar, Push, First, CloseTool},
 }};
 
 }  // namespace

@@ -57,7 +57,4 @@ std::span<const CommandEntry> CommandTable();
 inline constexpr const char* ReportToolKey = "Ctrl+E";
 inline constexpr const char* ReportToolIcon = "M3 13 L3.8 9.8 L10.6 3 L13 5.4 L6.2 12.2 Z M9 4.6 L11.4 7";
 
-// The tool's number of "Close", which ends the run.
-inline constexpr int CloseToolNumber = 5113;
-
 }  // namespace tarvis

@@ -184,7 +184,7 @@ PreviewWindow::Handlers PreviewWindow::MakeHandlers() {
       {Command::FindPrevious, [this](bool) { finder_->Step(-1); }},
       {Command::Copy, [this](bool) { selector_->Copy(); }},
       {Command::SelectAll, [this](bool) { selector_->SelectAll(); }},
-      {Command::Close, [this](bool) { emit toolUsed(CloseToolNumber); }},
+      {Command::Close, [this](bool) { emit toolUsed(CloseTool); }},
   };
 }
 

@@ -53,7 +53,7 @@ class PreviewWindow : public QMainWindow {
   QAction* ActionOf(Command command) const { return actions_->Of(command); }
 
  signals:
-  // A tool that is none of the window's own business: an added tool, or CloseToolNumber.
+  // A tool that is none of the window's own business: an added tool, or CloseTool.
   void toolUsed(int id);
   // The user has closed the window; closing it from code sends no signal.
   void closedByUser();

@@ -11,6 +11,10 @@
 
 namespace tarvis {
 
+// Numbers of the preview's tools that reports handle.
+inline constexpr int EditItemsTool = 999;  // added by the master report
+inline constexpr int CloseTool = 5113;     // the preview's own
+
 // A tool of the preview's toolbar.
 struct Tool {
   std::string Caption;

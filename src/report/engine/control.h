@@ -53,16 +53,6 @@ struct CellStyle {
   bool WithinPaper = false;
 };
 
-// Table looks that all function reports share.
-inline constexpr CellStyle TitleCell{.Size = 8.5F,
-                                     .Bold = false,
-                                     .Alignment = Align::Centre,
-                                     .Border = true,
-                                     .Filled = true,
-                                     .Fill = 0xE0E0E0};
-inline constexpr CellStyle ValueCell{
-    .Size = 8.5F, .Bold = false, .Alignment = Align::Left, .Border = true, .Filled = true, .Fill = White};
-
 // The engine's own text, written when pages are closed.
 enum class Summary : std::uint8_t { None, PageNumber, PageCount };
 

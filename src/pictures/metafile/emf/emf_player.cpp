@@ -13,6 +13,7 @@
 #include "pictures/metafile/emf/emf_playback.h"
 #include "pictures/metafile/emf_plus/emf_plus_player.h"
 #include "pictures/metafile/list/metafile_picture.h"
+#include "report/engine/units.h"
 
 namespace tarvis {
 namespace {
@@ -22,7 +23,7 @@ constexpr std::size_t SmallestHeader = 88;
 constexpr std::uint32_t Signature = 0x464D4520;
 constexpr std::uint32_t PlusSignature = 0x2B464D45;
 constexpr double HundredthsPerMillimeter = 100;
-constexpr double TwipsPerMillimeter = 1440 / 25.4;
+constexpr double TwipsPerMillimeter = double{TwipsPerInch} / 25.4;
 
 struct EmfHeader {
   std::size_t Size = 0;  // of the header record

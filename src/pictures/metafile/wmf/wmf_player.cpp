@@ -13,6 +13,7 @@
 
 #include "pictures/metafile/list/metafile_picture.h"
 #include "pictures/metafile/wmf/wmf_playback.h"
+#include "report/engine/units.h"
 
 namespace tarvis {
 namespace {
@@ -21,8 +22,6 @@ constexpr std::uint32_t PlaceableKey = 0x9AC6CDD7;
 constexpr std::size_t PlaceableSize = 22;
 constexpr std::size_t HeaderSize = 18;
 constexpr std::size_t RecordHeadSize = 6;
-constexpr double TwipsPerPixel = 15;
-constexpr double TwipsPerInch = 1440;
 
 // The header in front of a placeable metafile: its box in logical units, and their number to the inch.
 struct Placeable {
