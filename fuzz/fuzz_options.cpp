@@ -17,7 +17,7 @@ std::string Written(PrintRun& run) {
   run.Options.FileSpec = 4;
   std::string file;
   for (const OptionLine& line : OptionLines(run.Options)) {
-    file += std::string(line.Key) + "," + run.Page.FromUtf8(line.Write()) + "\r\n";
+    file += std::string(line.Key) + "," + run.CodePage.FromUtf8(line.Write()) + "\r\n";
   }
   return file;
 }
@@ -27,7 +27,7 @@ std::string Written(PrintRun& run) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static UnreachableDesktop desktop;
   PrintRun run(desktop);
-  run.Page = CodePage(Pages[size % Pages.size()]);
+  run.CodePage = CodePage(Pages[size % Pages.size()]);
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
   if (!ReadBytes(run, ReadPrintOptionsFile, "PrintOption.ToT", bytes)) return 0;
   const std::string first = Written(run);

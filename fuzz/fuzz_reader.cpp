@@ -34,7 +34,7 @@ bool ReadBytes(PrintRun& run, bool (*reader)(PrintRun& run), const char* name, s
 void FuzzReader(bool (*reader)(PrintRun& run), const char* name, const std::uint8_t* data, std::size_t size) {
   static UnreachableDesktop desktop;
   PrintRun run(desktop);
-  run.Page = CodePage(Pages[size % Pages.size()]);
+  run.CodePage = CodePage(Pages[size % Pages.size()]);
   run.Session.OverlapNum = Overlap;
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
   ReadBytes(run, reader, name, bytes);

@@ -42,7 +42,7 @@ int main(int argc, char** argv) {
   });
   windows.AnswerEndRequestsWith([&endSignals] { endSignals.Answer(); });
   application->Run([&] {
-    run.Page = settings->Page();
+    run.CodePage = settings->SystemCodePage();
     Launch(run, CommandLineText(argc, argv), {*settings, printers, windows});
   });
 }

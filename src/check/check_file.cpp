@@ -93,7 +93,7 @@ FileCheck CheckFile(std::string_view path, CodePage page) {
     return {.IsGood = false, .Line = name + ": not the name of a host file"};
   EndingDesktop desktop;
   PrintRun run(desktop);
-  run.Page = std::move(page);
+  run.CodePage = std::move(page);
   try {
     const bool isGood = function == nullptr ? AreGoodOptions(run, path) : IsGoodData(run, *function, path);
     if (!isGood) return {.IsGood = false, .Line = run.Session.Diagnosis};

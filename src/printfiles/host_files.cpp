@@ -61,7 +61,7 @@ std::int32_t LoadBytes(PrintRun& run, std::string_view path, std::string bytes) 
   PrintSession& session = run.Session;
   session.LinesFile = path.substr(path.find_last_of("\\/") + 1);
   session.Diagnosis.clear();
-  FillLines(run.Page, std::move(bytes), session.Lines);
+  FillLines(run.CodePage, std::move(bytes), session.Lines);
   session.LineCount = session.Lines.HighestIndex();
   return session.LineCount;
 }

@@ -84,7 +84,7 @@ bool WritePrintOptionsFile(PrintRun& run, std::string_view path) {
   run.Options.FileSpec = FileSpec;
   std::string bytes;
   for (const OptionLine& line : OptionLines(run.Options)) {
-    bytes += std::string(line.Key) + ',' + run.Page.FromUtf8(line.Write()) + "\r\n";
+    bytes += std::string(line.Key) + ',' + run.CodePage.FromUtf8(line.Write()) + "\r\n";
   }
   return ReplaceFile(NativePath(path), bytes, run.SettleFile);
 }

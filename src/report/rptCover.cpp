@@ -76,7 +76,7 @@ void rptCover::ActiveReport_ReportStart() {
 void rptCover::FillAddressee() {
   const AddresseeBlock& block = Addressee(Run);
   const auto left = [&](const std::string& text, std::size_t bytes) {
-    return LeftBytes(Run.Page, text, bytes);
+    return LeftBytes(Run.CodePage, text, bytes);
   };
   std::string text = left(block.Name, NameBytes);
   text = JoinLine(text, left(block.Sect, BlockBytes));
@@ -102,7 +102,7 @@ void rptCover::FillSender() {
 
 // Moves the sender block to the right as far as its longest line allows, but no further than two thirds.
 void rptCover::ShiftSender() {
-  const int bytes = LongestLineBytes(Run.Page, txtDrowAria.Text);
+  const int bytes = LongestLineBytes(Run.CodePage, txtDrowAria.Text);
   float shift = 0;
   if (bytes < FullLineBytes) {
     shift = std::nearbyint(txtDrowAria.Width - txtDrowAria.Width / FullLineBytes * static_cast<float>(bytes));
@@ -127,10 +127,10 @@ void rptCover::ActiveReport_FetchData(bool& endOfData) {
   std::string_view rest = GreetingRest;
   std::string line(NextTextLine(rest));
   std::string next(rest);
-  if (Run.Page.ByteLength(line) > GreetingBytes) {
-    const std::string bytes = Run.Page.FromUtf8(line);
-    next = Run.Page.ToUtf8(std::string_view(bytes).substr(GreetingBytes)) + LineEnd + next;
-    line = LeftBytes(Run.Page, line, GreetingBytes);
+  if (Run.CodePage.ByteLength(line) > GreetingBytes) {
+    const std::string bytes = Run.CodePage.FromUtf8(line);
+    next = Run.CodePage.ToUtf8(std::string_view(bytes).substr(GreetingBytes)) + LineEnd + next;
+    line = LeftBytes(Run.CodePage, line, GreetingBytes);
   }
   GreetingRest = next;
   txtGreeting.Text = line;

@@ -25,7 +25,7 @@ struct PrintRun {
   explicit PrintRun(tarvis::Desktop& desktop);
 
   tarvis::Desktop& Desktop;
-  CodePage Page;  // the system's code page, 1252 unless the configuration names another
+  tarvis::CodePage CodePage;  // the system's code page, 1252 unless the configuration names another
 
   PrintSession Session;
   PrintOptions Options;

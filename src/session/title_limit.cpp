@@ -20,7 +20,7 @@ std::string FirstLine(const std::string& text) {
 
 void TakeTitle(PrintRun& run, std::string& title) {
   const std::string line = FirstLine(title);
-  title = CutToBytes(run.Page, line, TitleLimit);
+  title = CutToBytes(run.CodePage, line, TitleLimit);
   if (title != line) TellByteLimit(run, TitleLimit);
 }
 

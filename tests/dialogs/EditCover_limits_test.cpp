@@ -115,7 +115,7 @@ TEST_F(CoverEditor, AMaximumLengthCountsALineBreakAsTwoCharacters) {
 }
 
 TEST_F(CoverEditor, JapaneseTextIsCountedInBytes) {
-  Run.Page = CodePage(932);
+  Run.CodePage = CodePage(932);
   const QString wide(26, QChar(0x8A66));
   OpenEditor();
   Enter("txtDrow_0", 0);

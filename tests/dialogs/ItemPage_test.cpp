@@ -129,7 +129,7 @@ TEST_F(ItemPages, TheCutTitleIsStoredBeforeTheMessageShows) {
 }
 
 TEST_F(ItemPages, TwentyOneDoubleByteCharactersAreRefused) {
-  Run.Page = CodePage(932);
+  Run.CodePage = CodePage(932);
   Open(2, "", "User");
   auto& title = Find<LineBox>("txtTitle", "InfUser");
   title.setFocus();

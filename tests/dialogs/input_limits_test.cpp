@@ -13,7 +13,7 @@ class InputLimits : public testing::Test, protected TestRun {
  protected:
   using TestRun::Run;
 
-  InputLimits() { Run.Page = CodePage(932); }
+  InputLimits() { Run.CodePage = CodePage(932); }
 
   bool Trim(const std::string& text) {
     Box.SetText(text);

@@ -69,7 +69,7 @@ TEST_F(Configuration, EntryBelongsToItsOwnSectionOnly) {
 TEST_F(Configuration, MissingFileGivesEmptyValuesAndIsNamedOnce) {
   auto registry = At(Path("absent.ini"));
   EXPECT_EQ(registry.Value(HostKey, "SystemPath"), "");
-  EXPECT_EQ(registry.Page().Number(), 1252);
+  EXPECT_EQ(registry.SystemCodePage().Number(), 1252);
   EXPECT_FALSE(registry.CountsPdfPrinter());
   EXPECT_THAT(Diagnoses(), ElementsAre(Path("absent.ini") + ": can't be read: No such file or directory"));
 }
@@ -85,7 +85,7 @@ TEST_F(Configuration, PipeInPlaceOfTheFileGivesEmptyValuesAndIsNamedOnce) {
   ASSERT_EQ(std::system(("mkfifo '" + Path() + "'").c_str()), 0);
   auto registry = At(Path());
   EXPECT_EQ(registry.Value(HostKey, "SystemPath"), "");
-  EXPECT_EQ(registry.Page().Number(), 1252);
+  EXPECT_EQ(registry.SystemCodePage().Number(), 1252);
   EXPECT_THAT(Diagnoses(), ElementsAre(Path() + ": can't be read: is no regular file"));
 }
 
@@ -113,7 +113,7 @@ TEST_F(Configuration, ValueOf1024CharactersIsTakenWholeAndALongerOneIsUnread) {
 
 TEST_F(Configuration, NamesCodePageAndPdfPrinter) {
   auto registry = Holding("[Tarvis]\nCodePage=932\nPdfPrinter=yes\n");
-  EXPECT_EQ(registry.Page().Number(), 932);
+  EXPECT_EQ(registry.SystemCodePage().Number(), 932);
   EXPECT_TRUE(registry.CountsPdfPrinter());
 }
 
@@ -128,7 +128,7 @@ TEST_F(Configuration, CodePageThatIsNoneNamesFileLineKeyAndText) {
   for (const auto& [text, reason] : reasons) {
     auto registry = Holding("[Tarvis]\nPdfPrinter=yes\nCodePage=" + text + "\n");
     try {
-      registry.Page();
+      registry.SystemCodePage();
       ADD_FAILURE() << text;
     } catch (const RunTimeFailure& failure) {
       EXPECT_EQ(failure.what(), Path() + ":3: CodePage: " + reason + ": '" + text + "'");

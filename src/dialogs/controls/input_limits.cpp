@@ -9,7 +9,7 @@ namespace tarvis {
 namespace {
 
 bool Fits(const PrintRun& run, int limit, const std::string& text) {
-  return run.Page.ByteLength(text) <= static_cast<std::size_t>(limit);
+  return run.CodePage.ByteLength(text) <= static_cast<std::size_t>(limit);
 }
 
 }  // namespace
@@ -20,7 +20,7 @@ bool TrimToByteLimit(PrintRun& run, int limit, InputBox& box) {
     box.SetMaximumLength(limit);
     return true;
   }
-  const std::string cut = CutToBytes(run.Page, text, static_cast<std::size_t>(limit));
+  const std::string cut = CutToBytes(run.CodePage, text, static_cast<std::size_t>(limit));
   box.SetText(cut);
   box.SetMaximumLength(static_cast<int>(CharacterCount(cut)));
   TellByteLimit(run, limit);
@@ -36,7 +36,7 @@ bool CheckByteLimit(PrintRun& run, int limit, InputBox& box) {
 }
 
 bool CheckLineLimit(PrintRun& run, int maxLines, int width, InputBox& box) {
-  if (CountWrappedLines(run.Page, box.Text(), static_cast<std::size_t>(width)) <= maxLines) return true;
+  if (CountWrappedLines(run.CodePage, box.Text(), static_cast<std::size_t>(width)) <= maxLines) return true;
   run.Desktop.ShowMessage(
       InputErrorTitle, "Try with Less Lines. Up to " + std::to_string(maxLines) + "\nLines can be Inputted.");
   box.GiveFocus();

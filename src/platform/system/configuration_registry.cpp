@@ -76,7 +76,7 @@ std::string ConfigurationRegistry::Value(const std::string& key, const std::stri
   return {};
 }
 
-CodePage ConfigurationRegistry::Page() const {
+CodePage ConfigurationRegistry::SystemCodePage() const {
   const Entry entry = Find("Tarvis", "CodePage");
   if (entry.Value.empty()) return CodePage();
   try {

@@ -26,7 +26,7 @@ class ConfigurationRegistry : public HostSettings {
 
   std::string Value(const std::string& key, const std::string& valueName) override;
 
-  CodePage Page() const override;
+  CodePage SystemCodePage() const override;
   bool CountsPdfPrinter() const override;
 
  private:

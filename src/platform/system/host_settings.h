@@ -12,7 +12,7 @@ class HostSettings : public HostRegistry {
  public:
   // The system's code page, 1252 if nothing names another. A text that names no code page is a
   // RunTimeFailure.
-  virtual CodePage Page() const = 0;
+  virtual CodePage SystemCodePage() const = 0;
   // Whether saving as PDF counts as a printer, so that a run goes on where no printer is set up.
   virtual bool CountsPdfPrinter() const = 0;
 };

@@ -19,7 +19,7 @@ class WindowsRegistry : public HostSettings {
     const QString value = registry.value(QString::fromStdString(valueName)).toString();
     return value.size() > LongestValue ? std::string() : value.toStdString();
   }
-  CodePage Page() const override { return CodePage(static_cast<int>(GetACP())); }
+  CodePage SystemCodePage() const override { return CodePage(static_cast<int>(GetACP())); }
   bool CountsPdfPrinter() const override { return false; }
 };
 

@@ -29,7 +29,7 @@ class FilesInCodePage : public testing::TestWithParam<Sample>, protected TestRun
  protected:
   using TestRun::Run;
 
-  FilesInCodePage() { Run.Page = CodePage(GetParam().Page); }
+  FilesInCodePage() { Run.CodePage = CodePage(GetParam().Page); }
 
   // Reads a file whose lines have the sample where they have a $.
   bool Read(bool (*reader)(PrintRun&), std::string lines) {

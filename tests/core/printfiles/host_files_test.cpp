@@ -70,7 +70,7 @@ TEST(LoadLines, KeepsNulBytesAndVeryLongLines) {
 
 TEST(LoadLines, ConvertsFromTheCodePage) {
   TestRun test;
-  test.Run.Page = CodePage(932);
+  test.Run.CodePage = CodePage(932);
   LoadBytes(test.Run, "User.tmp", "Comment,\x95\x5C\r\nplain\r\nhalf\x95\r\nend");
   EXPECT_EQ(LinesOf(test.Run), (Lines{"Comment,\u8868", "plain", "half\uFFFD", "end"}));
 }

@@ -94,7 +94,7 @@ class RandomOptionsFile {
 TEST(PrintOptionsProperty, AnyFileOfTheProgramReadsAndWritesBackTheSame) {
   const TempFolder folder;
   TestRun test;
-  test.Run.Page = CodePage(932);
+  test.Run.CodePage = CodePage(932);
   test.Run.Session.SystemFolder = folder.HostPath();
   RandomOptionsFile files(20260305);
   for (int number = 0; number < kFiles; ++number) {
@@ -130,7 +130,7 @@ void FillWithAnyTexts(PrintOptions& options, std::mt19937& random) {
 TEST(PrintOptionsProperty, AnyTextsAreWrittenInAFileThatReadsAndIsWrittenTheSameAgain) {
   const TempFolder folder;
   TestRun test;
-  test.Run.Page = CodePage(932);
+  test.Run.CodePage = CodePage(932);
   const std::string path = folder.HostPath("PrintOption.ToT");
   std::mt19937 random(20260305);
   for (int number = 0; number < kFiles; ++number) {

@@ -323,7 +323,7 @@ TEST_F(PrintOptionsFile, HoldsAStepUpToItsComma) {
 }
 
 TEST_F(PrintOptionsFile, IsWrittenInTheCodePage) {
-  Run.Page = CodePage(932);
+  Run.CodePage = CodePage(932);
   Run.Options.DrowCorp = "\u8868\u30DD";
   EXPECT_NE(Written().find("DrowCorp,\x95\x5C\x83\x7C\r\n"), std::string::npos);
   LoadLines(Run, Path());

@@ -289,7 +289,7 @@ TEST_F(UserFile, FullOfCountLinesIsReadLikeAnyOther) {
 }
 
 TEST_F(UserFile, ReadsDoubleByteTextsWhoseSecondByteIsABackslashOrBar) {
-  Run.Page = CodePage(932);
+  Run.CodePage = CodePage(932);
   LoadBytes(Run, "User.tmp",
             "UserNum,1\r\nUserName,1,\x95\x5C\x83\x7C,x\r\nComment,\x95\x5C\\r\\n\x83\x7C\r\n");
   ASSERT_TRUE(ReadUserFile(Run));

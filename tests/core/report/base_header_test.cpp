@@ -94,7 +94,7 @@ TEST_F(CommonHeader, CutsTheTitleTo58Bytes) {
 }
 
 TEST_F(CommonHeader, TheCutMayHalveADoubleByteCharacter) {
-  Report.Run.Page = CodePage(932);
+  Report.Run.CodePage = CodePage(932);
   std::string title = "x";
   for (int index = 0; index < 30; ++index) title += "\xE6\xBC\xA2";  // 61 bytes of the code page
   Session.ActiveHeader.TitleText = title;

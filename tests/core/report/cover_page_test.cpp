@@ -57,7 +57,7 @@ TEST_F(CoverLetter, CutsTheAddresseeByBytes) {
                                        "\r\naddress:\r\n" + Repeat("x", 100));
   EXPECT_EQ(TextOf("txtUserTitle"), Repeat("x", 56));
   EXPECT_EQ(TextOf("txtUserDear"), Repeat("x", 50));
-  Run.Page = CodePage(932);
+  Run.CodePage = CodePage(932);
   First.Name = Repeat("\u6771", 30);
   EXPECT_EQ(TextOf("txtUserDear"), Repeat("\u6771", 25));
 }
@@ -107,7 +107,7 @@ TEST_F(CoverLetter, GoesOnInTheNextRowAfter84Bytes) {
 }
 
 TEST_F(CoverLetter, CountsTheBytesOfJapaneseGreetings) {
-  Run.Page = CodePage(932);
+  Run.CodePage = CodePage(932);
   Options.Greeting = Repeat("\u6771", 42) + "\r\nnext";
   EXPECT_EQ(Greeting().at(0), Repeat("\u6771", 42));
   EXPECT_EQ(Greeting().at(1), "next");

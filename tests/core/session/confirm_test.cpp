@@ -78,7 +78,7 @@ TEST_F(Confirm, LooksOnlyAtOptionsOfTheFunctionThatIsPrinted) {
 }
 
 TEST_F(Confirm, CutsALongTitleBetweenCharactersAndSaysSo) {
-  Run.Page = CodePage(932);
+  Run.CodePage = CodePage(932);
   Run.Options.UserHeader.TitleText = std::string(39, 'a') + "\xE8\xA9\xA6";
   ConfirmKeptOptions(Run);
   EXPECT_EQ(Run.Options.UserHeader.TitleText, std::string(39, 'a'));
