@@ -4,11 +4,15 @@
 #include <utility>
 
 #include "report/engine/band_cut.h"
+#include "report/engine/group_place.h"
 
 namespace tarvis {
 namespace {
 
-constexpr float Rounding = 0.01F;
+float HeightOf(const auto& step) {
+  const Band* band = std::get_if<Band>(&step);
+  return band == nullptr ? 0 : band->Height;
+}
 
 }  // namespace
 
@@ -21,24 +25,24 @@ PageFlow::PageFlow(Document& document, ContentsTree& contents, PageBands& bands,
       footerHeight_(footerHeight) {}
 
 void PageFlow::BeginGroup(OpenGroup& group) {
-  Push({StepKind::BeginGroup, {}, &group, nullptr});
+  Push(GroupBegins{&group});
 }
 void PageFlow::EndGroup(OpenGroup& group) {
-  Push({StepKind::EndGroup, {}, &group, nullptr});
+  Push(GroupEnds{&group});
 }
 // A header that is higher than half a page, such as a graph, is content: nothing waits below it for its rows.
 void PageFlow::Add(Band band) {
   if (band.Height > BodyHeight() / 2) band.IsHeader = false;
-  Push({StepKind::Band, std::move(band), nullptr, nullptr});
+  Push(std::move(band));
 }
 void PageFlow::BeginRow(FlowRow& row) {
-  Push({StepKind::BeginRow, {}, nullptr, &row});
+  Push(RowBegins{&row});
 }
 void PageFlow::EndRow(FlowRow& row) {
-  Push({StepKind::EndRow, {}, nullptr, &row});
+  Push(RowEnds{&row});
 }
 void PageFlow::StartNewPage() {
-  Push({StepKind::NewPage, {}, nullptr, nullptr});
+  Push(NewPage{});
 }
 
 void PageFlow::Finish() {
@@ -55,125 +59,115 @@ void PageFlow::Push(Step step) {
 
 void PageFlow::Drain() {
   while (!queue_.empty()) {
-    bool fresh = false;
-    const std::size_t steps = ReadyUnit(fresh);
-    if (steps == 0) return;
-    PlaceUnit(steps, fresh);
+    const Unit unit = ReadyUnit();
+    if (unit.Steps == 0) return;
+    PlaceUnit(unit);
   }
 }
 
 // The front of the queue up to the first band that is no header: headers wait for what follows them. A group
 // that is to be kept is ready when its end is known; one that can't be kept counts by its headers and first
 // row.
-std::size_t PageFlow::ReadyUnit(bool& fresh) {
-  float height = 0;
-  std::size_t headers = 0;
+PageFlow::Unit PageFlow::ReadyUnit() {
+  float headers = 0;
+  bool hasHeaders = false;
   for (std::size_t index = 0; index < queue_.size(); ++index) {
     const Step& step = queue_[index];
-    switch (step.Kind) {
-      case StepKind::BeginGroup:
-        if (step.Group->KeepTogether == Keep::All && !step.Group->CannotBeKept) {
-          std::size_t end = 0;
-          if (!GroupIsReady(index, height, end, fresh)) return 0;
-          if (end > 0) return end;
-        }
-        break;
-      case StepKind::Band:
-        if (!step.Band.IsHeader) return index + 1;
-        height += step.Band.Height;
-        ++headers;
-        break;
-      case StepKind::EndGroup:
-      case StepKind::EndRow:
-        return index + 1;
-      case StepKind::NewPage:
-        if (index == 0) return 1;
-        if (headers > 0) return index;
-        break;
-      case StepKind::BeginRow:
-        if (headers == 0) return index + 1;
-        break;
+    if (const auto* begins = std::get_if<GroupBegins>(&step)) {
+      if (begins->Group->KeepTogether != Keep::All || begins->Group->CannotBeKept) continue;
+      if (const std::optional<Unit> kept = KeptGroup(index, headers)) return *kept;
+    } else if (const auto* band = std::get_if<Band>(&step)) {
+      if (!band->IsHeader) return {.Steps = index + 1};
+      headers += band->Height;
+      hasHeaders = true;
+    } else if (std::holds_alternative<NewPage>(step)) {
+      if (index == 0) return {.Steps = 1};
+      if (hasHeaders) return {.Steps = index};
+    } else if (!hasHeaders || !std::holds_alternative<RowBegins>(step)) {
+      return {.Steps = index + 1};
     }
   }
-  return finishing_ ? queue_.size() : 0;
+  return {.Steps = finishing_ ? queue_.size() : 0};
 }
 
-// False: wait for the rest of the group that begins at `begin` under `above` twips of waiting headers. True
-// with `end` above 0: it can be kept, and ends before `end`. True with `end` 0: it can't be kept.
-bool PageFlow::GroupIsReady(std::size_t begin, float above, std::size_t& end, bool& fresh) {
-  OpenGroup* const group = queue_[begin].Group;
-  const float page = BodyHeight() - RepeatedHeight(group->Parent);
-  float height = 0;
+std::optional<PageFlow::Unit> PageFlow::KeptGroup(std::size_t begin, float headers) {
+  OpenGroup* const group = std::get<GroupBegins>(queue_[begin]).Group;
+  GroupRoom room{.Headers = headers,
+                 .Used = y_,
+                 .Page = BodyHeight(),
+                 .FreshPage = BodyHeight() - RepeatedHeight(group->Parent),
+                 .StartsNewPage = newPageWanted_,
+                 .HasRows = rowsOnPage_};
   std::size_t index = begin + 1;
-  for (; index < queue_.size() && queue_[index].Group != group; ++index) {
-    if (queue_[index].Kind == StepKind::Band) height += queue_[index].Band.Height;
-    if (queue_[index].Kind == StepKind::EndRow) height = std::max(height, queue_[index].Row->OwnHeight);
+  for (; index < queue_.size(); ++index) {
+    const auto* ends = std::get_if<GroupEnds>(&queue_[index]);
+    room.IsComplete = ends != nullptr && ends->Group == group;
+    if (room.IsComplete) break;
+    room.Group += HeightOf(queue_[index]);
+    if (const auto* row = std::get_if<RowEnds>(&queue_[index]))
+      room.Group = std::max(room.Group, row->Row->OwnHeight);
   }
-  const bool complete = index < queue_.size();
-  if (!complete && height <= page + Rounding) return false;
-  const bool fitsHere = !newPageWanted_ && Fits(above + height);
-  const bool fitsFresh = above + height <= page + Rounding && (rowsOnPage_ || newPageWanted_);
-  if (complete && (fitsHere || fitsFresh)) {
-    fresh = !fitsHere;
-    end = index + 1;
-  } else {
-    group->CannotBeKept = true;
+  switch (PlaceOf(room)) {
+    case GroupPlace::NotKnownYet:
+      return Unit{};
+    case GroupPlace::ThisPage:
+      return Unit{.Steps = index + 1};
+    case GroupPlace::FreshPage:
+      return Unit{.Steps = index + 1, .Start = PageStart::FreshPage};
+    case GroupPlace::CannotBeKept:
+      break;
   }
-  return true;
+  group->CannotBeKept = true;
+  return std::nullopt;
 }
 
 // A unit that doesn't fit moves whole to the next page if it fits there. Otherwise as many of its headers as
 // must stay here, and the others move along with the row.
-void PageFlow::PlaceUnit(std::size_t steps, bool fresh) {
+void PageFlow::PlaceUnit(const Unit& unit) {
   float height = 0;
-  for (std::size_t index = 0; index < steps; ++index) {
-    if (queue_[index].Kind == StepKind::Band) height += queue_[index].Band.Height;
-  }
+  for (std::size_t index = 0; index < unit.Steps; ++index) height += HeightOf(queue_[index]);
   bool isFirst = true;
-  for (std::size_t index = 0; index < steps; ++index) {
+  for (std::size_t index = 0; index < unit.Steps; ++index) {
     Step step = std::move(queue_.front());
     queue_.pop_front();
-    if (step.Kind == StepKind::Band) {
-      const bool tooHigh = height > Rounding && !Fits(height);
-      const bool moves = isFirst && rowsOnPage_ && (fresh || (steps > 1 && tooHigh));
-      const bool fitsThere = tooHigh && FitsNextPage(height, step.Band.Group);
-      if (printedOnPage_ && !newPageWanted_ && (moves || fitsThere)) TurnPage(step.Band.Group);
+    if (const auto* band = std::get_if<Band>(&step)) {
+      const bool tooHigh = height > RoundingRoom && !Fits(height);
+      const bool startsFresh = unit.Start == PageStart::FreshPage || (unit.Steps > 1 && tooHigh);
+      const bool moves = isFirst && rowsOnPage_ && startsFresh;
+      const bool fitsThere = tooHigh && FitsNextPage(height, band->Group);
+      if (printedOnPage_ && !newPageWanted_ && (moves || fitsThere)) TurnPage(band->Group);
       isFirst = false;
-      height -= step.Band.Height;
+      height -= band->Height;
     }
-    PlaceStep(step);
+    std::visit([this](auto& each) { Place(each); }, step);
   }
 }
 
-void PageFlow::PlaceStep(Step& step) {
-  switch (step.Kind) {
-    case StepKind::Band:
-      PlaceBand(step.Band);
-      break;
-    case StepKind::BeginGroup:
-      step.Group->Begun = true;
-      break;
-    case StepKind::EndGroup:
-      // What comes now isn't part of this group: its header counts as something that stands above.
-      rowsOnPage_ = rowsOnPage_ || printedOnPage_;
-      break;
-    case StepKind::NewPage:
-      newPageWanted_ = true;
-      break;
-    case StepKind::BeginRow:
-      step.Row->Page = static_cast<int>(document_.Pages.size());
-      step.Row->Top = newPageWanted_ ? 0 : y_;
-      break;
-    case StepKind::EndRow: {
-      const bool samePage = step.Row->Page == static_cast<int>(document_.Pages.size());
-      const float top = samePage ? step.Row->Top : 0;
-      y_ = std::max(y_, std::min(top + step.Row->OwnHeight, BodyHeight()));
-      break;
-    }
-  }
+void PageFlow::Place(const GroupBegins& begins) {
+  begins.Group->Begun = true;
 }
 
-void PageFlow::PlaceBand(Band& band) {
+// What comes now isn't part of this group: its header counts as something above it.
+void PageFlow::Place(const GroupEnds& /*ends*/) {
+  rowsOnPage_ = rowsOnPage_ || printedOnPage_;
+}
+
+void PageFlow::Place(const NewPage& /*newPage*/) {
+  newPageWanted_ = true;
+}
+
+void PageFlow::Place(const RowBegins& begins) const {
+  begins.Row->Page = static_cast<int>(document_.Pages.size());
+  begins.Row->Top = newPageWanted_ ? 0 : y_;
+}
+
+void PageFlow::Place(const RowEnds& ends) {
+  const FlowRow& row = *ends.Row;
+  const float top = row.Page == static_cast<int>(document_.Pages.size()) ? row.Top : 0;
+  y_ = std::max(y_, std::min(top + row.OwnHeight, BodyHeight()));
+}
+
+void PageFlow::Place(Band& band) {
   const bool prints = band.Height > 0 || !band.Items.empty();
   if (!pageOpen_) OpenPage();
   if (newPageWanted_ && prints) {
@@ -192,27 +186,27 @@ void PageFlow::PlaceBand(Band& band) {
 void PageFlow::PlaceTallBand(Band& band) {
   if (rowsOnPage_ || (printedOnPage_ && FitsNextPage(band.Height, band.Group))) TurnPage(band.Group);
   while (!Fits(band.Height)) {
-    if (!PlacePieceOf(band)) break;
+    if (PlacePieceOf(band) == Cut::Impossible) break;
     if (band.Items.empty()) return;
     TurnPage(band.Group);
   }
   PutOnPage(band);
 }
 
-// Places what fits of a band that is too high for this page. False if it must be placed as it is: nothing can
-// be cut off it, also not on a fresh page, or it fits by now.
-bool PageFlow::PlacePieceOf(Band& band) {
+// Places what fits of a band that is too high for this page. Impossible if it must be placed as it is:
+// nothing can be cut off it, also not on a fresh page, or it fits by now.
+PageFlow::Cut PageFlow::PlacePieceOf(Band& band) {
   const float room = BodyHeight() - y_;
   const float freshRoom = BodyHeight() - RepeatedHeight(band.Group);
-  const bool isFresh = !printedOnPage_ || room >= freshRoom - Rounding;
+  const bool isFresh = !printedOnPage_ || room >= freshRoom - RoundingRoom;
   FitPictures(band, room, isFresh ? room : freshRoom, document_);
-  if (Fits(band.Height)) return false;
+  if (Fits(band.Height)) return Cut::Impossible;
   // The next page has more room: no piece that is nothing but an empty frame.
-  if (!isFresh && !HasWholeAbove(band, room)) return true;
+  if (!isFresh && !HasWholeAbove(band, room)) return Cut::Done;
   Band first = CutBand(band, room);
-  if (first.Height <= 0) return false;
+  if (first.Height <= 0) return Cut::Impossible;
   PutOnPage(first);
-  return true;
+  return Cut::Done;
 }
 
 void PageFlow::PutOnPage(Band& band) {
@@ -280,12 +274,12 @@ float PageFlow::RepeatedHeight(const OpenGroup* group) const {
 }
 
 bool PageFlow::Fits(float height) const {
-  return y_ + height <= BodyHeight() + Rounding;
+  return y_ + height <= BodyHeight() + RoundingRoom;
 }
 
 // Below the headers that repeat there.
 bool PageFlow::FitsNextPage(float height, const OpenGroup* group) const {
-  return RepeatedHeight(group) + height <= BodyHeight() + Rounding;
+  return RepeatedHeight(group) + height <= BodyHeight() + RoundingRoom;
 }
 
 float PageFlow::BodyHeight() const {

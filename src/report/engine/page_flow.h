@@ -7,7 +7,8 @@
 #pragma once
 
 #include <deque>
-#include <functional>
+#include <optional>
+#include <variant>
 #include <vector>
 
 #include "report/engine/band.h"
@@ -48,6 +49,9 @@ class PageBands {
   virtual Band ComposePageFooter(int page) = 0;
 };
 
+// Where a unit of bands begins.
+enum class PageStart { WhereItFits, FreshPage };
+
 class PageFlow {
  public:
   // The heights are those of the page header and footer sections, in twips. All references must outlive the
@@ -66,25 +70,44 @@ class PageFlow {
   void Finish();
 
  private:
-  enum class StepKind { BeginGroup, EndGroup, Band, BeginRow, EndRow, NewPage };
-  struct Step {
-    StepKind Kind;
-    tarvis::Band Band;
-    OpenGroup* Group = nullptr;
-    FlowRow* Row = nullptr;
+  struct GroupBegins {
+    OpenGroup* Group;
+  };
+  struct GroupEnds {
+    OpenGroup* Group;
+  };
+  struct RowBegins {
+    FlowRow* Row;
+  };
+  struct RowEnds {
+    FlowRow* Row;
+  };
+  struct NewPage {};
+  enum class Cut { Done, Impossible };
+  using Step = std::variant<Band, GroupBegins, GroupEnds, RowBegins, RowEnds, NewPage>;
+
+  // How many steps at the front of the queue can be placed together, 0 to wait, and from where on.
+  struct Unit {
+    std::size_t Steps = 0;
+    PageStart Start = PageStart::WhereItFits;
   };
 
   void Push(Step step);
   void Drain();
-  // How many steps at the front can be placed together, 0 to wait; `fresh` tells whether on a fresh page.
-  std::size_t ReadyUnit(bool& fresh);
-  bool GroupIsReady(std::size_t begin, float above, std::size_t& end, bool& fresh);
-  void PlaceUnit(std::size_t steps, bool fresh);
-  void PlaceStep(Step& step);
-  void PlaceBand(tarvis::Band& band);
-  void PlaceTallBand(tarvis::Band& band);
-  bool PlacePieceOf(tarvis::Band& band);
-  void PutOnPage(tarvis::Band& band);
+  Unit ReadyUnit();
+  // The unit of the group that begins at `begin` under `headers` twips of waiting headers; without a value if
+  // the group can't be kept on one page.
+  std::optional<Unit> KeptGroup(std::size_t begin, float headers);
+  void PlaceUnit(const Unit& unit);
+  void Place(Band& band);
+  static void Place(const GroupBegins& begins);
+  void Place(const GroupEnds& ends);
+  void Place(const RowBegins& begins) const;
+  void Place(const RowEnds& ends);
+  void Place(const NewPage& newPage);
+  void PlaceTallBand(Band& band);
+  [[nodiscard]] Cut PlacePieceOf(Band& band);
+  void PutOnPage(Band& band);
 
   void OpenPage();
   void ClosePage();
