@@ -26,8 +26,7 @@ FunctionReport::FunctionReport(const char* name, float printWidth, ReportContext
 
 Section& FunctionReport::AddGrowing(SectionKind kind, const char* name, float height) {
   Section& section = AddSection(kind, name, height);
-  section.CanGrow = true;
-  section.CanShrink = true;
+  section.FitsControls = true;
   return section;
 }
 

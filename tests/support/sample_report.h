@@ -19,8 +19,7 @@ class SampleReport : public ActiveReport {
   // A section of the kind of function reports, which grows and shrinks.
   Section& Growing(SectionKind kind, const char* name, float height = 0) {
     Section& section = AddSection(kind, name, height);
-    section.CanGrow = true;
-    section.CanShrink = true;
+    section.FitsControls = true;
     return section;
   }
   Section& Fixed(SectionKind kind, const char* name, float height) { return AddSection(kind, name, height); }

@@ -55,7 +55,7 @@ class rptUPWizard : public FunctionReport {
   Shape& Shape4 = Detail.AddShape("Shape4", {142, 425, 8787, 9213});
   Shape& Shape2 = Detail.AddShape("Shape2", {709, 8220, 1842, 426});
   Shape& Shape3 = Detail.AddShape("Shape3", {709, 8646, 6661, 567});
-  Shape& Shape1 = Detail.AddShape("Shape1", {6803, 3260, 1701, 850}, true, White);
+  Shape& Shape1 = Detail.AddShape("Shape1", {6803, 3260, 1701, 850}, White);
 
   Field& txtServoName = Detail.AddField("txtServoName", {}, ServoName, "KRDX-Q7TN");
   Label& lblControl = Detail.AddLabel("lblControl", {}, "Control Method");

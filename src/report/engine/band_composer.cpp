@@ -12,8 +12,6 @@ constexpr float CellInset = 30;
 // Text is lowered by half of the spare height, but by no more than this.
 constexpr float DeepestAnchor = 46;
 
-const std::string NoText;
-
 // Geometry as it was before growth and BeforePrint, put back when the band is finished or given up.
 class GeometryKeeper {
  public:
@@ -41,10 +39,9 @@ class GeometryKeeper {
 };
 
 // Labels, and fields of sections that can't grow, keep text on one line if their box has room for one only.
-bool Wraps(const TextControl& text, const Section& section) {
+bool Wraps(const TextControl& text, Growth growth) {
   const bool oneLineOnly = text.Height < 2 * LinePitch(text.Style.Size) - FitTolerance;
-  const bool canGrow = text.Kind == ControlKind::Field && section.CanGrow;
-  return canGrow || !oneLineOnly;
+  return growth == Growth::ToItsText || !oneLineOnly;
 }
 
 // How far the lines of a cell are set in, all alike: `spare` is what its widest line leaves of the box.
@@ -94,7 +91,7 @@ Printing BandComposer::Compose(ActiveReport& report, Section& section, float lef
   if (report.Unloaded()) return Printing::Dropped;
   if (section.Kind == SectionKind::Detail && report.LayoutAction == 5) return Printing::Skipped;
   const GeometryKeeper keeper(section);
-  if (section.CanGrow) Grow(section);
+  if (section.FitsControls) Grow(section);
   CallEvent(section.BeforePrint);
   if (report.Unloaded()) return Printing::Dropped;
   band.IsHeader = section.Kind == SectionKind::GroupHeader;
@@ -107,23 +104,24 @@ Printing BandComposer::Compose(ActiveReport& report, Section& section, float lef
 
 void BandComposer::Grow(Section& section) {
   for (const auto& control : section.Controls()) {
-    if (control->Kind != ControlKind::Field || !control->Visible) continue;
-    auto& field = static_cast<Field&>(*control);
-    if (field.Text.empty()) continue;
-    const std::size_t lines = cache_.Lines(field.Text, StyleOf(field), field.Width).size();
-    const float needed = static_cast<float>(lines) * LinePitch(field.Style.Size);
-    if (needed > field.Height + FitTolerance) field.Height = needed;
+    const AnyControl self = control->Self();
+    const auto* const* field = std::get_if<const Field*>(&self);
+    if (field == nullptr || !control->Visible) continue;
+    const TextControl& text = **field;
+    if (text.Text.empty()) continue;
+    const std::size_t lines = cache_.Lines(text.Text, StyleOf(text), text.Width).size();
+    const float needed = static_cast<float>(lines) * LinePitch(text.Style.Size);
+    if (needed > control->Height + FitTolerance) control->Height = needed;
   }
 }
 
-float BandComposer::FinalHeight(const Section& section) const {
-  if ((!section.CanGrow && !section.CanShrink) || section.HoldsSubReport()) return section.Height;
+float BandComposer::FinalHeight(const Section& section) {
+  if (!section.FitsControls || section.HoldsSubReport()) return section.Height;
   float lowest = 0;
   for (const auto& control : section.Controls()) {
-    if (control->Visible && control->Kind != ControlKind::Line) lowest = std::max(lowest, control->Bottom());
+    const bool counts = control->Visible && !std::holds_alternative<const Line*>(control->Self());
+    if (counts) lowest = std::max(lowest, control->Bottom());
   }
-  if (!section.CanShrink) return std::max(section.Height, lowest);
-  if (!section.CanGrow) return std::min(section.Height, lowest);
   return lowest;
 }
 
@@ -138,81 +136,70 @@ void BandComposer::EmitControls(const Section& section, float left, Band& band) 
     model.Control = cache_.Name(control->Name);
     model.Band = bandNumber_;
     model.Box = {control->Left + left, control->Top, control->Width, control->Height};
-    switch (control->Kind) {
-      case ControlKind::Field:
-      case ControlKind::Label:
-        EmitText(static_cast<const TextControl&>(*control), section, left, band);
-        break;
-      case ControlKind::Image:
-        EmitImage(static_cast<const Image&>(*control), model, band);
-        break;
-      case ControlKind::Line:
-        model.Kind = ItemKind::Line;
-        model.Weight = static_cast<std::uint8_t>(static_cast<const Line&>(*control).Weight);
-        band.Items.push_back(model);
-        break;
-      case ControlKind::Shape: {
-        const auto& shape = static_cast<const Shape&>(*control);
-        model.Kind = ItemKind::Box;
-        model.Weight = static_cast<std::uint8_t>(shape.Weight);
-        model.Filled = shape.Filled;
-        model.Fill = shape.Fill;
-        band.Items.push_back(model);
-        break;
-      }
-      case ControlKind::CheckBox:
-        model.Kind = ItemKind::Tick;
-        model.Ticked = static_cast<const CheckBox&>(*control).Value;
-        band.Items.push_back(model);
-        break;
-      case ControlKind::SubReport:
-        break;
-    }
+    const Output output{section, left, model, band};
+    std::visit([&](const auto* self) { Emit(*self, output); }, control->Self());
   }
 }
 
-const std::string& BandComposer::TextOf(const TextControl& text) const {
-  if (text.Kind != ControlKind::Field) return text.Text;
-  switch (static_cast<const Field&>(text).Summary) {
-    case Summary::PageNumber:
-    case Summary::PageCount:  // the number stands in until the total is known
-      return pageNumber_;
-    case Summary::None:
-      break;
-  }
-  return text.Text;
+void BandComposer::Emit(const Field& field, const Output& output) {
+  // The page number stands for the page total until that is known.
+  const std::string& content = field.Summary == Summary::None ? field.Text : pageNumber_;
+  EmitText(field, content, output.Section.FitsControls ? Growth::ToItsText : Growth::Never, output);
+  const bool printsText = !content.empty() && !field.Style.RoomOnly;
+  if (printsText && field.Summary == Summary::PageCount)
+    pageCountItems_.push_back(output.Band.Items.size() - 1);
 }
 
-void BandComposer::EmitText(const TextControl& text, const Section& section, float left, Band& band) {
+void BandComposer::Emit(const Label& label, const Output& output) {
+  EmitText(label, label.Text, Growth::Never, output);
+}
+
+void BandComposer::Emit(const Line& line, const Output& output) {
+  Item item = output.Model;
+  item.Kind = ItemKind::Line;
+  item.Weight = static_cast<std::uint8_t>(line.Weight);
+  output.Band.Items.push_back(item);
+}
+
+void BandComposer::Emit(const Shape& shape, const Output& output) {
+  Item item = output.Model;
+  item.Kind = ItemKind::Box;
+  item.Weight = static_cast<std::uint8_t>(shape.Weight);
+  item.Filled = shape.Fill.has_value();
+  item.Fill = shape.Fill.value_or(White);
+  output.Band.Items.push_back(item);
+}
+
+void BandComposer::Emit(const CheckBox& box, const Output& output) {
+  Item item = output.Model;
+  item.Kind = ItemKind::Tick;
+  item.Ticked = box.Value;
+  output.Band.Items.push_back(item);
+}
+
+void BandComposer::EmitText(const TextControl& text, const std::string& content, Growth growth,
+                            const Output& output) {
   if (text.Style.RoomOnly) return;
-  Item model;
-  model.Control = cache_.Name(text.Name);
-  model.Band = bandNumber_;
   if (text.Style.Border || text.Style.Filled) {
-    Item box = model;
+    Item box = output.Model;
     box.Kind = ItemKind::Box;
     box.Weight = text.Style.Border ? 1 : 0;
     box.Filled = text.Style.Filled;
     box.Fill = text.Style.Fill;
-    box.Box = {text.Left + left, text.Top, text.Width, text.Height};
-    band.Items.push_back(box);
+    output.Band.Items.push_back(box);
   }
-  const std::string& content = TextOf(text);
   if (content.empty()) return;
-  if (Wraps(text, section)) {
-    EmitLines(text, content, left, model, band);
+  if (Wraps(text, growth)) {
+    EmitLines(text, content, output);
   } else {
-    EmitOneLine(text, section, content, left, model, band);
-  }
-  if (text.Kind == ControlKind::Field && static_cast<const Field&>(text).Summary == Summary::PageCount) {
-    pageCountItems_.push_back(band.Items.size() - 1);
+    EmitOneLine(text, content, output);
   }
 }
 
 // What stands below the bottom of the box is clipped there.
-void BandComposer::EmitLines(const TextControl& text, const std::string& content, float left, Item model,
-                             Band& band) {
-  const float width = WrapWidth(text, left);
+void BandComposer::EmitLines(const TextControl& text, const std::string& content, const Output& output) {
+  Item model = output.Model;
+  const float width = WrapWidth(text, output.Left);
   const auto lines = cache_.Lines(content, StyleOf(text), width);
   const float pitch = LinePitch(text.Style.Size);
   const float inset = InsetOf(text, width - WidestOf(lines));
@@ -223,18 +210,18 @@ void BandComposer::EmitLines(const TextControl& text, const std::string& content
     if (room <= FitTolerance) return;
     const float advance = document_.Texts[piece].Advance;
     const bool isTooWide = advance > width + FitTolerance;
-    model.Box.Left = left + (isTooWide ? text.Left : AlignedLeft(text, width, advance, inset));
+    model.Box.Left = output.Left + (isTooWide ? text.Left : AlignedLeft(text, width, advance, inset));
     model.Box.Top = top;
     model.Box.Width = isTooWide ? width : advance;
     model.Box.Height = room + FitTolerance < pitch ? room : pitch;
-    EmitPiece(piece, model, band);
+    EmitPiece(piece, model, output.Band);
     top += pitch;
   }
 }
 
 // Text wider than its box runs on into the free room beside it; what then doesn't fit is condensed.
-void BandComposer::EmitOneLine(const TextControl& text, const Section& section, const std::string& content,
-                               float left, Item model, Band& band) {
+void BandComposer::EmitOneLine(const TextControl& text, const std::string& content, const Output& output) {
+  Item model = output.Model;
   const std::uint32_t piece = cache_.OneLine(content, StyleOf(text));
   const float advance = document_.Texts[piece].Advance;
   Rect& line = model.Box;
@@ -242,12 +229,13 @@ void BandComposer::EmitOneLine(const TextControl& text, const Section& section, 
   if (text.Style.RunsOn || advance <= text.Width + FitTolerance) {
     line.Left = AlignedLeft(text, text.Width, advance, InsetOf(text, text.Width - advance));
   } else {
-    const LineRoom room = RoomOfLine(text, section, line, band, left, document_.Setup.Width - left);
+    const LineRoom room =
+        RoomOfLine(text, output.Section, line, output.Band, output.Left, document_.Setup.Width - output.Left);
     if (advance > room.Width() + FitTolerance) line.Width = room.Width();
     line.Left = text.Style.Alignment == Align::Right ? room.Right - line.Width : room.Left;
   }
-  line.Left += left;
-  EmitPiece(piece, model, band);
+  line.Left += output.Left;
+  EmitPiece(piece, model, output.Band);
 }
 
 void BandComposer::EmitPiece(std::uint32_t piece, Item& model, Band& band) const {
@@ -267,9 +255,9 @@ float BandComposer::WidestOf(std::span<const std::uint32_t> pieces) const {
   return widest;
 }
 
-void BandComposer::EmitImage(const Image& image, const Item& model, Band& band) {
+void BandComposer::Emit(const Image& image, const Output& output) {
   if (!image.Picture) return;
-  Item item = model;
+  Item item = output.Model;
   item.Kind = ItemKind::Picture;
   auto& pictures = document_.Pictures;
   auto found = std::find(pictures.begin(), pictures.end(), image.Picture);
@@ -286,7 +274,7 @@ void BandComposer::EmitImage(const Image& image, const Item& model, Band& band) 
     item.Box.Width -= spareWidth;
     item.Box.Height -= spareHeight;
   }
-  band.Items.push_back(item);
+  output.Band.Items.push_back(item);
 }
 
 void BandComposer::PatchText(Item& item, const std::string& text) {

@@ -17,6 +17,9 @@ enum class Printing {
   Dropped,  // the report was unloaded before the band was finished
 };
 
+// Whether a text has a box that grows with it.
+enum class Growth { Never, ToItsText };
+
 class BandComposer {
  public:
   explicit BandComposer(Document& document, const TextMeasurer& measurer);
@@ -34,18 +37,31 @@ class BandComposer {
   void SetPageNumber(int number) { pageNumber_ = std::to_string(number); }
 
  private:
+  // Where the items of one control go, and what they have in common.
+  struct Output {
+    const tarvis::Section& Section;
+    float Left;  // of the report, in twips
+    const Item& Model;
+    tarvis::Band& Band;
+  };
+
   void Grow(Section& section);
-  float FinalHeight(const Section& section) const;
+  static float FinalHeight(const Section& section);
   void EmitControls(const Section& section, float left, Band& band);
-  void EmitText(const TextControl& text, const Section& section, float left, Band& band);
-  void EmitLines(const TextControl& text, const std::string& content, float left, Item model, Band& band);
-  void EmitOneLine(const TextControl& text, const Section& section, const std::string& content, float left,
-                   Item model, Band& band);
+  void Emit(const Field& field, const Output& output);
+  void Emit(const Label& label, const Output& output);
+  void Emit(const Image& image, const Output& output);
+  static void Emit(const Line& line, const Output& output);
+  static void Emit(const Shape& shape, const Output& output);
+  static void Emit(const CheckBox& box, const Output& output);
+  // Its report runs after the section has been laid out.
+  static void Emit(const SubReport& /*subReport*/, const Output& /*output*/) {}
+  void EmitText(const TextControl& text, const std::string& content, Growth growth, const Output& output);
+  void EmitLines(const TextControl& text, const std::string& content, const Output& output);
+  void EmitOneLine(const TextControl& text, const std::string& content, const Output& output);
   void EmitPiece(std::uint32_t piece, Item& model, Band& band) const;
   float WrapWidth(const TextControl& text, float left) const;
   float WidestOf(std::span<const std::uint32_t> pieces) const;
-  void EmitImage(const Image& image, const Item& model, Band& band);
-  const std::string& TextOf(const TextControl& text) const;
   std::uint16_t StyleOf(const TextControl& text) { return cache_.Style(text.Style.Size, text.Style.Bold); }
 
   Document& document_;

@@ -138,10 +138,10 @@ class Composing : private PageBands {
 
   void RunSubReports(Section& section, float left, OpenGroup* group) {
     for (const auto& control : section.Controls()) {
-      if (control->Kind != ControlKind::SubReport || !control->Visible) continue;
-      auto& subReport = static_cast<SubReport&>(*control);
-      if (!subReport.object) continue;
-      inner_.push_back(subReport.object);  // its headers may repeat after its host has let it go
+      const AnyControl self = control->Self();
+      const auto* const* subReport = std::get_if<const SubReport*>(&self);
+      if (subReport == nullptr || !control->Visible || !(*subReport)->object) continue;
+      inner_.push_back((*subReport)->object);  // its headers may repeat after its host has let it go
       if (control->Top > 0) AddRoom(control->Top, group);
       RunReport(*inner_.back(), left + control->Left, group);
     }

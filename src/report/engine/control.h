@@ -3,7 +3,9 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
+#include <variant>
 
 #include "report/engine/document.h"
 #include "report/engine/picture.h"
@@ -13,20 +15,33 @@ namespace tarvis {
 
 class ActiveReport;
 
-enum class ControlKind : std::uint8_t { Field, Label, Image, Line, Shape, SubReport, CheckBox };
+class CheckBox;
+class Field;
+class Image;
+class Label;
+class Line;
+class Shape;
+class SubReport;
+
+// A control as what it is.
+using AnyControl = std::variant<const Field*, const Label*, const Image*, const Line*, const Shape*,
+                                const CheckBox*, const SubReport*>;
 
 // Name and geometry in twips, relative to the section (lines: the rectangle spanned by the end points).
 // All members may be set at run time; they last until set again, but growth and geometry set in
 // BeforePrint last for that one printing.
 class Control {
  public:
-  Control(ControlKind kind, const char* name, const Rect& place)
-      : Kind(kind), Name(name), Left(place.Left), Top(place.Top), Width(place.Width), Height(place.Height) {}
+  Control(const char* name, const Rect& place)
+      : Name(name), Left(place.Left), Top(place.Top), Width(place.Width), Height(place.Height) {}
   virtual ~Control() = default;
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
 
-  const ControlKind Kind;
+  [[nodiscard]] virtual AnyControl Self() const = 0;
+  // Whether anything of it would be seen.
+  [[nodiscard]] virtual bool PrintsAnything() const { return true; }
+
   const char* const Name;  // static storage
   float Left;
   float Top;
@@ -58,8 +73,12 @@ enum class Summary : std::uint8_t { None, PageNumber, PageCount };
 
 class TextControl : public Control {
  public:
-  TextControl(ControlKind kind, const char* name, const Rect& place, const CellStyle& style, const char* text)
-      : Control(kind, name, place), Style(style), Text(text) {}
+  TextControl(const char* name, const Rect& place, const CellStyle& style, const char* text)
+      : Control(name, place), Style(style), Text(text) {}
+
+  bool PrintsAnything() const override {
+    return !Style.RoomOnly && (!Text.empty() || Style.Border || Style.Filled);
+  }
 
   CellStyle Style;
   std::string Text;  // UTF-8; CR LF breaks lines. A label's Caption is this text
@@ -70,7 +89,9 @@ class TextControl : public Control {
 class Field : public TextControl {
  public:
   Field(const char* name, const Rect& place, const CellStyle& style, const char* text)
-      : TextControl(ControlKind::Field, name, place, style, text) {}
+      : TextControl(name, place, style, text) {}
+
+  AnyControl Self() const override { return this; }
 
   tarvis::Summary Summary = Summary::None;
 };
@@ -78,7 +99,9 @@ class Field : public TextControl {
 class Label : public TextControl {
  public:
   Label(const char* name, const Rect& place, const CellStyle& style, const char* text)
-      : TextControl(ControlKind::Label, name, place, style, text) {}
+      : TextControl(name, place, style, text) {}
+
+  AnyControl Self() const override { return this; }
 
   const std::string& Caption() const { return Text; }
   void SetCaption(std::string caption) { Text = std::move(caption); }
@@ -89,8 +112,10 @@ enum class Fit : std::uint8_t { Fill, KeepCentred, KeepTopRight };
 
 class Image : public Control {
  public:
-  Image(const char* name, const Rect& place, Fit fit)
-      : Control(ControlKind::Image, name, place), Placement(fit) {}
+  Image(const char* name, const Rect& place, Fit fit) : Control(name, place), Placement(fit) {}
+
+  AnyControl Self() const override { return this; }
+  bool PrintsAnything() const override { return Picture != nullptr; }
 
   PicturePtr Picture;  // empty paints nothing
   Fit Placement;
@@ -98,25 +123,28 @@ class Image : public Control {
 
 class Line : public Control {
  public:
-  Line(const char* name, const Rect& place, int weight)
-      : Control(ControlKind::Line, name, place), Weight(weight) {}
+  Line(const char* name, const Rect& place, int weight) : Control(name, place), Weight(weight) {}
+
+  AnyControl Self() const override { return this; }
 
   int Weight;  // units of 15 twips
 };
 
 class Shape : public Control {
  public:
-  Shape(const char* name, const Rect& place, bool filled, Color fill)
-      : Control(ControlKind::Shape, name, place), Filled(filled), Fill(fill) {}
+  Shape(const char* name, const Rect& place, std::optional<Color> fill) : Control(name, place), Fill(fill) {}
 
-  int Weight = 1;  // of the border, units of 15 twips; 0 none
-  bool Filled;
-  Color Fill;
+  AnyControl Self() const override { return this; }
+
+  int Weight = 1;             // of the border, units of 15 twips; 0 none
+  std::optional<Color> Fill;  // none: transparent
 };
 
 class CheckBox : public Control {
  public:
-  CheckBox(const char* name, const Rect& place) : Control(ControlKind::CheckBox, name, place) {}
+  CheckBox(const char* name, const Rect& place) : Control(name, place) {}
+
+  AnyControl Self() const override { return this; }
 
   bool Value = false;
 };
@@ -124,7 +152,10 @@ class CheckBox : public Control {
 // Runs a whole report inside its section. Assigning a new object replaces the old one.
 class SubReport : public Control {
  public:
-  SubReport(const char* name, const Rect& place) : Control(ControlKind::SubReport, name, place) {}
+  SubReport(const char* name, const Rect& place) : Control(name, place) {}
+
+  AnyControl Self() const override { return this; }
+  bool PrintsAnything() const override { return false; }
 
   std::shared_ptr<ActiveReport> object;
 };

@@ -9,25 +9,6 @@ namespace {
 // What runs on keeps this far (twips) from what stands beside it: about the width of a blank.
 constexpr float Gap = 60;
 
-bool PrintsAnything(const Control& control) {
-  switch (control.Kind) {
-    case ControlKind::Field:
-    case ControlKind::Label: {
-      const auto& text = static_cast<const TextControl&>(control);
-      return !text.Style.RoomOnly && (!text.Text.empty() || text.Style.Border || text.Style.Filled);
-    }
-    case ControlKind::Image:
-      return static_cast<const Image&>(control).Picture != nullptr;
-    case ControlKind::SubReport:
-      return false;
-    case ControlKind::Line:
-    case ControlKind::Shape:
-    case ControlKind::CheckBox:
-      break;
-  }
-  return true;
-}
-
 bool StandsBeside(float top, float bottom, const Rect& line) {
   return top < line.Bottom() && bottom > line.Top;
 }
@@ -37,7 +18,7 @@ std::vector<float> EdgesBeside(const TextControl& text, const Section& section, 
                                const Band& band, float left) {
   std::vector<float> edges;
   for (const auto& control : section.Controls()) {
-    if (control.get() == &text || !control->Visible || !PrintsAnything(*control)) continue;
+    if (control.get() == &text || !control->Visible || !control->PrintsAnything()) continue;
     if (!StandsBeside(control->Top, control->Bottom(), line)) continue;
     edges.push_back(control->Left);
     edges.push_back(control->Left + control->Width);

@@ -26,8 +26,8 @@ Line& Section::AddLine(const char* name, float x1, float y1, float x2, float y2,
   return Add<Line>(name, Rect{x1, y1, x2 - x1, y2 - y1}, weight);
 }
 
-Shape& Section::AddShape(const char* name, const Rect& place, bool filled, Color fill) {
-  return Add<Shape>(name, place, filled, fill);
+Shape& Section::AddShape(const char* name, const Rect& place, std::optional<Color> fill) {
+  return Add<Shape>(name, place, fill);
 }
 
 CheckBox& Section::AddCheckBox(const char* name, const Rect& place) {

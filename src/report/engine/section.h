@@ -27,17 +27,17 @@ class Section {
   Image& AddImage(const char* name, const Rect& place, Fit fit = Fit::KeepCentred);
   // From (x1, y1) to (x2, y2); `weight` in units of 15 twips.
   Line& AddLine(const char* name, float x1, float y1, float x2, float y2, int weight = 1);
-  // A frame; transparent unless `filled`.
-  Shape& AddShape(const char* name, const Rect& place, bool filled = false, Color fill = White);
+  // A frame.
+  Shape& AddShape(const char* name, const Rect& place, std::optional<Color> fill = std::nullopt);
   CheckBox& AddCheckBox(const char* name, const Rect& place);
   SubReport& AddSubReport(const char* name, const Rect& place);
 
   const SectionKind Kind;
   const char* const Name;
   float Height;
-  // Both set (function reports): the height is the lowest bottom of the visible controls. Neither: as told.
-  bool CanGrow = false;
-  bool CanShrink = false;
+  // Can grow and can shrink, as all sections of function reports: the height is the lowest bottom of the
+  // visible controls. Otherwise it is `Height`.
+  bool FitsControls = false;
   Keep GroupKeepTogether = Keep::None;  // group headers only
   bool Repeat = false;                  // group headers only: prints again at the head of following pages
   bool NewPageBefore = false;           // what it prints starts on a fresh page

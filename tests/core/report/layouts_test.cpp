@@ -64,33 +64,33 @@ std::string SummaryOf(const Field& field) {
   return Summaries[static_cast<std::size_t>(field.Summary)];
 }
 
-std::string Describe(const Control& control) {
-  static constexpr std::array Fits{" fill", " centred", " top-right"};
-  const std::string place = Place(control);
-  switch (control.Kind) {
-    case ControlKind::Field: {
-      const auto& field = static_cast<const Field&>(control);
-      return "field" + place + Look(field) + SummaryOf(field) + Quoted(field.Text);
-    }
-    case ControlKind::Label: {
-      const auto& label = static_cast<const Label&>(control);
-      return "label" + place + Look(label) + Quoted(label.Caption());
-    }
-    case ControlKind::Image:
-      return "image" + place + Fits[static_cast<std::size_t>(static_cast<const Image&>(control).Placement)];
-    case ControlKind::Line:
-      return "line" + place + " weight " + std::to_string(static_cast<const Line&>(control).Weight);
-    case ControlKind::Shape: {
-      const auto& shape = static_cast<const Shape&>(control);
-      return "shape" + place + " weight " + std::to_string(shape.Weight) +
-             (shape.Filled ? " fill " + HexColor(shape.Fill) : "");
-    }
-    case ControlKind::CheckBox:
-      return "checkbox" + place;
-    case ControlKind::SubReport:
-      return "subreport" + place;
+// The kind of a control and what is special to it; the place is between the two.
+struct ControlText {
+  std::string Place;
+
+  std::string operator()(const Field* field) const {
+    return "field" + Place + Look(*field) + SummaryOf(*field) + Quoted(field->Text);
   }
-  return {};
+  std::string operator()(const Label* label) const {
+    return "label" + Place + Look(*label) + Quoted(label->Caption());
+  }
+  std::string operator()(const Image* image) const {
+    static constexpr std::array Fits{" fill", " centred", " top-right"};
+    return "image" + Place + Fits[static_cast<std::size_t>(image->Placement)];
+  }
+  std::string operator()(const Line* line) const {
+    return "line" + Place + " weight " + std::to_string(line->Weight);
+  }
+  std::string operator()(const Shape* shape) const {
+    return "shape" + Place + " weight " + std::to_string(shape->Weight) +
+           (shape->Fill ? " fill " + HexColor(*shape->Fill) : "");
+  }
+  std::string operator()(const CheckBox* /*box*/) const { return "checkbox" + Place; }
+  std::string operator()(const SubReport* /*subReport*/) const { return "subreport" + Place; }
+};
+
+std::string Describe(const Control& control) {
+  return std::visit(ControlText{Place(control)}, control.Self());
 }
 
 std::string Describe(const Section& section) {
@@ -100,8 +100,7 @@ std::string Describe(const Section& section) {
   std::string line = "section " + std::string(section.Name);
   line += Kinds[static_cast<std::size_t>(section.Kind)];
   line += " " + Number(section.Height);
-  if (section.CanGrow && section.CanShrink) line += " grows";
-  if (section.CanGrow != section.CanShrink) line += section.CanGrow ? " only-grows" : " only-shrinks";
+  if (section.FitsControls) line += " grows";
   line += Keeps[static_cast<std::size_t>(section.GroupKeepTogether)];
   if (section.Repeat) line += " repeats";
   return line + "\n";
