@@ -66,10 +66,13 @@ bool AreGoodOptions(PrintRun& run, std::string_view path) {
 
 bool IsGoodData(PrintRun& run, const PrintFunction& function, std::string_view path) {
   const FileName name = NameOf(path);
-  TakeOverlap(run, function, name.Folder);
-  if (LoadLines(run, path) < 0 || !function.Read(run)) return false;
-  const bool isResult = name.IsMainFileOf(function) && run.Session.OverlapMode != 0;
+  const bool isMainFile = name.IsMainFileOf(function);
   DefaultPrintOptions(run);
+  run.Options.Cover = 1;
+  TakeOverlap(run, function, name.Folder);
+  if (isMainFile) static_cast<void>(CountMasterRows(run, &function));
+  if (LoadLines(run, path) < 0 || !function.Read(run)) return false;
+  const bool isResult = isMainFile && run.Session.OverlapMode != 0;
   run.Session.Mode = function.Mode;
   MakePages(run, function, isResult ? DataSetKind::OverlapResult : DataSetKind::Data);
   return true;

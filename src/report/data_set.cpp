@@ -1,8 +1,10 @@
 #include "report/data_set.h"
 
 #include <cassert>
+#include <limits>
 
 #include "printfiles/host_files.h"
+#include "printfiles/key_place.h"
 #include "run/print_run.h"
 
 namespace tarvis {
@@ -34,6 +36,19 @@ void NameOverlappedSet(PrintRun& run, const PrintFunction& function, const std::
 }
 
 }  // namespace
+
+std::int16_t CountMasterRows(const PrintRun& run, const PrintFunction* function) {
+  const PrintSession& session = run.Session;
+  const bool overlaps = function != nullptr && function->Overlap != nullptr && session.OverlapMode == 1;
+  int rows = run.Options.Cover == 1 ? 2 : 1;
+  if (overlaps && function->Overlap->PrintsDetail(run.Options)) rows += session.OverlapNum;
+  if (rows > std::numeric_limits<std::int16_t>::max()) {
+    FailurePlace place = PlaceOf(run, "OverlapNum");
+    place.Text = std::to_string(session.OverlapNum);
+    throw RunTimeFailure("number out of range", place);
+  }
+  return static_cast<std::int16_t>(rows);
+}
 
 void ListModules(PrintRun& run, const PrintFunction& function, DataSetKind kind) {
   assert(kind == DataSetKind::Data || function.Overlap != nullptr);

@@ -1,6 +1,7 @@
 // The data sets of a print: loads a file and lists the function reports that print it.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "report/print_function.h"
@@ -10,6 +11,11 @@ namespace tarvis {
 // What is printed of a data file: the data themselves, or the comparison of all data sets that are laid over
 // each other.
 enum class DataSetKind { Data, OverlapResult };
+
+// How many rows the master report has: the cover letter, the data set, and each of the overlapped data sets
+// if their details are printed. A number that 16 bits can't hold throws RunTimeFailure; the data file without
+// a suffix must be the one that was loaded last.
+[[nodiscard]] std::int16_t CountMasterRows(const PrintRun& run, const PrintFunction* function);
 
 // Loads a data set of `function` and fills module list, column switches, title and group of the session.
 // `suffix` is empty or the number of an overlapped data set. A file that is wrong ends the run with the

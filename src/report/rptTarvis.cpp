@@ -31,26 +31,18 @@ void rptTarvis::ActiveReport_ReportStart() {
   PrintSession& session = Run.Session;
   function_ = FindFunction(functions_, session.Mode);
   ModuleIndex = 0;
-  ModuleCount = 1;
+  ModuleCount = CountMasterRows(Run, function_);
   Tools.push_back({"Editing of the Printing Items", 0});
   Tools.back().ID = EditItemsTool;
-  if (Run.Options.Cover == 1) ModuleCount = 2;
   OverlapIndex = 0;
   session.FinishedReports = 0;
   session.TocGroup.clear();
-  if (session.OverlapMode == 1 && DetailIsOn()) {
-    ModuleCount = static_cast<std::int16_t>(ModuleCount + session.OverlapNum);
-  }
   TOCVisible = true;
   TOCWidth = 2300;
 }
 
 bool rptTarvis::Overlaps() const {
   return function_ != nullptr && function_->Overlap != nullptr;
-}
-
-bool rptTarvis::DetailIsOn() const {
-  return Overlaps() && function_->Overlap->PrintsDetail(Run.Options);
 }
 
 void rptTarvis::ActiveReport_FetchData(bool& endOfData) {

@@ -31,8 +31,6 @@ class rptTarvis : public ActiveReport {
   void LoadNextDataSet();
   // Whether the data sets of the function can be laid over each other.
   bool Overlaps() const;
-  // Whether each of the overlapped data sets is printed after their result.
-  bool DetailIsOn() const;
 
   ReportContext context_;
   FunctionTable functions_;

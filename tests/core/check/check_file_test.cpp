@@ -153,6 +153,16 @@ TEST_F(CheckedFile, BoundsComparisonTimesByTheOverlapThatTheProgramTakes) {
       << "the program takes the number before it finds the mode";
 }
 
+TEST_F(CheckedFile, StopsAtANumberOfDataSetsThatTheProgramCannotCount) {
+  EXPECT_EQ(Wrong("Trace.tmp", "OverlapMode,1\r\nOverlapNum,32767\r\n"),
+            "Trace.tmp:2: OverlapNum: number out of range: '32767'");
+  EXPECT_EQ(Wrong("Trace.tmp", "OverlapMode,1\r\nOverlapNum,32766\r\n"),
+            "Trace.tmp:2: OverlapNum: number out of range: '32766'")
+      << "with a cover letter";
+  EXPECT_TRUE(IsGood("Trace.tmp", "OverlapMode,1\r\nOverlapNum,32765\r\n"));
+  EXPECT_TRUE(IsGood("Trace.tmp", "OverlapMode,0\r\nOverlapNum,32767\r\n"));
+}
+
 TEST_F(CheckedFile, TakesTheOverlapOfACompanionFromTheMainFileBesideIt) {
   EXPECT_TRUE(IsGood("Sim1.tmp", "OverlapMode,1\r\nOverlapNum,12\r\n" + kTwelveTimes + kPattern));
   Folder.Write("Sim.tmp", "OverlapMode,1\r\nOverlapNum,12\r\n");

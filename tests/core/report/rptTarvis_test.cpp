@@ -4,9 +4,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "printfiles/data_file_scan.h"
 #include "report/data_set.h"
 #include "support/host_run.h"
 #include "support/sample_report.h"
+#include "support/test_run.h"
 
 namespace tarvis {
 namespace {
@@ -271,6 +273,19 @@ TEST_F(OverlappedTrace, PrintsResultTargetAndDataEachOnPagesOfTheirOwn) {
 TEST_F(OverlappedTrace, PrintsTheResultOnlyWithoutDetails) {
   Options.TraceOption[8] = 0;
   EXPECT_THAT(Compose(), ElementsAre("1: rptTraceGraph rptTraceObjrctOverlap"));
+}
+
+TEST_F(OverlappedTrace, StopsAtANumberOfDataSetsThatCannotBeCounted) {
+  const auto failureOf = [this](const std::string& number) {
+    Folder.Write("Trace.tmp", "OverlapMode,1\r\nOverlapNum," + number + "\r\n");
+    ScanOverlap(Report.Run, "Trace.tmp");
+    return RunTimeFailureOf([this] { Compose(); });
+  };
+  EXPECT_EQ(failureOf("32767"), "Trace.tmp:2: OverlapNum: number out of range: '32767'");
+  Options.Cover = 1;
+  EXPECT_EQ(failureOf("32766"), "Trace.tmp:2: OverlapNum: number out of range: '32766'");
+  Options.Cover = 0;
+  EXPECT_THROW(Compose(), RunEnded) << "the file of the third data set is missing";
 }
 
 TEST_F(OverlappedTrace, ModeTwoListsTheResultButNoDetails) {
