@@ -32,8 +32,7 @@ void rptTarvis::ActiveReport_ReportStart() {
   function_ = FindFunction(functions_, session.Mode);
   ModuleIndex = 0;
   ModuleCount = CountMasterRows(Run, function_);
-  Tools.push_back({"Editing of the Printing Items", 0});
-  Tools.back().ID = EditItemsTool;
+  Tools.push_back({"Editing of the Printing Items", EditItemsTool});
   OverlapIndex = 0;
   session.FinishedReports = 0;
   session.TocGroup.clear();

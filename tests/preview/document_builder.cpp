@@ -37,7 +37,7 @@ Item& DocumentBuilder::Add(ItemKind kind, const Rect& box) {
 }
 
 std::uint32_t DocumentBuilder::Piece(const std::string& text, float size, bool bold) {
-  const TextStyle style{size, bold, Black};
+  const TextStyle style{size, bold};
   auto known = std::find(document_->Styles.begin(), document_->Styles.end(), style);
   const auto number = static_cast<std::uint16_t>(known - document_->Styles.begin());
   if (known == document_->Styles.end()) document_->Styles.push_back(style);

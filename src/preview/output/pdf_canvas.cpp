@@ -89,7 +89,7 @@ void PdfCanvas::Text(const TextPiece& piece, const TextStyle& style, const Rect&
     AddRect(*clip);
     Add("W n\n");
   }
-  UseInk(style.Ink);
+  UseInk(Black);
   BeginText();
   ShowText(piece, style, D(box.Left), baseline, D(fit.Stretch));
   if (clip) {

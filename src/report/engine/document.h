@@ -22,11 +22,9 @@ inline constexpr Color White = 0xFFFFFF;
 
 enum class ItemKind : std::uint8_t { Text, Box, Line, Picture, Tick };
 
-// What an item is for, so that lines can be put together again when text is copied.
 struct TextStyle {
   float Size = 8.5F;  // points
   bool Bold = false;
-  Color Ink = Black;
   bool operator==(const TextStyle&) const = default;
 };
 

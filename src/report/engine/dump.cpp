@@ -1,3 +1,4 @@
+// A document as text, as goldens hold it.
 #include <array>
 #include <cstdio>
 #include <string>
@@ -31,7 +32,6 @@ std::string Describe(const Document& document, const Item& item) {
       const TextPiece& piece = document.Texts[item.Source];
       const TextStyle& style = document.Styles[piece.Style];
       std::string look = " " + Number(style.Size) + (style.Bold ? " bold" : "");
-      if (style.Ink != Black) look += " " + HexColor(style.Ink);
       if (item.Box.Width + 0.5F < piece.Advance) look += " condensed from " + Number(piece.Advance);
       return "text " + Place(item.Box) + look + " '" + std::string(piece.Text) + "'";
     }

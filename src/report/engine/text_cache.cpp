@@ -57,8 +57,8 @@ TextCache::TextCache(Document& document, const TextMeasurer& measurer)
 
 TextCache::~TextCache() = default;
 
-std::uint16_t TextCache::Style(float size, bool bold, Color ink) {
-  return StyleIndex(document_, {size, bold, ink});
+std::uint16_t TextCache::Style(float size, bool bold) {
+  return StyleIndex(document_, {size, bold});
 }
 
 std::uint16_t TextCache::Name(const char* controlName) {

@@ -30,7 +30,7 @@ class TextCache {
   TextCache(const TextCache&) = delete;
   TextCache& operator=(const TextCache&) = delete;
 
-  std::uint16_t Style(float size, bool bold, Color ink = Black);
+  std::uint16_t Style(float size, bool bold);
   std::uint16_t Name(const char* controlName);
 
   // The lines of `text` in a box `width` twips wide, as indices of Document::Texts. Lines break at CR LF, at
