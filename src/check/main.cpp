@@ -1,4 +1,5 @@
-// tarvis-check: tells the host's developers whether their files are good. Exit status 0 if all are, 1 if not.
+// tarvis-check: says to the host's developers whether their files are good. Exit status 0 if all are, 1 if
+// not.
 #include <cstring>
 #include <iostream>
 
@@ -10,12 +11,12 @@ namespace {
 
 constexpr const char* Usage =
     "Usage: tarvis-check [--code-page NUMBER] FILE...\n"
-    "Reads files that the host wrote for printing and tells in one line for each what it holds or what is "
+    "Reads files that the host wrote for printing and says in one line for each what it holds or what is "
     "wrong.\n"
-    "The name of a file tells its kind: User.tmp, UPWizard.tmp, Trace.tmp, Trace1.tmp, RealTrace.tmp, "
-    "Mecha.tmp, Sim.tmp,\n"
-    "Sim1.tmp, IdxIdxTbl.tmp, IdxZoneTbl.tmp, IdxJogTbl.tmp, PrintOption.ToT. The code page is 1252 unless "
-    "told.\n";
+    "The kind of a file follows from its name: User.tmp, UPWizard.tmp, Trace.tmp, Trace1.tmp, RealTrace.tmp, "
+    "Mecha.tmp,\n"
+    "Sim.tmp, Sim1.tmp, IdxIdxTbl.tmp, IdxZoneTbl.tmp, IdxJogTbl.tmp, PrintOption.ToT. The code page is 1252 "
+    "by default.\n";
 
 bool Is(const char* argument, const char* option) {
   return std::strcmp(argument, option) == 0;

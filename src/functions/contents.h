@@ -1,4 +1,4 @@
-// The words in which the functions tell what a data file holds.
+// Phrases that describe what a data file holds.
 #pragma once
 
 #include <string>

@@ -8,7 +8,7 @@
 
 namespace tarvis {
 
-// The arguments in `line`, which is the command line behind the program's name. Element 0 is empty; elements
+// The arguments in `line`, which is the command line after the program's name. Element 0 is empty; elements
 // 1 to n hold the arguments, at most `maxArgs` of them. Blanks and tabs separate; quotation marks mean
 // nothing.
 CheckedArray<std::string> SplitCommandLine(std::string_view line, int maxArgs);

@@ -16,9 +16,9 @@ struct LaunchServices {
   ProgramWindows& Windows;
 };
 
-// Starts a run: `commandLine` is what stands behind the program's name. Returns with the dialog open, or
+// Starts a run: `commandLine` is the text after the program's name. Returns with the dialog open, or
 // doesn't return: no argument and an unknown edition are failure 1, and without a printer every mode but
-// `PrnSetting` ends after the user has been told. Less than four arguments, or a number that is none, throw
+// `PrnSetting` ends after a message to the user. Less than four arguments, or a number that is none, throw
 // RunTimeFailure.
 void Launch(PrintRun& run, std::string_view commandLine, const LaunchServices& services);
 

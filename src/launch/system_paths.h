@@ -7,7 +7,7 @@ class HostRegistry;
 struct PrintRun;
 
 // Fills `HostVersion`, `SystemFolder`, `TempFolder` and the folder part of `HelpFile` by `HostEdition`. A
-// value that the registry lacks counts as empty; an edition other than 1, 2 or 4 is failure 1.
+// value that is missing in the registry counts as empty; an edition other than 1, 2 or 4 is failure 1.
 void LoadSystemPaths(PrintRun& run, HostRegistry& registry);
 
 }  // namespace tarvis

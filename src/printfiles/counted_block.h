@@ -21,8 +21,8 @@ class CountedBlock {
   CountedBlock(std::string_view countKey, std::int16_t& count, CheckedArray<Row>& rows)
       : state_(std::make_shared<State>(State{std::string(countKey), count, rows})) {}
 
-  // Drops the rows and sizes the block anew. The row number stays, also at a second count line of one file. A
-  // count below -1 is a RunTimeFailure.
+  // Drops the rows and sets the size of the block. The row number stays, also at a second count line of one
+  // file. A count below -1 is a RunTimeFailure.
   LineHandler Count() const {
     return [state = state_](LineValue& value) -> Refusal {
       value.FieldsAndRest(state->Number);
@@ -62,14 +62,14 @@ class CountedBlock {
     int Index = 0;
 
     Refusal Refuse() const {
-      if (!CountSeen) return "stands before '" + CountKey + "'";
+      if (!CountSeen) return "comes before '" + CountKey + "'";
       if (Index > Rows.HighestIndex() - 1) return "one more than '" + CountKey + "' announces";
       return Accepted;
     }
     Row& RowOrSpare() {
       if (Index <= Rows.HighestIndex()) return Rows[Index];
       throw RunTimeFailure(CountSeen ? "two more than '" + CountKey + "' announces"
-                                     : "stands before '" + CountKey + "'");
+                                     : "comes before '" + CountKey + "'");
     }
   };
 

@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::int32_t LoadFailed = -1;
 
-// The bytes of a file; if there are none, `reason` tells why. A file that is too large isn't read at all.
+// The bytes of a file; if there are none, `reason` says why. A file that is too large isn't read at all.
 std::optional<std::string> ReadBytes(std::string_view path, std::string& reason) {
   reason = "can't be read";
   if (!FileExists(path)) return std::nullopt;
@@ -31,7 +31,7 @@ std::optional<std::string> ReadBytes(std::string_view path, std::string& reason)
   return bytes;
 }
 
-// Cuts `bytes` into lines. The last one needs no line end, and nothing behind the last line end is no line.
+// Cuts `bytes` into lines. The last one needs no line end, and a trailing line end starts no further line.
 template <typename AddLine>
 void CutLines(std::string_view bytes, AddLine addLine) {
   for (std::size_t start = 0; start < bytes.size();) {

@@ -17,7 +17,7 @@ constexpr std::int64_t LargestFile = 32768 * 1024;
 // ends at CR LF or at a CR alone; an LF alone is a part of its line.
 std::int32_t LoadLines(PrintRun& run, std::string_view path);
 
-// The same with the bytes of the file at hand; `path` only names them. Never fails.
+// The same with bytes that were already read; `path` only names them. Never fails.
 std::int32_t LoadBytes(PrintRun& run, std::string_view path, std::string bytes);
 
 }  // namespace tarvis

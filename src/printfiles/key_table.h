@@ -25,7 +25,7 @@ using LineHandler = std::function<Refusal(LineValue&)>;
 
 class KeyTable {
  public:
-  // Keys must outlive the table, and each may stand in it once.
+  // Keys must outlive the table, and each may be in it once.
   KeyTable(std::initializer_list<std::pair<const std::string_view, LineHandler>> lines) : lines_(lines) {}
   KeyTable() = default;
 

@@ -1,4 +1,4 @@
-// What stands behind the key of a line, taken off piece by piece.
+// The text after the key of a line, read piece by piece.
 #pragma once
 
 #include <array>
@@ -14,12 +14,12 @@
 
 namespace tarvis {
 
-// A text whose line breaks stand in the file as the four characters \r\n.
+// A text whose line breaks are written in the file as the four characters \r\n.
 struct Escaped {
   std::string& Text;
 };
 
-// The type of a part tells its form: a text is taken as it stands, an Escaped text unescaped, a number
+// The type of a part decides its form: a text is taken as it is, an Escaped text unescaped, a number
 // converted strictly. An array takes one field for each element.
 class LineValue {
  public:

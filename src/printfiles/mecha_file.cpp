@@ -7,7 +7,7 @@
 namespace tarvis {
 namespace {
 
-// The cursor rows stand whatever `CursolSelect` says.
+// The cursor rows count whatever `CursolSelect` says.
 KeyTable GraphKeys(MechaData& mecha) {
   return {
       {"MechaGraph1C", Rest(mecha.MechaGraph1C)},     {"MechaGraph1", Rest(mecha.MechaGraph1)},

@@ -11,7 +11,7 @@ namespace {
 constexpr std::int16_t NoTraceDetail = 2;
 constexpr std::int16_t NoSimComparison = 3;
 
-// What is written of a text is what the reader finds again. A CR would end the line, and what stands after it
+// What is written of a text is what the reader finds again. A CR would end the line, and the text after it
 // would be a line of its own, with a key that the reader refuses.
 std::string Written(const std::string& text) {
   return text.substr(0, text.find('\r'));
@@ -191,7 +191,7 @@ void AddAddressee(std::vector<OptionLine>& lines, const AddresseeKeys& keys, Add
   lines.push_back(Whole(keys.Adr, Escaped{block.Adr}));
 }
 
-// `ColorType` stands in the middle of the functions, out of the order of the record.
+// `ColorType` is in the middle of the functions, not in the order of the record.
 void AddFunctions(std::vector<OptionLine>& lines, PrintOptions& options) {
   auto [traceOption, simOption] = TraceAndSimOption(options);
   IdxTblOptions& idxTbl = options.IdxTblOption;

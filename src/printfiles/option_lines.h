@@ -16,7 +16,7 @@ namespace tarvis {
 struct OptionLine {
   std::string_view Key;
   LineHandler Read;
-  std::function<std::string()> Write;  // the value behind the comma
+  std::function<std::string()> Write;  // the value after the comma
   // Which element this number of the options is, counted from 1; 0 if it is the whole value; nothing if it
   // belongs to another line.
   std::function<std::optional<int>(const std::int16_t& number)> ElementOf;

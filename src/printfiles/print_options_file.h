@@ -13,12 +13,12 @@ struct PrintRun;
 // In the system folder.
 inline constexpr const char* OptionsFile = "PrintOption.ToT";
 
-// Fills `Options` from the lines loaded last. A key that the file lacks leaves its field. False, with the
+// Fills `Options` from the lines loaded last. A field whose key the file doesn't have stays. False, with the
 // reason in the session's diagnosis, for a file that is refused; a strict number that fails throws
 // RunTimeFailure.
 bool ReadPrintOptionsFile(PrintRun& run);
 
-// Where the number `option` of the run's options stood in the file that was read, for a value that nothing
+// The place of the number `option` of the run's options in the file that was read, for a value that nothing
 // can show. The text is the number.
 FailurePlace OptionPlace(PrintRun& run, const std::int16_t& option);
 

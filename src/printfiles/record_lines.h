@@ -11,7 +11,7 @@ inline LineHandler CursorLine(CursorRow& row) {
   return FieldsAndRest(row.ValueA, row.ValueB, row.ValueDiff, row.NameUnit);
 }
 
-// A cursor's line counts only behind a `CursolSelect` that asks for it.
+// A cursor's line counts only if it follows a `CursolSelect` that asks for it.
 template <typename Record>
 KeyTable CursorKeys(Record& record) {
   return {

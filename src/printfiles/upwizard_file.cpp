@@ -6,7 +6,7 @@
 namespace tarvis {
 namespace {
 
-// The first field is a number that chooses the slot; `fill` takes the slot and the fields behind it.
+// The first field is a number that chooses the slot; `fill` takes the slot and the fields that follow.
 template <typename Slots, typename Fill>
 LineHandler SlotLine(Slots& slots, Fill fill) {
   return [&slots, fill](LineValue& value) -> Refusal {

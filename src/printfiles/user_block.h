@@ -1,4 +1,4 @@
-// The parameter block, which stands alike in User.tmp, Trace.tmp, RealTrace.tmp and Sim.tmp.
+// The parameter block, which has the same form in User.tmp, Trace.tmp, RealTrace.tmp and Sim.tmp.
 #pragma once
 
 #include "printfiles/key_table.h"

@@ -1,4 +1,4 @@
-// The picture behind the caption of every function report: a slate blue tab that fades in its middle.
+// The background picture of the caption of every function report: a slate blue tab that fades in its middle.
 #pragma once
 
 #include <string>

@@ -39,7 +39,7 @@ void CursorGraphReport::HideCursorTable() {
   }
 }
 
-// Required: every row behind the first shows the second cursor row.
+// Required: every row after the first shows the second cursor row.
 void CursorGraphReport::ActiveReport_FetchData(bool& endOfData) {
   endOfData = Row >= data_.CursolSelect;
   if (endOfData) return;

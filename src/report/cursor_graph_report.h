@@ -1,4 +1,4 @@
-// One graph with its legends and its cursor table. A definition states its layout and where its data stand.
+// One graph with its legends and its cursor table. A definition states its layout and the place of its data.
 #pragma once
 
 #include <cstdint>

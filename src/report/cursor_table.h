@@ -18,7 +18,7 @@ struct CursorLayout {
   Rect ValueCurB_A;
 };
 
-// Fields that stand in the report's own guide and row sections.
+// Fields in the report's own guide and row sections.
 struct CursorTable {
   CursorTable(Section& ghGuide, Section& detail, const CursorLayout& layout);
 

@@ -24,7 +24,7 @@ struct TableColumns {
   std::optional<TableColumn> Unit;
 };
 
-// Where the texts of one row stand; the fetch reads them. A row made without a record is blank.
+// The places of the texts of one row; the fetch reads them. A row made without a record is blank.
 struct TableRow {
   TableRow() = default;
   TableRow(const NameValue& record) : Name(&record.Name), Value(&record.Value) {}

@@ -9,7 +9,7 @@
 
 namespace tarvis {
 
-// Created anew for each data set. The catalog of function reports is handed in.
+// Created for each data set. The catalog of function reports is passed to it.
 class rptBaseHeader : public ActiveReport {
  public:
   rptBaseHeader(ReportContext context, ReportFactory factory);

@@ -16,8 +16,8 @@ class Desktop {
   virtual ~Desktop() = default;
 
   // Called first of all for a numbered failure; `diagnosis` is its reason, empty if there is none. When it
-  // returns, the user is told and the run ends as every run does, with its data files deleted. A program
-  // without a user throws.
+  // returns, the user gets the message and the run ends as every run does, with its data files deleted. A
+  // program without a user throws.
   virtual void NoticeFailure(Failure /*failure*/, const std::string& /*diagnosis*/) {}
   virtual void Beep() = 0;
   // Shows a modal box with an OK button only and no icon, and returns when the user has answered.
@@ -34,7 +34,7 @@ class ProgramWindows {
  public:
   virtual ~ProgramWindows() = default;
 
-  // Shows the dialog "Printing Item Setting", modeless, loaded anew.
+  // Shows the dialog "Printing Item Setting", modeless, loaded again.
   virtual void ShowPrintSetting() = 0;
   // Composes `rptTarvis` and shows it in the preview.
   virtual void ShowMasterReport() = 0;

@@ -8,7 +8,7 @@ namespace tarvis {
 class Desktop;
 struct PrintRun;
 
-// Of a run that ends by a failure without a number: one that no routine handles, or a desk that can't show
+// Exit status after a failure that has no number: one that no routine handles, or a desktop that can't show
 // windows.
 constexpr int ExitAfterRunTimeFailure = 1;
 

@@ -6,7 +6,8 @@
 
 namespace tarvis {
 
-// Always describes the data file read last; a file that lacks a key leaves the value of the file before.
+// Always describes the data file read last; where a file doesn't have a key, the value of the previous file
+// stays.
 struct FileHeader {
   std::int16_t FileSpec = 0;
   std::string FileType;

@@ -16,7 +16,7 @@ struct NameValueUnit {
   std::string Unit;
 };
 
-// Not emptied by a read: a key that the file lacks keeps its older value.
+// Not emptied by a read: a key that the file doesn't have keeps its older value.
 struct MechaData {
   std::string MechaGraph1C;  // gain
   std::string MechaGraph1;

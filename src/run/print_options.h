@@ -28,7 +28,7 @@ struct IdxTblOptions {
   std::int16_t Comment = 0;  // element 4
 };
 
-// The elements of an option key, in the order in which they stand on its line, counted from 1.
+// The elements of an option key, in the order of its line, counted from 1.
 enum class UserElement { Name = 1, Switches, Unit, Default, Comments, Last = Comments };
 enum class TraceElement {
   Trigger = 1,

@@ -8,7 +8,7 @@
 
 namespace tarvis {
 
-// Not emptied by a read: a key that the file lacks keeps its older value.
+// Not emptied by a read: a key that the file doesn't have keeps its older value.
 struct RealTraceData {
   std::string RealTraceGraphC;
   std::string RealTraceGraph;

@@ -14,7 +14,7 @@ namespace tarvis {
 
 class ActiveReport;
 
-// The five flags (1 on, 0 off) and the title that are alike for all functions.
+// The five flags (1 on, 0 off) and the title that every function has.
 struct HeaderOptions {
   std::int16_t Title = 0;
   std::int16_t ModelsInfo = 0;

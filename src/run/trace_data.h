@@ -7,7 +7,7 @@
 
 namespace tarvis {
 
-// One row of a cursor table. The name stands last on the line, though it prints first.
+// One row of a cursor table. The name is the last field of the line, though it prints first.
 struct CursorRow {
   std::string ValueA;
   std::string ValueB;

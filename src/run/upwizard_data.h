@@ -8,12 +8,12 @@
 namespace tarvis {
 
 struct WizardText {
-  std::string Slot;  // the slot number as it stood in the line
+  std::string Slot;  // the slot number as it was written in the line
   std::string Text;
 };
 
 struct WizardRelay {
-  std::string Slot;  // the slot number as it stood in the line
+  std::string Slot;  // the slot number as it was written in the line
   std::string Number;
   std::string Picture;  // path; may be empty
   std::string Name;

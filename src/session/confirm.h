@@ -6,7 +6,7 @@ namespace tarvis {
 struct PrintRun;
 
 // Leaves options and session of the run as the dialog leaves them when its OK is pressed before anything
-// else. What ends the run or throws there does so here; a title above its limit is cut and told as a message.
+// else. What ends the run or throws there does so here; a title above its limit is cut, with a message.
 // Writes no file.
 void ConfirmKeptOptions(PrintRun& run);
 

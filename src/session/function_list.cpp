@@ -30,7 +30,7 @@ constexpr std::array Edition1{
     FunctionEntry{"Dynamics Simulation", PageId::InfSim},
 };
 
-// Version 100 lacks the last two entries, analysis and simulation.
+// Version 100 doesn't have the last two entries, analysis and simulation.
 std::span<const FunctionEntry> OfVersion(std::span<const FunctionEntry> entries, std::string_view version) {
   if (version == "200") return entries;
   if (version == "100") return entries.first(entries.size() - 2);

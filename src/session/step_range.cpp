@@ -18,7 +18,7 @@ bool IsDigitsOnly(const std::string& text) {
   return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
-// Silent. The last comparison is one of texts: "127" stands before "5".
+// Silent. The last comparison is one of texts: "127" is less than "5".
 void RepairRange(PrintRun& run) {
   IdxTblOptions& option = run.Options.IdxTblOption;
   if (!IsDigitsOnly(option.First)) option.First = FirstStep;

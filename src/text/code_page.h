@@ -1,4 +1,4 @@
-// The system's code page: what turns the bytes of the files into text and tells the byte length of a text.
+// The system's code page: converts between the bytes of the files and text, and counts the bytes of a text.
 #pragma once
 
 #include <cstddef>
@@ -11,7 +11,7 @@ namespace tarvis {
 // The number of a code page from a text of digits; anything else is a RunTimeFailure.
 int CodePageNumber(std::string_view text);
 
-// Whether `text` is alike in UTF-8 and in every code page of the system.
+// Whether `text` has the same bytes in UTF-8 and in every code page of the system.
 bool IsAscii(std::string_view text);
 
 // Text in memory is UTF-8. A byte length is always that of the text in this code page.
@@ -28,7 +28,7 @@ class CodePage {
   // Bytes of the code page to UTF-8. Bytes that mean nothing, half a character among them, become the
   // replacement that the code page's own conversion uses; never fails.
   std::string ToUtf8(std::string_view bytes) const;
-  // UTF-8 to bytes of the code page. Characters that it lacks become its substitution character ("?").
+  // UTF-8 to bytes of the code page. Characters that it doesn't have become its substitution character ("?").
   std::string FromUtf8(std::string_view text) const;
   // The number of bytes that FromUtf8 would give.
   std::size_t ByteLength(std::string_view text) const;

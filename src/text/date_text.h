@@ -1,4 +1,4 @@
-// Dates as texts, alike in every locale.
+// Dates as texts, the same in every locale.
 #pragma once
 
 #include <ctime>

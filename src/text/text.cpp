@@ -26,7 +26,7 @@ std::string ReplaceAll(std::string_view text, std::string_view what, std::string
   return result;
 }
 
-// Takes the piece before `position` off the front, and `skipped` bytes behind it.
+// Removes the piece before `position` from the front, and the `skipped` bytes that follow it.
 std::string_view TakePiece(std::string_view& text, std::size_t position, std::size_t skipped) {
   const std::string_view piece = text.substr(0, position);
   text.remove_prefix(position == std::string_view::npos ? text.size()

@@ -1,4 +1,4 @@
-// Small text routines on which the readers, reports and dialogs stand. A line break is CR LF.
+// Small text routines that the readers, reports and dialogs use. A line break is CR LF.
 #pragma once
 
 #include <cstddef>
@@ -20,7 +20,7 @@ std::string_view NextTextLine(std::string_view& text);
 
 // CR LF becomes the four characters \r\n; a CR or LF alone stays.
 std::string EscapeNewlines(std::string_view text);
-// The four characters \r\n become CR LF, wherever they stand.
+// The four characters \r\n become CR LF, wherever they are.
 std::string UnescapeNewlines(std::string_view text);
 // CR LF becomes one blank.
 std::string NewlinesToBlanks(std::string_view text);

@@ -38,7 +38,7 @@ expect 1 "tarvis-check: CodePage: not a code page that holds ASCII: '1200'" --co
 expect 1 "tarvis-check: CodePage: not a code page number: '932x'" --code-page 932x "$folder/User.tmp"
 printf 'Comment,\303\244\r\n' >"$folder/User.tmp"
 expect 0 "User.tmp: 0 parameters, 0 switch parameters, comment 'ä'" --code-page 65001 "$folder/User.tmp"
-usage="Sim1.tmp, IdxIdxTbl.tmp, IdxZoneTbl.tmp, IdxJogTbl.tmp, PrintOption.ToT. The code page is 1252 unless told."
+usage="Sim.tmp, Sim1.tmp, IdxIdxTbl.tmp, IdxZoneTbl.tmp, IdxJogTbl.tmp, PrintOption.ToT. The code page is 1252 by default."
 expect 1 "$usage"
 [ ! -s "$folder/out" ] || fail "a wrong call writes to standard output"
 expect 0 "$usage" --help

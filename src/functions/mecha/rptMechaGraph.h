@@ -14,7 +14,7 @@ class rptMechaGraph : public GraphReport {
   void ActiveReport_FetchData(bool& endOfData) override;
 
  private:
-  // Required: the first title stands 7 twips off the line of its neighbours.
+  // Required: the first title is 7 twips off the line of its neighbours.
   static constexpr CursorLayout Cursors{
       .TitleName = {135, 135, 2834, 285},
       .TitleCurA = {2976, 142, 1985, 283},

@@ -14,7 +14,7 @@ class rptRealTraceInfo : public NameValueTable {
   }
 
  private:
-  // The line break stands in the layout; it makes no second line.
+  // The line break is part of the layout; it makes no second line.
   static constexpr TableColumns Columns{
       .Name = {"Items\r\n", 142, 3685}, .Value = {"Value", 3827, 5102}, .Unit = {}};
 

@@ -11,7 +11,7 @@ class SimCmpReport : public FunctionReport {
  protected:
   SimCmpReport(const char* name, ReportContext context, const char* caption, Keep keep);
 
-  // What the data file tells of a simulation. A row that has no room there throws RunTimeFailure.
+  // What the data file holds about a simulation. A row that has no room there throws RunTimeFailure.
   const CmpTimeRow& Simulation(int row) const;
   // Without any simulation there is no table.
   void ghGuide_BeforePrint();

@@ -61,7 +61,7 @@ ModuleList Modules(PrintRun& run) {
   return modules;
 }
 
-// The second name is spelled so in the list; it stands for rptTraceObjectOverlap.
+// The second name is spelled so in the list; it means rptTraceObjectOverlap.
 ModuleList ResultModules(PrintRun& run) {
   const auto& option = run.Options.SimOption;
   const bool times = option.IsOn(SimElement::TimeComparison);

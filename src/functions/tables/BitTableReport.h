@@ -10,7 +10,7 @@
 
 namespace tarvis {
 
-// A text column behind the bit columns, or the ID column before them.
+// A text column after the bit columns, or the ID column before them.
 struct BitTableColumn {
   const char* TitleControl;
   const char* Title;

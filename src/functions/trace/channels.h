@@ -8,10 +8,10 @@
 
 namespace tarvis {
 
-// Whether the function in hand is Dynamics Simulation; any other counts as Tracing.
+// Whether the function that prints is Dynamics Simulation; any other counts as Tracing.
 bool PrintsSimulation(const PrintRun& run);
 
-// Data traces 1 to 3, then I/O traces 1 to 3, of the record of the function in hand.
+// Data traces 1 to 3, then I/O traces 1 to 3, of the record of the function that prints.
 std::array<const TraceItem*, 6> Channels(const PrintRun& run);
 
 // Whether the graph of the channel with this index is displayed. A `Display` that is no 16-bit number throws

@@ -6,7 +6,7 @@
 
 namespace tarvis {
 
-// The oldest file layout whose switches tell their digits.
+// The oldest file layout whose switches list their digits.
 inline constexpr int SpecWithDigits = 3;
 
 // "1, 2" for First 1 and Count 2; empty for Count 0. A First or Count that is no number throws RunTimeFailure

@@ -237,7 +237,7 @@ void rptUserPrm::Detail_BeforePrint() {
   }
   for (std::size_t group = 0; group < Groups; ++group) {
     if (!txtPos[group]->Visible) continue;
-    // The meaning has grown; the value beside it takes its height.
+    // The meaning has grown; the value next to it takes its height.
     txtValueBitValue[group]->Height = txtValueBitName[group]->Height;
     txtPos[group]->Top = static_cast<float>(y);
     txtValueBitValue[group]->Top = static_cast<float>(y) + txtPos[group]->Height;

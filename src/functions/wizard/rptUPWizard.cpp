@@ -3,7 +3,7 @@
 namespace tarvis {
 namespace {
 
-// Relay rows and output names stand on one grid; the pictures are higher than its pitch and overlap.
+// Relay rows and output names are on one grid; the pictures are higher than its pitch and overlap.
 constexpr float RowPitch = 330;
 
 void Place(Control& control, const Rect& place) {

@@ -28,7 +28,7 @@ class Contents {
   void Add(const std::string& path) {
     if (taker_) taker_(path);
   }
-  // The composer's side: who takes the entries of the run in hand; empty drops them.
+  // The composer's side: who takes the entries from now on; empty drops them.
   void SetTaker(std::function<void(const std::string&)> taker) { taker_ = std::move(taker); }
 
  private:
@@ -57,7 +57,7 @@ class ActiveReport {
 
   // Written in Detail_Format: 5 has this pass of Detail leave no row. Counts for the one pass.
   int LayoutAction = 0;
-  // The report removes itself: the band in hand, all later rows and all footers don't print.
+  // The report removes itself: the band that is being composed, all later rows and all footers don't print.
   void Unload() { unloaded_ = true; }
   bool Unloaded() const { return unloaded_; }
 

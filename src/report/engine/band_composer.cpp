@@ -44,7 +44,7 @@ bool Wraps(const TextControl& text, Growth growth) {
   return growth == Growth::ToItsText || !oneLineOnly;
 }
 
-// How far the lines of a cell are set in, all alike: `spare` is what its widest line leaves of the box.
+// How far the lines of a cell are set in, all by the same: `spare` is what its widest line leaves of the box.
 float InsetOf(const TextControl& text, float spare) {
   return text.Style.Border ? std::clamp(spare, 0.0F, CellInset) : 0;
 }
@@ -142,7 +142,7 @@ void BandComposer::EmitControls(const Section& section, float left, Band& band) 
 }
 
 void BandComposer::Emit(const Field& field, const Output& output) {
-  // The page number stands for the page total until that is known.
+  // The page number is printed in place of the page total until that is known.
   const std::string& content = field.Summary == Summary::None ? field.Text : pageNumber_;
   EmitText(field, content, output.Section.FitsControls ? Growth::ToItsText : Growth::Never, output);
   const bool printsText = !content.empty() && !field.Style.RoomOnly;
@@ -196,7 +196,7 @@ void BandComposer::EmitText(const TextControl& text, const std::string& content,
   }
 }
 
-// What stands below the bottom of the box is clipped there.
+// Text below the bottom of the box is clipped there.
 void BandComposer::EmitLines(const TextControl& text, const std::string& content, const Output& output) {
   Item model = output.Model;
   const float width = WrapWidth(text, output.Left);
@@ -219,7 +219,7 @@ void BandComposer::EmitLines(const TextControl& text, const std::string& content
   }
 }
 
-// Text wider than its box runs on into the free room beside it; what then doesn't fit is condensed.
+// Text wider than its box runs on into the free room next to it; what then doesn't fit is condensed.
 void BandComposer::EmitOneLine(const TextControl& text, const std::string& content, const Output& output) {
   Item model = output.Model;
   const std::uint32_t piece = cache_.OneLine(content, StyleOf(text));

@@ -114,7 +114,8 @@ class Composing : private PageBands {
     flow_.Add(std::move(band));
   }
 
-  // The section itself is no block: its own controls stand at its top, the inner bands flow below one by one.
+  // The section itself isn't kept together: its own controls are at its top, the inner bands flow below one
+  // by one.
   void PrintFlowSection(ActiveReport& report, Section& section, float left, OpenGroup* group,
                         OpenGroup* begins) {
     FlowRow& row = rows_.emplace_back();

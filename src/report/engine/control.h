@@ -107,7 +107,7 @@ class Label : public TextControl {
   void SetCaption(std::string caption) { Text = std::move(caption); }
 };
 
-// How a picture stands in its box.
+// How a picture is placed in its box.
 enum class Fit : std::uint8_t { Fill, KeepCentred, KeepTopRight };
 
 class Image : public Control {

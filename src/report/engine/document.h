@@ -49,7 +49,7 @@ struct Item {
   bool OpenBottom = false;
   // Text: index of Texts. Picture: index of Pictures. Else unused.
   std::uint32_t Source = 0;
-  // Counts the bands of the document: items with the same number stand in one band (one table row).
+  // Counts the bands of the document: items with the same number belong to one band (one table row).
   std::uint32_t Band = 0;
   Color Fill = White;
   // Text: left edge, top of the line, printed width, line pitch. A printed width below the piece's advance

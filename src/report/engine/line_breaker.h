@@ -1,4 +1,4 @@
-// Break opportunities of running text, as Unicode's line breaking tells them.
+// Break opportunities of running text, by the line breaking rules of Unicode.
 #pragma once
 
 #include <memory>
@@ -12,7 +12,7 @@ class LineBreaker {
   LineBreaker();
   ~LineBreaker();
 
-  // Byte offsets behind which `text` (UTF-8) may break, ascending, the last one its length. Valid until the
+  // Byte offsets after which `text` (UTF-8) may break, ascending, the last one its length. Valid until the
   // next call.
   const std::vector<int>& Opportunities(std::string_view text);
 

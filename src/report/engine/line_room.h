@@ -1,4 +1,4 @@
-// The room of a text that stands on one line and is wider than its box.
+// The room of a text on one line that is wider than its box.
 #pragma once
 
 #include "report/engine/band.h"
@@ -12,11 +12,10 @@ struct LineRoom {
   float Width() const { return Right - Left; }
 };
 
-// The box of `text` and the free room beside it, on the side that it isn't aligned to: up to the next control
-// that prints anything, to what was printed in `band` before, to a frame around the text, or to the paper's
-// edge
-// (`paper`). Centred text has its box only. `line` is where the line stands, as high as it is printed. All in
-// twips relative to the section, but for the items of `band`, which are shifted by `left`.
+// The box of `text` and the free room next to it, on the side that it isn't aligned to: up to the next
+// control that prints anything, to what was printed in `band` before, to a frame around the text, or to the
+// edge of the paper (`paper`). Centred text has its box only. `line` is the place of the line, as high as it
+// is printed. All in twips relative to the section, but for the items of `band`, which are shifted by `left`.
 LineRoom RoomOfLine(const TextControl& text, const Section& section, const Rect& line, const Band& band,
                     float left, float paper);
 

@@ -182,7 +182,7 @@ void PageFlow::Place(Band& band) {
   PlaceTallBand(band);
 }
 
-// Starts on a fresh page unless only headers stand on this one, and is cut between lines of text.
+// Starts on a fresh page unless this one has only headers, and is cut between lines of text.
 void PageFlow::PlaceTallBand(Band& band) {
   if (rowsOnPage_ || (printedOnPage_ && FitsNextPage(band.Height, band.Group))) TurnPage(band.Group);
   while (!Fits(band.Height)) {

@@ -1,4 +1,5 @@
-// Decides on which page each finished band stands: page breaks, kept groups, repeated headers, page footers.
+// Decides on which page each finished band is placed: page breaks, kept groups, repeated headers, page
+// footers.
 //
 //   composer ──bands, groups, rows──> queue ──when nothing can change it any more──> pages of the document
 //
@@ -26,7 +27,7 @@ struct OpenGroup {
   Keep KeepTogether = Keep::None;
   bool Repeats = false;
   bool CannotBeKept = false;  // longer than a page, or nothing above it to leave: keep the first detail only
-  bool Begun = false;         // its header stands on a page
+  bool Begun = false;         // its header has been placed on a page
   float HeaderHeight = 0;     // as composed last
 };
 

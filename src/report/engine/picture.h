@@ -45,7 +45,7 @@ class PictureLoader {
   // Loads by content, once per path and composed document. `path` is a path as the system forms it, with
   // backslashes. A file that is no picture that can be shown is a RunTimeFailure that names file and reason.
   virtual PicturePtr Load(const std::string& path) = 0;
-  // The same for a picture held in memory; `name` stands for it in failures and is its key.
+  // The same for a picture held in memory; `name` names it in failures and is its key.
   virtual PicturePtr LoadBytes(const std::string& name, std::string_view bytes) = 0;
 };
 

@@ -1,4 +1,4 @@
-// Measures each distinct text once and breaks it into lines; the pieces stand in the document.
+// Measures each distinct text once and breaks it into lines; the pieces are kept in the document.
 #pragma once
 
 #include <array>
@@ -55,7 +55,7 @@ class TextCache {
     float Advance = 0;  // of the whole text, line ends counted as nothing
     std::uint16_t Style = 0;
     bool HasLineEnds = false;
-    std::int64_t Piece = -1;  // index of Document::Texts, once it stands on one line
+    std::int64_t Piece = -1;  // index of Document::Texts, once it has been set on one line
   };
   struct Broken {
     std::uint32_t First = 0;

@@ -6,7 +6,7 @@
 
 namespace tarvis {
 
-// The character at `offset`, which is moved behind it. A broken sequence counts as one U+FFFD a byte.
+// The character at `offset`, which is moved to the next one. A broken sequence counts as one U+FFFD a byte.
 inline char32_t NextCharacter(std::string_view text, std::size_t& offset) {
   const auto byteAt = [&](std::size_t index) { return static_cast<unsigned char>(text[index]); };
   const unsigned char lead = byteAt(offset++);

@@ -233,7 +233,7 @@ TEST_F(SimFile, ReadsComparedParameters) {
 
 TEST_F(SimFile, RefusesComparedParametersThatNoCountAnnounces) {
   EXPECT_FALSE(Read({"CmpUser,Pn100,1"}));
-  EXPECT_EQ(Run.Session.Diagnosis, "Sim.tmp:1: CmpUser: stands before 'CmpUserNum'");
+  EXPECT_EQ(Run.Session.Diagnosis, "Sim.tmp:1: CmpUser: comes before 'CmpUserNum'");
   EXPECT_FALSE(Read({"CmpUserNum,1", "CmpUser,a,1", "CmpUser,b,1"}));
   EXPECT_EQ(Run.Session.Diagnosis, "Sim.tmp:3: CmpUser: one more than 'CmpUserNum' announces");
   EXPECT_FALSE(Read({"CmpUserNum,0", "CmpUser,a,1"}));

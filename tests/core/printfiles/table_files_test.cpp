@@ -130,7 +130,7 @@ const std::vector<Table> kTables = {{kIdxTblFile, "IndexCnt", "Index", ",0,1,2,3
 TEST_F(TableFiles, NeedTheCountAheadOfTheRows) {
   for (const auto& [file, count, row, values] : kTables) {
     EXPECT_EQ(Refused(file, {row + values, count + ",1"}),
-              file.Name + ":1: " + row + ": stands before '" + count + "'");
+              file.Name + ":1: " + row + ": comes before '" + count + "'");
   }
 }
 

@@ -113,8 +113,8 @@ TEST_F(UserFile, KeyWithoutCommaHasAnEmptyValue) {
 }
 
 TEST_F(UserFile, RefusesLinesBeforeTheirCount) {
-  EXPECT_EQ(Refused({"UserName,1,a"}), "User.tmp:1: UserName: stands before 'UserNum'");
-  EXPECT_EQ(Refused({"UserNum,1", "Switch,1,2,3,a"}), "User.tmp:2: Switch: stands before 'SwitchNum'");
+  EXPECT_EQ(Refused({"UserName,1,a"}), "User.tmp:1: UserName: comes before 'UserNum'");
+  EXPECT_EQ(Refused({"UserNum,1", "Switch,1,2,3,a"}), "User.tmp:2: Switch: comes before 'SwitchNum'");
 }
 
 TEST_F(UserFile, RefusesMoreLinesThanItsCountAnnounces) {
@@ -187,10 +187,10 @@ TEST_F(UserFile, PutsASurplusValueIntoTheSpareAndStopsAtTheNext) {
 }
 
 TEST_F(UserFile, StopsAtLinesWithoutAnyArray) {
-  EXPECT_EQ(Stopped({"UserValue,1,2,u"}), "User.tmp:1: UserValue: stands before 'UserNum': '1,2,u'");
+  EXPECT_EQ(Stopped({"UserValue,1,2,u"}), "User.tmp:1: UserValue: comes before 'UserNum': '1,2,u'");
   for (const char* key : {"Switch0", "Switch1", "Switch2", "Switch3"}) {
     EXPECT_EQ(Stopped({std::string(key) + ",0,1,,,x"}),
-              "User.tmp:1: " + std::string(key) + ": stands before 'SwitchNum': '0,1,,,x'");
+              "User.tmp:1: " + std::string(key) + ": comes before 'SwitchNum': '0,1,,,x'");
   }
 }
 
@@ -259,7 +259,7 @@ TEST_F(UserFile, KeepsHeaderParametersAndCommentOfTheFileBefore) {
 
 TEST_F(UserFile, NeedsItsCountAgainInASecondRead) {
   ASSERT_TRUE(Read({"UserNum,1", "UserName,1,a", "UserValue,1,2,u"}));
-  EXPECT_EQ(Refused({"UserName,2,b"}), "User.tmp:1: UserName: stands before 'UserNum'");
+  EXPECT_EQ(Refused({"UserName,2,b"}), "User.tmp:1: UserName: comes before 'UserNum'");
   ASSERT_TRUE(Read({"UserValue,9,8,w"})) << "this line asks for no count";
   EXPECT_EQ(Run.User.Prm[0].Value, "9") << "the index starts anew";
 }
