@@ -1,7 +1,7 @@
 // Which file is which simulation.
 #pragma once
 
-#include "functions/sim/SimCmpReport.h"
+#include "functions/sim/sim_cmp_report.h"
 
 namespace tarvis {
 

@@ -1,7 +1,7 @@
 // Setting time and control mode of each simulation.
 #pragma once
 
-#include "functions/sim/SimCmpReport.h"
+#include "functions/sim/sim_cmp_report.h"
 
 namespace tarvis {
 

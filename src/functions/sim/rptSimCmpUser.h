@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "functions/sim/SimCmpUserReport.h"
+#include "functions/sim/sim_cmp_user_report.h"
 
 namespace tarvis {
 

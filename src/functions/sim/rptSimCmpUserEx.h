@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <array>
 
-#include "functions/sim/SimCmpUserReport.h"
+#include "functions/sim/sim_cmp_user_report.h"
 
 namespace tarvis {
 

@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "functions/sim/SimRefReport.h"
+#include "functions/sim/sim_ref_report.h"
 
 namespace tarvis {
 

@@ -1,7 +1,7 @@
 // The reference setting of a free pattern: a list of points.
 #pragma once
 
-#include "functions/sim/SimRefReport.h"
+#include "functions/sim/sim_ref_report.h"
 
 namespace tarvis {
 

@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "functions/tables/IdxTblReport.h"
+#include "functions/tables/idx_tbl_report.h"
 
 namespace tarvis {
 

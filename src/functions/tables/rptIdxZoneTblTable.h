@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "functions/tables/BitTableReport.h"
+#include "functions/tables/bit_table_report.h"
 
 namespace tarvis {
 

@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "functions/tables/IdxTblReport.h"
+#include "functions/tables/idx_tbl_report.h"
 #include "support/report_run.h"
 
 namespace tarvis {

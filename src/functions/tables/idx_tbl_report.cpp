@@ -1,4 +1,4 @@
-#include "functions/tables/IdxTblReport.h"
+#include "functions/tables/idx_tbl_report.h"
 
 #include <cmath>
 #include <limits>

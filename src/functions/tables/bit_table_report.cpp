@@ -1,4 +1,4 @@
-#include "functions/tables/BitTableReport.h"
+#include "functions/tables/bit_table_report.h"
 
 #include "functions/tables/table_cells.h"
 

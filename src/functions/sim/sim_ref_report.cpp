@@ -1,4 +1,4 @@
-#include "functions/sim/SimRefReport.h"
+#include "functions/sim/sim_ref_report.h"
 
 namespace tarvis {
 

@@ -1,4 +1,4 @@
-#include "functions/sim/SimCmpReport.h"
+#include "functions/sim/sim_cmp_report.h"
 
 #include "printfiles/key_place.h"
 

@@ -1,4 +1,4 @@
-#include "functions/sim/SimCmpUserReport.h"
+#include "functions/sim/sim_cmp_user_report.h"
 
 #include "functions/sim/shown_columns.h"
 

@@ -4,7 +4,7 @@
 #include <span>
 #include <vector>
 
-#include "functions/sim/SimCmpReport.h"
+#include "functions/sim/sim_cmp_report.h"
 
 namespace tarvis {
 
