@@ -18,11 +18,7 @@ float HeightOf(const auto& step) {
 
 PageFlow::PageFlow(Document& document, ContentsTree& contents, PageBands& bands, float headerHeight,
                    float footerHeight)
-    : document_(document),
-      contents_(contents),
-      bands_(bands),
-      headerHeight_(headerHeight),
-      footerHeight_(footerHeight) {}
+    : document_(document), page_(document, contents, bands, headerHeight, footerHeight) {}
 
 void PageFlow::BeginGroup(OpenGroup& group) {
   Push(GroupBegins{&group});
@@ -32,7 +28,7 @@ void PageFlow::EndGroup(OpenGroup& group) {
 }
 // A header that is higher than half a page, such as a graph, is content: nothing waits below it for its rows.
 void PageFlow::Add(Band band) {
-  if (band.Height > BodyHeight() / 2) band.IsHeader = false;
+  if (band.Height > page_.BodyHeight() / 2) band.IsHeader = false;
   Push(std::move(band));
 }
 void PageFlow::BeginRow(FlowRow& row) {
@@ -48,8 +44,7 @@ void PageFlow::StartNewPage() {
 void PageFlow::Finish() {
   finishing_ = true;
   Drain();
-  if (!pageOpen_) OpenPage();
-  ClosePage();
+  page_.Finish();
 }
 
 void PageFlow::Push(Step step) {
@@ -93,11 +88,11 @@ PageFlow::Unit PageFlow::ReadyUnit() {
 std::optional<PageFlow::Unit> PageFlow::KeptGroup(std::size_t begin, float headers) {
   OpenGroup* const group = std::get<GroupBegins>(queue_[begin]).Group;
   GroupRoom room{.Headers = headers,
-                 .Used = y_,
-                 .Page = BodyHeight(),
-                 .FreshPage = BodyHeight() - RepeatedHeight(group->Parent),
+                 .Used = page_.Used(),
+                 .Page = page_.BodyHeight(),
+                 .FreshPage = page_.FreshRoom(group->Parent),
                  .StartsNewPage = newPageWanted_,
-                 .HasRows = rowsOnPage_};
+                 .HasRows = page_.HasRows()};
   std::size_t index = begin + 1;
   for (; index < queue_.size(); ++index) {
     const auto* ends = std::get_if<GroupEnds>(&queue_[index]);
@@ -131,11 +126,11 @@ void PageFlow::PlaceUnit(const Unit& unit) {
     Step step = std::move(queue_.front());
     queue_.pop_front();
     if (const auto* band = std::get_if<Band>(&step)) {
-      const bool tooHigh = height > RoundingRoom && !Fits(height);
+      const bool tooHigh = height > RoundingRoom && !page_.Fits(height);
       const bool startsFresh = unit.Start == PageStart::FreshPage || (unit.Steps > 1 && tooHigh);
-      const bool moves = isFirst && rowsOnPage_ && startsFresh;
-      const bool fitsThere = tooHigh && FitsNextPage(height, band->Group);
-      if (printedOnPage_ && !newPageWanted_ && (moves || fitsThere)) TurnPage(band->Group);
+      const bool moves = isFirst && page_.HasRows() && startsFresh;
+      const bool fitsThere = tooHigh && page_.FitsNext(height, band->Group);
+      if (page_.HasPrinted() && !newPageWanted_ && (moves || fitsThere)) page_.Turn(band->Group);
       isFirst = false;
       height -= band->Height;
     }
@@ -149,7 +144,7 @@ void PageFlow::Place(const GroupBegins& begins) {
 
 // What comes now isn't part of this group: its header counts as something above it.
 void PageFlow::Place(const GroupEnds& /*ends*/) {
-  rowsOnPage_ = rowsOnPage_ || printedOnPage_;
+  page_.CountHeadersAsRows();
 }
 
 void PageFlow::Place(const NewPage& /*newPage*/) {
@@ -157,26 +152,25 @@ void PageFlow::Place(const NewPage& /*newPage*/) {
 }
 
 void PageFlow::Place(const RowBegins& begins) const {
-  begins.Row->Page = static_cast<int>(document_.Pages.size());
-  begins.Row->Top = newPageWanted_ ? 0 : y_;
+  begins.Row->Page = page_.Count();
+  begins.Row->Top = newPageWanted_ ? 0 : page_.Used();
 }
 
 void PageFlow::Place(const RowEnds& ends) {
   const FlowRow& row = *ends.Row;
-  const float top = row.Page == static_cast<int>(document_.Pages.size()) ? row.Top : 0;
-  y_ = std::max(y_, std::min(top + row.OwnHeight, BodyHeight()));
+  const float top = row.Page == page_.Count() ? row.Top : 0;
+  page_.LeaveRoomTo(top + row.OwnHeight);
 }
 
 void PageFlow::Place(Band& band) {
   const bool prints = band.Height > 0 || !band.Items.empty();
-  if (!pageOpen_) OpenPage();
+  page_.OpenIfNone();
   if (newPageWanted_ && prints) {
     newPageWanted_ = false;
-    if (printedOnPage_) TurnPage(nullptr);
-    y_ = 0;
+    page_.TurnIfUsed();
   }
-  if (band.Height <= 0 || Fits(band.Height)) {
-    PutOnPage(band);
+  if (band.Height <= 0 || page_.Fits(band.Height)) {
+    page_.Put(band);
     return;
   }
   PlaceTallBand(band);
@@ -184,107 +178,30 @@ void PageFlow::Place(Band& band) {
 
 // Starts on a fresh page unless this one has only headers, and is cut between lines of text.
 void PageFlow::PlaceTallBand(Band& band) {
-  if (rowsOnPage_ || (printedOnPage_ && FitsNextPage(band.Height, band.Group))) TurnPage(band.Group);
-  while (!Fits(band.Height)) {
+  if (page_.HasRows() || (page_.HasPrinted() && page_.FitsNext(band.Height, band.Group)))
+    page_.Turn(band.Group);
+  while (!page_.Fits(band.Height)) {
     if (PlacePieceOf(band) == Cut::Impossible) break;
     if (band.Items.empty()) return;
-    TurnPage(band.Group);
+    page_.Turn(band.Group);
   }
-  PutOnPage(band);
+  page_.Put(band);
 }
 
 // Places what fits of a band that is too high for this page. Impossible if it must be placed as it is:
 // nothing can be cut off it, also not on a fresh page, or it fits by now.
 PageFlow::Cut PageFlow::PlacePieceOf(Band& band) {
-  const float room = BodyHeight() - y_;
-  const float freshRoom = BodyHeight() - RepeatedHeight(band.Group);
-  const bool isFresh = !printedOnPage_ || room >= freshRoom - RoundingRoom;
+  const float room = page_.Room();
+  const float freshRoom = page_.FreshRoom(band.Group);
+  const bool isFresh = !page_.HasPrinted() || room >= freshRoom - RoundingRoom;
   FitPictures(band, room, isFresh ? room : freshRoom, document_);
-  if (Fits(band.Height)) return Cut::Impossible;
+  if (page_.Fits(band.Height)) return Cut::Impossible;
   // The next page has more room: no piece that is nothing but an empty frame.
   if (!isFresh && !HasWholeAbove(band, room)) return Cut::Done;
   Band first = CutBand(band, room);
   if (first.Height <= 0) return Cut::Impossible;
-  PutOnPage(first);
+  page_.Put(first);
   return Cut::Done;
-}
-
-void PageFlow::PutOnPage(Band& band) {
-  const float top = document_.Setup.Top + headerHeight_ + y_;
-  for (Item item : band.Items) {
-    item.Box.Top += top;
-    document_.Items.push_back(item);
-  }
-  const int page = static_cast<int>(document_.Pages.size()) - 1;
-  if (band.Landing >= 0) {
-    contents_.Land(band.Landing, page, top, band.Height);
-  } else {
-    contents_.Pass(page, top, band.Height);
-  }
-  y_ += band.Height;
-  const bool prints = band.Height > 0 || !band.Items.empty();
-  printedOnPage_ = printedOnPage_ || prints;
-  rowsOnPage_ = rowsOnPage_ || (prints && !band.IsHeader);
-}
-
-void PageFlow::OpenPage() {
-  document_.Pages.push_back({static_cast<std::uint32_t>(document_.Items.size()), 0});
-  pageOpen_ = true;
-  printedOnPage_ = false;
-  rowsOnPage_ = false;
-  y_ = 0;
-  Band header = bands_.ComposePageHeader(static_cast<int>(document_.Pages.size()) - 1);
-  for (Item item : header.Items) {
-    item.Box.Top += document_.Setup.Top;
-    document_.Items.push_back(item);
-  }
-}
-
-void PageFlow::ClosePage() {
-  const Band footer = bands_.ComposePageFooter(static_cast<int>(document_.Pages.size()) - 1);
-  const float top = document_.Setup.Height - document_.Setup.Bottom - footerHeight_;
-  for (Item item : footer.Items) {
-    item.Box.Top += top;
-    document_.Items.push_back(item);
-  }
-  Page& page = document_.Pages.back();
-  page.ItemCount = static_cast<std::uint32_t>(document_.Items.size()) - page.FirstItem;
-  pageOpen_ = false;
-}
-
-void PageFlow::TurnPage(OpenGroup* group) {
-  ClosePage();
-  OpenPage();
-  RepeatHeaders(group);
-}
-
-void PageFlow::RepeatHeaders(OpenGroup* group) {
-  if (group == nullptr) return;
-  RepeatHeaders(group->Parent);
-  if (!group->Repeats || !group->Begun) return;
-  Band band;
-  if (!bands_.ComposeRepeat(*group, band)) return;
-  group->HeaderHeight = band.Height;
-  if (Fits(band.Height)) PutOnPage(band);
-}
-
-float PageFlow::RepeatedHeight(const OpenGroup* group) const {
-  if (group == nullptr) return 0;
-  return RepeatedHeight(group->Parent) + (group->Repeats && group->Begun ? group->HeaderHeight : 0);
-}
-
-bool PageFlow::Fits(float height) const {
-  return y_ + height <= BodyHeight() + RoundingRoom;
-}
-
-// Below the headers that repeat there.
-bool PageFlow::FitsNextPage(float height, const OpenGroup* group) const {
-  return RepeatedHeight(group) + height <= BodyHeight() + RoundingRoom;
-}
-
-float PageFlow::BodyHeight() const {
-  return document_.Setup.Height - document_.Setup.Top - document_.Setup.Bottom - headerHeight_ -
-         footerHeight_;
 }
 
 }  // namespace tarvis

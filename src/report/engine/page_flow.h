@@ -12,42 +12,15 @@
 #include <variant>
 #include <vector>
 
-#include "report/engine/band.h"
-#include "report/engine/contents_tree.h"
-#include "report/engine/document.h"
+#include "report/engine/page_in_progress.h"
 
 namespace tarvis {
-
-// A group from its header's first printing to its last footer.
-struct OpenGroup {
-  OpenGroup* Parent = nullptr;  // the group around it, also that of a report around this report
-  Section* Header = nullptr;
-  ActiveReport* Report = nullptr;
-  float Left = 0;  // of the report, twips from the paper's left edge
-  Keep KeepTogether = Keep::None;
-  bool Repeats = false;
-  bool CannotBeKept = false;  // longer than a page, or nothing above it to leave: keep the first detail only
-  bool Begun = false;         // its header has been placed on a page
-  float HeaderHeight = 0;     // as composed last
-};
 
 // A row of a section that holds a sub-report; its inner bands flow.
 struct FlowRow {
   float OwnHeight = 0;
   int Page = -1;  // where it begins
   float Top = 0;
-};
-
-// What the flow asks for when pages open and close.
-class PageBands {
- public:
-  virtual ~PageBands() = default;
-
-  // Composes a group header once more for a new page; false if its report has been unloaded.
-  virtual bool ComposeRepeat(OpenGroup& group, Band& band) = 0;
-  // Composes page header and page footer for the page with this index; absent ones give a band of height 0.
-  virtual Band ComposePageHeader(int page) = 0;
-  virtual Band ComposePageFooter(int page) = 0;
 };
 
 // Where a unit of bands begins.
@@ -108,30 +81,12 @@ class PageFlow {
   void Place(const NewPage& newPage);
   void PlaceTallBand(Band& band);
   [[nodiscard]] Cut PlacePieceOf(Band& band);
-  void PutOnPage(Band& band);
-
-  void OpenPage();
-  void ClosePage();
-  void TurnPage(OpenGroup* group);
-  void RepeatHeaders(OpenGroup* group);
-  float RepeatedHeight(const OpenGroup* group) const;
-  bool Fits(float height) const;
-  bool FitsNextPage(float height, const OpenGroup* group) const;
-  float BodyHeight() const;
 
   Document& document_;
-  ContentsTree& contents_;
-  PageBands& bands_;
-  float headerHeight_;
-  float footerHeight_;
+  PageInProgress page_;
   std::deque<Step> queue_;
   bool finishing_ = false;
-
-  bool pageOpen_ = false;
   bool newPageWanted_ = false;
-  bool printedOnPage_ = false;  // anything at all
-  bool rowsOnPage_ = false;     // more than headers of the reports around what comes next
-  float y_ = 0;                 // twips below the top of the body
 };
 
 }  // namespace tarvis
