@@ -6,6 +6,7 @@
 #include <QStylePainter>
 #include <algorithm>
 
+#include "report/engine/text_measurer.h"
 #include "text/run_time_failure.h"
 
 namespace tarvis {
@@ -75,7 +76,7 @@ void NameControl(QWidget& control, const char* name, int index, const QString& a
 }
 
 QFont DialogFont() {
-  QFont font(QString::fromLatin1("Arial"));
+  QFont font{QString(QLatin1String(FontFamily))};
   font.setStyleHint(QFont::SansSerif);
   font.setPixelSize(std::max(QFontInfo(QApplication::font()).pixelSize(), SmallestFontPixels));
   return font;

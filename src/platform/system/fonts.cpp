@@ -6,12 +6,13 @@
 #include <algorithm>
 #include <array>
 
+#include "report/engine/text_measurer.h"
 #include "run/failures.h"
 
 namespace tarvis {
 namespace {
 
-const std::array Families = {QStringLiteral("Arial"), QStringLiteral("Liberation Sans")};
+const std::array Families = {QString(QLatin1String(FontFamily)), QString(QLatin1String(SubstituteFamily))};
 
 }  // namespace
 
@@ -21,10 +22,12 @@ void RequireFonts(Desktop& desktop) {
     return;
   const std::string instead = QFontInfo(QFont(Families.back())).family().toStdString();
   if (instead.empty()) {  // the toolkit then draws a box for each letter
-    desktop.Diagnose("no font is installed, so no text can be shown; install Arial or Liberation Sans");
+    desktop.Diagnose(std::string("no font is installed, so no text can be shown; install ") + FontFamily +
+                     " or " + SubstituteFamily);
     desktop.EndProcess(ExitAfterRunTimeFailure);
   }
-  desktop.Diagnose("neither Arial nor Liberation Sans is installed; pages are set in " + instead);
+  desktop.Diagnose(std::string("neither ") + FontFamily + " nor " + SubstituteFamily +
+                   " is installed; pages are set in " + instead);
 }
 
 }  // namespace tarvis

@@ -5,12 +5,14 @@
 #include <QGlyphRun>
 #include <QTextLayout>
 
+#include "report/engine/text_measurer.h"
+
 namespace tarvis {
 namespace {
 
 QFont BaseFont(bool bold) {
-  static const QString family = QString::fromLatin1(
-      QFontDatabase::families().contains(QStringLiteral("Arial")) ? "Arial" : "Liberation Sans");
+  static const bool isInstalled = QFontDatabase::families().contains(QLatin1String(FontFamily));
+  static const QString family = QLatin1String(isInstalled ? FontFamily : SubstituteFamily);
   QFont font(family);
   font.setPixelSize(2048);
   font.setBold(bold);

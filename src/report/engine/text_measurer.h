@@ -1,7 +1,11 @@
-// The seam through which the composer learns how wide text is, without a screen, a printer or a toolkit.
+// The interface through which the composer asks how wide text is, without a screen, a printer or a toolkit.
 #pragma once
 
 namespace tarvis {
+
+// The font of reports and dialogs, and the one with the same widths that is used where it isn't installed.
+inline constexpr const char* FontFamily = "Arial";
+inline constexpr const char* SubstituteFamily = "Liberation Sans";
 
 // Arial or its metric twin, in one of two weights; other scripts come from fallback fonts.
 // Source of the vertical figures: the font's own ascent 0.905 em and descent 0.212 em, for all scripts.
