@@ -17,8 +17,8 @@ PROGRAM = os.environ["TARVIS_PROGRAM"]
 EDITING = "Editing of the Printing Items"  # the tool of the preview
 CANCELED = "Printing Process is canceled."
 
-# Become a program that files and folders without leave are closed to, as to any user, also where the tests run as
-# the system's own; and one that can write no file beyond 512 bytes, as on a disk that is full.
+# Commands that become the program: one to whom permissions of files and folders apply, also where the tests run as root;
+# and one that can write no file beyond 512 bytes, as on a disk that is full.
 AS_A_USER = ("setpriv", "--bounding-set=-dac_override,-dac_read_search") if os.geteuid() == 0 else ()
 ON_A_FULL_DISK = ("sh", "-c", 'ulimit -f 1; exec "$@"', "sh")
 
