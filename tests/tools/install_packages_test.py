@@ -23,7 +23,7 @@ manual           file {folder}/manual
 """
 REAL = ("awk", "cat", "dirname", "echo", "grep", "sh", "sort", "tr")  # all that the script may take for granted
 STARTED = re.compile(r"""(?:run|Popen|output_of)\(\s*\[?"([a-z][\w-]*)\"""")
-BROUGHT_ALONG = {"convert", "cpack", "ctest", "identify", "locale", "lpstat", "pdfinfo"}  # by packages of other commands
+BROUGHT_ALONG = {"convert", "cpack", "ctest", "identify", "locale", "lpstat", "pdfinfo", "pdftoppm"}  # by packages of other commands
 ON_EVERY_SYSTEM = {"dpkg-deb", "dpkg-query", "grep", "sh"}
 
 
@@ -172,7 +172,7 @@ class TheList(unittest.TestCase):
                   if re.match(r"\S+ +command ", line)]
         needed = self.needed_for("testing")
         brought = {command for package, command in listed if needed.intersection(package.split("|"))}
-        scripts = [path for folder in ("demo", "tests", "bench") for path in (ROOT / folder).rglob("*.py")]
+        scripts = [path for folder in ("demo", "tests", "bench", "tools") for path in (ROOT / folder).rglob("*.py")]
         started = {command for script in scripts for command in STARTED.findall(script.read_text())}
         self.assertIn("xdotool", started)
         self.assertEqual(started - brought - BROUGHT_ALONG - ON_EVERY_SYSTEM, set())
