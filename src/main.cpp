@@ -34,7 +34,7 @@ int main(int argc, char** argv) {
   PrintRun run(desktop);
   run.SettleFile = SettleFile;
   QtProgramWindows windows(run);
-  SystemPrinters printers(settings->CountsPdfPrinter(), watch);
+  SystemPrinters printers(settings->CountsPdfPrinter(), desktop, watch);
   EndSignals endSignals([&] {
     if (application->IsFailing()) desktop.EndProcess(ExitAfterRunTimeFailure);
     windows.StopWork();

@@ -3,12 +3,16 @@
 #include <QMessageBox>
 #include <QPrinterInfo>
 
+#include "platform/print_server.h"
+
 namespace tarvis {
 
 int SystemPrinters::NDevices() {
   if (countsPdf_) return 1;
   watch_.WaitsFor("the print system");
-  const qsizetype count = QPrinterInfo::availablePrinterNames().size();
+  const bool isSilent = PrintServerIsSilent();
+  if (isSilent) desktop_.Diagnose("the print system does not answer, so no printer is known");
+  const qsizetype count = isSilent ? 0 : QPrinterInfo::availablePrinterNames().size();
   watch_.WaitsFor("the files of the host");
   return static_cast<int>(count);
 }

@@ -8,16 +8,19 @@ namespace tarvis {
 
 class SystemPrinters : public Printers {
  public:
-  // `countsPdf` counts saving as PDF as a printer. `watch` must outlive the object.
-  SystemPrinters(bool countsPdf, FirstWindowWatch& watch) : countsPdf_(countsPdf), watch_(watch) {}
+  // `countsPdf` counts saving as PDF as a printer. `desktop` and `watch` must outlive the object.
+  SystemPrinters(bool countsPdf, Desktop& desktop, FirstWindowWatch& watch)
+      : countsPdf_(countsPdf), desktop_(desktop), watch_(watch) {}
 
-  // A lower limit of their number: where saving as PDF counts, the print system isn't queried, since a print
-  // server that doesn't answer takes two minutes. Otherwise the answer is waited for.
+  // A lower limit of their number: where saving as PDF counts, the print system isn't queried. Otherwise its
+  // answer is waited for, for half a minute at most; no answer counts as no printer, and is reported on
+  // standard error.
   int NDevices() override;
   void PrintDialog() override;
 
  private:
   bool countsPdf_;
+  Desktop& desktop_;
   FirstWindowWatch& watch_;
 };
 

@@ -14,20 +14,20 @@ namespace {
 TEST(SystemPrinters, CountsThePrintersOfTheSystem) {
   FakeDesktop desktop;
   FirstWindowWatch watch(desktop);
-  EXPECT_EQ(SystemPrinters(false, watch).NDevices(), QPrinterInfo::availablePrinterNames().size());
+  EXPECT_EQ(SystemPrinters(false, desktop, watch).NDevices(), QPrinterInfo::availablePrinterNames().size());
 }
 
 TEST(SystemPrinters, CountsSavingAsPdfWithoutAskingThePrintSystem) {
   FakeDesktop desktop;
   FirstWindowWatch watch(desktop);
-  EXPECT_EQ(SystemPrinters(true, watch).NDevices(), 1);
+  EXPECT_EQ(SystemPrinters(true, desktop, watch).NDevices(), 1);
 }
 
 TEST(SystemPrinters, ReportsThatThereIsNoneAndWaitsForTheUser) {
   FakeDesktop desktop;
   FirstWindowWatch watch(desktop);
   MessageWatch messages;
-  SystemPrinters(false, watch).PrintDialog();
+  SystemPrinters(false, desktop, watch).PrintDialog();
   ASSERT_EQ(messages.Seen().size(), 1U);
   EXPECT_EQ(messages.Seen().front().Text, "No printer is installed. Install a printer and try again.");
 }

@@ -3,6 +3,7 @@ import os
 import signal
 import socket
 import subprocess
+import time
 import unittest
 
 from program_case import ProgramCase
@@ -61,6 +62,15 @@ class Silence(ProgramCase):
         self.host.prepare(pdf_printer=False)
         self.start("User", environment={"CUPS_SERVER": f"127.0.0.1:{self.silent_port()}"})
         self.expect_told("the print system")
+
+    def test_of_the_print_system_counts_as_no_printer_after_half_a_minute(self):
+        self.host.prepare(pdf_printer=False)
+        session = self.start("User", environment={"CUPS_SERVER": f"127.0.0.1:{self.silent_port()}"})
+        begin = time.monotonic()
+        session.wait_for("Print", seconds=90)
+        self.assertIn("tarvis: the print system does not answer, so no printer is known\n", self.standard_error())
+        self.assertLess(time.monotonic() - begin, 90)
+        self.answer_and_end(session, 0)
 
     def test_of_the_print_system_holds_nobody_up_who_counts_the_pdf_as_a_printer(self):
         session = self.start("User", environment={"CUPS_SERVER": f"127.0.0.1:{self.silent_port()}"})
