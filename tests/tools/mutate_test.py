@@ -76,14 +76,70 @@ class Changes(unittest.TestCase):
         numbered = [(number, mutant) for number, mutant in enumerate(mutants_of("a.cpp", code)) if mutant.switch(0)]
         self.assertEqual(with_switches(code, numbered),
                          '#include "mutant_switch.h"\n'
-                         "void F() {\n  if (IsMutated(0LL) != static_cast<bool>(a < Mutated(2LL, 1, 2))) "
-                         "{ if (!IsMutated(3LL)) b = c + Mutated(5LL, 2, 3); }\n}\n")
+                         "void F() {\n  if (IsMutated(0LL) != static_cast<bool>(a < Switch{1LL} < Mutated(2LL, 1, 2))) "
+                         "{ if (!IsMutated(3LL)) b = c + Switch{4LL} + Mutated(5LL, 2, 3); }\n}\n")
 
     def test_the_line_is_told_and_the_rest_of_the_code_stays(self):
         code = "int a() {\n  return 1;\n}\n"
         mutant, = mutants_of("a.cpp", code)
         self.assertEqual(str(mutant), "a.cpp:2: number: 1 -> 2")
         self.assertEqual(mutant.applied_to(code), "int a() {\n  return 2;\n}\n")
+
+
+class Switches(unittest.TestCase):
+    """The program prints what each kind of change alters, so that two changes of it can be told apart."""
+    CODE = """#include <cstdio>
+#include <optional>
+int main() {
+  int a = 7, b = 3;
+  const std::optional<int> some = 5;
+  do --b; while (b == 2);
+  if (a == 7 and b != 3) a += b;
+  a -= 2;
+  ++a;
+  const bool not_less = !(a < b);
+  const int negative = -a;
+  const bool chosen = not_less;
+  const int value = some ? *some * 2 : a - 1;
+  const bool both = a >= 8 ? true : b <= 2;
+  std::printf("%d %d %d %d %d %d %d", a, b, not_less, negative, chosen, value, both);
+}
+"""
+
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = Path(folder.name)
+
+    def build(self, name, code):
+        (self.folder / f"{name}.cpp").write_text(code, encoding="utf-8")
+        subprocess.run(["c++", "-std=c++20", f"-I{TOOLS}", self.folder / f"{name}.cpp", "-o", self.folder / name],
+                       check=True)
+        return self.folder / name
+
+    def printed(self, program, **environment):
+        return subprocess.run([program], capture_output=True, text=True, check=True, timeout=60,
+                              env=os.environ | environment).stdout
+
+    def mutants(self):
+        return [(number, mutant) for number, mutant in enumerate(mutants_of("a.cpp", self.CODE)) if mutant.switch(0)]
+
+    def test_do_what_the_change_itself_does(self):
+        switched = self.build("switched", with_switches(self.CODE, self.mutants()))
+        self.assertEqual(self.printed(switched), self.printed(self.build("plain", self.CODE)))
+        for number, mutant in self.mutants():
+            with self.subTest(str(mutant)):
+                changed = self.build("changed", mutant.applied_to(self.CODE))
+                self.assertEqual(self.printed(switched, TARVIS_MUTANT=str(number)), self.printed(changed))
+
+    def test_note_which_changes_are_reached(self):
+        code = "bool F(int a) { return a > 1; }\nbool G(int a) { return a > 2; }\nint main() { return F(1); }\n"
+        numbered = [(number, mutant) for number, mutant in enumerate(mutants_of("a.cpp", code))]
+        program = self.build("switched", with_switches(code, numbered))
+        note = self.folder / "reached"
+        self.printed(program, TARVIS_REACHED=str(note))
+        self.assertEqual(sorted(map(int, note.read_text().split())),
+                         [number for number, mutant in numbered if mutant.line in (1, 3)])
 
 
 class Runs(unittest.TestCase):
