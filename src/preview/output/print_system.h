@@ -7,10 +7,10 @@ class QPrinter;
 
 namespace tarvis {
 
-// Why the print system refused the job that this thread has just handed to it, in one sentence, in its own
-// words where they contain the reason; empty if it took the job. The toolkit doesn't pass that on, so the
-// print system's client library is asked, where the toolkit prints through one.
-[[nodiscard]] QString RefusalOfLastJob();
+// Why the print system refused the job for `printer` that this thread has just handed to it, in one sentence,
+// in its own words where they contain the reason; empty if it took the job. The toolkit doesn't pass that on,
+// so the print system's client library is asked, where the toolkit prints through one.
+[[nodiscard]] QString RefusalOfLastJob(const QString& printer);
 
 // From now on nothing that this thread prints reaches the print system: there the toolkit hands over what was
 // painted so far even of a job that was aborted.

@@ -47,7 +47,8 @@ QString Drop(QPrinter& printer) {
 
 QString RefusalBy(const QPrinter& printer) {
   // No print system takes part in printing into a file.
-  const QString refusal = printer.outputFileName().isEmpty() ? RefusalOfLastJob() : QString();
+  const QString refusal =
+      printer.outputFileName().isEmpty() ? RefusalOfLastJob(printer.printerName()) : QString();
   if (refusal.isEmpty()) return {};
   return Text("The printer \"%1\" did not take the document: %2").arg(printer.printerName(), refusal);
 }
