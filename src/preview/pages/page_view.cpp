@@ -13,6 +13,11 @@ namespace {
 
 constexpr std::int64_t PictureBudget = 48LL * 1024 * 1024;  // bytes
 
+// The width of a page in device pixels, of which `ratio` make a logical one.
+int DeviceWidth(const PageLayout& layout, double ratio) {
+  return std::max(1, static_cast<int>(std::lround(layout.PageSize().width() * ratio)));
+}
+
 void PaintShadow(QPainter& painter, const QRectF& page, const QColor& edge) {
   for (int step = 4; step >= 1; --step) {
     painter.fillRect(page.adjusted(step, step, step, step), QColor(0, 0, 0, 60 / step));
@@ -151,10 +156,6 @@ PageView::Spot PageView::SpotAt(QPointF point) const {
   return {page, (point + Offset() - layout_.PageRect(page).topLeft()) / layout_.PixelsPerTwip()};
 }
 
-int PageView::PageDeviceWidth() const {
-  return std::max(1, static_cast<int>(std::lround(layout_.PageSize().width() * devicePixelRatioF())));
-}
-
 void PageView::WantShown() {
   const double top = Offset().y();
   const double bottom = top + viewport()->height();
@@ -166,7 +167,7 @@ void PageView::WantShown() {
     parts.push_back({page, static_cast<int>(std::floor((top - pageTop) * ratio)),
                      static_cast<int>(std::ceil((bottom - pageTop) * ratio))});
   }
-  const int width = PageDeviceWidth();
+  const int width = DeviceWidth(layout_, ratio);
   pictures_.Want(WantedStrips(parts, width, PagePixelHeight(*document_, width), layout_.PageCount()));
 }
 
@@ -183,7 +184,8 @@ void PageView::paintEvent(QPaintEvent* event) {
 void PageView::PaintPage(QPainter& painter, int page, const QRect& exposed) {
   const QRectF place = layout_.PageRect(page).translated(-Offset());
   PaintShadow(painter, place, palette().color(QPalette::Shadow));
-  StripPainter(painter, *document_, pictures_, PageDeviceWidth(), devicePixelRatioF())
+  const double ratio = devicePixelRatioF();
+  StripPainter(painter, *document_, pictures_, DeviceWidth(layout_, ratio), ratio)
       .Paint(page, place, exposed);
   if (!highlights_) return;
   const double scale = layout_.PixelsPerTwip();

@@ -65,7 +65,6 @@ class PageView : public QAbstractScrollArea {
   void UpdateScrollBars();
   void ChangeLayout(const std::function<void()>& change, QPointF anchor);
   void Changed();
-  int PageDeviceWidth() const;
   void WantShown();
   void PaintPage(QPainter& painter, int page, const QRect& exposed);
 
