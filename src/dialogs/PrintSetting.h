@@ -11,7 +11,7 @@
 
 #include "dialogs/controls/controls.h"
 #include "dialogs/controls/fitted_dialog.h"
-#include "dialogs/pages/ItemPage.h"
+#include "dialogs/pages/item_page.h"
 #include "session/function_list.h"
 
 namespace tarvis {

@@ -63,7 +63,7 @@ class Captions(unittest.TestCase):
         self.expect_told(found, 20)
 
     def test_every_box_of_header_and_footer_is_told(self):
-        text = source("dialogs/pages/ItemPage.cpp")
+        text = source("dialogs/pages/item_page.cpp")
         self.expect_told(set(re.findall(r'\{"([^"]+)", &HeaderOptions::', text)) |
                          set(re.findall(r'"chkFooter", NoFamily, "([^"]+)"', text)), 5)
 

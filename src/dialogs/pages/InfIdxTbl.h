@@ -4,7 +4,7 @@
 #include <QButtonGroup>
 #include <array>
 
-#include "dialogs/pages/ItemPage.h"
+#include "dialogs/pages/item_page.h"
 
 namespace tarvis {
 

@@ -1,7 +1,7 @@
 // The item page of mechanical analysis.
 #pragma once
 
-#include "dialogs/pages/ItemPage.h"
+#include "dialogs/pages/item_page.h"
 
 namespace tarvis {
 

@@ -1,7 +1,7 @@
 // The item page of real-time tracing.
 #pragma once
 
-#include "dialogs/pages/ItemPage.h"
+#include "dialogs/pages/item_page.h"
 
 namespace tarvis {
 

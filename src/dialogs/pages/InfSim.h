@@ -1,7 +1,7 @@
 // The item page of dynamics simulation, one simulation at a time.
 #pragma once
 
-#include "dialogs/pages/ItemPage.h"
+#include "dialogs/pages/item_page.h"
 
 namespace tarvis {
 

@@ -1,7 +1,7 @@
 // The item page of dynamics simulation where simulations can be compared; edits the same options as InfSim.
 #pragma once
 
-#include "dialogs/pages/ItemPage.h"
+#include "dialogs/pages/item_page.h"
 
 namespace tarvis {
 

@@ -1,7 +1,7 @@
 // The item page of the parameter wizard, which no function list shows.
 #pragma once
 
-#include "dialogs/pages/ItemPage.h"
+#include "dialogs/pages/item_page.h"
 
 namespace tarvis {
 

@@ -3,7 +3,7 @@
 
 #include <span>
 
-#include "dialogs/pages/ItemPage.h"
+#include "dialogs/pages/item_page.h"
 
 namespace tarvis {
 

@@ -1,7 +1,7 @@
 // Makes the item pages of the dialog.
 #pragma once
 
-#include "dialogs/pages/ItemPage.h"
+#include "dialogs/pages/item_page.h"
 #include "session/function_list.h"
 
 namespace tarvis {

@@ -1,5 +1,5 @@
 // What all item pages share: header keys, titles, when they load and store.
-#include "dialogs/pages/ItemPage.h"
+#include "dialogs/pages/item_page.h"
 
 #include <QClipboard>
 

@@ -1,4 +1,4 @@
-#include "dialogs/pages/ItemPage.h"
+#include "dialogs/pages/item_page.h"
 
 #include <QFrame>
 #include <algorithm>
