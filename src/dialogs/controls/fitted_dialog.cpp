@@ -55,8 +55,8 @@ QPushButton* FittedDialog::AddButton(const char* name, const char* caption, cons
 }
 
 QSize FittedDialog::RoomOnScreen() const {
-  const QMargins told = windowHandle() == nullptr ? QMargins() : windowHandle()->frameMargins();
-  const QSize frame(told.left() + told.right(), told.top() + told.bottom());
+  const QMargins known = windowHandle() == nullptr ? QMargins() : windowHandle()->frameMargins();
+  const QSize frame(known.left() + known.right(), known.top() + known.bottom());
   return screen()->availableSize() - frame.expandedTo(UsualFrame);
 }
 

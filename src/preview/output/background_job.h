@@ -22,7 +22,7 @@ class BackgroundJob : public QObject {
   // `work` runs in another thread and returns an error text for the user, empty if all is well or cancelled.
   using Work = std::function<QString(const Progress& progress)>;
 
-  // `caption` tells the user what is being done.
+  // `caption` says what is being done, for the user.
   BackgroundJob(QString caption, Work work, QWidget* parent);
   // Cancels the work and waits for its end.
   ~BackgroundJob() override;
