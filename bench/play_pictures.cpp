@@ -70,7 +70,7 @@ void PlayFile(const QString& path, const QString& folder) {
     if (!folder.isEmpty()) page.save(folder + "/" + QString::fromStdString(name) + ".png");
   } catch (const RunTimeFailure& failure) {
     std::printf("\t%.1f\t0\t%.0f\trefused: %s", MillisecondsComputed() - start, PeakMegabytes() - before,
-                failure.Place().Text.c_str());
+                failure.Place().Text.value_or("").c_str());
   }
   std::printf("\n");
 }

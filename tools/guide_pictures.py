@@ -11,6 +11,7 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parent.parent
 sys.path.insert(0, str(ROOT / "tests/host"))
 
+import image_magick  # noqa: E402
 from desktop import User, VirtualDisplay, wait_until  # noqa: E402
 from host import Host  # noqa: E402
 from session import DIALOG, PREVIEW, Session  # noqa: E402
@@ -65,8 +66,8 @@ class Stage:
         raw = self._folder / "window.png"
         self.user.screenshot(raw, window, framed=not (crop or whole))
         cut = ["-crop", crop, "+repage"] if crop else ["-trim", "+repage"] if whole else []
-        subprocess.run(["convert", raw, *cut, "-strip", "+dither", "-colors", str(COLOURS), "-define",
-                        "png:compression-level=9", f"PNG8:{self.options.output / name}.png"], check=True)
+        subprocess.run([*image_magick.command("convert"), raw, *cut, "-strip", "+dither", "-colors", str(COLOURS),
+                        "-define", "png:compression-level=9", f"PNG8:{self.options.output / name}.png"], check=True)
 
 
 def take_dialog(stage):

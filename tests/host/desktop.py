@@ -6,6 +6,7 @@ import subprocess
 import threading
 import time
 
+import image_magick
 
 DESKTOPS = 3  # another number than any window manager starts with
 MIDDLE_BUTTON = 2
@@ -156,4 +157,4 @@ class User:
 
     def screenshot(self, path, window="root", framed=False):
         """Of a window's inside, or with its title and frame."""
-        self._run("import", *(["-frame"] if framed else []), "-window", window, str(path))
+        self._run(*image_magick.command("import"), *(["-frame"] if framed else []), "-window", window, str(path))
