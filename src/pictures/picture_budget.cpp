@@ -40,6 +40,11 @@ void PictureBudget::TakeRecord() {
   TakeSteps(StepsOfRecord);
 }
 
+void PictureBudget::EnterPicture() {
+  if (depth_ >= MostDepth) throw TooCostly("it holds pictures inside pictures");
+  ++depth_;
+}
+
 void PictureBudget::TakeSteps(std::size_t count) {
   steps_ += count;
   if (steps_ < StepsBetweenLooks) return;

@@ -23,6 +23,7 @@ class PictureBudget {
   static constexpr std::size_t MostDecodedBytes = std::size_t{192} << 20;
   static constexpr std::size_t MostElements = std::size_t{16} << 20;
   static constexpr std::size_t MostCharacters = 100000;
+  static constexpr int MostDepth = 4;    // of pictures inside pictures
   static constexpr int MostSeconds = 5;  // of computing, unless told otherwise
 
   // `answerEndRequest` is called again and again; it may end the process and not return.
@@ -38,6 +39,9 @@ class PictureBudget {
   void TakeCharacters(std::size_t count);
   // A record.
   void TakeRecord();
+  // Pictures may hold pictures, each of which enters before it is loaded and leaves afterwards.
+  void EnterPicture();
+  void LeavePicture() { --depth_; }
 
  private:
   void TakeSteps(std::size_t count);
@@ -50,6 +54,7 @@ class PictureBudget {
   std::size_t elements_ = 0;
   std::size_t characters_ = 0;
   std::size_t steps_ = 0;  // since the clock was read
+  int depth_ = 0;
 };
 
 }  // namespace tarvis

@@ -8,6 +8,8 @@
 
 namespace tarvis {
 
+class MetafilePicture;
+
 using Points = std::vector<QPointF>;
 
 struct TextRecord {
@@ -39,6 +41,7 @@ class Drawing {
 
   DeviceContext& Dc() { return dc_; }
   PictureBudget& Budget() { return list_.Budget(); }
+  GlyphOutlines& Glyphs() { return glyphs_; }
   DcState& State() { return dc_.State(); }
   const DcState& State() const { return dc_.State(); }
   void Select(const MetaObject& object);
@@ -91,6 +94,9 @@ class Drawing {
   void Block(BlockRecord block);
   void PatternBlock(const QRectF& box, std::uint32_t rop);
   void Parallelogram(const QImage& image, const QRectF& source, const Points& corners);
+  // `source` is in the units of the inner picture; it goes to the parallelogram of `corners`, of which there
+  // are at least three.
+  void Inner(const std::shared_ptr<const MetafilePicture>& picture, QRectF source, const Points& corners);
   void GradientBox(const QRectF& box, QColor from, QColor to, bool down);
   void GradientTriangle(const Points& corners, const std::vector<QColor>& colors);
 

@@ -2,6 +2,7 @@
 
 #include "pictures/metafile/context/drawing.h"
 #include "pictures/metafile/context/raster_ops.h"
+#include "pictures/metafile/list/metafile_picture.h"
 
 namespace tarvis {
 namespace {
@@ -111,6 +112,24 @@ void Drawing::Parallelogram(const QImage& image, const QRectF& source, const Poi
   const QTransform fit(across.x(), across.y(), down.x(), down.y(), corners[0].x(), corners[0].y());
   const QTransform offset = QTransform::fromTranslate(part.left() - source.left(), part.top() - source.top());
   PlaceImage(part == image.rect() ? image : image.copy(part), offset * fit * ToDevice());
+}
+
+void Drawing::Inner(const std::shared_ptr<const MetafilePicture>& picture, QRectF source,
+                    const Points& corners) {
+  constexpr double rounding = 0.02;  // of the size
+  const QRectF& frame = picture->Frame();
+  if (source.width() == 0 || source.height() == 0) throw SkipRecord();
+  // Writers round the frame, and measure that of old-style metafiles from another origin.
+  const bool isAll = std::abs(source.width() - frame.width()) < rounding * frame.width() &&
+                     std::abs(source.height() - frame.height()) < rounding * frame.height();
+  if (isAll) source = frame;
+  const QPointF across = (corners[1] - corners[0]) / source.width();
+  const QPointF down = (corners[2] - corners[0]) / source.height();
+  const QTransform fit(across.x(), across.y(), down.x(), down.y(), corners[0].x(), corners[0].y());
+  const QTransform place = QTransform::fromTranslate(-source.left(), -source.top()) * fit * ToDevice();
+  if (!place.isInvertible()) throw SkipRecord();
+  list_.SetClip(State().Clip);
+  list_.AddPart({std::shared_ptr<const DrawList>(picture, &picture->List()), source & frame, place});
 }
 
 void Drawing::GradientBox(const QRectF& box, QColor from, QColor to, bool down) {

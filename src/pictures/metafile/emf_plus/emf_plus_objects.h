@@ -4,6 +4,7 @@
 #include <variant>
 
 #include "pictures/metafile/context/record_reading.h"
+#include "pictures/metafile/list/metafile_picture.h"
 
 namespace tarvis {
 
@@ -47,8 +48,10 @@ struct PlusFormat {
 // An object that changes nothing that is seen.
 struct PlusHint {};
 
-using PlusObject =
-    std::variant<std::monostate, PlusBrush, PlusPen, QPainterPath, QImage, PlusFont, PlusFormat, PlusHint>;
+using PlusMetafile = std::shared_ptr<const MetafilePicture>;
+
+using PlusObject = std::variant<std::monostate, PlusBrush, PlusPen, QPainterPath, QImage, PlusMetafile,
+                                PlusFont, PlusFormat, PlusHint>;
 
 enum class PlusKind : unsigned {
   Brush = 1,
@@ -69,6 +72,9 @@ PlusPen ReadPlusPen(ByteReader& reader);
 QPainterPath ReadPlusPath(ByteReader& reader);
 QPainterPath ReadPlusRegion(ByteReader& reader);
 QImage ReadPlusImage(ByteReader& reader);
+// Whether an image is a metafile, and that metafile.
+bool IsPlusMetafile(Bytes image);
+PlusMetafile ReadPlusMetafile(ByteReader& reader, GlyphOutlines& glyphs, PictureBudget& budget);
 
 // Caps by number, and those of a form of their own.
 PlusCap MakePlusCap(std::uint32_t number);

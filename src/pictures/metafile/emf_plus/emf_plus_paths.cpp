@@ -26,17 +26,37 @@ QPainterPath ReadRegionNode(ByteReader& r, int depth) {
   return kind == Exclude ? a.subtracted(b) : b.subtracted(a);
 }
 
+// The type of each of `count` points. In paths with run lengths, or with relative points, a type may be
+// preceded by the number of points that have it; a bit that no type has tells the two apart. The published
+// format changed over time: which of the two flags means run lengths depends on its edition.
+std::vector<std::uint8_t> ReadPointTypes(ByteReader& r, std::size_t count, std::uint32_t flags) {
+  enum : unsigned { IsRun = 0x40, RunCount = 0x3F };
+  constexpr std::uint32_t runLengths = 0x1000;
+  if ((flags & (runLengths | PlusRelativeFlag)) == 0) {
+    const Bytes plain = r.Take(count);
+    return {plain.begin(), plain.end()};
+  }
+  std::vector<std::uint8_t> types;
+  while (types.size() < count) {
+    const std::uint8_t head = r.U8();
+    const bool isRun = (head & IsRun) != 0;
+    const std::size_t length = isRun ? head & RunCount : 1;
+    const std::uint8_t type = isRun ? r.U8() : head;
+    if (length > count - types.size()) throw OutOfBytes();
+    types.insert(types.end(), length, type);
+  }
+  return types;
+}
+
 }  // namespace
 
 QPainterPath ReadPlusPath(ByteReader& r) {
   enum : unsigned { Kind = 0xF, Line = 1, Curve = 3, Close = 0x80 };
-  enum : std::uint32_t { RunLengths = 0x1000 };
   r.Skip(4);
   const std::size_t count = r.U32();
   const std::uint32_t flags = r.U32();
-  if ((flags & RunLengths) != 0) throw SkipRecord();
   const Points points = ReadPlusPoints(r, count, flags);
-  const Bytes kinds = r.Take(count);
+  const std::vector<std::uint8_t> kinds = ReadPointTypes(r, count, flags);
   QPainterPath path;
   for (std::size_t i = 0; i < count; ++i) {
     std::size_t last = i;

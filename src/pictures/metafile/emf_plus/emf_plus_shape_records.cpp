@@ -150,17 +150,23 @@ QRectF ReadSource(ByteReader& r) {
   return ReadRectF(r);
 }
 
+void PlaceImage(PlusPlayback& p, std::uint32_t flags, const QRectF& source, const Points& corners) {
+  const std::uint32_t index = flags & 0xFF;
+  if (const auto* metafile = p.Find<PlusMetafile>(index)) return p.Draw.Inner(*metafile, source, corners);
+  p.Draw.Parallelogram(p.At<QImage>(index), source, corners);
+}
+
 void DrawImage(PlusPlayback& p, std::uint32_t flags, ByteReader& r) {
   const QRectF source = ReadSource(r);
   const QRectF to = p.ReadRect(r, flags);
-  p.Draw.Parallelogram(p.At<QImage>(flags & 0xFF), source, {to.topLeft(), to.topRight(), to.bottomLeft()});
+  PlaceImage(p, flags, source, {to.topLeft(), to.topRight(), to.bottomLeft()});
 }
 
 void DrawImagePoints(PlusPlayback& p, std::uint32_t flags, ByteReader& r) {
   const QRectF source = ReadSource(r);
   const Points corners = ReadCountedPoints(r, flags);
   if (corners.size() < 3) throw OutOfBytes();
-  p.Draw.Parallelogram(p.At<QImage>(flags & 0xFF), source, corners);
+  PlaceImage(p, flags, source, corners);
 }
 
 constexpr PlusRecordRow FillRecords[] = {

@@ -113,7 +113,12 @@ void PlusPlayback::Keep(std::uint32_t flags, Bytes bytes) {
   if (index >= objects_.size()) throw SkipRecord();
   objects_[index] = {};
   ByteReader reader(bytes);
-  objects_[index] = ReadPlusObject(static_cast<PlusKind>(flags >> 8 & 0x7F), reader);
+  const auto kind = static_cast<PlusKind>(flags >> 8 & 0x7F);
+  if (kind == PlusKind::Image && IsPlusMetafile(bytes)) {
+    objects_[index] = ReadPlusMetafile(reader, Draw.Glyphs(), Draw.Budget());
+    return;
+  }
+  objects_[index] = ReadPlusObject(kind, reader);
   if (const QImage* image = std::get_if<QImage>(&objects_[index]))
     Draw.Budget().TakeDecodedBytes(static_cast<std::size_t>(image->sizeInBytes()));
 }

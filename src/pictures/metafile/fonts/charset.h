@@ -24,7 +24,7 @@ std::vector<TextCharacter> DecodeUnits(Bytes bytes);
 
 // What the codes of a font show. `Letters` are those of text fonts that claim to be symbol fonts, `Unknown`
 // are pictures of which no character is known.
-enum class SymbolSet { None, Letters, Greek, Dingbats, MoreDingbats, Unknown };
+enum class SymbolSet { None, Letters, Greek, Dingbats, MoreDingbats, WebSigns, PrintersDingbats, Unknown };
 
 SymbolSet FindSymbolSet(const std::u16string& face, std::uint8_t charset);
 

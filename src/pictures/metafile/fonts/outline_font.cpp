@@ -21,7 +21,10 @@ QString KnownFamily(const QString& family) {
                                                       {"fixedsys", "Courier New"},
                                                       {"terminal", "Courier New"},
                                                       {"symbol", "Times New Roman"},
-                                                      {"wingdings", "DejaVu Sans"}};
+                                                      {"wingdings", "DejaVu Sans"},
+                                                      {"wingdings 2", "DejaVu Sans"},
+                                                      {"webdings", "DejaVu Sans"},
+                                                      {"monotype sorts", "DejaVu Sans"}};
   const auto found = standIns.find(family.toLower());
   return family.isEmpty() ? QString("Arial") : found == standIns.end() ? family : found->second;
 }

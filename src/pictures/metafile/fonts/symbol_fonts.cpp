@@ -1,5 +1,6 @@
 // What the usual symbol fonts show, as characters that any font may have.
 #include <algorithm>
+#include <span>
 #include <string_view>
 
 #include "pictures/metafile/fonts/charset.h"
@@ -30,37 +31,75 @@ struct Sign {
   char16_t Character;
 };
 
-// The signs of the dingbat font that documents use for bullets, arrows, boxes and ticks.
-constexpr Sign Dingbats[] = {{0x20, 0x0020}, {0x22, 0x2702}, {0x23, 0x2701}, {0x28, 0x260E}, {0x2A, 0x2709},
-                             {0x36, 0x231B}, {0x3F, 0x270D}, {0x41, 0x270C}, {0x45, 0x261C}, {0x46, 0x261E},
-                             {0x47, 0x261D}, {0x48, 0x261F}, {0x4A, 0x263A}, {0x4C, 0x2639}, {0x4E, 0x2620},
-                             {0x52, 0x263C}, {0x54, 0x2744}, {0x6C, 0x25CF}, {0x6D, 0x274D}, {0x6E, 0x25A0},
-                             {0x6F, 0x25A1}, {0x71, 0x2751}, {0x72, 0x2752}, {0x73, 0x2B27}, {0x74, 0x29EB},
-                             {0x75, 0x25C6}, {0x76, 0x2756}, {0x77, 0x2B25}, {0x9E, 0x00B7}, {0x9F, 0x2022},
-                             {0xA1, 0x25CB}, {0xA7, 0x25AA}, {0xA8, 0x25FB}, {0xAB, 0x2605}, {0xD8, 0x27A2},
-                             {0xDF, 0x2190}, {0xE0, 0x2192}, {0xE1, 0x2191}, {0xE2, 0x2193}, {0xE8, 0x2794},
-                             {0xEF, 0x21E6}, {0xF0, 0x21E8}, {0xF1, 0x21E7}, {0xF2, 0x21E9}, {0xF3, 0x21D4},
-                             {0xFB, 0x2717}, {0xFC, 0x2713}, {0xFD, 0x2612}, {0xFE, 0x2611}};
+// Codes 0x20 to 0xFF of the first dingbat font. Signs that only few fonts have are shown by the plainer one
+// that is most like them; a zero stands where there is none.
+constexpr char16_t Dingbats[] = {
+    0x0020, 0,      0x2702, 0x2701, 0,      0,      0,      0,      0x260E, 0x2706, 0x2709, 0,      0,
+    0,      0,      0,      0,      0,      0,      0,      0,      0,      0x231B, 0,      0,      0,
+    0,      0,      0,      0,      0x2707, 0x270D, 0,      0x270C, 0,      0,      0,      0x261C, 0x261E,
+    0x261D, 0x261F, 0,      0x263A, 0,      0x2639, 0,      0x2620, 0,      0,      0x2708, 0x263C, 0,
+    0x2744, 0,      0x271E, 0,      0x2720, 0x2721, 0x262A, 0x262F, 0,      0x2638, 0x2648, 0x2649, 0x264A,
+    0x264B, 0x264C, 0x264D, 0x264E, 0x264F, 0x2650, 0x2651, 0x2652, 0x2653, 0x0026, 0x0026, 0x25CF, 0x274D,
+    0x25A0, 0x25A1, 0x25A1, 0x2751, 0x2752, 0x29EB, 0x29EB, 0x25C6, 0x2756, 0x25C6, 0x2327, 0x2353, 0x2318,
+    0x2740, 0x273F, 0x275D, 0x275E, 0,      0x24EA, 0x2460, 0x2461, 0x2462, 0x2463, 0x2464, 0x2465, 0x2466,
+    0x2467, 0x2468, 0x2469, 0x24FF, 0x2776, 0x2777, 0x2778, 0x2779, 0x277A, 0x277B, 0x277C, 0x277D, 0x277E,
+    0x277F, 0,      0,      0,      0,      0,      0,      0,      0,      0x00B7, 0x2022, 0x25AA, 0x25CB,
+    0x25CB, 0x25CB, 0x25C9, 0x25CE, 0x274D, 0x25AA, 0x25FB, 0,      0x2726, 0x2605, 0x2736, 0x2734, 0x2739,
+    0x2735, 0,      0x2316, 0x27E1, 0x2311, 0,      0x272A, 0x2730, 0,      0,      0,      0,      0,
+    0,      0,      0,      0,      0,      0,      0,      0,      0,      0,      0,      0,      0,
+    0,      0,      0,      0,      0,      0,      0,      0,      0,      0,      0,      0,      0x232B,
+    0x2326, 0x25C4, 0x27A2, 0x25B2, 0x25BC, 0,      0x27B2, 0,      0,      0x2190, 0x2192, 0x2191, 0x2193,
+    0x2196, 0x2197, 0x2199, 0x2198, 0x2190, 0x2794, 0x2191, 0x2193, 0x2196, 0x2197, 0x2199, 0x2198, 0x21E6,
+    0x21E8, 0x21E7, 0x21E9, 0x2B04, 0x21F3, 0x2B01, 0x2B00, 0x2B03, 0x2B02, 0x25AD, 0x25AB, 0x2717, 0x2713,
+    0x2612, 0x2611, 0};
+
+// Signs of the fonts of which documents use few.
+constexpr Sign MoreDingbats[] = {{0x20, 0x0020}, {0x4F, 0x2717}, {0x50, 0x2713}, {0x51, 0x2612},
+                                 {0x52, 0x2611}, {0x53, 0x2612}, {0x69, 0x24EA}, {0x74, 0x24FF},
+                                 {0x95, 0x2022}, {0x97, 0x25CF}, {0x98, 0x2B24}};
+constexpr Sign WebSigns[] = {{0x20, 0x0020}, {0x33, 0x25C4}, {0x34, 0x25BA}, {0x35, 0x25B2},
+                             {0x36, 0x25BC}, {0x59, 0x2665}, {0x61, 0x2714}, {0x63, 0x25A1},
+                             {0x67, 0x25A0}, {0x6E, 0x25CF}, {0x72, 0x2716}};
+
+// The dingbats after which a block of characters is named: `Count` codes from `First` on follow each other
+// there, too. Earlier rows go first.
+struct SignRun {
+  std::uint8_t First;
+  std::uint8_t Count;
+  char16_t Character;
+};
+constexpr SignRun PrintersDingbats[] = {
+    {0x20, 1, 0x0020}, {0x25, 1, 0x260E},  {0x2A, 1, 0x261B},  {0x2B, 1, 0x261E},  {0x48, 1, 0x2605},
+    {0x6C, 1, 0x25CF}, {0x6E, 1, 0x25A0},  {0x73, 1, 0x25B2},  {0x74, 1, 0x25BC},  {0x75, 1, 0x25C6},
+    {0x77, 1, 0x25D7}, {0x21, 94, 0x2701}, {0xA1, 7, 0x2761},  {0xA8, 1, 0x2663},  {0xA9, 1, 0x2666},
+    {0xAA, 1, 0x2665}, {0xAB, 1, 0x2660},  {0xAC, 10, 0x2460}, {0xB6, 30, 0x2776}, {0xD4, 1, 0x2794},
+    {0xD5, 1, 0x2192}, {0xD6, 2, 0x2194},  {0xD8, 24, 0x2798}, {0xF1, 14, 0x27B1}};
 
 char32_t Greek(char32_t code) {
   if (code >= 0x20 && code < 0x20 + GreekLow.size()) return GreekLow[code - 0x20];
   return code >= 0xA0 && code < 0xA0 + std::size(GreekHigh) ? GreekHigh[code - 0xA0] : 0;
 }
 
-// The same of the second dingbat font.
-char32_t MoreDingbat(char32_t code) {
-  constexpr Sign signs[] = {{0x20, 0x0020}, {0x4F, 0x2717}, {0x50, 0x2713}, {0x51, 0x2612},
-                            {0x52, 0x2611}, {0x53, 0x2612}, {0x69, 0x24EA}, {0x74, 0x24FF},
-                            {0x95, 0x2022}, {0x97, 0x25CF}, {0x98, 0x2B24}};
-  if (code >= 0x6A && code <= 0x73) return U'\u2460' + (code - 0x6A);  // 1 to 10 in circles
-  if (code >= 0x75 && code <= 0x7E) return U'\u2776' + (code - 0x75);  // the same in black ones
+char32_t Find(std::span<const Sign> signs, char32_t code) {
   const auto found = std::ranges::find(signs, code, &Sign::Code);
-  return found == std::end(signs) ? 0 : found->Character;
+  return found == signs.end() ? 0 : found->Character;
 }
 
 char32_t Dingbat(char32_t code) {
-  const auto found = std::ranges::find(Dingbats, code, &Sign::Code);
-  return found == std::end(Dingbats) ? 0 : found->Character;
+  return code >= 0x20 ? Dingbats[code - 0x20] : 0;
+}
+
+char32_t MoreDingbat(char32_t code) {
+  if (code >= 0x6A && code <= 0x73) return U'\u2460' + (code - 0x6A);  // 1 to 10 in circles
+  if (code >= 0x75 && code <= 0x7E) return U'\u2776' + (code - 0x75);  // the same in black ones
+  return Find(MoreDingbats, code);
+}
+
+char32_t PrintersDingbat(char32_t code) {
+  for (const SignRun& run : PrintersDingbats)
+    if (code >= run.First && code < char32_t{run.First} + run.Count)
+      return run.Character + (code - run.First);
+  return 0;
 }
 
 struct SymbolFace {
@@ -69,10 +108,17 @@ struct SymbolFace {
 };
 
 constexpr SymbolFace Faces[] = {
-    {u"symbol", SymbolSet::Greek},        {u"wingdings 2", SymbolSet::MoreDingbats},
-    {u"wingdings 3", SymbolSet::Unknown}, {u"wingdings", SymbolSet::Dingbats},
-    {u"webdings", SymbolSet::Unknown},    {u"mt extra", SymbolSet::Unknown},
-    {u"marlett", SymbolSet::Unknown},     {u"monotype sorts", SymbolSet::Unknown},
+    {u"symbol", SymbolSet::Greek},
+    {u"wingdings 2", SymbolSet::MoreDingbats},
+    {u"wingdings 3", SymbolSet::Unknown},
+    {u"wingdings", SymbolSet::Dingbats},
+    {u"webdings", SymbolSet::WebSigns},
+    {u"mt extra", SymbolSet::Unknown},
+    {u"marlett", SymbolSet::Unknown},
+    {u"monotype sorts", SymbolSet::PrintersDingbats},
+    {u"zapfdingbats", SymbolSet::PrintersDingbats},
+    {u"zapf dingbats", SymbolSet::PrintersDingbats},
+    {u"itc zapf dingbats", SymbolSet::PrintersDingbats},
 };
 
 std::u16string InSmallLetters(std::u16string name) {
@@ -101,6 +147,10 @@ char32_t SymbolCharacter(SymbolSet set, char32_t code) {
       return Dingbat(low);
     case SymbolSet::MoreDingbats:
       return MoreDingbat(low);
+    case SymbolSet::WebSigns:
+      return Find(WebSigns, low);
+    case SymbolSet::PrintersDingbats:
+      return PrintersDingbat(low);
     case SymbolSet::Unknown:
       return low == U' ' ? low : 0;
     default:

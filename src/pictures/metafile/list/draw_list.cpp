@@ -140,6 +140,20 @@ void DrawList::AddImage(ListImage image) {
   AddCommand({.Kind = ListKind::Image, .Index = Count(images_.size() - 1)});
 }
 
+std::size_t DrawList::PaintedElements() const {
+  return points_.size() + commands_.size() + elementsOfParts_;
+}
+
+void DrawList::AddPart(ListPart part) {
+  FlushLines();
+  const std::size_t elements = part.List->PaintedElements();
+  budget_->TakeElements(elements);
+  budget_->TakeKeptBytes(sizeof(ListPart));
+  elementsOfParts_ += elements;
+  parts_.push_back(std::move(part));
+  AddCommand({.Kind = ListKind::Part, .Index = Count(parts_.size() - 1)});
+}
+
 bool DrawList::DropLastImages(std::size_t count) {
   FlushLines();
   if (commands_.size() < count) return false;
@@ -173,6 +187,7 @@ bool DrawList::ShowsInk() const {
   return std::ranges::any_of(commands_, [&](const ListCommand& command) {
     if (command.Kind == ListKind::Image) return true;
     if (command.Kind == ListKind::Clip) return false;
+    if (command.Kind == ListKind::Part) return Part(command.Index).List->ShowsInk();
     return (command.Pen >= 0 && isInk(Pen(command.Pen).Pen.brush())) ||
            (command.Brush >= 0 && (HasDots(Brush(command.Brush).Dots) || isInk(Brush(command.Brush).Brush)));
   });
@@ -181,6 +196,7 @@ bool DrawList::ShowsInk() const {
 QRectF DrawList::Bounds() const {
   QRectF bounds;
   for (const ListImage& image : images_) bounds |= image.Place.mapRect(image.Source);
+  for (const ListPart& part : parts_) bounds |= part.Place.mapRect(part.Frame);
   if (points_.empty()) return bounds;
   const auto [left, right] = std::ranges::minmax(points_, {}, &ListPoint::X);
   const auto [top, bottom] = std::ranges::minmax(points_, {}, &ListPoint::Y);

@@ -93,14 +93,23 @@ struct ListText {
   QColor Color;
 };
 
-enum class ListKind : std::uint8_t { Shape, Image, Clip };
+class DrawList;
+
+// A picture inside the picture.
+struct ListPart {
+  std::shared_ptr<const DrawList> List;
+  QRectF Frame;      // what is shown of it, in its own units
+  QTransform Place;  // from its units to those of the picture around it
+};
+
+enum class ListKind : std::uint8_t { Shape, Image, Clip, Part };
 
 struct ListCommand {
   ListKind Kind = ListKind::Shape;
   bool Winding = false;
   std::int32_t Pen = -1;    // none if below 0
   std::int32_t Brush = -1;  // none if below 0
-  std::uint32_t Index = 0;  // of the outline, image or clip
+  std::uint32_t Index = 0;  // of the outline, image, clip or part
   std::int32_t Text = -1;   // that the outline shows; none if below 0
 };
 
@@ -122,6 +131,8 @@ class DrawList {
   // To be called after the last addition.
   void Finish() { FlushLines(); }
   void AddImage(ListImage image);
+  // Its cost is taken again each time that it is added, for so often it is painted.
+  void AddPart(ListPart part);
   // Takes back the last `count` images, if nothing else was added after the first of them.
   bool DropLastImages(std::size_t count);
   // Takes back all commands from `first` on.
@@ -141,6 +152,8 @@ class DrawList {
   const std::vector<ListText>& Texts() const { return texts_; }
   const ListImage& Image(std::uint32_t index) const { return images_[index]; }
   const ListClip& Clip(std::uint32_t index) const { return *clips_[index]; }
+  const ListPart& Part(std::uint32_t index) const { return parts_[index]; }
+  const std::vector<ListPart>& Parts() const { return parts_; }
   const Outline& OutlineAt(std::uint32_t index) const { return outlines_[index]; }
   std::span<const ListPoint> Points(const Outline& outline) const {
     return std::span(points_).subspan(outline.FirstPoint, outline.PointCount);
@@ -152,6 +165,7 @@ class DrawList {
  private:
   static constexpr double ReachInFrames = 200;
 
+  std::size_t PaintedElements() const;
   void FlushLines();
   void EmitLine(const QPolygonF& line, const ListPen& pen);
   void AddPoint(double x, double y);
@@ -169,6 +183,8 @@ class DrawList {
   std::vector<ListImage> images_;
   std::vector<ListText> texts_;
   std::vector<std::shared_ptr<const ListClip>> clips_;
+  std::vector<ListPart> parts_;
+  std::size_t elementsOfParts_ = 0;
   std::shared_ptr<const ListClip> asked_;  // null: none
   std::shared_ptr<const ListClip> clip_;
   bool clipPending_ = false;

@@ -82,6 +82,9 @@ void DrawListPainter::Paint() {
       case ListKind::Clip:
         Clip(list_.Clip(command.Index));
         break;
+      case ListKind::Part:
+        Part(list_.Part(command.Index));
+        break;
     }
   }
   painter_.restore();
@@ -263,6 +266,18 @@ void DrawListPainter::Image(const ListImage& image) {
   painter_.setTransform(place, true);
   painter_.setRenderHint(QPainter::SmoothPixmapTransform);
   painter_.drawImage(image.Source, image.Image, image.Source);
+  painter_.restore();
+}
+
+void DrawListPainter::Part(const ListPart& part) {
+  const QTransform place = part.Place * toTarget_;
+  if (place.type() <= QTransform::TxScale && place.m11() > 0 && place.m22() > 0) {
+    DrawListPainter(*part.List, painter_, part.Frame, place.mapRect(part.Frame)).Paint();
+    return;
+  }
+  painter_.save();
+  painter_.setTransform(place, true);
+  DrawListPainter(*part.List, painter_, part.Frame, part.Frame).Paint();
   painter_.restore();
 }
 

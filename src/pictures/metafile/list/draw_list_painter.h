@@ -31,6 +31,7 @@ class DrawListPainter {
   QRectF OnPixels(const QRectF& box) const;
   void Image(const ListImage& image);
   void Clip(const ListClip& clip);
+  void Part(const ListPart& part);
 
   const DrawList& list_;
   QPainter& painter_;

@@ -13,24 +13,28 @@ MetafilePicture::MetafilePicture(DrawList list, const QRectF& frame, const QSize
   if (!usable(frame.width()) || !usable(frame.height()) || !usable(natural.width()) ||
       !usable(natural.height()))
     throw BadMetafile("it has no extent");
-  AddTexts();
+  AddTexts(list_, {});
 }
 
-void MetafilePicture::AddTexts() {
+// `place` maps the units of `list` to those of the picture.
+void MetafilePicture::AddTexts(const DrawList& list, const QTransform& place) {
   const auto part = [this](QPointF size) {
     return PictureText::Place{static_cast<float>(size.x() / frame_.width()),
                               static_cast<float>(size.y() / frame_.height())};
   };
-  for (const ListText& text : list_.Texts()) {
-    if (!frame_.contains(text.Origins.front())) continue;
+  const auto size = [&place](QPointF vector) { return place.map(vector) - place.map(QPointF()); };
+  for (const ListText& text : list.Texts()) {
+    if (!frame_.contains(place.map(text.Origins.front()))) continue;
     PictureText told;
     told.Text = QString::fromUcs4(text.Characters.data(), static_cast<qsizetype>(text.Characters.size()))
                     .toStdString();
-    for (const QPointF& origin : text.Origins) told.Edges.push_back(part(origin - frame_.topLeft()));
-    told.Up = part(text.Up);
-    told.Down = part(text.Down);
+    for (const QPointF& origin : text.Origins)
+      told.Edges.push_back(part(place.map(origin) - frame_.topLeft()));
+    told.Up = part(size(text.Up));
+    told.Down = part(size(text.Down));
     texts_.push_back(std::move(told));
   }
+  for (const ListPart& inner : list.Parts()) AddTexts(*inner.List, inner.Place * place);
 }
 
 void MetafilePicture::Paint(QPainter& painter, const QRectF& target) const {

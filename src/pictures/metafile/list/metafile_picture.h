@@ -23,9 +23,11 @@ class MetafilePicture : public PaintablePicture {
   int SkippedRecords() const { return records_.AllSkipped(); }
   const RecordCounts& Records() const { return records_; }
   const DrawList& List() const { return list_; }
+  // The part of the list that is shown.
+  const QRectF& Frame() const { return frame_; }
 
  private:
-  void AddTexts();
+  void AddTexts(const DrawList& list, const QTransform& place);
 
   DrawList list_;
   QRectF frame_;
