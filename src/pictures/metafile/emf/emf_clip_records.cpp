@@ -5,64 +5,68 @@ namespace {
 
 constexpr std::size_t BoundsSize = 16;
 
-ClipMode ReadMode(ByteReader& r) {
-  const std::uint32_t mode = r.U32();
+ClipMode ReadMode(ByteReader& reader) {
+  const std::uint32_t mode = reader.U32();
   if (mode < 1 || mode > 5) throw SkipRecord();
   return static_cast<ClipMode>(mode);
 }
 
-void ExtSelectClipRegion(EmfPlayback& p, ByteReader& r) {
-  const std::size_t size = r.U32();
-  const ClipMode mode = ReadMode(r);
+void ExtSelectClipRegion(EmfPlayback& playback, ByteReader& reader) {
+  const std::size_t size = reader.U32();
+  const ClipMode mode = ReadMode(reader);
   if (size == 0) {
-    if (mode == ClipMode::Copy) p.Draw.ResetClip();
+    if (mode == ClipMode::Copy) playback.Draw.ResetClip();
     return;
   }
-  p.Draw.SelectClip(p.Draw.RegionPath(ReadEmfRegion(r, size)), mode);
+  playback.Draw.SelectClip(playback.Draw.RegionPath(ReadEmfRegion(reader, size)), mode);
 }
 
-const MetaBrush& BrushAt(EmfPlayback& p, MetaObject& holder, std::uint32_t index) {
-  holder = p.Object(index);
+const MetaBrush& BrushAt(EmfPlayback& playback, MetaObject& holder, std::uint32_t index) {
+  holder = playback.Object(index);
   const auto* brush = std::get_if<BrushPtr>(&holder);
   if (brush == nullptr) throw SkipRecord();
   return **brush;
 }
 
-void FillRegion(EmfPlayback& p, ByteReader& r) {
-  r.Skip(BoundsSize);
-  const std::size_t size = r.U32();
+void FillRegion(EmfPlayback& playback, ByteReader& reader) {
+  reader.Skip(BoundsSize);
+  const std::size_t size = reader.U32();
   MetaObject holder;
-  const MetaBrush& brush = BrushAt(p, holder, r.U32());
-  p.Draw.FillRegion(ReadEmfRegion(r, size), brush);
+  const MetaBrush& brush = BrushAt(playback, holder, reader.U32());
+  playback.Draw.FillRegion(ReadEmfRegion(reader, size), brush);
 }
 
-void FrameRegion(EmfPlayback& p, ByteReader& r) {
-  r.Skip(BoundsSize);
-  const std::size_t size = r.U32();
+void FrameRegion(EmfPlayback& playback, ByteReader& reader) {
+  reader.Skip(BoundsSize);
+  const std::size_t size = reader.U32();
   MetaObject holder;
-  const MetaBrush& brush = BrushAt(p, holder, r.U32());
-  const QPointF stroke = ReadPoint32(r);
-  p.Draw.FrameRegion(ReadEmfRegion(r, size), brush, {stroke.x(), stroke.y()});
+  const MetaBrush& brush = BrushAt(playback, holder, reader.U32());
+  const QPointF stroke = ReadPoint32(reader);
+  playback.Draw.FrameRegion(ReadEmfRegion(reader, size), brush, {stroke.x(), stroke.y()});
 }
 
-void InvertRegion(EmfPlayback& p, ByteReader& r) {
-  r.Skip(BoundsSize);
-  const std::size_t size = r.U32();
-  p.Draw.InvertRegion(ReadEmfRegion(r, size));
+void InvertRegion(EmfPlayback& playback, ByteReader& reader) {
+  reader.Skip(BoundsSize);
+  const std::size_t size = reader.U32();
+  playback.Draw.InvertRegion(ReadEmfRegion(reader, size));
 }
 
-void PaintRegion(EmfPlayback& p, ByteReader& r) {
-  r.Skip(BoundsSize);
-  const std::size_t size = r.U32();
-  p.Draw.FillRegion(ReadEmfRegion(r, size), *p.Draw.State().Brush);
+void PaintRegion(EmfPlayback& playback, ByteReader& reader) {
+  reader.Skip(BoundsSize);
+  const std::size_t size = reader.U32();
+  playback.Draw.FillRegion(ReadEmfRegion(reader, size), *playback.Draw.State().Brush);
 }
 
 constexpr EmfRecord Records[] = {
-    {Emr::OffsetClipRgn, [](EmfPlayback& p, ByteReader& r) { p.Draw.OffsetClip(ReadPoint32(r)); }},
-    {Emr::SetMetaRgn, [](EmfPlayback& p, ByteReader&) { p.Draw.SetMetaClip(); }},
-    {Emr::ExcludeClipRect, [](EmfPlayback& p, ByteReader& r) { p.Draw.ExcludeClip(ReadBox(r)); }},
-    {Emr::IntersectClipRect, [](EmfPlayback& p, ByteReader& r) { p.Draw.IntersectClip(ReadBox(r)); }},
-    {Emr::SelectClipPath, [](EmfPlayback& p, ByteReader& r) { p.Draw.ClipToPath(ReadMode(r)); }},
+    {Emr::OffsetClipRgn,
+     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.OffsetClip(ReadPoint32(reader)); }},
+    {Emr::SetMetaRgn, [](EmfPlayback& playback, ByteReader&) { playback.Draw.SetMetaClip(); }},
+    {Emr::ExcludeClipRect,
+     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.ExcludeClip(ReadBox(reader)); }},
+    {Emr::IntersectClipRect,
+     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.IntersectClip(ReadBox(reader)); }},
+    {Emr::SelectClipPath,
+     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.ClipToPath(ReadMode(reader)); }},
     {Emr::FillRgn, FillRegion},
     {Emr::FrameRgn, FrameRegion},
     {Emr::InvertRgn, InvertRegion},

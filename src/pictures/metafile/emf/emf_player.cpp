@@ -34,19 +34,19 @@ struct EmfHeader {
   QPointF Device;       // pixels
   QPointF Millimeters;  // of the device
 
-  explicit EmfHeader(ByteReader& r) {
-    r.Skip(4);
-    Size = r.U32();
+  explicit EmfHeader(ByteReader& reader) {
+    reader.Skip(4);
+    Size = reader.U32();
     if (Size < SmallestHeader) throw BadMetafile("its header makes no sense");
-    Bounds = ReadBox(r);
-    Frame = ReadBox(r);
-    if (r.U32() != Signature) throw BadMetafile("its header makes no sense");
-    r.Skip(4);
-    Bytes = r.U32();
-    Records = r.U32();
-    r.Skip(16);
-    Device = ReadPoint32(r);
-    Millimeters = ReadPoint32(r);
+    Bounds = ReadBox(reader);
+    Frame = ReadBox(reader);
+    if (reader.U32() != Signature) throw BadMetafile("its header makes no sense");
+    reader.Skip(4);
+    Bytes = reader.U32();
+    Records = reader.U32();
+    reader.Skip(16);
+    Device = ReadPoint32(reader);
+    Millimeters = ReadPoint32(reader);
     if (Device.x() <= 0 || Device.y() <= 0 || Millimeters.x() <= 0 || Millimeters.y() <= 0) {
       Device = {96, 96};
       Millimeters = {25.4, 25.4};

@@ -7,103 +7,103 @@ namespace {
 
 constexpr std::size_t BoundsSize = 16;
 
-Points ReadPolyPoints(ByteReader& r, bool small) {
-  r.Skip(BoundsSize);
-  const std::size_t count = r.U32();
-  return ReadPoints(r, count, small);
+Points ReadPolyPoints(ByteReader& reader, bool small) {
+  reader.Skip(BoundsSize);
+  const std::size_t count = reader.U32();
+  return ReadPoints(reader, count, small);
 }
 
-std::vector<Points> ReadPolyPolys(ByteReader& r, bool small) {
-  r.Skip(BoundsSize);
-  const std::size_t polys = r.U32();
-  r.Skip(4);
-  ByteReader counts(r.Take(polys * 4));
+std::vector<Points> ReadPolyPolys(ByteReader& reader, bool small) {
+  reader.Skip(BoundsSize);
+  const std::size_t polys = reader.U32();
+  reader.Skip(4);
+  ByteReader counts(reader.Take(polys * 4));
   std::vector<Points> all;
-  while (counts.Left() > 0) all.push_back(ReadPoints(r, counts.U32(), small));
+  while (counts.Left() > 0) all.push_back(ReadPoints(reader, counts.U32(), small));
   return all;
 }
 
 template <bool Small>
-void Polygon(EmfPlayback& p, ByteReader& r) {
-  p.Draw.Polygons({ReadPolyPoints(r, Small)});
+void Polygon(EmfPlayback& playback, ByteReader& reader) {
+  playback.Draw.Polygons({ReadPolyPoints(reader, Small)});
 }
 template <bool Small>
-void Polyline(EmfPlayback& p, ByteReader& r) {
-  p.Draw.Polyline(ReadPolyPoints(r, Small));
+void Polyline(EmfPlayback& playback, ByteReader& reader) {
+  playback.Draw.Polyline(ReadPolyPoints(reader, Small));
 }
 template <bool Small>
-void PolylineTo(EmfPlayback& p, ByteReader& r) {
-  p.Draw.PolylineTo(ReadPolyPoints(r, Small));
+void PolylineTo(EmfPlayback& playback, ByteReader& reader) {
+  playback.Draw.PolylineTo(ReadPolyPoints(reader, Small));
 }
 template <bool Small>
-void Bezier(EmfPlayback& p, ByteReader& r) {
-  p.Draw.Bezier(ReadPolyPoints(r, Small), false);
+void Bezier(EmfPlayback& playback, ByteReader& reader) {
+  playback.Draw.Bezier(ReadPolyPoints(reader, Small), false);
 }
 template <bool Small>
-void BezierTo(EmfPlayback& p, ByteReader& r) {
-  p.Draw.Bezier(ReadPolyPoints(r, Small), true);
+void BezierTo(EmfPlayback& playback, ByteReader& reader) {
+  playback.Draw.Bezier(ReadPolyPoints(reader, Small), true);
 }
 template <bool Small>
-void PolyPolyline(EmfPlayback& p, ByteReader& r) {
-  p.Draw.PolyPolyline(ReadPolyPolys(r, Small));
+void PolyPolyline(EmfPlayback& playback, ByteReader& reader) {
+  playback.Draw.PolyPolyline(ReadPolyPolys(reader, Small));
 }
 template <bool Small>
-void PolyPolygon(EmfPlayback& p, ByteReader& r) {
-  p.Draw.Polygons(ReadPolyPolys(r, Small));
+void PolyPolygon(EmfPlayback& playback, ByteReader& reader) {
+  playback.Draw.Polygons(ReadPolyPolys(reader, Small));
 }
 
 template <bool Small>
-void PolyDraw(EmfPlayback& p, ByteReader& r) {
+void PolyDraw(EmfPlayback& playback, ByteReader& reader) {
   enum : unsigned { Close = 1, Line = 2, Curve = 4, Move = 6 };
-  const Points points = ReadPolyPoints(r, Small);
-  const Bytes kinds = r.Take(points.size());
-  QPointF figure = p.Draw.State().Position;
+  const Points points = ReadPolyPoints(reader, Small);
+  const Bytes kinds = reader.Take(points.size());
+  QPointF figure = playback.Draw.State().Position;
   for (std::size_t i = 0; i < points.size(); ++i) {
     std::size_t last = i;
     const unsigned kind = kinds[i] & 6u;
-    if (kind == Move) p.Draw.MoveTo(figure = points[i]);
-    if (kind == Line) p.Draw.LineTo(points[i]);
+    if (kind == Move) playback.Draw.MoveTo(figure = points[i]);
+    if (kind == Line) playback.Draw.LineTo(points[i]);
     if (kind == Curve) {
       if (i + 2 >= points.size()) throw OutOfBytes();
-      p.Draw.Bezier({points[i], points[i + 1], points[i + 2]}, true);
+      playback.Draw.Bezier({points[i], points[i + 1], points[i + 2]}, true);
       last = i += 2;
     }
-    if ((kinds[last] & Close) != 0) p.Draw.LineTo(figure);
+    if ((kinds[last] & Close) != 0) playback.Draw.LineTo(figure);
   }
 }
 
-ArcShape ReadArc(EmfPlayback& p, ByteReader& r) {
+ArcShape ReadArc(EmfPlayback& playback, ByteReader& reader) {
   ArcShape arc;
-  arc.Box = ReadBox(r);
-  arc.Start = ReadPoint32(r);
-  arc.End = ReadPoint32(r);
-  arc.Clockwise = p.Draw.State().Clockwise;
+  arc.Box = ReadBox(reader);
+  arc.Start = ReadPoint32(reader);
+  arc.End = ReadPoint32(reader);
+  arc.Clockwise = playback.Draw.State().Clockwise;
   return arc;
 }
 
-void AngleArc(EmfPlayback& p, ByteReader& r) {
-  const QPointF center = ReadPoint32(r);
-  const double radius = r.U32();
-  const auto start = static_cast<double>(r.F32());
-  const auto sweep = static_cast<double>(r.F32());
+void AngleArc(EmfPlayback& playback, ByteReader& reader) {
+  const QPointF center = ReadPoint32(reader);
+  const double radius = reader.U32();
+  const auto start = static_cast<double>(reader.F32());
+  const auto sweep = static_cast<double>(reader.F32());
   if (!std::isfinite(start) || !std::isfinite(sweep) || std::abs(start) > 1e6) throw SkipRecord();
-  QPainterPath arc(p.Draw.State().Position);
+  QPainterPath arc(playback.Draw.State().Position);
   AddArc(arc, {center.x() - radius, center.y() - radius, 2 * radius, 2 * radius}, -start, -sweep, true);
   Points points;
-  p.Draw.LineTo(arc.elementAt(1));
+  playback.Draw.LineTo(arc.elementAt(1));
   for (int i = 2; i < arc.elementCount(); ++i) points.push_back(arc.elementAt(i));
-  p.Draw.Bezier(points, true);
+  playback.Draw.Bezier(points, true);
 }
 
-void RoundRect(EmfPlayback& p, ByteReader& r) {
-  const QRectF box = ReadBox(r);
-  const QPointF corner = ReadPoint32(r);
-  p.Draw.RoundRectangle(box, {corner.x(), corner.y()});
+void RoundRect(EmfPlayback& playback, ByteReader& reader) {
+  const QRectF box = ReadBox(reader);
+  const QPointF corner = ReadPoint32(reader);
+  playback.Draw.RoundRectangle(box, {corner.x(), corner.y()});
 }
 
-void SetPixel(EmfPlayback& p, ByteReader& r) {
-  const QPointF point = ReadPoint32(r);
-  p.Draw.Pixel(point, ReadColor(r, p.Palette()));
+void SetPixel(EmfPlayback& playback, ByteReader& reader) {
+  const QPointF point = ReadPoint32(reader);
+  playback.Draw.Pixel(point, ReadColor(reader, playback.Palette()));
 }
 
 constexpr EmfRecord Records[] = {
@@ -115,26 +115,39 @@ constexpr EmfRecord Records[] = {
     {Emr::PolyPolyline, PolyPolyline<false>},
     {Emr::PolyPolygon, PolyPolygon<false>},
     {Emr::SetPixelV, SetPixel},
-    {Emr::MoveToEx, [](EmfPlayback& p, ByteReader& r) { p.Draw.MoveTo(ReadPoint32(r)); }},
+    {Emr::MoveToEx,
+     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.MoveTo(ReadPoint32(reader)); }},
     {Emr::AngleArc, AngleArc},
-    {Emr::Ellipse, [](EmfPlayback& p, ByteReader& r) { p.Draw.Ellipse(ReadBox(r)); }},
-    {Emr::Rectangle, [](EmfPlayback& p, ByteReader& r) { p.Draw.Rectangle(ReadBox(r)); }},
+    {Emr::Ellipse, [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.Ellipse(ReadBox(reader)); }},
+    {Emr::Rectangle,
+     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.Rectangle(ReadBox(reader)); }},
     {Emr::RoundRect, RoundRect},
-    {Emr::Arc, [](EmfPlayback& p, ByteReader& r) { p.Draw.Arc(ReadArc(p, r), ArcKind::Open, false); }},
-    {Emr::Chord, [](EmfPlayback& p, ByteReader& r) { p.Draw.Arc(ReadArc(p, r), ArcKind::Chord, false); }},
-    {Emr::Pie, [](EmfPlayback& p, ByteReader& r) { p.Draw.Arc(ReadArc(p, r), ArcKind::Pie, false); }},
-    {Emr::LineTo, [](EmfPlayback& p, ByteReader& r) { p.Draw.LineTo(ReadPoint32(r)); }},
-    {Emr::ArcTo, [](EmfPlayback& p, ByteReader& r) { p.Draw.Arc(ReadArc(p, r), ArcKind::Open, true); }},
+    {Emr::Arc,
+     [](EmfPlayback& playback, ByteReader& reader) {
+       playback.Draw.Arc(ReadArc(playback, reader), ArcKind::Open, false);
+     }},
+    {Emr::Chord,
+     [](EmfPlayback& playback, ByteReader& reader) {
+       playback.Draw.Arc(ReadArc(playback, reader), ArcKind::Chord, false);
+     }},
+    {Emr::Pie, [](EmfPlayback& playback,
+                  ByteReader& reader) { playback.Draw.Arc(ReadArc(playback, reader), ArcKind::Pie, false); }},
+    {Emr::LineTo,
+     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.LineTo(ReadPoint32(reader)); }},
+    {Emr::ArcTo,
+     [](EmfPlayback& playback, ByteReader& reader) {
+       playback.Draw.Arc(ReadArc(playback, reader), ArcKind::Open, true);
+     }},
     {Emr::PolyDraw, PolyDraw<false>},
-    {Emr::BeginPath, [](EmfPlayback& p, ByteReader&) { p.Draw.BeginPath(); }},
-    {Emr::EndPath, [](EmfPlayback& p, ByteReader&) { p.Draw.EndPath(); }},
-    {Emr::CloseFigure, [](EmfPlayback& p, ByteReader&) { p.Draw.CloseFigure(); }},
-    {Emr::FillPath, [](EmfPlayback& p, ByteReader&) { p.Draw.DrawPath(true, false); }},
-    {Emr::StrokeAndFillPath, [](EmfPlayback& p, ByteReader&) { p.Draw.DrawPath(true, true); }},
-    {Emr::StrokePath, [](EmfPlayback& p, ByteReader&) { p.Draw.DrawPath(false, true); }},
+    {Emr::BeginPath, [](EmfPlayback& playback, ByteReader&) { playback.Draw.BeginPath(); }},
+    {Emr::EndPath, [](EmfPlayback& playback, ByteReader&) { playback.Draw.EndPath(); }},
+    {Emr::CloseFigure, [](EmfPlayback& playback, ByteReader&) { playback.Draw.CloseFigure(); }},
+    {Emr::FillPath, [](EmfPlayback& playback, ByteReader&) { playback.Draw.DrawPath(true, false); }},
+    {Emr::StrokeAndFillPath, [](EmfPlayback& playback, ByteReader&) { playback.Draw.DrawPath(true, true); }},
+    {Emr::StrokePath, [](EmfPlayback& playback, ByteReader&) { playback.Draw.DrawPath(false, true); }},
     {Emr::FlattenPath, nullptr},  // curves look the same, flattened or not
-    {Emr::WidenPath, [](EmfPlayback& p, ByteReader&) { p.Draw.WidenPath(); }},
-    {Emr::AbortPath, [](EmfPlayback& p, ByteReader&) { p.Draw.AbortPath(); }},
+    {Emr::WidenPath, [](EmfPlayback& playback, ByteReader&) { playback.Draw.WidenPath(); }},
+    {Emr::AbortPath, [](EmfPlayback& playback, ByteReader&) { playback.Draw.AbortPath(); }},
     {Emr::PolyBezier16, Bezier<true>},
     {Emr::Polygon16, Polygon<true>},
     {Emr::Polyline16, Polyline<true>},

@@ -44,53 +44,73 @@ void ModifyTransform(DcState& state, ByteReader& reader) {
   }
 }
 
-void SetMapMode(EmfPlayback& p, ByteReader& r) {
-  const std::uint32_t mode = r.U32();
+void SetMapMode(EmfPlayback& playback, ByteReader& reader) {
+  const std::uint32_t mode = reader.U32();
   if (mode < 1 || mode > 8) throw SkipRecord();
-  p.Draw.State().Mapping = static_cast<MapMode>(mode);
+  playback.Draw.State().Mapping = static_cast<MapMode>(mode);
 }
 
 constexpr EmfRecord Records[] = {
     {Emr::SetWindowExtEx,
-     [](EmfPlayback& p, ByteReader& r) { p.Draw.State().WindowExtent = ReadPoint32(r); }},
+     [](EmfPlayback& playback, ByteReader& reader) {
+       playback.Draw.State().WindowExtent = ReadPoint32(reader);
+     }},
     {Emr::SetWindowOrgEx,
-     [](EmfPlayback& p, ByteReader& r) { p.Draw.State().WindowOrigin = ReadPoint32(r); }},
+     [](EmfPlayback& playback, ByteReader& reader) {
+       playback.Draw.State().WindowOrigin = ReadPoint32(reader);
+     }},
     {Emr::SetViewportExtEx,
-     [](EmfPlayback& p, ByteReader& r) { p.Draw.State().ViewportExtent = ReadPoint32(r); }},
+     [](EmfPlayback& playback, ByteReader& reader) {
+       playback.Draw.State().ViewportExtent = ReadPoint32(reader);
+     }},
     {Emr::SetViewportOrgEx,
-     [](EmfPlayback& p, ByteReader& r) { p.Draw.State().ViewportOrigin = ReadPoint32(r); }},
+     [](EmfPlayback& playback, ByteReader& reader) {
+       playback.Draw.State().ViewportOrigin = ReadPoint32(reader);
+     }},
     {Emr::SetBrushOrgEx, nullptr},   // origin of brushes
     {Emr::SetMapperFlags, nullptr},  // how fonts are matched
     {Emr::SetMapMode, SetMapMode},
-    {Emr::SetBkMode, [](EmfPlayback& p, ByteReader& r) { p.Draw.State().BackgroundMode = r.U32(); }},
-    {Emr::SetPolyFillMode, [](EmfPlayback& p, ByteReader& r) { p.Draw.State().PolyFillMode = r.U32(); }},
-    {Emr::SetRop2, [](EmfPlayback& p, ByteReader& r) { p.Draw.State().Rop2 = r.U32(); }},
+    {Emr::SetBkMode,
+     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.State().BackgroundMode = reader.U32(); }},
+    {Emr::SetPolyFillMode,
+     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.State().PolyFillMode = reader.U32(); }},
+    {Emr::SetRop2,
+     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.State().Rop2 = reader.U32(); }},
     {Emr::SetStretchBltMode, nullptr},  // how bitmaps shrink
-    {Emr::SetTextAlign, [](EmfPlayback& p, ByteReader& r) { p.Draw.State().TextAlign = r.U32(); }},
+    {Emr::SetTextAlign,
+     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.State().TextAlign = reader.U32(); }},
     {Emr::SetColorAdjustment, nullptr},  // colour adjustment of halftones
     {Emr::SetTextColor,
-     [](EmfPlayback& p, ByteReader& r) { p.Draw.State().TextColor = ReadColor(r, p.Palette()); }},
+     [](EmfPlayback& playback, ByteReader& reader) {
+       playback.Draw.State().TextColor = ReadColor(reader, playback.Palette());
+     }},
     {Emr::SetBkColor,
-     [](EmfPlayback& p, ByteReader& r) { p.Draw.State().BackgroundColor = ReadColor(r, p.Palette()); }},
+     [](EmfPlayback& playback, ByteReader& reader) {
+       playback.Draw.State().BackgroundColor = ReadColor(reader, playback.Palette());
+     }},
     {Emr::ScaleViewportExtEx,
-     [](EmfPlayback& p, ByteReader& r) {
-       p.Draw.State().ViewportExtent = Scaled(p.Draw.State().ViewportExtent, r);
+     [](EmfPlayback& playback, ByteReader& reader) {
+       playback.Draw.State().ViewportExtent = Scaled(playback.Draw.State().ViewportExtent, reader);
      }},
     {Emr::ScaleWindowExtEx,
-     [](EmfPlayback& p, ByteReader& r) {
-       p.Draw.State().WindowExtent = Scaled(p.Draw.State().WindowExtent, r);
+     [](EmfPlayback& playback, ByteReader& reader) {
+       playback.Draw.State().WindowExtent = Scaled(playback.Draw.State().WindowExtent, reader);
      }},
-    {Emr::SaveDc, [](EmfPlayback& p, ByteReader&) { p.Draw.Dc().Save(); }},
-    {Emr::RestoreDc, [](EmfPlayback& p, ByteReader& r) { p.Draw.Dc().Restore(r.I32()); }},
-    {Emr::SetWorldTransform, [](EmfPlayback& p, ByteReader& r) { p.Draw.State().World = ReadTransform(r); }},
-    {Emr::ModifyWorldTransform, [](EmfPlayback& p, ByteReader& r) { ModifyTransform(p.Draw.State(), r); }},
-    {Emr::SetArcDirection, [](EmfPlayback& p, ByteReader& r) { p.Draw.State().Clockwise = r.U32() == 2; }},
+    {Emr::SaveDc, [](EmfPlayback& playback, ByteReader&) { playback.Draw.Dc().Save(); }},
+    {Emr::RestoreDc,
+     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.Dc().Restore(reader.I32()); }},
+    {Emr::SetWorldTransform,
+     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.State().World = ReadTransform(reader); }},
+    {Emr::ModifyWorldTransform,
+     [](EmfPlayback& playback, ByteReader& reader) { ModifyTransform(playback.Draw.State(), reader); }},
+    {Emr::SetArcDirection,
+     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.State().Clockwise = reader.U32() == 2; }},
     {Emr::SetMiterLimit,
-     [](EmfPlayback& p, ByteReader& r) {
-       const std::uint32_t limit = r.U32();
+     [](EmfPlayback& playback, ByteReader& reader) {
+       const std::uint32_t limit = reader.U32();
        // Some writers store a floating-point number here.
        const double value = limit > 0xFFFF ? static_cast<double>(std::bit_cast<float>(limit)) : limit;
-       if (std::isfinite(value) && value >= 1) p.Draw.State().MiterLimit = value;
+       if (std::isfinite(value) && value >= 1) playback.Draw.State().MiterLimit = value;
      }},
     {Emr::SetIcmMode, nullptr},  // colour management, to 101
     {Emr::CreateColorSpace, nullptr},
@@ -105,15 +125,15 @@ constexpr EmfRecord Records[] = {
     {Emr::SetIcmProfileA, nullptr},
     {Emr::SetIcmProfileW, nullptr},
     {Emr::SetLayout,
-     [](EmfPlayback&, ByteReader& r) {
-       if (r.U32() != 0) throw SkipRecord();
+     [](EmfPlayback&, ByteReader& reader) {
+       if (reader.U32() != 0) throw SkipRecord();
      }},
     {Emr::SetLinkedUfis, nullptr},
     {Emr::SetTextJustification,
-     [](EmfPlayback& p, ByteReader& r) {
-       const double extra = r.I32();
-       const int count = r.I32();
-       p.Draw.State().BreakExtra = count > 0 ? extra / count : 0;
+     [](EmfPlayback& playback, ByteReader& reader) {
+       const double extra = reader.I32();
+       const int count = reader.I32();
+       playback.Draw.State().BreakExtra = count > 0 ? extra / count : 0;
      }},
     {Emr::ColorMatchToTargetW, nullptr},
     {Emr::CreateColorSpaceW, nullptr},

@@ -9,52 +9,52 @@ constexpr std::size_t BoundsSize = 16;
 void ReadAdvances(const ByteReader& record, std::size_t offset, std::size_t count, TextRecord& text) {
   const bool pairs = (text.Options & TextPairs) != 0;
   if (offset == 0 || offset >= record.All().size()) return;
-  ByteReader r(Slice(record.All(), offset, count * (pairs ? 8 : 4)));
+  ByteReader reader(Slice(record.All(), offset, count * (pairs ? 8 : 4)));
   for (std::size_t i = 0; i < count; ++i) {
-    text.Advances.push_back(r.I32());
-    if (pairs) text.Rises.push_back(r.I32());
+    text.Advances.push_back(reader.I32());
+    if (pairs) text.Rises.push_back(reader.I32());
   }
 }
 
 // The text object that all text records but the small one share.
-TextRecord ReadText(EmfPlayback& p, ByteReader& r, bool wide) {
+TextRecord ReadText(EmfPlayback& playback, ByteReader& reader, bool wide) {
   TextRecord text;
-  text.Reference = ReadPoint32(r);
-  const std::size_t count = r.U32();
-  const std::size_t offset = r.U32();
-  text.Options = r.U32();
-  text.Box = ReadBox(r);
-  const std::size_t advances = r.U32();
-  const Bytes bytes = count == 0 ? Bytes() : Slice(r.All(), offset, count * (wide ? 2 : 1));
-  text.Text = wide ? DecodeUnits(bytes) : DecodeText(bytes, p.Draw.State().Font->Charset);
-  ReadAdvances(r, advances, count, text);
+  text.Reference = ReadPoint32(reader);
+  const std::size_t count = reader.U32();
+  const std::size_t offset = reader.U32();
+  text.Options = reader.U32();
+  text.Box = ReadBox(reader);
+  const std::size_t advances = reader.U32();
+  const Bytes bytes = count == 0 ? Bytes() : Slice(reader.All(), offset, count * (wide ? 2 : 1));
+  text.Text = wide ? DecodeUnits(bytes) : DecodeText(bytes, playback.Draw.State().Font->Charset);
+  ReadAdvances(reader, advances, count, text);
   return text;
 }
 
 template <bool Wide>
-void ExtTextOut(EmfPlayback& p, ByteReader& r) {
-  r.Skip(BoundsSize + 12);
-  p.Draw.Text(ReadText(p, r, Wide));
+void ExtTextOut(EmfPlayback& playback, ByteReader& reader) {
+  reader.Skip(BoundsSize + 12);
+  playback.Draw.Text(ReadText(playback, reader, Wide));
 }
 
 template <bool Wide>
-void PolyTextOut(EmfPlayback& p, ByteReader& r) {
-  r.Skip(BoundsSize + 12);
-  const std::size_t count = r.U32();
-  for (std::size_t i = 0; i < count; ++i) p.Draw.Text(ReadText(p, r, Wide));
+void PolyTextOut(EmfPlayback& playback, ByteReader& reader) {
+  reader.Skip(BoundsSize + 12);
+  const std::size_t count = reader.U32();
+  for (std::size_t i = 0; i < count; ++i) playback.Draw.Text(ReadText(playback, reader, Wide));
 }
 
-void SmallTextOut(EmfPlayback& p, ByteReader& r) {
+void SmallTextOut(EmfPlayback& playback, ByteReader& reader) {
   TextRecord text;
-  text.Reference = ReadPoint32(r);
-  const std::size_t count = r.U32();
-  text.Options = r.U32();
-  r.Skip(12);
-  if ((text.Options & TextNoBox) == 0) text.Box = ReadBox(r);
+  text.Reference = ReadPoint32(reader);
+  const std::size_t count = reader.U32();
+  text.Options = reader.U32();
+  reader.Skip(12);
+  if ((text.Options & TextNoBox) == 0) text.Box = ReadBox(reader);
   const bool small = (text.Options & TextSmall) != 0;
-  const Bytes bytes = r.Take(count * (small ? 1 : 2));
-  text.Text = small ? DecodeText(bytes, p.Draw.State().Font->Charset) : DecodeUnits(bytes);
-  p.Draw.Text(text);
+  const Bytes bytes = reader.Take(count * (small ? 1 : 2));
+  text.Text = small ? DecodeText(bytes, playback.Draw.State().Font->Charset) : DecodeUnits(bytes);
+  playback.Draw.Text(text);
 }
 
 constexpr EmfRecord Records[] = {

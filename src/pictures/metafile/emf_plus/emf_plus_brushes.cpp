@@ -8,21 +8,21 @@ namespace tarvis {
 namespace {
 
 // The stops of a gradient, between its two colours or of its own.
-void SetStops(QGradient& gradient, ByteReader& r, std::uint32_t flags, QColor from, QColor to) {
+void SetStops(QGradient& gradient, ByteReader& reader, std::uint32_t flags, QColor from, QColor to) {
   enum : std::uint32_t { PresetColors = 4, BlendFactors = 8 };
   gradient.setColorAt(0, from);
   gradient.setColorAt(1, to);
   if ((flags & (PresetColors | BlendFactors)) == 0) return;
-  const std::size_t count = r.U32();
-  if (count > r.Left() / 8) throw OutOfBytes();
+  const std::size_t count = reader.U32();
+  if (count > reader.Left() / 8) throw OutOfBytes();
   std::vector<double> places;
-  for (std::size_t i = 0; i < count; ++i) places.push_back(std::clamp(ReadF(r), 0.0, 1.0));
+  for (std::size_t i = 0; i < count; ++i) places.push_back(std::clamp(ReadF(reader), 0.0, 1.0));
   for (const double place : places) {
     if ((flags & PresetColors) != 0) {
-      gradient.setColorAt(place, PlusColor(r.U32()));
+      gradient.setColorAt(place, PlusColor(reader.U32()));
       continue;
     }
-    const auto part = static_cast<float>(std::clamp(ReadF(r), 0.0, 1.0));
+    const auto part = static_cast<float>(std::clamp(ReadF(reader), 0.0, 1.0));
     const auto mix = [part](float a, float b) { return a + (b - a) * part; };
     gradient.setColorAt(place,
                         QColor::fromRgbF(mix(from.redF(), to.redF()), mix(from.greenF(), to.greenF()),
@@ -30,49 +30,49 @@ void SetStops(QGradient& gradient, ByteReader& r, std::uint32_t flags, QColor fr
   }
 }
 
-PlusBrush LinearGradient(ByteReader& r) {
+PlusBrush LinearGradient(ByteReader& reader) {
   enum : std::uint32_t { HasTransform = 2 };
-  const std::uint32_t flags = r.U32();
-  const std::uint32_t wrap = r.U32();
-  const QRectF box = ReadRectF(r);
-  const QColor from = PlusColor(r.U32());
-  const QColor to = PlusColor(r.U32());
-  r.Skip(8);
+  const std::uint32_t flags = reader.U32();
+  const std::uint32_t wrap = reader.U32();
+  const QRectF box = ReadRectF(reader);
+  const QColor from = PlusColor(reader.U32());
+  const QColor to = PlusColor(reader.U32());
+  reader.Skip(8);
   QTransform transform;
-  if ((flags & HasTransform) != 0) transform = ReadTransformF(r);
+  if ((flags & HasTransform) != 0) transform = ReadTransformF(reader);
   QLinearGradient gradient(box.topLeft(), box.topRight());
   gradient.setSpread(wrap == 0   ? QGradient::RepeatSpread
                      : wrap == 4 ? QGradient::PadSpread
                                  : QGradient::ReflectSpread);
-  SetStops(gradient, r, flags, from, to);
+  SetStops(gradient, reader, flags, from, to);
   ListBrush brush{QBrush(gradient)};
   brush.Brush.setTransform(transform);
   return {brush, nullptr};
 }
 
-PlusBrush PathGradientBrush(ByteReader& r) {
+PlusBrush PathGradientBrush(ByteReader& reader) {
   enum : std::uint32_t { HasPath = 1, HasTransform = 2 };
-  const std::uint32_t flags = r.U32();
-  r.Skip(4);
+  const std::uint32_t flags = reader.U32();
+  reader.Skip(4);
   auto gradient = std::make_shared<PathGradient>();
-  gradient->Inside = PlusColor(r.U32());
-  gradient->Center = ReadPointF(r);
-  const std::size_t colors = r.U32();
-  if (colors > r.Left() / 4) throw OutOfBytes();
-  for (std::size_t i = 0; i < colors; ++i) gradient->Around.push_back(PlusColor(r.U32()));
+  gradient->Inside = PlusColor(reader.U32());
+  gradient->Center = ReadPointF(reader);
+  const std::size_t colors = reader.U32();
+  if (colors > reader.Left() / 4) throw OutOfBytes();
+  for (std::size_t i = 0; i < colors; ++i) gradient->Around.push_back(PlusColor(reader.U32()));
   if (colors == 0) gradient->Around.push_back(gradient->Inside);
-  const std::size_t size = r.U32();
+  const std::size_t size = reader.U32();
   if ((flags & HasPath) != 0) {
-    ByteReader path(r.Take(size));
+    ByteReader path(reader.Take(size));
     gradient->Outline = ReadPlusPath(path);
   } else {
-    const Points points = ReadPlusPoints(r, size, 0);
+    const Points points = ReadPlusPoints(reader, size, 0);
     gradient->Outline.addPolygon(QPolygonF(QList<QPointF>(points.begin(), points.end())));
   }
   gradient->Outline.closeSubpath();
-  if ((flags & HasTransform) != 0) gradient->Transform = ReadTransformF(r);
+  if ((flags & HasTransform) != 0) gradient->Transform = ReadTransformF(reader);
   QLinearGradient stops;
-  SetStops(stops, r, flags, gradient->Around[0], gradient->Inside);
+  SetStops(stops, reader, flags, gradient->Around[0], gradient->Inside);
   gradient->Stops = stops.stops();
   return {ListBrush{QBrush(gradient->Around[0])}, gradient};
 }
@@ -96,10 +96,10 @@ constexpr LineHatch LineHatches[] = {
     {51, Qt::DiagCrossPattern},    // outlined diamonds
 };
 
-PlusBrush HatchBrush(ByteReader& r) {
-  const std::uint32_t hatch = r.U32();
-  const QColor lines = PlusColor(r.U32());
-  const QColor behind = PlusColor(r.U32());
+PlusBrush HatchBrush(ByteReader& reader) {
+  const std::uint32_t hatch = reader.U32();
+  const QColor lines = PlusColor(reader.U32());
+  const QColor behind = PlusColor(reader.U32());
   const auto* const form = std::ranges::find(LineHatches, hatch, &LineHatch::Number);
   if (form != std::end(LineHatches))
     return {{.Brush = QBrush(lines, form->Style),
@@ -113,13 +113,13 @@ PlusBrush HatchBrush(ByteReader& r) {
 }
 
 // A pixel of the picture takes a unit of the world.
-PlusBrush TextureBrush(ByteReader& r) {
+PlusBrush TextureBrush(ByteReader& reader) {
   enum : std::uint32_t { HasTransform = 2 };
-  const std::uint32_t flags = r.U32();
-  r.Skip(4);
+  const std::uint32_t flags = reader.U32();
+  reader.Skip(4);
   QTransform transform;
-  if ((flags & HasTransform) != 0) transform = ReadTransformF(r);
-  ListBrush brush{QBrush(ReadPlusImage(r))};
+  if ((flags & HasTransform) != 0) transform = ReadTransformF(reader);
+  ListBrush brush{QBrush(ReadPlusImage(reader))};
   brush.Brush.setTransform(transform);
   brush.Placed = true;
   return {brush, nullptr};
@@ -127,20 +127,20 @@ PlusBrush TextureBrush(ByteReader& r) {
 
 }  // namespace
 
-PlusBrush ReadPlusBrush(ByteReader& r) {
+PlusBrush ReadPlusBrush(ByteReader& reader) {
   enum : std::uint32_t { Solid = 0, Hatch = 1, Texture = 2, Path = 3, Linear = 4 };
-  r.Skip(4);
-  switch (r.U32()) {
+  reader.Skip(4);
+  switch (reader.U32()) {
     case Solid:
-      return {ListBrush{QBrush(PlusColor(r.U32()))}, nullptr};
+      return {ListBrush{QBrush(PlusColor(reader.U32()))}, nullptr};
     case Hatch:
-      return HatchBrush(r);
+      return HatchBrush(reader);
     case Texture:
-      return TextureBrush(r);
+      return TextureBrush(reader);
     case Path:
-      return PathGradientBrush(r);
+      return PathGradientBrush(reader);
     case Linear:
-      return LinearGradient(r);
+      return LinearGradient(reader);
     default:
       throw SkipRecord();
   }

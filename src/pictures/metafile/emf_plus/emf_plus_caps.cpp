@@ -16,26 +16,26 @@ PlusCap Arrow(double width, double height, double middleInset) {
   return cap;
 }
 
-PlusCap ReadArrow(ByteReader& r) {
-  const double width = ReadF(r);
-  const double height = ReadF(r);
-  const double middleInset = ReadF(r);
-  r.Skip(4 + 12 + 4);
-  const double scale = ReadF(r);
+PlusCap ReadArrow(ByteReader& reader) {
+  const double width = ReadF(reader);
+  const double height = ReadF(reader);
+  const double middleInset = ReadF(reader);
+  reader.Skip(4 + 12 + 4);
+  const double scale = ReadF(reader);
   return Arrow(width * scale, height * scale, middleInset * scale);
 }
 
-PlusCap ReadOwnForm(ByteReader& r) {
+PlusCap ReadOwnForm(ByteReader& reader) {
   enum : std::uint32_t { HasFill = 1, HasLine = 2 };
-  const std::uint32_t flags = r.U32();
-  r.Skip(4);
+  const std::uint32_t flags = reader.U32();
+  reader.Skip(4);
   PlusCap cap;
-  cap.Inset = ReadF(r);
-  r.Skip(12 + 4);
-  const double scale = ReadF(r);
-  r.Skip(16);
+  cap.Inset = ReadF(reader);
+  reader.Skip(12 + 4);
+  const double scale = ReadF(reader);
+  reader.Skip(16);
   if ((flags & (HasFill | HasLine)) == 0) return {};
-  ByteReader path(r.Take(r.U32()));
+  ByteReader path(reader.Take(reader.U32()));
   cap.Shape = ReadPlusPath(path);
   if ((flags & HasFill) == 0) {
     QPainterPathStroker stroker;
@@ -61,12 +61,12 @@ PlusCap MakePlusCap(std::uint32_t number) {
   return cap;
 }
 
-PlusCap ReadPlusCap(ByteReader& r) {
+PlusCap ReadPlusCap(ByteReader& reader) {
   enum : std::uint32_t { OwnForm = 0, AdjustableArrow = 1 };
-  r.Skip(4);
-  const std::uint32_t kind = r.U32();
-  if (kind == OwnForm) return ReadOwnForm(r);
-  if (kind == AdjustableArrow) return ReadArrow(r);
+  reader.Skip(4);
+  const std::uint32_t kind = reader.U32();
+  if (kind == OwnForm) return ReadOwnForm(reader);
+  if (kind == AdjustableArrow) return ReadArrow(reader);
   throw SkipRecord();
 }
 

@@ -6,7 +6,7 @@
 namespace tarvis {
 namespace {
 
-QImage FromPixels(ByteReader& r, int width, int height, std::size_t stride, std::uint32_t format) {
+QImage FromPixels(ByteReader& reader, int width, int height, std::size_t stride, std::uint32_t format) {
   constexpr std::pair<std::uint32_t, QImage::Format> formats[] = {
       {0x26200A, QImage::Format_ARGB32}, {0x22009, QImage::Format_RGB32},
       {0x21808, QImage::Format_BGR888},  {0xE200B, QImage::Format_ARGB32_Premultiplied},
@@ -14,7 +14,7 @@ QImage FromPixels(ByteReader& r, int width, int height, std::size_t stride, std:
   for (const auto& [number, kind] : formats) {
     if (number != format) continue;
     if (width < 1 || height < 1 || width > 0x8000 || height > 0x8000) throw SkipRecord();
-    const Bytes pixels = r.Take(stride * static_cast<std::size_t>(height));
+    const Bytes pixels = reader.Take(stride * static_cast<std::size_t>(height));
     QImage image(width, height, kind);
     if (image.isNull() || stride < static_cast<std::size_t>(width * image.depth() / 8)) throw SkipRecord();
     const auto used = static_cast<std::size_t>(width * image.depth() / 8);
@@ -26,15 +26,15 @@ QImage FromPixels(ByteReader& r, int width, int height, std::size_t stride, std:
 }
 
 // A bitmap of 1, 4 or 8 bits with its colours in front.
-QImage FromIndexes(ByteReader& r, int width, int height, std::size_t stride, std::uint32_t format) {
+QImage FromIndexes(ByteReader& reader, int width, int height, std::size_t stride, std::uint32_t format) {
   const unsigned bits = format >> 8 & 0xFF;
-  r.Skip(4);
-  const std::size_t colors = r.U32();
+  reader.Skip(4);
+  const std::size_t colors = reader.U32();
   if (colors > 256 || (bits != 1 && bits != 4 && bits != 8)) throw SkipRecord();
   if (width < 1 || height < 1 || width > 0x8000 || height > 0x8000) throw SkipRecord();
   QList<QRgb> table(256, qRgb(0, 0, 0));
-  for (std::size_t i = 0; i < colors; ++i) table[static_cast<qsizetype>(i)] = r.U32();
-  const Bytes pixels = r.Take(stride * static_cast<std::size_t>(height));
+  for (std::size_t i = 0; i < colors; ++i) table[static_cast<qsizetype>(i)] = reader.U32();
+  const Bytes pixels = reader.Take(stride * static_cast<std::size_t>(height));
   if (stride * 8 < static_cast<std::size_t>(width) * bits) throw SkipRecord();
   QImage image(width, height, QImage::Format_Indexed8);
   if (image.isNull()) throw SkipRecord();
@@ -51,20 +51,20 @@ QImage FromIndexes(ByteReader& r, int width, int height, std::size_t stride, std
 
 }  // namespace
 
-QImage ReadPlusImage(ByteReader& r) {
+QImage ReadPlusImage(ByteReader& reader) {
   enum : std::uint32_t { Bitmap = 1, File = 1 };
-  r.Skip(4);
-  if (r.U32() != Bitmap) throw SkipRecord();
-  const int width = r.I32();
-  const int height = r.I32();
-  const std::size_t stride = r.U32();
-  const std::uint32_t format = r.U32();
+  reader.Skip(4);
+  if (reader.U32() != Bitmap) throw SkipRecord();
+  const int width = reader.I32();
+  const int height = reader.I32();
+  const std::size_t stride = reader.U32();
+  const std::uint32_t format = reader.U32();
   constexpr std::uint32_t indexed = 0x10000;
-  if (r.U32() != File)
-    return (format & indexed) != 0 ? FromIndexes(r, width, height, stride, format)
-                                   : FromPixels(r, width, height, stride, format);
+  if (reader.U32() != File)
+    return (format & indexed) != 0 ? FromIndexes(reader, width, height, stride, format)
+                                   : FromPixels(reader, width, height, stride, format);
   try {
-    return ReadToolkitImage(r.Rest());
+    return ReadToolkitImage(reader.Rest());
   } catch (const BadDib&) {
     throw SkipRecord();
   }

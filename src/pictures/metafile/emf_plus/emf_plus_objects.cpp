@@ -5,55 +5,55 @@
 namespace tarvis {
 namespace {
 
-PlusFont ReadFont(ByteReader& r) {
+PlusFont ReadFont(ByteReader& reader) {
   enum : std::uint32_t { Bold = 1, Italic = 2, Underline = 4, StrikeOut = 8 };
-  r.Skip(4);
+  reader.Skip(4);
   PlusFont font;
-  const double size = ReadF(r);
-  const std::uint32_t unit = r.U32();
+  const double size = ReadF(reader);
+  const std::uint32_t unit = reader.U32();
   const double toPixels = unit == 3   ? 96.0 / 72
                           : unit == 4 ? 96
                           : unit == 5 ? 96.0 / 300
                           : unit == 6 ? 96 / 25.4
                                       : 1;
   font.Font.Height = -size * toPixels;
-  const std::uint32_t style = r.U32();
+  const std::uint32_t style = reader.U32();
   font.Font.Weight = (style & Bold) != 0 ? 700 : 400;
   font.Font.Italic = (style & Italic) != 0;
   font.Font.Underline = (style & Underline) != 0;
   font.Font.StrikeOut = (style & StrikeOut) != 0;
-  r.Skip(4);
-  for (std::size_t left = std::min<std::uint32_t>(r.U32(), 64); left > 0; --left)
-    font.Font.Face += static_cast<char16_t>(r.U16());
+  reader.Skip(4);
+  for (std::size_t left = std::min<std::uint32_t>(reader.U32(), 64); left > 0; --left)
+    font.Font.Face += static_cast<char16_t>(reader.U16());
   return font;
 }
 
-PlusFormat ReadFormat(ByteReader& r) {
+PlusFormat ReadFormat(ByteReader& reader) {
   enum : std::uint32_t { NoWrap = 0x1000 };
-  r.Skip(4);
+  reader.Skip(4);
   PlusFormat format;
-  format.Wraps = (r.U32() & NoWrap) == 0;
-  r.Skip(4);
-  format.Align = r.U32();
-  format.LineAlign = r.U32();
+  format.Wraps = (reader.U32() & NoWrap) == 0;
+  reader.Skip(4);
+  format.Align = reader.U32();
+  format.LineAlign = reader.U32();
   return format;
 }
 
 // A whole number of 7 bits in one byte, or of 15 bits in two.
-int ReadSmallNumber(ByteReader& r) {
-  const int first = r.U8();
+int ReadSmallNumber(ByteReader& reader) {
+  const int first = reader.U8();
   if (first < 0x80) return first < 0x40 ? first : first - 0x80;
-  const int value = (first & 0x7F) << 8 | r.U8();
+  const int value = (first & 0x7F) << 8 | reader.U8();
   return value < 0x4000 ? value : value - 0x8000;
 }
 
-Points ReadRelativePoints(ByteReader& r, std::size_t count) {
-  if (count > r.Left() / 2) throw OutOfBytes();
+Points ReadRelativePoints(ByteReader& reader, std::size_t count) {
+  if (count > reader.Left() / 2) throw OutOfBytes();
   Points points(count);
   QPointF last;
   for (QPointF& point : points) {
-    const double x = ReadSmallNumber(r);
-    last += QPointF(x, ReadSmallNumber(r));
+    const double x = ReadSmallNumber(reader);
+    last += QPointF(x, ReadSmallNumber(reader));
     point = last;
   }
   return points;
@@ -65,8 +65,8 @@ QColor PlusColor(std::uint32_t argb) {
   return QColor::fromRgba(argb);
 }
 
-double ReadF(ByteReader& r) {
-  const auto value = static_cast<double>(r.F32());
+double ReadF(ByteReader& reader) {
+  const auto value = static_cast<double>(reader.F32());
   if (!std::isfinite(value) || std::abs(value) > 1e9) throw SkipRecord();
   return value;
 }

@@ -5,11 +5,11 @@
 namespace tarvis {
 namespace {
 
-QList<qreal> ReadFloats(ByteReader& r) {
-  const std::size_t count = r.U32();
-  if (count > r.Left() / 4) throw OutOfBytes();
+QList<qreal> ReadFloats(ByteReader& reader) {
+  const std::size_t count = reader.U32();
+  if (count > reader.Left() / 4) throw OutOfBytes();
   QList<qreal> values;
-  for (std::size_t i = 0; i < count; ++i) values.append(ReadF(r));
+  for (std::size_t i = 0; i < count; ++i) values.append(ReadF(reader));
   return values;
 }
 
@@ -25,16 +25,16 @@ Qt::PenCapStyle CapStyle(std::uint32_t cap) {
   return cap == 1 ? Qt::SquareCap : cap == 2 ? Qt::RoundCap : Qt::FlatCap;
 }
 
-void ReadDashes(ByteReader& r, QPen& line) {
-  QList<qreal> dashes = ReadFloats(r);
+void ReadDashes(ByteReader& reader, QPen& line) {
+  QList<qreal> dashes = ReadFloats(reader);
   for (qreal& dash : dashes) dash = std::clamp(dash, 0.01, 1e6);
   if (dashes.size() % 2 == 1) dashes.append(QList<qreal>(dashes));
   if (!dashes.isEmpty()) line.setDashPattern(dashes);
 }
 
 // A cap of a form of its own, in so many bytes.
-PlusCap ReadSizedCap(ByteReader& r) {
-  ByteReader cap(r.Take(r.U32()));
+PlusCap ReadSizedCap(ByteReader& reader) {
+  ByteReader cap(reader.Take(reader.U32()));
   try {
     return ReadPlusCap(cap);
   } catch (const SkipRecord&) {
@@ -43,46 +43,46 @@ PlusCap ReadSizedCap(ByteReader& r) {
 }
 
 // What the flags of a pen say that is there, in this order.
-void ReadPenOptions(ByteReader& r, std::uint32_t flags, PlusPen& pen) {
+void ReadPenOptions(ByteReader& reader, std::uint32_t flags, PlusPen& pen) {
   QPen& line = pen.Pen.Pen;
   const auto has = [flags](std::uint32_t bit) { return (flags & bit) != 0; };
-  if (has(0x1)) r.Skip(24);
+  if (has(0x1)) reader.Skip(24);
   if (has(0x2)) {
-    const std::uint32_t cap = r.U32();
+    const std::uint32_t cap = reader.U32();
     line.setCapStyle(CapStyle(cap));
     pen.Start = MakePlusCap(cap);
   }
-  if (has(0x4)) pen.End = MakePlusCap(r.U32());
+  if (has(0x4)) pen.End = MakePlusCap(reader.U32());
   if (has(0x8)) {
-    const std::uint32_t join = r.U32();
+    const std::uint32_t join = reader.U32();
     line.setJoinStyle(join == 1 ? Qt::BevelJoin : join == 2 ? Qt::RoundJoin : Qt::SvgMiterJoin);
   }
-  if (has(0x10)) line.setMiterLimit(std::max(1.0, ReadF(r)));
-  if (has(0x20)) SetLineStyle(line, r.U32());
-  if (has(0x40)) r.Skip(4);
-  const double offset = has(0x80) ? ReadF(r) : 0;
-  if (has(0x100)) ReadDashes(r, line);
+  if (has(0x10)) line.setMiterLimit(std::max(1.0, ReadF(reader)));
+  if (has(0x20)) SetLineStyle(line, reader.U32());
+  if (has(0x40)) reader.Skip(4);
+  const double offset = has(0x80) ? ReadF(reader) : 0;
+  if (has(0x100)) ReadDashes(reader, line);
   if (has(0x80) && line.style() != Qt::SolidLine) line.setDashOffset(offset);
-  if (has(0x200)) r.Skip(4);
-  if (has(0x400)) ReadFloats(r);
-  if (has(0x800)) pen.Start = ReadSizedCap(r);
-  if (has(0x1000)) pen.End = ReadSizedCap(r);
+  if (has(0x200)) reader.Skip(4);
+  if (has(0x400)) ReadFloats(reader);
+  if (has(0x800)) pen.Start = ReadSizedCap(reader);
+  if (has(0x1000)) pen.End = ReadSizedCap(reader);
 }
 
 }  // namespace
 
-PlusPen ReadPlusPen(ByteReader& r) {
-  r.Skip(8);
-  const std::uint32_t flags = r.U32();
+PlusPen ReadPlusPen(ByteReader& reader) {
+  reader.Skip(8);
+  const std::uint32_t flags = reader.U32();
   PlusPen pen;
-  const std::uint32_t unit = r.U32();
+  const std::uint32_t unit = reader.U32();
   pen.InPixels = unit == 2;
-  pen.Width = std::abs(ReadF(r));
+  pen.Width = std::abs(ReadF(reader));
   QPen& line = pen.Pen.Pen;
   line.setCapStyle(Qt::FlatCap);
   line.setJoinStyle(Qt::SvgMiterJoin);
-  ReadPenOptions(r, flags, pen);
-  const ListBrush brush = ReadPlusBrush(r).List;
+  ReadPenOptions(reader, flags, pen);
+  const ListBrush brush = ReadPlusBrush(reader).List;
   if (brush.Brush.gradient() != nullptr) {
     line.setBrush(brush.Brush);
   } else {

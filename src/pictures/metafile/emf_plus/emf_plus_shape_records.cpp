@@ -29,33 +29,33 @@ QPainterPath CurvePath(const Points& points, double tension, bool closed, CurveR
   return path;
 }
 
-Points ReadCountedPoints(ByteReader& r, std::uint32_t flags) {
-  const std::size_t count = r.U32();
-  return ReadPlusPoints(r, count, flags);
+Points ReadCountedPoints(ByteReader& reader, std::uint32_t flags) {
+  const std::size_t count = reader.U32();
+  return ReadPlusPoints(reader, count, flags);
 }
 
-double ReadAngle(ByteReader& r) {
-  const auto degrees = static_cast<double>(r.F32());
+double ReadAngle(ByteReader& reader) {
+  const auto degrees = static_cast<double>(reader.F32());
   if (!std::isfinite(degrees) || std::abs(degrees) > 1e6) throw SkipRecord();
   return degrees;
 }
 
 // The shapes that one record fills and another draws as lines.
-QPainterPath ReadRects(const PlusPlayback& p, ByteReader& r, std::uint32_t flags) {
+QPainterPath ReadRects(const PlusPlayback& playback, ByteReader& reader, std::uint32_t flags) {
   QPainterPath path;
-  const std::size_t count = r.U32();
-  for (std::size_t i = 0; i < count; ++i) path.addRect(p.ReadRect(r, flags));
+  const std::size_t count = reader.U32();
+  for (std::size_t i = 0; i < count; ++i) path.addRect(playback.ReadRect(reader, flags));
   return path;
 }
 
-QPainterPath ReadEllipse(const PlusPlayback& p, ByteReader& r, std::uint32_t flags) {
+QPainterPath ReadEllipse(const PlusPlayback& playback, ByteReader& reader, std::uint32_t flags) {
   QPainterPath path;
-  path.addEllipse(p.ReadRect(r, flags));
+  path.addEllipse(playback.ReadRect(reader, flags));
   return path;
 }
 
-QPainterPath ReadLines(ByteReader& r, std::uint32_t flags, bool closed) {
-  const Points points = ReadCountedPoints(r, flags);
+QPainterPath ReadLines(ByteReader& reader, std::uint32_t flags, bool closed) {
+  const Points points = ReadCountedPoints(reader, flags);
   QPainterPath path;
   if (points.empty()) return path;
   path.moveTo(points[0]);
@@ -64,10 +64,10 @@ QPainterPath ReadLines(ByteReader& r, std::uint32_t flags, bool closed) {
   return path;
 }
 
-QPainterPath ReadArc(const PlusPlayback& p, ByteReader& r, std::uint32_t flags, ArcKind kind) {
-  const double start = ReadAngle(r);
-  const double sweep = ReadAngle(r);
-  const QRectF box = p.ReadRect(r, flags);
+QPainterPath ReadArc(const PlusPlayback& playback, ByteReader& reader, std::uint32_t flags, ArcKind kind) {
+  const double start = ReadAngle(reader);
+  const double sweep = ReadAngle(reader);
+  const QRectF box = playback.ReadRect(reader, flags);
   QPainterPath path;
   const bool pie = kind == ArcKind::Pie;
   if (pie) path.moveTo(box.center());
@@ -76,97 +76,98 @@ QPainterPath ReadArc(const PlusPlayback& p, ByteReader& r, std::uint32_t flags, 
   return path;
 }
 
-QPainterPath ReadClosedCurve(ByteReader& r, std::uint32_t flags) {
-  const double tension = ReadAngle(r);
-  const Points points = ReadCountedPoints(r, flags);
+QPainterPath ReadClosedCurve(ByteReader& reader, std::uint32_t flags) {
+  const double tension = ReadAngle(reader);
+  const Points points = ReadCountedPoints(reader, flags);
   return CurvePath(points, tension, true, {0, points.size()});
 }
 
-void Clear(PlusPlayback& p, std::uint32_t, ByteReader& r) {
+void Clear(PlusPlayback& playback, std::uint32_t, ByteReader& reader) {
   QPainterPath path;
   path.addRect(-1e6, -1e6, 2e6, 2e6);
-  p.Fill(path, PlusColorFlag, r.U32());
+  playback.Fill(path, PlusColorFlag, reader.U32());
 }
 
-void FillRects(PlusPlayback& p, std::uint32_t flags, ByteReader& r) {
-  const std::uint32_t brush = r.U32();
-  QPainterPath path = ReadRects(p, r, flags);
+void FillRects(PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {
+  const std::uint32_t brush = reader.U32();
+  QPainterPath path = ReadRects(playback, reader, flags);
   path.setFillRule(Qt::WindingFill);
-  p.Fill(path, flags, brush);
+  playback.Fill(path, flags, brush);
 }
 
-void FillPolygon(PlusPlayback& p, std::uint32_t flags, ByteReader& r) {
-  const std::uint32_t brush = r.U32();
-  p.Fill(ReadLines(r, flags, true), flags, brush);
+void FillPolygon(PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {
+  const std::uint32_t brush = reader.U32();
+  playback.Fill(ReadLines(reader, flags, true), flags, brush);
 }
 
-void FillEllipse(PlusPlayback& p, std::uint32_t flags, ByteReader& r) {
-  const std::uint32_t brush = r.U32();
-  p.Fill(ReadEllipse(p, r, flags), flags, brush);
+void FillEllipse(PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {
+  const std::uint32_t brush = reader.U32();
+  playback.Fill(ReadEllipse(playback, reader, flags), flags, brush);
 }
 
-void FillPie(PlusPlayback& p, std::uint32_t flags, ByteReader& r) {
-  const std::uint32_t brush = r.U32();
-  p.Fill(ReadArc(p, r, flags, ArcKind::Pie), flags, brush);
+void FillPie(PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {
+  const std::uint32_t brush = reader.U32();
+  playback.Fill(ReadArc(playback, reader, flags, ArcKind::Pie), flags, brush);
 }
 
 // Regions are kept as paths, too.
-void FillPath(PlusPlayback& p, std::uint32_t flags, ByteReader& r) {
-  const std::uint32_t brush = r.U32();
-  p.Fill(p.At<QPainterPath>(flags & 0xFF), flags, brush);
+void FillPath(PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {
+  const std::uint32_t brush = reader.U32();
+  playback.Fill(playback.At<QPainterPath>(flags & 0xFF), flags, brush);
 }
 
-void FillClosedCurve(PlusPlayback& p, std::uint32_t flags, ByteReader& r) {
-  const std::uint32_t brush = r.U32();
-  p.Fill(ReadClosedCurve(r, flags), flags, brush);
+void FillClosedCurve(PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {
+  const std::uint32_t brush = reader.U32();
+  playback.Fill(ReadClosedCurve(reader, flags), flags, brush);
 }
 
-void DrawCurve(PlusPlayback& p, std::uint32_t flags, ByteReader& r) {
-  const double tension = ReadAngle(r);
-  const std::size_t first = r.U32();
-  const std::size_t segments = r.U32();
-  const Points points = ReadCountedPoints(r, flags);
+void DrawCurve(PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {
+  const double tension = ReadAngle(reader);
+  const std::size_t first = reader.U32();
+  const std::size_t segments = reader.U32();
+  const Points points = ReadCountedPoints(reader, flags);
   if (points.empty() || first + segments > points.size() - 1) throw SkipRecord();
-  p.Stroke(CurvePath(points, tension, false, {first, segments}), flags);
+  playback.Stroke(CurvePath(points, tension, false, {first, segments}), flags);
 }
 
-void DrawBeziers(PlusPlayback& p, std::uint32_t flags, ByteReader& r) {
-  const Points points = ReadCountedPoints(r, flags);
+void DrawBeziers(PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {
+  const Points points = ReadCountedPoints(reader, flags);
   if (points.empty()) return;
   QPainterPath path(points[0]);
   for (std::size_t i = 1; i + 2 < points.size(); i += 3)
     path.cubicTo(points[i], points[i + 1], points[i + 2]);
-  p.Stroke(path, flags);
+  playback.Stroke(path, flags);
 }
 
-void DrawPath(PlusPlayback& p, std::uint32_t flags, ByteReader& r) {
-  const auto& path = p.At<QPainterPath>(flags & 0xFF);
-  p.Stroke(path, r.U32());
+void DrawPath(PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {
+  const auto& path = playback.At<QPainterPath>(flags & 0xFF);
+  playback.Stroke(path, reader.U32());
 }
 
 // Behind the number of the attributes and the unit of the source, which is a pixel.
-QRectF ReadSource(ByteReader& r) {
-  r.Skip(8);
-  return ReadRectF(r);
+QRectF ReadSource(ByteReader& reader) {
+  reader.Skip(8);
+  return ReadRectF(reader);
 }
 
-void PlaceImage(PlusPlayback& p, std::uint32_t flags, const QRectF& source, const Points& corners) {
+void PlaceImage(PlusPlayback& playback, std::uint32_t flags, const QRectF& source, const Points& corners) {
   const std::uint32_t index = flags & 0xFF;
-  if (const auto* metafile = p.Find<PlusMetafile>(index)) return p.Draw.Inner(*metafile, source, corners);
-  p.Draw.Parallelogram(p.At<QImage>(index), source, corners);
+  if (const auto* metafile = playback.Find<PlusMetafile>(index))
+    return playback.Draw.Inner(*metafile, source, corners);
+  playback.Draw.Parallelogram(playback.At<QImage>(index), source, corners);
 }
 
-void DrawImage(PlusPlayback& p, std::uint32_t flags, ByteReader& r) {
-  const QRectF source = ReadSource(r);
-  const QRectF to = p.ReadRect(r, flags);
-  PlaceImage(p, flags, source, {to.topLeft(), to.topRight(), to.bottomLeft()});
+void DrawImage(PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {
+  const QRectF source = ReadSource(reader);
+  const QRectF to = playback.ReadRect(reader, flags);
+  PlaceImage(playback, flags, source, {to.topLeft(), to.topRight(), to.bottomLeft()});
 }
 
-void DrawImagePoints(PlusPlayback& p, std::uint32_t flags, ByteReader& r) {
-  const QRectF source = ReadSource(r);
-  const Points corners = ReadCountedPoints(r, flags);
+void DrawImagePoints(PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {
+  const QRectF source = ReadSource(reader);
+  const Points corners = ReadCountedPoints(reader, flags);
   if (corners.size() < 3) throw OutOfBytes();
-  PlaceImage(p, flags, source, corners);
+  PlaceImage(playback, flags, source, corners);
 }
 
 constexpr PlusRecordRow FillRecords[] = {
@@ -183,20 +184,30 @@ constexpr PlusRecordRow FillRecords[] = {
 // Their pen is named by the low byte of the flags.
 constexpr PlusRecordRow LineRecords[] = {
     {PlusRecord::DrawRects,
-     [](PlusPlayback& p, std::uint32_t flags, ByteReader& r) { p.Stroke(ReadRects(p, r, flags), flags); }},
+     [](PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {
+       playback.Stroke(ReadRects(playback, reader, flags), flags);
+     }},
     {PlusRecord::DrawLines,
-     [](PlusPlayback& p, std::uint32_t flags, ByteReader& r) {
-       p.Stroke(ReadLines(r, flags, (flags & PlusClosedFlag) != 0), flags);
+     [](PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {
+       playback.Stroke(ReadLines(reader, flags, (flags & PlusClosedFlag) != 0), flags);
      }},
     {PlusRecord::DrawEllipse,
-     [](PlusPlayback& p, std::uint32_t flags, ByteReader& r) { p.Stroke(ReadEllipse(p, r, flags), flags); }},
-    {PlusRecord::DrawPie, [](PlusPlayback& p, std::uint32_t flags,
-                             ByteReader& r) { p.Stroke(ReadArc(p, r, flags, ArcKind::Pie), flags); }},
-    {PlusRecord::DrawArc, [](PlusPlayback& p, std::uint32_t flags,
-                             ByteReader& r) { p.Stroke(ReadArc(p, r, flags, ArcKind::Open), flags); }},
+     [](PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {
+       playback.Stroke(ReadEllipse(playback, reader, flags), flags);
+     }},
+    {PlusRecord::DrawPie,
+     [](PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {
+       playback.Stroke(ReadArc(playback, reader, flags, ArcKind::Pie), flags);
+     }},
+    {PlusRecord::DrawArc,
+     [](PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {
+       playback.Stroke(ReadArc(playback, reader, flags, ArcKind::Open), flags);
+     }},
     {PlusRecord::DrawPath, DrawPath},
     {PlusRecord::DrawClosedCurve,
-     [](PlusPlayback& p, std::uint32_t flags, ByteReader& r) { p.Stroke(ReadClosedCurve(r, flags), flags); }},
+     [](PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {
+       playback.Stroke(ReadClosedCurve(reader, flags), flags);
+     }},
     {PlusRecord::DrawCurve, DrawCurve},
     {PlusRecord::DrawBeziers, DrawBeziers},
 };

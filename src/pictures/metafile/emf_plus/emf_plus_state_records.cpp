@@ -6,67 +6,68 @@ namespace {
 
 constexpr std::size_t MostSaved = 512;
 
-void Save(PlusPlayback& p, std::uint32_t, ByteReader& r) {
-  p.Save(r.U32());
+void Save(PlusPlayback& playback, std::uint32_t, ByteReader& reader) {
+  playback.Save(reader.U32());
 }
 
-void Restore(PlusPlayback& p, std::uint32_t, ByteReader& r) {
-  p.Restore(r.U32());
+void Restore(PlusPlayback& playback, std::uint32_t, ByteReader& reader) {
+  playback.Restore(reader.U32());
 }
 
-void BeginContainer(PlusPlayback& p, std::uint32_t, ByteReader& r) {
-  const QRectF to = ReadRectF(r);
-  const QRectF from = ReadRectF(r);
-  p.Save(r.U32());
+void BeginContainer(PlusPlayback& playback, std::uint32_t, ByteReader& reader) {
+  const QRectF to = ReadRectF(reader);
+  const QRectF from = ReadRectF(reader);
+  playback.Save(reader.U32());
   if (from.width() == 0 || from.height() == 0) throw SkipRecord();
-  p.ModifyWorld(QTransform::fromTranslate(-from.left(), -from.top()) *
-                    QTransform::fromScale(to.width() / from.width(), to.height() / from.height()) *
-                    QTransform::fromTranslate(to.left(), to.top()),
-                0);
+  playback.ModifyWorld(QTransform::fromTranslate(-from.left(), -from.top()) *
+                           QTransform::fromScale(to.width() / from.width(), to.height() / from.height()) *
+                           QTransform::fromTranslate(to.left(), to.top()),
+                       0);
 }
 
-void TranslateWorld(PlusPlayback& p, std::uint32_t flags, ByteReader& r) {
-  const QPointF by = ReadPointF(r);
-  p.ModifyWorld(QTransform::fromTranslate(by.x(), by.y()), flags);
+void TranslateWorld(PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {
+  const QPointF by = ReadPointF(reader);
+  playback.ModifyWorld(QTransform::fromTranslate(by.x(), by.y()), flags);
 }
 
-void ScaleWorld(PlusPlayback& p, std::uint32_t flags, ByteReader& r) {
-  const QPointF by = ReadPointF(r);
-  p.ModifyWorld(QTransform::fromScale(by.x(), by.y()), flags);
+void ScaleWorld(PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {
+  const QPointF by = ReadPointF(reader);
+  playback.ModifyWorld(QTransform::fromScale(by.x(), by.y()), flags);
 }
 
-void SetPage(PlusPlayback& p, std::uint32_t flags, ByteReader& r) {
-  const double dots = p.DotsPerInch;
+void SetPage(PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {
+  const double dots = playback.DotsPerInch;
   const double units[] = {1, 1, 1, dots / 72, dots, dots / 300, dots / 25.4};
   const std::size_t unit = flags & 0xFF;
-  const double scale = r.Left() >= 4 ? ReadF(r) : 1;  // some writers leave a scale of 1 out
+  const double scale = reader.Left() >= 4 ? ReadF(reader) : 1;  // some writers leave a scale of 1 out
   if (unit >= std::size(units) || scale <= 0) throw SkipRecord();
-  p.SetPageScale(units[unit] * scale);
+  playback.SetPageScale(units[unit] * scale);
 }
 
-void Clip(PlusPlayback& p, std::uint32_t flags, const QPainterPath& path) {
+void Clip(PlusPlayback& playback, std::uint32_t flags, const QPainterPath& path) {
   constexpr ClipMode modes[] = {ClipMode::Copy, ClipMode::And, ClipMode::Or, ClipMode::Xor,
                                 ClipMode::Difference};
   const std::size_t mode = flags >> 8 & 0xF;
   if (mode >= std::size(modes)) throw SkipRecord();
-  p.Draw.SelectClip(p.Draw.Dc().ToDevice().map(path), modes[mode]);
+  playback.Draw.SelectClip(playback.Draw.Dc().ToDevice().map(path), modes[mode]);
 }
 
-void ClipRect(PlusPlayback& p, std::uint32_t flags, ByteReader& r) {
+void ClipRect(PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {
   QPainterPath path;
-  path.addRect(ReadRectF(r));
-  Clip(p, flags, path);
+  path.addRect(ReadRectF(reader));
+  Clip(playback, flags, path);
 }
 
 // Regions are kept as paths, too.
-void ClipPath(PlusPlayback& p, std::uint32_t flags, ByteReader&) {
-  Clip(p, flags, p.At<QPainterPath>(flags & 0xFF));
+void ClipPath(PlusPlayback& playback, std::uint32_t flags, ByteReader&) {
+  Clip(playback, flags, playback.At<QPainterPath>(flags & 0xFF));
 }
 
 constexpr PlusRecordRow StateRecords[] = {
     {PlusRecord::EndOfFile, nullptr},
     {PlusRecord::Comment, nullptr},
-    {PlusRecord::GetDC, [](PlusPlayback& p, std::uint32_t, ByteReader&) { p.GivesContext = true; }},
+    {PlusRecord::GetDC,
+     [](PlusPlayback& playback, std::uint32_t, ByteReader&) { playback.GivesContext = true; }},
     // Hints on quality.
     {PlusRecord::SetRenderingOrigin, nullptr},
     {PlusRecord::SetAntiAliasMode, nullptr},
@@ -82,28 +83,31 @@ constexpr PlusRecordRow StateRecords[] = {
     {PlusRecord::BeginContainer, BeginContainer},
     {PlusRecord::BeginContainerNoParams, Save},
     {PlusRecord::EndContainer, Restore},
-    {PlusRecord::SetWorldTransform,
-     [](PlusPlayback& p, std::uint32_t, ByteReader& r) { p.SetWorld(ReadTransformF(r)); }},
+    {PlusRecord::SetWorldTransform, [](PlusPlayback& playback, std::uint32_t,
+                                       ByteReader& reader) { playback.SetWorld(ReadTransformF(reader)); }},
     {PlusRecord::ResetWorldTransform,
-     [](PlusPlayback& p, std::uint32_t, ByteReader&) { p.SetWorld(QTransform()); }},
+     [](PlusPlayback& playback, std::uint32_t, ByteReader&) { playback.SetWorld(QTransform()); }},
     {PlusRecord::MultiplyWorldTransform,
-     [](PlusPlayback& p, std::uint32_t flags, ByteReader& r) { p.ModifyWorld(ReadTransformF(r), flags); }},
+     [](PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {
+       playback.ModifyWorld(ReadTransformF(reader), flags);
+     }},
     {PlusRecord::TranslateWorldTransform, TranslateWorld},
     {PlusRecord::ScaleWorldTransform, ScaleWorld},
     {PlusRecord::RotateWorldTransform,
-     [](PlusPlayback& p, std::uint32_t flags, ByteReader& r) {
-       p.ModifyWorld(QTransform().rotate(ReadF(r)), flags);
+     [](PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {
+       playback.ModifyWorld(QTransform().rotate(ReadF(reader)), flags);
      }},
     {PlusRecord::SetPageTransform, SetPage},
 };
 
 constexpr PlusRecordRow ClipRecords[] = {
-    {PlusRecord::ResetClip, [](PlusPlayback& p, std::uint32_t, ByteReader&) { p.Draw.ResetClip(); }},
+    {PlusRecord::ResetClip,
+     [](PlusPlayback& playback, std::uint32_t, ByteReader&) { playback.Draw.ResetClip(); }},
     {PlusRecord::SetClipRect, ClipRect},
     {PlusRecord::SetClipPath, ClipPath},
     {PlusRecord::SetClipRegion, ClipPath},
-    {PlusRecord::OffsetClip,
-     [](PlusPlayback& p, std::uint32_t, ByteReader& r) { p.Draw.OffsetClip(ReadPointF(r)); }},
+    {PlusRecord::OffsetClip, [](PlusPlayback& playback, std::uint32_t,
+                                ByteReader& reader) { playback.Draw.OffsetClip(ReadPointF(reader)); }},
 };
 
 }  // namespace

@@ -8,9 +8,9 @@ namespace tarvis {
 namespace {
 
 // Height before width, and both before y and x, as destinations stand in records.
-QRectF ReadSizeAndPlace(ByteReader& r) {
-  const QPointF size = ReadYX(r);
-  const QPointF at = ReadYX(r);
+QRectF ReadSizeAndPlace(ByteReader& reader) {
+  const QPointF size = ReadYX(reader);
+  const QPointF at = ReadYX(reader);
   return {at.x(), at.y(), size.x(), size.y()};
 }
 
@@ -32,100 +32,103 @@ QRectF FromBottom(Bytes dib, QRectF source) {
   return source;
 }
 
-void PatternBlock(WmfPlayback& p, ByteReader& r) {
-  const std::uint32_t rop = r.U32();
-  p.Draw.PatternBlock(ReadSizeAndPlace(r), rop);
+void PatternBlock(WmfPlayback& playback, ByteReader& reader) {
+  const std::uint32_t rop = reader.U32();
+  playback.Draw.PatternBlock(ReadSizeAndPlace(reader), rop);
 }
 
-void DrawDib(WmfPlayback& p, ByteReader& r, const QRectF& source, const QRectF& to, std::uint32_t rop,
-             std::uint32_t usage) {
-  if (!UsesSource(rop)) return p.Draw.PatternBlock(to, rop);
-  p.Draw.Block({p.Bitmaps.DecodePacked(r.Rest(), usage, p.Palette()), source, to, rop});
+void DrawDib(WmfPlayback& playback, ByteReader& reader, const QRectF& source, const QRectF& to,
+             std::uint32_t rop, std::uint32_t usage) {
+  if (!UsesSource(rop)) return playback.Draw.PatternBlock(to, rop);
+  playback.Draw.Block(
+      {playback.Bitmaps.DecodePacked(reader.Rest(), usage, playback.Palette()), source, to, rop});
 }
 
 constexpr std::size_t BlockWithoutBitmap = 18;    // parameters of a copy that names no bitmap
 constexpr std::size_t StretchWithoutBitmap = 22;  // the same, stretched
 
-void DibBitBlock(WmfPlayback& p, ByteReader& r) {
-  const bool bare = r.Left() <= BlockWithoutBitmap;
-  const std::uint32_t rop = r.U32();
-  const QPointF from = ReadYX(r);
-  if (bare) r.Skip(2);
-  const QRectF to = ReadSizeAndPlace(r);
+void DibBitBlock(WmfPlayback& playback, ByteReader& reader) {
+  const bool bare = reader.Left() <= BlockWithoutBitmap;
+  const std::uint32_t rop = reader.U32();
+  const QPointF from = ReadYX(reader);
+  if (bare) reader.Skip(2);
+  const QRectF to = ReadSizeAndPlace(reader);
   if (bare && UsesSource(rop)) throw SkipRecord();
-  DrawDib(p, r, {from, to.size()}, to, rop, 0);
+  DrawDib(playback, reader, {from, to.size()}, to, rop, 0);
 }
 
-void DibStretchBlock(WmfPlayback& p, ByteReader& r) {
-  const bool bare = r.Left() <= StretchWithoutBitmap;
-  const std::uint32_t rop = r.U32();
-  const QRectF from = ReadSizeAndPlace(r);
-  if (bare) r.Skip(2);
-  const QRectF to = ReadSizeAndPlace(r);
+void DibStretchBlock(WmfPlayback& playback, ByteReader& reader) {
+  const bool bare = reader.Left() <= StretchWithoutBitmap;
+  const std::uint32_t rop = reader.U32();
+  const QRectF from = ReadSizeAndPlace(reader);
+  if (bare) reader.Skip(2);
+  const QRectF to = ReadSizeAndPlace(reader);
   if (bare && UsesSource(rop)) throw SkipRecord();
-  DrawDib(p, r, from, to, rop, 0);
+  DrawDib(playback, reader, from, to, rop, 0);
 }
 
-void StretchDib(WmfPlayback& p, ByteReader& r) {
-  const std::uint32_t rop = r.U32();
-  const std::uint32_t usage = r.U16();
-  const QRectF from = ReadSizeAndPlace(r);
-  const QRectF to = ReadSizeAndPlace(r);
-  if (!UsesSource(rop)) return p.Draw.PatternBlock(to, rop);
-  const Bytes dib = r.Rest();
-  p.Draw.Block({p.Bitmaps.DecodePacked(dib, usage, p.Palette()), FromBottom(dib, from), to, rop});
+void StretchDib(WmfPlayback& playback, ByteReader& reader) {
+  const std::uint32_t rop = reader.U32();
+  const std::uint32_t usage = reader.U16();
+  const QRectF from = ReadSizeAndPlace(reader);
+  const QRectF to = ReadSizeAndPlace(reader);
+  if (!UsesSource(rop)) return playback.Draw.PatternBlock(to, rop);
+  const Bytes dib = reader.Rest();
+  playback.Draw.Block(
+      {playback.Bitmaps.DecodePacked(dib, usage, playback.Palette()), FromBottom(dib, from), to, rop});
 }
 
-void SetDibToDevice(WmfPlayback& p, ByteReader& r) {
-  const std::uint32_t usage = r.U16();
-  r.Skip(4);
-  const QPointF from = ReadYX(r);
-  const QRectF to = ReadSizeAndPlace(r);
-  const Bytes dib = r.Rest();
-  p.Draw.Block(
-      {p.Bitmaps.DecodePacked(dib, usage, p.Palette()), FromBottom(dib, {from, to.size()}), to, SourceCopy});
+void SetDibToDevice(WmfPlayback& playback, ByteReader& reader) {
+  const std::uint32_t usage = reader.U16();
+  reader.Skip(4);
+  const QPointF from = ReadYX(reader);
+  const QRectF to = ReadSizeAndPlace(reader);
+  const Bytes dib = reader.Rest();
+  playback.Draw.Block({playback.Bitmaps.DecodePacked(dib, usage, playback.Palette()),
+                       FromBottom(dib, {from, to.size()}), to, SourceCopy});
 }
 
 // A bitmap in the oldest form, rows from the top. Those with a palette depend on a device.
-QImage ReadOldBitmap(ByteReader& r, const DcState& state) {
+QImage ReadOldBitmap(ByteReader& reader, const DcState& state) {
   constexpr std::pair<int, QImage::Format> formats[] = {{1, QImage::Format_Mono},
                                                         {16, QImage::Format_RGB555},
                                                         {24, QImage::Format_BGR888},
                                                         {32, QImage::Format_RGB32}};
-  r.Skip(2);
-  const int width = r.I16();
-  const int height = r.I16();
-  const std::size_t rowSize = r.U16();
-  const int planes = r.U8();
-  const int bits = r.U8();
+  reader.Skip(2);
+  const int width = reader.I16();
+  const int height = reader.I16();
+  const std::size_t rowSize = reader.U16();
+  const int planes = reader.U8();
+  const int bits = reader.U8();
   const auto format = std::ranges::find(formats, bits, &std::pair<int, QImage::Format>::first);
   if (planes != 1 || format == std::end(formats) || width < 1 || height < 1) throw SkipRecord();
   const auto used = static_cast<std::size_t>((width * bits + 7) / 8);
-  if (rowSize < used || r.Left() < rowSize * static_cast<std::size_t>(height)) throw SkipRecord();
+  if (rowSize < used || reader.Left() < rowSize * static_cast<std::size_t>(height)) throw SkipRecord();
   QImage image(width, height, format->second);
   if (image.isNull()) throw SkipRecord();
   if (bits == 1) image.setColorTable({state.TextColor.rgb(), state.BackgroundColor.rgb()});
-  for (int y = 0; y < height; ++y) std::ranges::copy(r.Take(rowSize).first(used), image.scanLine(y));
+  for (int y = 0; y < height; ++y) std::ranges::copy(reader.Take(rowSize).first(used), image.scanLine(y));
   return image;
 }
 
-void OldBitBlock(WmfPlayback& p, ByteReader& r, bool stretch) {
-  const bool bare = r.Left() <= (stretch ? StretchWithoutBitmap : BlockWithoutBitmap);
-  const std::uint32_t rop = r.U32();
-  QRectF from = stretch ? ReadSizeAndPlace(r) : QRectF(ReadYX(r), QSizeF());
-  if (bare) r.Skip(2);
-  const QRectF to = ReadSizeAndPlace(r);
+void OldBitBlock(WmfPlayback& playback, ByteReader& reader, bool stretch) {
+  const bool bare = reader.Left() <= (stretch ? StretchWithoutBitmap : BlockWithoutBitmap);
+  const std::uint32_t rop = reader.U32();
+  QRectF from = stretch ? ReadSizeAndPlace(reader) : QRectF(ReadYX(reader), QSizeF());
+  if (bare) reader.Skip(2);
+  const QRectF to = ReadSizeAndPlace(reader);
   if (!stretch) from.setSize(to.size());
-  if (!UsesSource(rop)) return p.Draw.PatternBlock(to, rop);
+  if (!UsesSource(rop)) return playback.Draw.PatternBlock(to, rop);
   if (bare) throw SkipRecord();
-  p.Draw.Block({ReadOldBitmap(r, p.Draw.State()), from, to, rop});
+  playback.Draw.Block({ReadOldBitmap(reader, playback.Draw.State()), from, to, rop});
 }
 
 constexpr WmfRecord Records[] = {
     {Meta::PatBlt, PatternBlock},
-    {Meta::BitBlt, [](WmfPlayback& p, ByteReader& r) { OldBitBlock(p, r, false); }},
+    {Meta::BitBlt, [](WmfPlayback& playback, ByteReader& reader) { OldBitBlock(playback, reader, false); }},
     {Meta::DibBitBlt, DibBitBlock},
-    {Meta::StretchBlt, [](WmfPlayback& p, ByteReader& r) { OldBitBlock(p, r, true); }},
+    {Meta::StretchBlt,
+     [](WmfPlayback& playback, ByteReader& reader) { OldBitBlock(playback, reader, true); }},
     {Meta::DibStretchBlt, DibStretchBlock},
     {Meta::SetDibToDev, SetDibToDevice},
     {Meta::StretchDib, StretchDib},

@@ -28,12 +28,12 @@ struct Placeable {
   QPointF From, To;
   double UnitsPerInch = 0;
 
-  explicit Placeable(ByteReader& r) {
-    r.Skip(6);
-    From = ReadPoint16(r);
-    To = ReadPoint16(r);
-    UnitsPerInch = r.U16();
-    r.Skip(6);
+  explicit Placeable(ByteReader& reader) {
+    reader.Skip(6);
+    From = ReadPoint16(reader);
+    To = ReadPoint16(reader);
+    UnitsPerInch = reader.U16();
+    reader.Skip(6);
     if (UnitsPerInch == 0) UnitsPerInch = TwipsPerInch;
   }
   QPointF Size() const { return To - From; }

@@ -3,51 +3,55 @@
 namespace tarvis {
 namespace {
 
-ArcShape ReadArc(ByteReader& r, Drawing& draw) {
+ArcShape ReadArc(ByteReader& reader, Drawing& draw) {
   ArcShape arc;
-  arc.End = ReadYX(r);
-  arc.Start = ReadYX(r);
-  arc.Box = ReadBoxFromBottom(r);
+  arc.End = ReadYX(reader);
+  arc.Start = ReadYX(reader);
+  arc.Box = ReadBoxFromBottom(reader);
   // Arcs turn against the clock as seen on the paper, whichever way the axes point.
   arc.Clockwise = draw.Dc().ToDevice().determinant() < 0;
   return arc;
 }
 
 template <ArcKind Kind>
-void Arc(WmfPlayback& p, ByteReader& r) {
-  p.Draw.Arc(ReadArc(r, p.Draw), Kind, false);
+void Arc(WmfPlayback& playback, ByteReader& reader) {
+  playback.Draw.Arc(ReadArc(reader, playback.Draw), Kind, false);
 }
 
-Points ReadPolyPoints(ByteReader& r) {
-  const std::size_t count = r.U16();
-  return ReadPoints(r, count, true);
+Points ReadPolyPoints(ByteReader& reader) {
+  const std::size_t count = reader.U16();
+  return ReadPoints(reader, count, true);
 }
 
-void PolyPolygon(WmfPlayback& p, ByteReader& r) {
-  const std::size_t polys = r.U16();
-  ByteReader counts(r.Take(polys * 2));
+void PolyPolygon(WmfPlayback& playback, ByteReader& reader) {
+  const std::size_t polys = reader.U16();
+  ByteReader counts(reader.Take(polys * 2));
   std::vector<Points> all;
-  while (counts.Left() > 0) all.push_back(ReadPoints(r, counts.U16(), true));
-  p.Draw.Polygons(all);
+  while (counts.Left() > 0) all.push_back(ReadPoints(reader, counts.U16(), true));
+  playback.Draw.Polygons(all);
 }
 
-void RoundRect(WmfPlayback& p, ByteReader& r) {
-  const QPointF corner = ReadYX(r);
-  p.Draw.RoundRectangle(ReadBoxFromBottom(r), {corner.x(), corner.y()});
+void RoundRect(WmfPlayback& playback, ByteReader& reader) {
+  const QPointF corner = ReadYX(reader);
+  playback.Draw.RoundRectangle(ReadBoxFromBottom(reader), {corner.x(), corner.y()});
 }
 
-void SetPixel(WmfPlayback& p, ByteReader& r) {
-  const QColor color = ReadColor(r, p.Palette());
-  p.Draw.Pixel(ReadYX(r), color);
+void SetPixel(WmfPlayback& playback, ByteReader& reader) {
+  const QColor color = ReadColor(reader, playback.Palette());
+  playback.Draw.Pixel(ReadYX(reader), color);
 }
 
 constexpr WmfRecord Records[] = {
-    {Meta::LineTo, [](WmfPlayback& p, ByteReader& r) { p.Draw.LineTo(ReadYX(r)); }},
-    {Meta::MoveTo, [](WmfPlayback& p, ByteReader& r) { p.Draw.MoveTo(ReadYX(r)); }},
-    {Meta::Polygon, [](WmfPlayback& p, ByteReader& r) { p.Draw.Polygons({ReadPolyPoints(r)}); }},
-    {Meta::Polyline, [](WmfPlayback& p, ByteReader& r) { p.Draw.Polyline(ReadPolyPoints(r)); }},
-    {Meta::Ellipse, [](WmfPlayback& p, ByteReader& r) { p.Draw.Ellipse(ReadBoxFromBottom(r)); }},
-    {Meta::Rectangle, [](WmfPlayback& p, ByteReader& r) { p.Draw.Rectangle(ReadBoxFromBottom(r)); }},
+    {Meta::LineTo, [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.LineTo(ReadYX(reader)); }},
+    {Meta::MoveTo, [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.MoveTo(ReadYX(reader)); }},
+    {Meta::Polygon,
+     [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.Polygons({ReadPolyPoints(reader)}); }},
+    {Meta::Polyline,
+     [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.Polyline(ReadPolyPoints(reader)); }},
+    {Meta::Ellipse,
+     [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.Ellipse(ReadBoxFromBottom(reader)); }},
+    {Meta::Rectangle,
+     [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.Rectangle(ReadBoxFromBottom(reader)); }},
     {Meta::SetPixel, SetPixel},
     {Meta::PolyPolygon, PolyPolygon},
     {Meta::RoundRect, RoundRect},

@@ -3,27 +3,27 @@
 namespace tarvis {
 namespace {
 
-QPointF Scaled(QPointF extent, ByteReader& r) {
-  const QPointF divide = [&r] {
-    const double y = r.I16();
-    const double yMultiply = r.I16();
+QPointF Scaled(QPointF extent, ByteReader& reader) {
+  const QPointF divide = [&reader] {
+    const double y = reader.I16();
+    const double yMultiply = reader.I16();
     return QPointF(y, yMultiply);
   }();
-  const double xDivide = r.I16();
-  const double xMultiply = r.I16();
+  const double xDivide = reader.I16();
+  const double xMultiply = reader.I16();
   if (divide.x() == 0 || xDivide == 0) throw SkipRecord();
   return {extent.x() * xMultiply / xDivide, extent.y() * divide.y() / divide.x()};
 }
 
-QColor Color(WmfPlayback& p, ByteReader& r) {
-  return ReadColor(r, p.Palette());
+QColor Color(WmfPlayback& playback, ByteReader& reader) {
+  return ReadColor(reader, playback.Palette());
 }
 
 // The viewport of the outside stands for the device, so that all modes but the isotropic one map window to
 // viewport.
-void SetMapMode(WmfPlayback& p, ByteReader& r) {
-  const std::uint32_t mode = r.U16();
-  p.Draw.State().Mapping = mode == 7 ? MapMode::Isotropic : MapMode::Anisotropic;
+void SetMapMode(WmfPlayback& playback, ByteReader& reader) {
+  const std::uint32_t mode = reader.U16();
+  playback.Draw.State().Mapping = mode == 7 ? MapMode::Isotropic : MapMode::Anisotropic;
 }
 
 // Extents of zero say nothing.
@@ -32,52 +32,77 @@ void SetExtent(QPointF& extent, QPointF to) {
   extent = to;
 }
 
-void SetJustification(WmfPlayback& p, ByteReader& r) {
-  const int count = r.I16();
-  const double extra = r.I16();
-  p.Draw.State().BreakExtra = count > 0 ? extra / count : 0;
+void SetJustification(WmfPlayback& playback, ByteReader& reader) {
+  const int count = reader.I16();
+  const double extra = reader.I16();
+  playback.Draw.State().BreakExtra = count > 0 ? extra / count : 0;
 }
 
 constexpr WmfRecord Records[] = {
-    {Meta::SaveDc, [](WmfPlayback& p, ByteReader&) { p.Draw.Dc().Save(); }},
-    {Meta::SetBkMode, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().BackgroundMode = r.U16(); }},
+    {Meta::SaveDc, [](WmfPlayback& playback, ByteReader&) { playback.Draw.Dc().Save(); }},
+    {Meta::SetBkMode,
+     [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.State().BackgroundMode = reader.U16(); }},
     {Meta::SetMapMode, SetMapMode},
-    {Meta::SetRop2, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().Rop2 = r.U16(); }},
+    {Meta::SetRop2,
+     [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.State().Rop2 = reader.U16(); }},
     {Meta::SetRelAbs, nullptr},
-    {Meta::SetPolyFillMode, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().PolyFillMode = r.U16(); }},
+    {Meta::SetPolyFillMode,
+     [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.State().PolyFillMode = reader.U16(); }},
     {Meta::SetStretchBltMode, nullptr},  // how bitmaps shrink
-    {Meta::SetTextCharExtra, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().CharacterExtra = r.I16(); }},
-    {Meta::RestoreDc, [](WmfPlayback& p, ByteReader& r) { p.Draw.Dc().Restore(r.I16()); }},
-    {Meta::SetTextAlign, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().TextAlign = r.U16(); }},
+    {Meta::SetTextCharExtra,
+     [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.State().CharacterExtra = reader.I16(); }},
+    {Meta::RestoreDc,
+     [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.Dc().Restore(reader.I16()); }},
+    {Meta::SetTextAlign,
+     [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.State().TextAlign = reader.U16(); }},
     {Meta::SetLayout,
-     [](WmfPlayback&, ByteReader& r) {
-       if (r.U16() != 0) throw SkipRecord();
+     [](WmfPlayback&, ByteReader& reader) {
+       if (reader.U16() != 0) throw SkipRecord();
      }},
-    {Meta::SetBkColor, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().BackgroundColor = Color(p, r); }},
-    {Meta::SetTextColor, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().TextColor = Color(p, r); }},
+    {Meta::SetBkColor,
+     [](WmfPlayback& playback, ByteReader& reader) {
+       playback.Draw.State().BackgroundColor = Color(playback, reader);
+     }},
+    {Meta::SetTextColor,
+     [](WmfPlayback& playback, ByteReader& reader) {
+       playback.Draw.State().TextColor = Color(playback, reader);
+     }},
     {Meta::SetTextJustification, SetJustification},
-    {Meta::SetWindowOrg, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().WindowOrigin = ReadYX(r); }},
+    {Meta::SetWindowOrg,
+     [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.State().WindowOrigin = ReadYX(reader); }},
     {Meta::SetWindowExt,
-     [](WmfPlayback& p, ByteReader& r) { SetExtent(p.Draw.State().WindowExtent, ReadYX(r)); }},
-    {Meta::SetViewportOrg, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().ViewportOrigin = ReadYX(r); }},
+     [](WmfPlayback& playback, ByteReader& reader) {
+       SetExtent(playback.Draw.State().WindowExtent, ReadYX(reader));
+     }},
+    {Meta::SetViewportOrg, [](WmfPlayback& playback,
+                              ByteReader& reader) { playback.Draw.State().ViewportOrigin = ReadYX(reader); }},
     {Meta::SetViewportExt,
-     [](WmfPlayback& p, ByteReader& r) { SetExtent(p.Draw.State().ViewportExtent, ReadYX(r)); }},
-    {Meta::OffsetWindowOrg, [](WmfPlayback& p, ByteReader& r) { p.Draw.State().WindowOrigin += ReadYX(r); }},
+     [](WmfPlayback& playback, ByteReader& reader) {
+       SetExtent(playback.Draw.State().ViewportExtent, ReadYX(reader));
+     }},
+    {Meta::OffsetWindowOrg,
+     [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.State().WindowOrigin += ReadYX(reader); }},
     {Meta::OffsetViewportOrg,
-     [](WmfPlayback& p, ByteReader& r) { p.Draw.State().ViewportOrigin += ReadYX(r); }},
-    {Meta::OffsetClipRgn, [](WmfPlayback& p, ByteReader& r) { p.Draw.OffsetClip(ReadYX(r)); }},
+     [](WmfPlayback& playback, ByteReader& reader) {
+       playback.Draw.State().ViewportOrigin += ReadYX(reader);
+     }},
+    {Meta::OffsetClipRgn,
+     [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.OffsetClip(ReadYX(reader)); }},
     {Meta::SetMapperFlags, nullptr},  // how fonts are matched
     {Meta::ScaleWindowExt,
-     [](WmfPlayback& p, ByteReader& r) {
-       p.Draw.State().WindowExtent = Scaled(p.Draw.State().WindowExtent, r);
+     [](WmfPlayback& playback, ByteReader& reader) {
+       playback.Draw.State().WindowExtent = Scaled(playback.Draw.State().WindowExtent, reader);
      }},
     {Meta::ScaleViewportExt,
-     [](WmfPlayback& p, ByteReader& r) {
-       p.Draw.State().ViewportExtent = Scaled(p.Draw.State().ViewportExtent, r);
+     [](WmfPlayback& playback, ByteReader& reader) {
+       playback.Draw.State().ViewportExtent = Scaled(playback.Draw.State().ViewportExtent, reader);
      }},
-    {Meta::ExcludeClipRect, [](WmfPlayback& p, ByteReader& r) { p.Draw.ExcludeClip(ReadBoxFromBottom(r)); }},
+    {Meta::ExcludeClipRect,
+     [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.ExcludeClip(ReadBoxFromBottom(reader)); }},
     {Meta::IntersectClipRect,
-     [](WmfPlayback& p, ByteReader& r) { p.Draw.IntersectClip(ReadBoxFromBottom(r)); }},
+     [](WmfPlayback& playback, ByteReader& reader) {
+       playback.Draw.IntersectClip(ReadBoxFromBottom(reader));
+     }},
     {Meta::Escape, nullptr},  // escapes to a driver
 };
 
