@@ -111,4 +111,8 @@ struct DcState {
   std::shared_ptr<const ListClip> MetaClip;  // what no selection of a clip opens again
 };
 
+inline Qt::FillRule FillRuleOf(const DcState& state) {
+  return state.PolyFillMode == WindingFillMode ? Qt::WindingFill : Qt::OddEvenFill;
+}
+
 }  // namespace tarvis

@@ -1,10 +1,15 @@
-// Outlines of the round shapes, in logical units.
+// Boxes, and outlines of the round shapes, in logical units.
 #pragma once
 
 #include <QPainterPath>
 #include <QRectF>
 
 namespace tarvis {
+
+// The rectangle between two corners in any order.
+inline QRectF BoxOf(QPointF a, QPointF b) {
+  return QRectF(a, b).normalized();
+}
 
 // How an arc is joined to what stands before and after it.
 enum class ArcKind { Open, Chord, Pie };

@@ -15,10 +15,10 @@ void ExtSelectClipRegion(EmfPlayback& playback, ByteReader& reader) {
   const std::size_t size = reader.U32();
   const ClipMode mode = ReadMode(reader);
   if (size == 0) {
-    if (mode == ClipMode::Copy) playback.Draw.ResetClip();
+    if (mode == ClipMode::Copy) playback.Draw.Clip().Reset();
     return;
   }
-  playback.Draw.SelectClip(playback.Draw.RegionPath(ReadEmfRegion(reader, size)), mode);
+  playback.Draw.Clip().Select(playback.Draw.Areas().RegionPath(ReadEmfRegion(reader, size)), mode);
 }
 
 const MetaBrush& BrushAt(EmfPlayback& playback, MetaObject& holder, std::uint32_t index) {
@@ -33,7 +33,7 @@ void FillRegion(EmfPlayback& playback, ByteReader& reader) {
   const std::size_t size = reader.U32();
   MetaObject holder;
   const MetaBrush& brush = BrushAt(playback, holder, reader.U32());
-  playback.Draw.FillRegion(ReadEmfRegion(reader, size), brush);
+  playback.Draw.Areas().Region(ReadEmfRegion(reader, size), brush);
 }
 
 void FrameRegion(EmfPlayback& playback, ByteReader& reader) {
@@ -42,29 +42,29 @@ void FrameRegion(EmfPlayback& playback, ByteReader& reader) {
   MetaObject holder;
   const MetaBrush& brush = BrushAt(playback, holder, reader.U32());
   const QPointF stroke = ReadPoint32(reader);
-  playback.Draw.FrameRegion(ReadEmfRegion(reader, size), brush, {stroke.x(), stroke.y()});
+  playback.Draw.Areas().FrameRegion(ReadEmfRegion(reader, size), brush, {stroke.x(), stroke.y()});
 }
 
 void InvertRegion(EmfPlayback& playback, ByteReader& reader) {
   reader.Skip(BoundsSize);
   const std::size_t size = reader.U32();
-  playback.Draw.InvertRegion(ReadEmfRegion(reader, size));
+  playback.Draw.Areas().InvertRegion(ReadEmfRegion(reader, size));
 }
 
 void PaintRegion(EmfPlayback& playback, ByteReader& reader) {
   reader.Skip(BoundsSize);
   const std::size_t size = reader.U32();
-  playback.Draw.FillRegion(ReadEmfRegion(reader, size), *playback.Draw.State().Brush);
+  playback.Draw.Areas().Region(ReadEmfRegion(reader, size), *playback.Draw.State().Brush);
 }
 
 constexpr EmfRecord Records[] = {
     {Emr::OffsetClipRgn,
-     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.OffsetClip(ReadPoint32(reader)); }},
-    {Emr::SetMetaRgn, [](EmfPlayback& playback, ByteReader&) { playback.Draw.SetMetaClip(); }},
+     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.Clip().Offset(ReadPoint32(reader)); }},
+    {Emr::SetMetaRgn, [](EmfPlayback& playback, ByteReader&) { playback.Draw.Clip().KeepAsLeast(); }},
     {Emr::ExcludeClipRect,
-     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.ExcludeClip(ReadBox(reader)); }},
+     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.Clip().Exclude(ReadBox(reader)); }},
     {Emr::IntersectClipRect,
-     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.IntersectClip(ReadBox(reader)); }},
+     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.Clip().Intersect(ReadBox(reader)); }},
     {Emr::SelectClipPath,
      [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.ClipToPath(ReadMode(reader)); }},
     {Emr::FillRgn, FillRegion},

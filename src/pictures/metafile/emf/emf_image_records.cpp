@@ -57,11 +57,11 @@ void BitBlock(EmfPlayback& playback, ByteReader& reader, bool stretch) {
   const BlockHead head(reader);
   if (!head.Bitmap.IsThere() || !UsesSource(head.Operation)) {
     if (UsesSource(head.Operation)) throw SkipRecord();
-    return playback.Draw.PatternBlock(head.Destination, head.Operation);
+    return playback.Draw.Areas().PatternBlock(head.Destination, head.Operation);
   }
   const QPointF size =
       stretch ? ReadPoint32(reader) : QPointF(head.Destination.width(), head.Destination.height());
-  playback.Draw.Block(
+  playback.Draw.Images().Block(
       {head.Bitmap.Decode(playback, reader), head.Source(size), head.Destination, head.Operation});
 }
 
@@ -101,11 +101,11 @@ void StretchDibBits(EmfPlayback& playback, ByteReader& reader) {
   const std::uint32_t operation = reader.U32();
   const QPointF size = ReadPoint32(reader);
   const QRectF destination(head.To, QSizeF(size.x(), size.y()));
-  if (!UsesSource(operation)) return playback.Draw.PatternBlock(destination, operation);
+  if (!UsesSource(operation)) return playback.Draw.Areas().PatternBlock(destination, operation);
   BlockRecord block = head.Block(playback, reader);
   block.Rop = operation;
   block.Destination = destination;
-  playback.Draw.Block(std::move(block));
+  playback.Draw.Images().Block(std::move(block));
 }
 
 void SetDibBitsToDevice(EmfPlayback& playback, ByteReader& reader) {
@@ -113,14 +113,14 @@ void SetDibBitsToDevice(EmfPlayback& playback, ByteReader& reader) {
   BlockRecord block = head.Block(playback, reader);
   block.Rop = SourceCopy;
   // Its size counts in pixels of the device.
-  const QTransform toDevice = playback.Draw.Dc().ToDevice();
+  const QTransform toDevice = playback.Draw.Context().ToDevice();
   const double across = std::hypot(toDevice.m11(), toDevice.m12());
   const double down = std::hypot(toDevice.m21(), toDevice.m22());
   if (across == 0 || down == 0) throw SkipRecord();
   const double up = toDevice.m22() < 0 ? -1 : 1;
   block.Destination = {head.To.x(), head.To.y(), block.Source.width() / across,
                        up * block.Source.height() / down};
-  playback.Draw.Block(std::move(block));
+  playback.Draw.Images().Block(std::move(block));
 }
 
 // Pixels of `image` over white pixels of `mask` stay; without a mask all do.
@@ -140,7 +140,7 @@ void MaskBlock(EmfPlayback& playback, ByteReader& reader) {
   const BlockHead head(reader);
   const QImage image = WithMask(playback, reader, head.Bitmap.Decode(playback, reader));
   const QPointF size(head.Destination.width(), head.Destination.height());
-  playback.Draw.Block({image, head.Source(size), head.Destination, SourceCopy});
+  playback.Draw.Images().Block({image, head.Source(size), head.Destination, SourceCopy});
 }
 
 void ParallelogramBlock(EmfPlayback& playback, ByteReader& reader) {
@@ -151,7 +151,8 @@ void ParallelogramBlock(EmfPlayback& playback, ByteReader& reader) {
   SourceBitmap bitmap;
   bitmap.Usage = reader.U32();
   bitmap.ReadPlace(reader);
-  playback.Draw.Parallelogram(WithMask(playback, reader, bitmap.Decode(playback, reader)), source, corners);
+  playback.Draw.Images().Parallelogram(WithMask(playback, reader, bitmap.Decode(playback, reader)), source,
+                                       corners);
 }
 
 void AlphaBlend(EmfPlayback& playback, ByteReader& reader) {
@@ -170,7 +171,7 @@ void AlphaBlend(EmfPlayback& playback, ByteReader& reader) {
         row[x] = qRgba(qRed(row[x]), qGreen(row[x]), qBlue(row[x]), qAlpha(row[x]) * opacity / 255);
     }
   }
-  playback.Draw.Block({image, head.Source(size), head.Destination, SourceCopy});
+  playback.Draw.Images().Block({image, head.Source(size), head.Destination, SourceCopy});
 }
 
 void TransparentBlock(EmfPlayback& playback, ByteReader& reader) {
@@ -184,7 +185,7 @@ void TransparentBlock(EmfPlayback& playback, ByteReader& reader) {
     for (int x = 0; x < image.width(); ++x)
       if ((row[x] & 0xFFFFFF) == (key & 0xFFFFFF)) row[x] = 0;
   }
-  playback.Draw.Block({image, head.Source(size), head.Destination, SourceCopy});
+  playback.Draw.Images().Block({image, head.Source(size), head.Destination, SourceCopy});
 }
 
 void GradientFill(EmfPlayback& playback, ByteReader& reader) {
@@ -213,9 +214,10 @@ void GradientFill(EmfPlayback& playback, ByteReader& reader) {
     const std::size_t a = vertex(mesh), b = vertex(mesh);
     if (mode == Triangles) {
       const std::size_t c = vertex(mesh);
-      playback.Draw.GradientTriangle({points[a], points[b], points[c]}, {colors[a], colors[b], colors[c]});
+      playback.Draw.Areas().GradientTriangle({points[a], points[b], points[c]},
+                                             {colors[a], colors[b], colors[c]});
     } else {
-      playback.Draw.GradientBox(QRectF(points[a], points[b]), colors[a], colors[b], mode == Down);
+      playback.Draw.Areas().GradientBox(QRectF(points[a], points[b]), colors[a], colors[b], mode == Down);
     }
   }
 }

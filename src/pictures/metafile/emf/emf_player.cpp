@@ -97,7 +97,7 @@ class EmfPlayer {
     const double far = std::abs(frame.left()) + std::abs(frame.top()) + frame.width() + frame.height();
     list_.SetFrameExtent(far);
     const QPointF unit = header_.PixelsPerMillimeter();
-    playback_.Draw.Dc().SetPixelsPerMillimeter(unit.x(), unit.y());
+    playback_.Draw.Context().SetPixelsPerMillimeter(unit.x(), unit.y());
   }
 
   // Null if it holds both kinds of records and the plain ones draw nothing.

@@ -25,31 +25,31 @@ std::vector<Points> ReadPolyPolys(ByteReader& reader, bool small) {
 
 template <bool Small>
 void Polygon(EmfPlayback& playback, ByteReader& reader) {
-  playback.Draw.Polygons({ReadPolyPoints(reader, Small)});
+  playback.Draw.Shapes().Polygons({ReadPolyPoints(reader, Small)});
 }
 template <bool Small>
 void Polyline(EmfPlayback& playback, ByteReader& reader) {
-  playback.Draw.Polyline(ReadPolyPoints(reader, Small));
+  playback.Draw.Shapes().Polyline(ReadPolyPoints(reader, Small));
 }
 template <bool Small>
 void PolylineTo(EmfPlayback& playback, ByteReader& reader) {
-  playback.Draw.PolylineTo(ReadPolyPoints(reader, Small));
+  playback.Draw.Shapes().PolylineTo(ReadPolyPoints(reader, Small));
 }
 template <bool Small>
 void Bezier(EmfPlayback& playback, ByteReader& reader) {
-  playback.Draw.Bezier(ReadPolyPoints(reader, Small), false);
+  playback.Draw.Shapes().Bezier(ReadPolyPoints(reader, Small), false);
 }
 template <bool Small>
 void BezierTo(EmfPlayback& playback, ByteReader& reader) {
-  playback.Draw.Bezier(ReadPolyPoints(reader, Small), true);
+  playback.Draw.Shapes().Bezier(ReadPolyPoints(reader, Small), true);
 }
 template <bool Small>
 void PolyPolyline(EmfPlayback& playback, ByteReader& reader) {
-  playback.Draw.PolyPolyline(ReadPolyPolys(reader, Small));
+  playback.Draw.Shapes().PolyPolyline(ReadPolyPolys(reader, Small));
 }
 template <bool Small>
 void PolyPolygon(EmfPlayback& playback, ByteReader& reader) {
-  playback.Draw.Polygons(ReadPolyPolys(reader, Small));
+  playback.Draw.Shapes().Polygons(ReadPolyPolys(reader, Small));
 }
 
 template <bool Small>
@@ -61,14 +61,14 @@ void PolyDraw(EmfPlayback& playback, ByteReader& reader) {
   for (std::size_t i = 0; i < points.size(); ++i) {
     std::size_t last = i;
     const unsigned kind = kinds[i] & 6u;
-    if (kind == Move) playback.Draw.MoveTo(figure = points[i]);
-    if (kind == Line) playback.Draw.LineTo(points[i]);
+    if (kind == Move) playback.Draw.Shapes().MoveTo(figure = points[i]);
+    if (kind == Line) playback.Draw.Shapes().LineTo(points[i]);
     if (kind == Curve) {
       if (i + 2 >= points.size()) throw OutOfBytes();
-      playback.Draw.Bezier({points[i], points[i + 1], points[i + 2]}, true);
+      playback.Draw.Shapes().Bezier({points[i], points[i + 1], points[i + 2]}, true);
       last = i += 2;
     }
-    if ((kinds[last] & Close) != 0) playback.Draw.LineTo(figure);
+    if ((kinds[last] & Close) != 0) playback.Draw.Shapes().LineTo(figure);
   }
 }
 
@@ -90,20 +90,20 @@ void AngleArc(EmfPlayback& playback, ByteReader& reader) {
   QPainterPath arc(playback.Draw.State().Position);
   AddArc(arc, {center.x() - radius, center.y() - radius, 2 * radius, 2 * radius}, -start, -sweep, true);
   Points points;
-  playback.Draw.LineTo(arc.elementAt(1));
+  playback.Draw.Shapes().LineTo(arc.elementAt(1));
   for (int i = 2; i < arc.elementCount(); ++i) points.push_back(arc.elementAt(i));
-  playback.Draw.Bezier(points, true);
+  playback.Draw.Shapes().Bezier(points, true);
 }
 
 void RoundRect(EmfPlayback& playback, ByteReader& reader) {
   const QRectF box = ReadBox(reader);
   const QPointF corner = ReadPoint32(reader);
-  playback.Draw.RoundRectangle(box, {corner.x(), corner.y()});
+  playback.Draw.Shapes().RoundRectangle(box, {corner.x(), corner.y()});
 }
 
 void SetPixel(EmfPlayback& playback, ByteReader& reader) {
   const QPointF point = ReadPoint32(reader);
-  playback.Draw.Pixel(point, ReadColor(reader, playback.Palette()));
+  playback.Draw.Areas().Pixel(point, ReadColor(reader, playback.Palette()));
 }
 
 constexpr EmfRecord Records[] = {
@@ -116,38 +116,42 @@ constexpr EmfRecord Records[] = {
     {Emr::PolyPolygon, PolyPolygon<false>},
     {Emr::SetPixelV, SetPixel},
     {Emr::MoveToEx,
-     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.MoveTo(ReadPoint32(reader)); }},
+     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.Shapes().MoveTo(ReadPoint32(reader)); }},
     {Emr::AngleArc, AngleArc},
-    {Emr::Ellipse, [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.Ellipse(ReadBox(reader)); }},
+    {Emr::Ellipse,
+     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.Shapes().Ellipse(ReadBox(reader)); }},
     {Emr::Rectangle,
-     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.Rectangle(ReadBox(reader)); }},
+     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.Shapes().Rectangle(ReadBox(reader)); }},
     {Emr::RoundRect, RoundRect},
     {Emr::Arc,
      [](EmfPlayback& playback, ByteReader& reader) {
-       playback.Draw.Arc(ReadArc(playback, reader), ArcKind::Open, false);
+       playback.Draw.Shapes().Arc(ReadArc(playback, reader), ArcKind::Open, false);
      }},
     {Emr::Chord,
      [](EmfPlayback& playback, ByteReader& reader) {
-       playback.Draw.Arc(ReadArc(playback, reader), ArcKind::Chord, false);
+       playback.Draw.Shapes().Arc(ReadArc(playback, reader), ArcKind::Chord, false);
      }},
-    {Emr::Pie, [](EmfPlayback& playback,
-                  ByteReader& reader) { playback.Draw.Arc(ReadArc(playback, reader), ArcKind::Pie, false); }},
+    {Emr::Pie,
+     [](EmfPlayback& playback, ByteReader& reader) {
+       playback.Draw.Shapes().Arc(ReadArc(playback, reader), ArcKind::Pie, false);
+     }},
     {Emr::LineTo,
-     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.LineTo(ReadPoint32(reader)); }},
+     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.Shapes().LineTo(ReadPoint32(reader)); }},
     {Emr::ArcTo,
      [](EmfPlayback& playback, ByteReader& reader) {
-       playback.Draw.Arc(ReadArc(playback, reader), ArcKind::Open, true);
+       playback.Draw.Shapes().Arc(ReadArc(playback, reader), ArcKind::Open, true);
      }},
     {Emr::PolyDraw, PolyDraw<false>},
-    {Emr::BeginPath, [](EmfPlayback& playback, ByteReader&) { playback.Draw.BeginPath(); }},
-    {Emr::EndPath, [](EmfPlayback& playback, ByteReader&) { playback.Draw.EndPath(); }},
-    {Emr::CloseFigure, [](EmfPlayback& playback, ByteReader&) { playback.Draw.CloseFigure(); }},
-    {Emr::FillPath, [](EmfPlayback& playback, ByteReader&) { playback.Draw.DrawPath(true, false); }},
-    {Emr::StrokeAndFillPath, [](EmfPlayback& playback, ByteReader&) { playback.Draw.DrawPath(true, true); }},
-    {Emr::StrokePath, [](EmfPlayback& playback, ByteReader&) { playback.Draw.DrawPath(false, true); }},
+    {Emr::BeginPath, [](EmfPlayback& playback, ByteReader&) { playback.Draw.Path().Begin(); }},
+    {Emr::EndPath, [](EmfPlayback& playback, ByteReader&) { playback.Draw.Path().End(); }},
+    {Emr::CloseFigure, [](EmfPlayback& playback, ByteReader&) { playback.Draw.Path().CloseFigure(); }},
+    {Emr::FillPath, [](EmfPlayback& playback, ByteReader&) { playback.Draw.Shapes().Path(true, false); }},
+    {Emr::StrokeAndFillPath,
+     [](EmfPlayback& playback, ByteReader&) { playback.Draw.Shapes().Path(true, true); }},
+    {Emr::StrokePath, [](EmfPlayback& playback, ByteReader&) { playback.Draw.Shapes().Path(false, true); }},
     {Emr::FlattenPath, nullptr},  // curves look the same, flattened or not
-    {Emr::WidenPath, [](EmfPlayback& playback, ByteReader&) { playback.Draw.WidenPath(); }},
-    {Emr::AbortPath, [](EmfPlayback& playback, ByteReader&) { playback.Draw.AbortPath(); }},
+    {Emr::WidenPath, [](EmfPlayback& playback, ByteReader&) { playback.Draw.Shapes().WidenPath(); }},
+    {Emr::AbortPath, [](EmfPlayback& playback, ByteReader&) { playback.Draw.Path().Abort(); }},
     {Emr::PolyBezier16, Bezier<true>},
     {Emr::Polygon16, Polygon<true>},
     {Emr::Polyline16, Polyline<true>},

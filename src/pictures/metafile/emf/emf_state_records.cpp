@@ -96,9 +96,9 @@ constexpr EmfRecord Records[] = {
      [](EmfPlayback& playback, ByteReader& reader) {
        playback.Draw.State().WindowExtent = Scaled(playback.Draw.State().WindowExtent, reader);
      }},
-    {Emr::SaveDc, [](EmfPlayback& playback, ByteReader&) { playback.Draw.Dc().Save(); }},
+    {Emr::SaveDc, [](EmfPlayback& playback, ByteReader&) { playback.Draw.Context().Save(); }},
     {Emr::RestoreDc,
-     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.Dc().Restore(reader.I32()); }},
+     [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.Context().Restore(reader.I32()); }},
     {Emr::SetWorldTransform,
      [](EmfPlayback& playback, ByteReader& reader) { playback.Draw.State().World = ReadTransform(reader); }},
     {Emr::ModifyWorldTransform,

@@ -34,14 +34,14 @@ TextRecord ReadText(EmfPlayback& playback, ByteReader& reader, bool wide) {
 template <bool Wide>
 void ExtTextOut(EmfPlayback& playback, ByteReader& reader) {
   reader.Skip(BoundsSize + 12);
-  playback.Draw.Text(ReadText(playback, reader, Wide));
+  playback.Draw.Text().Text(ReadText(playback, reader, Wide));
 }
 
 template <bool Wide>
 void PolyTextOut(EmfPlayback& playback, ByteReader& reader) {
   reader.Skip(BoundsSize + 12);
   const std::size_t count = reader.U32();
-  for (std::size_t i = 0; i < count; ++i) playback.Draw.Text(ReadText(playback, reader, Wide));
+  for (std::size_t i = 0; i < count; ++i) playback.Draw.Text().Text(ReadText(playback, reader, Wide));
 }
 
 void SmallTextOut(EmfPlayback& playback, ByteReader& reader) {
@@ -54,7 +54,7 @@ void SmallTextOut(EmfPlayback& playback, ByteReader& reader) {
   const bool small = (text.Options & TextSmall) != 0;
   const Bytes bytes = reader.Take(count * (small ? 1 : 2));
   text.Text = small ? DecodeText(bytes, playback.Draw.State().Font->Charset) : DecodeUnits(bytes);
-  playback.Draw.Text(text);
+  playback.Draw.Text().Text(text);
 }
 
 constexpr EmfRecord Records[] = {

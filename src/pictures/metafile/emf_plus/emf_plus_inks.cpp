@@ -73,21 +73,21 @@ PlusBrush PlusPlayback::BrushOf(std::uint32_t flags, std::uint32_t brush) const 
   auto plus = At<PlusBrush>(brush);
   QBrush& list = plus.List.Brush;
   if (list.gradient() != nullptr || plus.List.Placed)
-    list.setTransform(list.transform() * Draw.Dc().ToDevice());
+    list.setTransform(list.transform() * Draw.Context().ToDevice());
   return plus;
 }
 
 void PlusPlayback::Fill(const QPainterPath& path, std::uint32_t flags, std::uint32_t brush) {
   const PlusBrush plus = BrushOf(flags, brush);
   if (plus.Path != nullptr) return FillPathGradient(path, *plus.Path);
-  Draw.Paint(path, nullptr, &plus.List);
+  Draw.Areas().Paint(path, nullptr, &plus.List);
 }
 
 void PlusPlayback::FillPathGradient(const QPainterPath& path, const PathGradient& gradient) {
   if (gradient.Outline.elementCount() < 2) throw SkipRecord();
   const auto clip = Draw.State().Clip;
   const QTransform world = Draw.State().World;
-  Draw.SelectClip(Draw.Dc().ToDevice().map(path), ClipMode::And);
+  Draw.Clip().Select(Draw.Context().ToDevice().map(path), ClipMode::And);
   Draw.State().World = gradient.Transform * world;
   const bool wedges = gradient.Around.size() > 1 && gradient.Outline.elementCount() <= MostCorners;
   if (wedges) {
@@ -109,7 +109,7 @@ void PlusPlayback::Rings(const PathGradient& gradient) {
     const QTransform shrink = QTransform::fromTranslate(-center.x(), -center.y()) *
                               QTransform::fromScale(1 - place, 1 - place) *
                               QTransform::fromTranslate(center.x(), center.y());
-    Draw.Paint(shrink.map(gradient.Outline), nullptr, &brush);
+    Draw.Areas().Paint(shrink.map(gradient.Outline), nullptr, &brush);
   }
 }
 
@@ -123,34 +123,34 @@ void PlusPlayback::Wedges(const PathGradient& gradient) {
     const auto corner = [&](std::size_t k) {
       return QPointF(gradient.Outline.elementAt(static_cast<int>(k)));
     };
-    Draw.GradientTriangle({gradient.Center, corner(i), corner(i + 1)},
-                          {gradient.Inside, color(i), color(next)});
+    Draw.Areas().GradientTriangle({gradient.Center, corner(i), corner(i + 1)},
+                                  {gradient.Inside, color(i), color(next)});
   }
 }
 
 void PlusPlayback::Stroke(const QPainterPath& path, std::uint32_t pen) {
   const auto& plus = At<PlusPen>(pen & 0xFF);
   ListPen list = plus.Pen;
-  const double scale = Draw.Dc().Scale();
+  const double scale = Draw.Context().Scale();
   list.Width = plus.InPixels ? plus.Width : plus.Width * scale;
   list.Hairline = list.Width == 0;
   if (list.Pen.brush().gradient() != nullptr) {
     QBrush brush = list.Pen.brush();
-    brush.setTransform(brush.transform() * Draw.Dc().ToDevice());
+    brush.setTransform(brush.transform() * Draw.Context().ToDevice());
     list.Pen.setBrush(brush);
   }
   const bool capped = !plus.Start.Shape.isEmpty() || !plus.End.Shape.isEmpty();
-  if (!capped || path.elementCount() > MostCappedElements) return Draw.Paint(path, &list, nullptr);
+  if (!capped || path.elementCount() > MostCappedElements) return Draw.Areas().Paint(path, &list, nullptr);
   const double width = plus.InPixels && scale > 0 ? plus.Width / scale : plus.Width;
-  Draw.Paint(Shortened(path, plus.Start.Inset * width, plus.End.Inset * width), &list, nullptr);
+  Draw.Areas().Paint(Shortened(path, plus.Start.Inset * width, plus.End.Inset * width), &list, nullptr);
   Caps(path, plus, width);
 }
 
 void PlusPlayback::Caps(const QPainterPath& path, const PlusPen& pen, double width) {
   const ListBrush brush{pen.Pen.Pen.color()};
   for (const LineEnds& line : OpenLines(path)) {
-    Draw.Paint(CapPlace(line.AfterStart, line.Start, width).map(pen.Start.Shape), nullptr, &brush);
-    Draw.Paint(CapPlace(line.BeforeEnd, line.End, width).map(pen.End.Shape), nullptr, &brush);
+    Draw.Areas().Paint(CapPlace(line.AfterStart, line.Start, width).map(pen.Start.Shape), nullptr, &brush);
+    Draw.Areas().Paint(CapPlace(line.BeforeEnd, line.End, width).map(pen.End.Shape), nullptr, &brush);
   }
 }
 

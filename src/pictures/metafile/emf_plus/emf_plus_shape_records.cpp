@@ -153,8 +153,8 @@ QRectF ReadSource(ByteReader& reader) {
 void PlaceImage(PlusPlayback& playback, std::uint32_t flags, const QRectF& source, const Points& corners) {
   const std::uint32_t index = flags & 0xFF;
   if (const auto* metafile = playback.Find<PlusMetafile>(index))
-    return playback.Draw.Inner(*metafile, source, corners);
-  playback.Draw.Parallelogram(playback.At<QImage>(index), source, corners);
+    return playback.Draw.Images().Inner(*metafile, source, corners);
+  playback.Draw.Images().Parallelogram(playback.At<QImage>(index), source, corners);
 }
 
 void DrawImage(PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {

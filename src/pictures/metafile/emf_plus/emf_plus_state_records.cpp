@@ -49,7 +49,7 @@ void Clip(PlusPlayback& playback, std::uint32_t flags, const QPainterPath& path)
                                 ClipMode::Difference};
   const std::size_t mode = flags >> 8 & 0xF;
   if (mode >= std::size(modes)) throw SkipRecord();
-  playback.Draw.SelectClip(playback.Draw.Dc().ToDevice().map(path), modes[mode]);
+  playback.Draw.Clip().Select(playback.Draw.Context().ToDevice().map(path), modes[mode]);
 }
 
 void ClipRect(PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {
@@ -102,12 +102,12 @@ constexpr PlusRecordRow StateRecords[] = {
 
 constexpr PlusRecordRow ClipRecords[] = {
     {PlusRecord::ResetClip,
-     [](PlusPlayback& playback, std::uint32_t, ByteReader&) { playback.Draw.ResetClip(); }},
+     [](PlusPlayback& playback, std::uint32_t, ByteReader&) { playback.Draw.Clip().Reset(); }},
     {PlusRecord::SetClipRect, ClipRect},
     {PlusRecord::SetClipPath, ClipPath},
     {PlusRecord::SetClipRegion, ClipPath},
     {PlusRecord::OffsetClip, [](PlusPlayback& playback, std::uint32_t,
-                                ByteReader& reader) { playback.Draw.OffsetClip(ReadPointF(reader)); }},
+                                ByteReader& reader) { playback.Draw.Clip().Offset(ReadPointF(reader)); }},
 };
 
 }  // namespace

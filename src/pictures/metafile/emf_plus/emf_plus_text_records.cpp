@@ -20,7 +20,7 @@ std::vector<TextRecord> Lines(Drawing& draw, const std::vector<TextCharacter>& t
   TextRecord word;
   double used = 0;
   const auto endWord = [&] {
-    const double wide = draw.TextWidth(word);
+    const double wide = draw.Text().Width(word);
     std::vector<TextCharacter>& line = lines.back().Text;
     if (width <= 0 || line.empty() || used + wide <= width) {
       line.insert(line.end(), word.Text.begin(), word.Text.end());
@@ -65,7 +65,7 @@ void DrawString(PlusPlayback& playback, std::uint32_t flags, ByteReader& reader)
   for (TextRecord& line : lines) {
     line.Reference = {x, y};
     line.Options = TextNoBox;
-    playback.Draw.Text(line);
+    playback.Draw.Text().Text(line);
     y += pitch;
   }
 }
@@ -87,7 +87,7 @@ void DrawDriverString(PlusPlayback& playback, std::uint32_t flags, ByteReader& r
     text.Text = DecodeUnits(codes.subspan(i * 2, piece * 2));
     text.Reference = ReadPointF(reader);
     text.Options = (options & Characters) != 0 ? TextNoBox : TextNoBox | TextGlyphIndexes;
-    playback.Draw.Text(text);
+    playback.Draw.Text().Text(text);
   }
 }
 

@@ -34,13 +34,13 @@ QRectF FromBottom(Bytes dib, QRectF source) {
 
 void PatternBlock(WmfPlayback& playback, ByteReader& reader) {
   const std::uint32_t rop = reader.U32();
-  playback.Draw.PatternBlock(ReadSizeAndPlace(reader), rop);
+  playback.Draw.Areas().PatternBlock(ReadSizeAndPlace(reader), rop);
 }
 
 void DrawDib(WmfPlayback& playback, ByteReader& reader, const QRectF& source, const QRectF& to,
              std::uint32_t rop, std::uint32_t usage) {
-  if (!UsesSource(rop)) return playback.Draw.PatternBlock(to, rop);
-  playback.Draw.Block(
+  if (!UsesSource(rop)) return playback.Draw.Areas().PatternBlock(to, rop);
+  playback.Draw.Images().Block(
       {playback.Bitmaps.DecodePacked(reader.Rest(), usage, playback.Palette()), source, to, rop});
 }
 
@@ -72,9 +72,9 @@ void StretchDib(WmfPlayback& playback, ByteReader& reader) {
   const std::uint32_t usage = reader.U16();
   const QRectF from = ReadSizeAndPlace(reader);
   const QRectF to = ReadSizeAndPlace(reader);
-  if (!UsesSource(rop)) return playback.Draw.PatternBlock(to, rop);
+  if (!UsesSource(rop)) return playback.Draw.Areas().PatternBlock(to, rop);
   const Bytes dib = reader.Rest();
-  playback.Draw.Block(
+  playback.Draw.Images().Block(
       {playback.Bitmaps.DecodePacked(dib, usage, playback.Palette()), FromBottom(dib, from), to, rop});
 }
 
@@ -84,8 +84,8 @@ void SetDibToDevice(WmfPlayback& playback, ByteReader& reader) {
   const QPointF from = ReadYX(reader);
   const QRectF to = ReadSizeAndPlace(reader);
   const Bytes dib = reader.Rest();
-  playback.Draw.Block({playback.Bitmaps.DecodePacked(dib, usage, playback.Palette()),
-                       FromBottom(dib, {from, to.size()}), to, SourceCopy});
+  playback.Draw.Images().Block({playback.Bitmaps.DecodePacked(dib, usage, playback.Palette()),
+                                FromBottom(dib, {from, to.size()}), to, SourceCopy});
 }
 
 // A bitmap in the oldest form, rows from the top. Those with a palette depend on a device.
@@ -118,9 +118,9 @@ void OldBitBlock(WmfPlayback& playback, ByteReader& reader, bool stretch) {
   if (bare) reader.Skip(2);
   const QRectF to = ReadSizeAndPlace(reader);
   if (!stretch) from.setSize(to.size());
-  if (!UsesSource(rop)) return playback.Draw.PatternBlock(to, rop);
+  if (!UsesSource(rop)) return playback.Draw.Areas().PatternBlock(to, rop);
   if (bare) throw SkipRecord();
-  playback.Draw.Block({ReadOldBitmap(reader, playback.Draw.State()), from, to, rop});
+  playback.Draw.Images().Block({ReadOldBitmap(reader, playback.Draw.State()), from, to, rop});
 }
 
 constexpr WmfRecord Records[] = {

@@ -119,9 +119,10 @@ const MetaBrush& BrushAt(const WmfPlayback& playback, std::size_t index) {
 
 void SelectClipRegion(WmfPlayback& playback, std::size_t index) {
   if (index == 0 && (playback.Objects.empty() || !std::holds_alternative<RegionPtr>(playback.Objects[0])))
-    return playback.Draw.ResetClip();
-  playback.Draw.SelectClip(
-      playback.Draw.Dc().ToDevice().map(playback.Draw.RegionPath(RegionAt(playback, index))), ClipMode::Copy);
+    return playback.Draw.Clip().Reset();
+  playback.Draw.Clip().Select(
+      playback.Draw.Context().ToDevice().map(playback.Draw.Areas().RegionPath(RegionAt(playback, index))),
+      ClipMode::Copy);
 }
 
 void SelectObject(WmfPlayback& playback, ByteReader& reader) {
@@ -141,14 +142,14 @@ void SetPaletteEntries(WmfPlayback& playback, ByteReader& reader) {
 
 void FillRegion(WmfPlayback& playback, ByteReader& reader) {
   const MetaRegion& region = RegionAt(playback, reader.U16());
-  playback.Draw.FillRegion(region, BrushAt(playback, reader.U16()));
+  playback.Draw.Areas().Region(region, BrushAt(playback, reader.U16()));
 }
 
 void FrameRegion(WmfPlayback& playback, ByteReader& reader) {
   const MetaRegion& region = RegionAt(playback, reader.U16());
   const MetaBrush& brush = BrushAt(playback, reader.U16());
   const QPointF size = ReadYX(reader);
-  playback.Draw.FrameRegion(region, brush, {size.x(), size.y()});
+  playback.Draw.Areas().FrameRegion(region, brush, {size.x(), size.y()});
 }
 
 constexpr WmfRecord Records[] = {
@@ -157,11 +158,11 @@ constexpr WmfRecord Records[] = {
     {Meta::CreatePalette, CreatePalette},
     {Meta::InvertRegion,
      [](WmfPlayback& playback, ByteReader& reader) {
-       playback.Draw.InvertRegion(RegionAt(playback, reader.U16()));
+       playback.Draw.Areas().InvertRegion(RegionAt(playback, reader.U16()));
      }},
     {Meta::PaintRegion,
      [](WmfPlayback& playback, ByteReader& reader) {
-       playback.Draw.FillRegion(RegionAt(playback, reader.U16()), *playback.Draw.State().Brush);
+       playback.Draw.Areas().Region(RegionAt(playback, reader.U16()), *playback.Draw.State().Brush);
      }},
     {Meta::SelectClipRegion,
      [](WmfPlayback& playback, ByteReader& reader) { SelectClipRegion(playback, reader.U16()); }},

@@ -9,13 +9,13 @@ ArcShape ReadArc(ByteReader& reader, Drawing& draw) {
   arc.Start = ReadYX(reader);
   arc.Box = ReadBoxFromBottom(reader);
   // Arcs turn against the clock as seen on the paper, whichever way the axes point.
-  arc.Clockwise = draw.Dc().ToDevice().determinant() < 0;
+  arc.Clockwise = draw.Context().ToDevice().determinant() < 0;
   return arc;
 }
 
 template <ArcKind Kind>
 void Arc(WmfPlayback& playback, ByteReader& reader) {
-  playback.Draw.Arc(ReadArc(reader, playback.Draw), Kind, false);
+  playback.Draw.Shapes().Arc(ReadArc(reader, playback.Draw), Kind, false);
 }
 
 Points ReadPolyPoints(ByteReader& reader) {
@@ -28,30 +28,34 @@ void PolyPolygon(WmfPlayback& playback, ByteReader& reader) {
   ByteReader counts(reader.Take(polys * 2));
   std::vector<Points> all;
   while (counts.Left() > 0) all.push_back(ReadPoints(reader, counts.U16(), true));
-  playback.Draw.Polygons(all);
+  playback.Draw.Shapes().Polygons(all);
 }
 
 void RoundRect(WmfPlayback& playback, ByteReader& reader) {
   const QPointF corner = ReadYX(reader);
-  playback.Draw.RoundRectangle(ReadBoxFromBottom(reader), {corner.x(), corner.y()});
+  playback.Draw.Shapes().RoundRectangle(ReadBoxFromBottom(reader), {corner.x(), corner.y()});
 }
 
 void SetPixel(WmfPlayback& playback, ByteReader& reader) {
   const QColor color = ReadColor(reader, playback.Palette());
-  playback.Draw.Pixel(ReadYX(reader), color);
+  playback.Draw.Areas().Pixel(ReadYX(reader), color);
 }
 
 constexpr WmfRecord Records[] = {
-    {Meta::LineTo, [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.LineTo(ReadYX(reader)); }},
-    {Meta::MoveTo, [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.MoveTo(ReadYX(reader)); }},
-    {Meta::Polygon,
-     [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.Polygons({ReadPolyPoints(reader)}); }},
-    {Meta::Polyline,
-     [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.Polyline(ReadPolyPoints(reader)); }},
-    {Meta::Ellipse,
-     [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.Ellipse(ReadBoxFromBottom(reader)); }},
+    {Meta::LineTo,
+     [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.Shapes().LineTo(ReadYX(reader)); }},
+    {Meta::MoveTo,
+     [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.Shapes().MoveTo(ReadYX(reader)); }},
+    {Meta::Polygon, [](WmfPlayback& playback,
+                       ByteReader& reader) { playback.Draw.Shapes().Polygons({ReadPolyPoints(reader)}); }},
+    {Meta::Polyline, [](WmfPlayback& playback,
+                        ByteReader& reader) { playback.Draw.Shapes().Polyline(ReadPolyPoints(reader)); }},
+    {Meta::Ellipse, [](WmfPlayback& playback,
+                       ByteReader& reader) { playback.Draw.Shapes().Ellipse(ReadBoxFromBottom(reader)); }},
     {Meta::Rectangle,
-     [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.Rectangle(ReadBoxFromBottom(reader)); }},
+     [](WmfPlayback& playback, ByteReader& reader) {
+       playback.Draw.Shapes().Rectangle(ReadBoxFromBottom(reader));
+     }},
     {Meta::SetPixel, SetPixel},
     {Meta::PolyPolygon, PolyPolygon},
     {Meta::RoundRect, RoundRect},

@@ -39,7 +39,7 @@ void SetJustification(WmfPlayback& playback, ByteReader& reader) {
 }
 
 constexpr WmfRecord Records[] = {
-    {Meta::SaveDc, [](WmfPlayback& playback, ByteReader&) { playback.Draw.Dc().Save(); }},
+    {Meta::SaveDc, [](WmfPlayback& playback, ByteReader&) { playback.Draw.Context().Save(); }},
     {Meta::SetBkMode,
      [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.State().BackgroundMode = reader.U16(); }},
     {Meta::SetMapMode, SetMapMode},
@@ -52,7 +52,7 @@ constexpr WmfRecord Records[] = {
     {Meta::SetTextCharExtra,
      [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.State().CharacterExtra = reader.I16(); }},
     {Meta::RestoreDc,
-     [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.Dc().Restore(reader.I16()); }},
+     [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.Context().Restore(reader.I16()); }},
     {Meta::SetTextAlign,
      [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.State().TextAlign = reader.U16(); }},
     {Meta::SetLayout,
@@ -87,7 +87,7 @@ constexpr WmfRecord Records[] = {
        playback.Draw.State().ViewportOrigin += ReadYX(reader);
      }},
     {Meta::OffsetClipRgn,
-     [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.OffsetClip(ReadYX(reader)); }},
+     [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.Clip().Offset(ReadYX(reader)); }},
     {Meta::SetMapperFlags, nullptr},  // how fonts are matched
     {Meta::ScaleWindowExt,
      [](WmfPlayback& playback, ByteReader& reader) {
@@ -98,10 +98,12 @@ constexpr WmfRecord Records[] = {
        playback.Draw.State().ViewportExtent = Scaled(playback.Draw.State().ViewportExtent, reader);
      }},
     {Meta::ExcludeClipRect,
-     [](WmfPlayback& playback, ByteReader& reader) { playback.Draw.ExcludeClip(ReadBoxFromBottom(reader)); }},
+     [](WmfPlayback& playback, ByteReader& reader) {
+       playback.Draw.Clip().Exclude(ReadBoxFromBottom(reader));
+     }},
     {Meta::IntersectClipRect,
      [](WmfPlayback& playback, ByteReader& reader) {
-       playback.Draw.IntersectClip(ReadBoxFromBottom(reader));
+       playback.Draw.Clip().Intersect(ReadBoxFromBottom(reader));
      }},
     {Meta::Escape, nullptr},  // escapes to a driver
 };

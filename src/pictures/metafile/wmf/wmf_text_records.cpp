@@ -14,7 +14,7 @@ void TextOut(WmfPlayback& playback, ByteReader& reader) {
   text.Reference = ReadYX(reader);
   text.Text = DecodeText(padded.first(length), playback.Draw.State().Font->Charset);
   text.Options = TextNoBox;
-  playback.Draw.Text(text);
+  playback.Draw.Text().Text(text);
 }
 
 void ExtTextOut(WmfPlayback& playback, ByteReader& reader) {
@@ -37,7 +37,7 @@ void ExtTextOut(WmfPlayback& playback, ByteReader& reader) {
       if (pairs) text.Rises.push_back(reader.I16());
     }
   }
-  playback.Draw.Text(text);
+  playback.Draw.Text().Text(text);
 }
 
 constexpr WmfRecord Records[] = {

@@ -1,4 +1,4 @@
-#include "pictures/metafile/context/drawing.h"
+#include "pictures/metafile/context/device_clip.h"
 
 namespace tarvis {
 namespace {
@@ -34,66 +34,66 @@ QPainterPath Outside(const QPainterPath& path) {
   return outside;
 }
 
+std::shared_ptr<ListClip> CopyOf(const std::shared_ptr<const ListClip>& clip) {
+  return clip == nullptr ? std::make_shared<ListClip>() : std::make_shared<ListClip>(*clip);
+}
+
 }  // namespace
 
-std::shared_ptr<ListClip> Drawing::CopyOfClip() const {
-  return State().Clip == nullptr ? std::make_shared<ListClip>() : std::make_shared<ListClip>(*State().Clip);
-}
-
-void Drawing::AddClipPath(const QPainterPath& device) {
-  auto clip = CopyOfClip();
+std::shared_ptr<const ListClip> IntersectedClip(const std::shared_ptr<const ListClip>& clip,
+                                                const QPainterPath& device) {
+  auto copy = CopyOf(clip);
   if (IsBox(device)) {
     const QRectF box = device.boundingRect();
-    clip->Box = clip->HasBox ? clip->Box & box : box;
-    clip->HasBox = true;
-    State().Clip = clip;
-    return;
+    copy->Box = copy->HasBox ? copy->Box & box : box;
+    copy->HasBox = true;
+    return copy;
   }
-  if (clip->Paths.size() >= MostPaths) throw SkipRecord();
-  clip->Paths.push_back(std::make_shared<QPainterPath>(device));
-  State().Clip = clip;
+  if (copy->Paths.size() >= MostPaths) throw SkipRecord();
+  copy->Paths.push_back(std::make_shared<QPainterPath>(device));
+  return copy;
 }
 
-void Drawing::IntersectClip(const QRectF& box) {
-  AddClipPath(ToDevice().map(BoxPath(box)));
+void DeviceClip::Intersect(const QRectF& box) {
+  Add(context_.ToDevice().map(BoxPath(box)));
 }
 
-void Drawing::ExcludeClip(const QRectF& box) {
-  AddClipPath(Outside(ToDevice().map(BoxPath(box))));
+void DeviceClip::Exclude(const QRectF& box) {
+  Add(Outside(context_.ToDevice().map(BoxPath(box))));
 }
 
-void Drawing::OffsetClip(QPointF by) {
+void DeviceClip::Offset(QPointF by) {
   if (State().Clip == nullptr) return;
-  const QTransform toDevice = ToDevice();
+  const QTransform toDevice = context_.ToDevice();
   const QPointF device = toDevice.map(by) - toDevice.map(QPointF());
-  auto clip = CopyOfClip();
-  for (const auto& path : clip->Paths) Budget().TakeElements(static_cast<std::size_t>(path->elementCount()));
+  auto clip = CopyOf(State().Clip);
+  for (const auto& path : clip->Paths) budget_.TakeElements(static_cast<std::size_t>(path->elementCount()));
   clip->Box.translate(device);
   for (auto& path : clip->Paths) path = std::make_shared<QPainterPath>(path->translated(device));
   State().Clip = clip;
 }
 
-void Drawing::SelectClip(const QPainterPath& device, ClipMode mode) {
-  Budget().TakeElements(static_cast<std::size_t>(device.elementCount()));
+void DeviceClip::Select(const QPainterPath& device, ClipMode mode) {
+  budget_.TakeElements(static_cast<std::size_t>(device.elementCount()));
   switch (mode) {
     case ClipMode::Copy:
-      ResetClip();
-      return AddClipPath(device);
+      Reset();
+      return Add(device);
     case ClipMode::And:
-      return AddClipPath(device);
+      return Add(device);
     case ClipMode::Difference:
-      return AddClipPath(Outside(device));
+      return Add(Outside(device));
     case ClipMode::Or:
       if (State().Clip == nullptr) return;
-      return CombineClip(device, mode);
+      return Combine(device, mode);
     case ClipMode::Xor:
-      if (State().Clip == nullptr) return AddClipPath(Outside(device));
-      return CombineClip(device, mode);
+      if (State().Clip == nullptr) return Add(Outside(device));
+      return Combine(device, mode);
   }
   throw SkipRecord();
 }
 
-void Drawing::CombineClip(const QPainterPath& device, ClipMode mode) {
+void DeviceClip::Combine(const QPainterPath& device, ClipMode mode) {
   const ListClip& now = *State().Clip;
   int elements = device.elementCount();
   for (const auto& path : now.Paths) elements += path->elementCount();

@@ -1,6 +1,7 @@
+#include "pictures/metafile/context/inks.h"
+
 #include <cmath>
 
-#include "pictures/metafile/context/drawing.h"
 #include "pictures/metafile/context/raster_ops.h"
 
 namespace tarvis {
@@ -55,15 +56,14 @@ QImage WithTextColors(QImage pattern, const DcState& state) {
   return pattern;
 }
 
-}  // namespace
-
-void Drawing::SetDashes(QPen& pen, double width) const {
-  const MetaPen& meta = *State().Pen;
+// `width` is that of the pen in device units.
+void SetDashes(const DeviceContext& context, QPen& pen, double width) {
+  const MetaPen& meta = *context.State().Pen;
   const std::uint32_t style = meta.Style & penstyle::StyleMask;
   const bool geometric = (meta.Style & penstyle::Geometric) != 0;
   QList<qreal> dashes;
   if (style == penstyle::User) {
-    const double unit = geometric && width > 0 ? dc_.Scale() / width : 1;
+    const double unit = geometric && width > 0 ? context.Scale() / width : 1;
     for (const double dash : meta.Dashes) dashes.append(std::clamp(std::abs(dash) * unit, 0.0, 1e6));
     if (dashes.size() % 2 == 1) dashes.append(QList<qreal>(dashes));
   }
@@ -74,39 +74,41 @@ void Drawing::SetDashes(QPen& pen, double width) const {
   pen.setDashPattern(dashes);
 }
 
-bool Drawing::MakePen(ListPen& list) const {
-  const MetaPen& meta = *State().Pen;
+}  // namespace
+
+std::optional<ListPen> CurrentPen(const DeviceContext& context) {
+  const DcState& state = context.State();
+  const MetaPen& meta = *state.Pen;
   if ((meta.Style & penstyle::StyleMask) == penstyle::Null || meta.Ink.Is == MetaBrush::Kind::Null)
-    return false;
-  const std::optional<QColor> color = ColorOnWhite(State().Rop2, meta.Ink.Color);
-  if (!color) return false;
+    return std::nullopt;
+  const std::optional<QColor> color = ColorOnWhite(state.Rop2, meta.Ink.Color);
+  if (!color) return std::nullopt;
   const bool geometric = (meta.Style & penstyle::Geometric) != 0;
-  // Cosmetic pens are one dot wide; some writers tell a width all the same, and mean it.
+  // Cosmetic pens are one dot wide; some writers give a width all the same, and mean it.
   const bool thin = meta.Extended && !geometric && meta.Width <= 1;
-  const double width = thin ? 0 : std::abs(meta.Width) * dc_.Scale();
+  const double width = thin ? 0 : std::abs(meta.Width) * context.Scale();
+  ListPen list;
   list.Hairline = width == 0;
   list.Pen = QPen(*color);
   list.Width = std::isfinite(width) ? std::min(width, 1e9) : 0;
   if (meta.Ink.Is == MetaBrush::Kind::Pattern) list.Pen.setBrush(QBrush(meta.Ink.Pattern));
   list.Pen.setCapStyle(CapOf(meta.Style));
   list.Pen.setJoinStyle(JoinOf(meta.Style));
-  list.Pen.setMiterLimit(State().MiterLimit);
-  SetDashes(list.Pen, width);
-  return true;
+  list.Pen.setMiterLimit(state.MiterLimit);
+  SetDashes(context, list.Pen, width);
+  return list;
 }
 
-bool Drawing::MakeBrush(const MetaBrush& brush, ListBrush& list) const {
-  if (brush.Is == MetaBrush::Kind::Null) return false;
-  if (brush.Is == MetaBrush::Kind::Pattern) {
-    list.Brush = QBrush(brush.UsesTextColors ? WithTextColors(brush.Pattern, State()) : brush.Pattern);
-    return true;
-  }
-  const std::optional<QColor> color = ColorOnWhite(State().Rop2, brush.Color);
-  if (!color) return false;
-  list.Brush = QBrush(*color, brush.Is == MetaBrush::Kind::Hatch ? brush.Hatch : Qt::SolidPattern);
-  if (brush.Is == MetaBrush::Kind::Hatch && State().BackgroundMode == Opaque)
-    list.Behind = State().BackgroundColor;
-  return true;
+std::optional<ListBrush> BrushFor(const MetaBrush& brush, const DcState& state) {
+  if (brush.Is == MetaBrush::Kind::Null) return std::nullopt;
+  if (brush.Is == MetaBrush::Kind::Pattern)
+    return ListBrush{QBrush(brush.UsesTextColors ? WithTextColors(brush.Pattern, state) : brush.Pattern)};
+  const std::optional<QColor> color = ColorOnWhite(state.Rop2, brush.Color);
+  if (!color) return std::nullopt;
+  ListBrush list{QBrush(*color, brush.Is == MetaBrush::Kind::Hatch ? brush.Hatch : Qt::SolidPattern)};
+  if (brush.Is == MetaBrush::Kind::Hatch && state.BackgroundMode == Opaque)
+    list.Behind = state.BackgroundColor;
+  return list;
 }
 
 }  // namespace tarvis

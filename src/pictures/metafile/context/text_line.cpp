@@ -1,0 +1,110 @@
+#include "pictures/metafile/context/text_line.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace tarvis {
+namespace {
+
+constexpr double DefaultDeviceHeight = 13;  // of fonts without a height
+constexpr int BoldWeight = 600;
+
+QTransform Linear(const QTransform& transform) {
+  return QTransform(transform.m11(), transform.m12(), transform.m21(), transform.m22(), 0, 0);
+}
+
+double Size(QPointF vector) {
+  return std::hypot(vector.x(), vector.y());
+}
+
+}  // namespace
+
+TextLine TextPlacer::Baseline(const TextRecord& text) {
+  const DcState& state = context_.State();
+  const MetaFont& font = *state.Font;
+  TextLine line;
+  line.Font = {QString::fromStdU16String(font.Face), font.Weight >= BoldWeight, font.Italic};
+  line.Face = &glyphs_.Face(line.Font);
+  const QTransform page = context_.PageToDevice();
+  const double signX = page.m11() < 0 ? -1 : 1;
+  const double signY = page.m22() < 0 ? -1 : 1;
+  // Text stands upright however the axes of the mapping point; only the world transform turns it.
+  const QTransform upright = QTransform::fromScale(signX, signY) * Linear(state.World);
+  const QTransform position = upright * Linear(page);
+  const QTransform shape = upright * QTransform::fromScale(signX * std::abs(page.m22()), page.m22());
+  // Angles count in logical units: where one axis of the mapping is turned round, so is their direction.
+  const double angle = signX * signY * font.Escapement * std::numbers::pi / 180;
+  const QPointF along(std::cos(angle), -std::sin(angle));
+  const QPointF down(std::sin(angle), std::cos(angle));
+  line.Along = position.map(along);
+  line.Down = shape.map(down);
+  const double cell = std::max(line.Face->Ascent + line.Face->Descent, 0.1);
+  double em = font.Height < 0 ? -font.Height : font.Height / cell;
+  if (em == 0) em = DefaultDeviceHeight / std::max(std::abs(page.m22()), 1e-9);
+  const double stretch = Size(line.Along) / std::max(Size(shape.map(along)), 1e-9);
+  double wide = 1;
+  const bool hasWidth =
+      font.Width != 0 && std::abs(font.Width) != std::abs(font.Height);  // some writers repeat the height
+  if (hasWidth) wide = std::abs(font.Width) * stretch / std::max(line.Face->AverageWidth * em, 1e-9);
+  line.GlyphAlong = shape.map(along) * em * wide;
+  line.GlyphDown = shape.map(down) * em;
+  line.Ascent = line.Face->Ascent * em;
+  line.Descent = line.Face->Descent * em;
+  line.NaturalUnit = em * wide / std::max(stretch, 1e-9);
+  line.Start = context_.ToDevice().map((state.TextAlign & AlignUpdatesPosition) != 0 ? state.Position
+                                                                                     : text.Reference);
+  return line;
+}
+
+// Sets the places, the width and the rise of the line.
+void TextPlacer::PlaceGlyphs(const TextRecord& text, TextLine& line) {
+  const DcState& state = context_.State();
+  line.Places.clear();
+  line.Places.reserve(text.Text.size());
+  const SymbolSet symbols = FindSymbolSet(state.Font->Face, state.Font->Charset);
+  std::size_t unit = 0;
+  double along = 0, rise = 0;
+  for (const TextCharacter& character : text.Text) {
+    line.Places.emplace_back(along, rise);
+    for (std::size_t i = 0; i < character.Units; ++i, ++unit) {
+      if (unit < text.Advances.size()) along += text.Advances[unit];
+      if (unit < text.Rises.size()) rise += text.Rises[unit];
+    }
+    if (!text.Advances.empty()) continue;
+    along += line.Face->Glyph(SymbolCharacter(symbols, character.Code)).Advance * line.NaturalUnit +
+             state.CharacterExtra;
+    if (character.Code == U' ') along += state.BreakExtra;
+  }
+  line.Width = along;
+  line.Rise = rise;
+}
+
+TextLine TextPlacer::Place(const TextRecord& text) {
+  TextLine line = Baseline(text);
+  PlaceGlyphs(text, line);
+  return line;
+}
+
+TextRecord TextPlacer::WithCharacters(const TextRecord& text) {
+  const std::string face = QString::fromStdU16String(context_.State().Font->Face).toStdString();
+  const BadMetafile refusal("its text is told by numbers of glyphs of the font \"" + face +
+                            "\", which isn't installed");
+  TextRecord characters = text;
+  characters.Options &= ~TextGlyphIndexes;
+  TextLine line = Baseline(characters);
+  for (TextCharacter& character : characters.Text) {
+    character.Code = line.Face->CharacterOf(static_cast<std::uint32_t>(character.Code));
+    if (character.Code == 0) throw refusal;
+  }
+  if (characters.Advances.empty()) return characters;
+  constexpr double mostSpread = 0.25;  // writers space letters out, but not to other letters' widths
+  PlaceGlyphs(characters, line);
+  TextRecord natural = characters;
+  natural.Advances.clear();
+  TextLine own = line;
+  PlaceGlyphs(natural, own);
+  if (std::abs(line.Width - own.Width) > mostSpread * std::abs(own.Width)) throw refusal;
+  return characters;
+}
+
+}  // namespace tarvis
