@@ -25,13 +25,6 @@ bool JoinsUnseen(const ListPen& pen) {
 
 }  // namespace
 
-void DrawList::AddPoint(double x, double y) {
-  const auto cut = [this](double value) {
-    return static_cast<float>(std::isfinite(value) ? std::clamp(value, -reach_, reach_) : 0.0);
-  };
-  points_.push_back({cut(x), cut(y)});
-}
-
 void DrawList::AddCommand(ListCommand command) {
   if (clipPending_) {
     clipPending_ = false;
@@ -46,45 +39,18 @@ void DrawList::AddCommand(ListCommand command) {
   commands_.push_back(command);
 }
 
-std::int32_t DrawList::PenIndex(const ListPen* pen) {
-  if (pen == nullptr) return -1;
-  if (pens_.empty() || !(pens_.back() == *pen)) {
-    budget_->TakeKeptBytes(256);
-    pens_.push_back(*pen);
-  }
-  return static_cast<std::int32_t>(pens_.size()) - 1;
-}
-
-std::int32_t DrawList::BrushIndex(const ListBrush* brush) {
-  if (brush == nullptr) return -1;
-  if (brushes_.empty() || !(brushes_.back() == *brush)) {
-    budget_->TakeKeptBytes(256 + static_cast<std::size_t>(brush->Brush.textureImage().sizeInBytes()));
-    brushes_.push_back(*brush);
-  }
-  return static_cast<std::int32_t>(brushes_.size()) - 1;
-}
-
 void DrawList::AddShape(const QPainterPath& path, const ListPen* pen, const ListBrush* brush) {
   if (path.isEmpty() || (pen == nullptr && brush == nullptr)) return;
   FlushLines();
   const auto elements = static_cast<std::size_t>(path.elementCount());
   budget_->TakeElements(elements);
-  budget_->TakeKeptBytes(sizeof(Outline) + elements * (sizeof(ListPoint) + sizeof(Verb)));
-  Outline outline{Count(points_.size()), 0, Count(verbs_.size()), 0};
-  for (int i = 0; i < path.elementCount(); ++i) {
-    const QPainterPath::Element element = path.elementAt(i);
-    AddPoint(element.x, element.y);
-    if (element.type == QPainterPath::CurveToDataElement) continue;
-    verbs_.push_back(element.isMoveTo() ? Verb::Move : element.isLineTo() ? Verb::Line : Verb::Curve);
-  }
-  outline.PointCount = Count(points_.size()) - outline.FirstPoint;
-  outline.VerbCount = Count(verbs_.size()) - outline.FirstVerb;
-  outlines_.push_back(outline);
+  budget_->TakeKeptBytes(Outlines::BytesOf(path));
+  const std::uint32_t outline = outlines_.Add(path);
   AddCommand({.Kind = ListKind::Shape,
               .Winding = path.fillRule() == Qt::WindingFill,
-              .Pen = PenIndex(pen),
-              .Brush = BrushIndex(brush),
-              .Index = Count(outlines_.size() - 1)});
+              .Pen = inks_.Add(pen, *budget_),
+              .Brush = inks_.Add(brush, *budget_),
+              .Index = outline});
 }
 
 void DrawList::AddText(const QPainterPath& outline, ListText text) {
@@ -110,7 +76,7 @@ void DrawList::AddPolyline(std::span<const QPointF> points, const ListPen& pen, 
 void DrawList::FlushLines() {
   const std::vector<QPolygonF> lines = std::exchange(lines_, {});
   const bool isSolid = linePen_.Pen.style() == Qt::SolidLine;
-  const double tolerance = std::min(lineUnit_, reach_ / ReachInFrames / FinestParts) * 0.75;
+  const double tolerance = std::min(lineUnit_, extent_ / FinestParts) * 0.75;
   for (std::size_t i = 0; i < lines.size();) {
     const std::span<const QPolygonF> rest = std::span(lines).subspan(i);
     const auto dashed = isSolid ? FindDashedLine(rest, tolerance) : std::nullopt;
@@ -127,10 +93,9 @@ void DrawList::FlushLines() {
 }
 
 void DrawList::EmitLine(const QPolygonF& points, const ListPen& pen) {
-  budget_->TakeKeptBytes(sizeof(Outline) + static_cast<std::size_t>(points.size()) * sizeof(ListPoint));
-  outlines_.push_back({Count(points_.size()), Count(static_cast<std::size_t>(points.size())), 0, 0});
-  for (const QPointF& point : points) AddPoint(point.x(), point.y());
-  AddCommand({.Kind = ListKind::Shape, .Pen = PenIndex(&pen), .Index = Count(outlines_.size() - 1)});
+  budget_->TakeKeptBytes(Outlines::BytesOf(points));
+  const std::uint32_t outline = outlines_.Add(points);
+  AddCommand({.Kind = ListKind::Shape, .Pen = inks_.Add(&pen, *budget_), .Index = outline});
 }
 
 void DrawList::AddImage(ListImage image) {
@@ -141,7 +106,7 @@ void DrawList::AddImage(ListImage image) {
 }
 
 std::size_t DrawList::PaintedElements() const {
-  return points_.size() + commands_.size() + elementsOfParts_;
+  return outlines_.PointCount() + commands_.size() + elementsOfParts_;
 }
 
 void DrawList::AddPart(ListPart part) {
@@ -187,9 +152,10 @@ bool DrawList::ShowsInk() const {
   return std::ranges::any_of(commands_, [&](const ListCommand& command) {
     if (command.Kind == ListKind::Image) return true;
     if (command.Kind == ListKind::Clip) return false;
-    if (command.Kind == ListKind::Part) return Part(command.Index).List->ShowsInk();
-    return (command.Pen >= 0 && isInk(Pen(command.Pen).Pen.brush())) ||
-           (command.Brush >= 0 && (HasDots(Brush(command.Brush).Dots) || isInk(Brush(command.Brush).Brush)));
+    if (command.Kind == ListKind::Part) return parts_[command.Index].List->ShowsInk();
+    return (command.Pen >= 0 && isInk(inks_.Pen(command.Pen).Pen.brush())) ||
+           (command.Brush >= 0 &&
+            (HasDots(inks_.Brush(command.Brush).Dots) || isInk(inks_.Brush(command.Brush).Brush)));
   });
 }
 
@@ -197,11 +163,8 @@ QRectF DrawList::Bounds() const {
   QRectF bounds;
   for (const ListImage& image : images_) bounds |= image.Place.mapRect(image.Source);
   for (const ListPart& part : parts_) bounds |= part.Place.mapRect(part.Frame);
-  if (points_.empty()) return bounds;
-  const auto [left, right] = std::ranges::minmax(points_, {}, &ListPoint::X);
-  const auto [top, bottom] = std::ranges::minmax(points_, {}, &ListPoint::Y);
-  const QRectF box(QPointF(static_cast<double>(left.X), static_cast<double>(top.Y)),
-                   QPointF(static_cast<double>(right.X), static_cast<double>(bottom.Y)));
+  if (outlines_.PointCount() == 0) return bounds;
+  const QRectF box = outlines_.Bounds();
   return bounds.isNull() ? box : bounds.united(box);
 }
 

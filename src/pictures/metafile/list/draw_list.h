@@ -2,12 +2,9 @@
 // units of the picture. It is only read once it is complete, so that any thread may paint it.
 #pragma once
 
-#include <QBrush>
 #include <QImage>
 #include <QPainterPath>
-#include <QPen>
 #include <QTransform>
-#include <array>
 #include <cstdint>
 #include <memory>
 #include <span>
@@ -15,7 +12,8 @@
 #include <vector>
 
 #include "pictures/metafile/fonts/outline_font.h"
-#include "pictures/picture_budget.h"
+#include "pictures/metafile/list/list_inks.h"
+#include "pictures/metafile/list/outlines.h"
 
 namespace tarvis {
 
@@ -23,51 +21,6 @@ namespace tarvis {
 class BadMetafile : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
-};
-
-struct ListPoint {
-  float X = 0;
-  float Y = 0;
-};
-
-enum class Verb : std::uint8_t { Move, Line, Curve, Close };  // Curve takes three points, Close none
-
-// Points and verbs of an outline in the list. Without verbs it is one open line through its points.
-struct Outline {
-  std::uint32_t FirstPoint = 0;
-  std::uint32_t PointCount = 0;
-  std::uint32_t FirstVerb = 0;
-  std::uint32_t VerbCount = 0;
-};
-
-// A pen. Hairlines are as thin as the device shows well, and their dashes count in 1/96 inch.
-struct ListPen {
-  QPen Pen;          // all but the width
-  double Width = 0;  // units of the picture
-  bool Hairline = false;
-  bool PlacedDashes = false;  // the dashes count in units of the picture, not in widths of the pen
-  bool operator==(const ListPen&) const = default;
-};
-
-// A hatch of dots: 8 rows from the top, the leftmost dot in the highest bit.
-using HatchDots = std::array<std::uint8_t, 8>;
-
-inline bool HasDots(const HatchDots& dots) {
-  return dots != HatchDots{};
-}
-inline bool IsDot(const HatchDots& dots, int x, int y) {
-  return (dots[static_cast<std::size_t>(y)] >> (7 - x) & 1) != 0;
-}
-
-// A brush. Hatches and textures keep their physical size: a pixel of them is a dot of 1/96 inch.
-struct ListBrush {
-  QBrush Brush = QBrush();
-  QColor Behind = QColor();  // between the lines of a hatch; invalid if nothing is
-  double HatchStep = 8;      // dots from line to line of a hatch
-  double HatchLine = 0;      // dots that a line of it is wide; 0 is a hairline
-  HatchDots Dots{};          // in place of lines, if there are any; the brush has their colour
-  bool Placed = false;       // the texture is mapped to the picture by the brush's transform instead
-  bool operator==(const ListBrush&) const = default;
 };
 
 // All of `Paths`, cut with `Box` if there is one. No paths and no box: everything.
@@ -120,7 +73,10 @@ class DrawList {
 
   PictureBudget& Budget() { return *budget_; }
   // Coordinates are cut off two hundred times as far from the origin as the picture's frame extends.
-  void SetFrameExtent(double extent) { reach_ = extent * ReachInFrames; }
+  void SetFrameExtent(double extent) {
+    extent_ = extent;
+    outlines_.SetReach(extent * ReachInFrames);
+  }
 
   void AddShape(const QPainterPath& path, const ListPen* pen, const ListBrush* brush);
   // Text with its outline, for devices without fonts.
@@ -146,21 +102,12 @@ class DrawList {
   QRectF Bounds() const;
 
   const std::vector<ListCommand>& Commands() const { return commands_; }
-  const ListPen& Pen(std::int32_t index) const { return pens_[static_cast<std::size_t>(index)]; }
-  const ListBrush& Brush(std::int32_t index) const { return brushes_[static_cast<std::size_t>(index)]; }
-  const ListText& Text(std::int32_t index) const { return texts_[static_cast<std::size_t>(index)]; }
+  const ListInks& Inks() const { return inks_; }
+  const Outlines& AllOutlines() const { return outlines_; }
   const std::vector<ListText>& Texts() const { return texts_; }
   const ListImage& Image(std::uint32_t index) const { return images_[index]; }
   const ListClip& Clip(std::uint32_t index) const { return *clips_[index]; }
-  const ListPart& Part(std::uint32_t index) const { return parts_[index]; }
   const std::vector<ListPart>& Parts() const { return parts_; }
-  const Outline& OutlineAt(std::uint32_t index) const { return outlines_[index]; }
-  std::span<const ListPoint> Points(const Outline& outline) const {
-    return std::span(points_).subspan(outline.FirstPoint, outline.PointCount);
-  }
-  std::span<const Verb> Verbs(const Outline& outline) const {
-    return std::span(verbs_).subspan(outline.FirstVerb, outline.VerbCount);
-  }
 
  private:
   static constexpr double ReachInFrames = 200;
@@ -168,18 +115,12 @@ class DrawList {
   std::size_t PaintedElements() const;
   void FlushLines();
   void EmitLine(const QPolygonF& line, const ListPen& pen);
-  void AddPoint(double x, double y);
   void AddCommand(ListCommand command);
-  std::int32_t PenIndex(const ListPen* pen);
-  std::int32_t BrushIndex(const ListBrush* brush);
 
   PictureBudget* budget_;
   std::vector<ListCommand> commands_;
-  std::vector<ListPoint> points_;
-  std::vector<Verb> verbs_;
-  std::vector<Outline> outlines_;
-  std::vector<ListPen> pens_;
-  std::vector<ListBrush> brushes_;
+  Outlines outlines_;
+  ListInks inks_;
   std::vector<ListImage> images_;
   std::vector<ListText> texts_;
   std::vector<std::shared_ptr<const ListClip>> clips_;
@@ -191,7 +132,7 @@ class DrawList {
   std::vector<QPolygonF> lines_;  // with one pen, not yet in the list
   ListPen linePen_;
   double lineUnit_ = 1;
-  double reach_ = 1e9;
+  double extent_ = 1e9 / ReachInFrames;  // of the frame
 };
 
 }  // namespace tarvis

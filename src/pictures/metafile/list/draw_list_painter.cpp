@@ -83,7 +83,7 @@ void DrawListPainter::Paint() {
         Clip(list_.Clip(command.Index));
         break;
       case ListKind::Part:
-        Part(list_.Part(command.Index));
+        Part(list_.Parts()[command.Index]);
         break;
     }
   }
@@ -101,8 +101,8 @@ QPainterPath DrawListPainter::MakePath(const Outline& outline, bool winding) con
   QPainterPath path;
   path.setFillRule(winding ? Qt::WindingFill : Qt::OddEvenFill);
   path.reserve(static_cast<int>(outline.PointCount));
-  auto point = list_.Points(outline).begin();
-  for (const Verb verb : list_.Verbs(outline)) {
+  auto point = list_.AllOutlines().Points(outline).begin();
+  for (const Verb verb : list_.AllOutlines().Verbs(outline)) {
     if (verb == Verb::Move) path.moveTo(Map(*point++));
     if (verb == Verb::Line) path.lineTo(Map(*point++));
     if (verb == Verb::Curve) {
@@ -114,7 +114,7 @@ QPainterPath DrawListPainter::MakePath(const Outline& outline, bool winding) con
 }
 
 QPolygonF DrawListPainter::MakeLine(const Outline& outline) const {
-  const auto points = list_.Points(outline);
+  const auto points = list_.AllOutlines().Points(outline);
   QPolygonF line;
   line.reserve(static_cast<qsizetype>(points.size()));
   for (const ListPoint& point : points) line.append(Map(point));
@@ -155,18 +155,19 @@ QPen DrawListPainter::MakePen(const ListPen& listPen, double length) const {
 }
 
 void DrawListPainter::Shape(const ListCommand& command) {
-  if (command.Text >= 0 && !units_.OnScreen && Text(list_.Text(command.Text))) return;
-  const Outline& outline = list_.OutlineAt(command.Index);
+  if (command.Text >= 0 && !units_.OnScreen && Text(list_.Texts()[static_cast<std::size_t>(command.Text)]))
+    return;
+  const Outline& outline = list_.AllOutlines().At(command.Index);
   if (outline.VerbCount == 0) {
     const QPolygonF line = MakeLine(outline);
-    painter_.setPen(MakePen(list_.Pen(command.Pen), Length(line)));
+    painter_.setPen(MakePen(list_.Inks().Pen(command.Pen), Length(line)));
     painter_.drawPolyline(line);
     return;
   }
   const QPainterPath path = MakePath(outline, command.Winding);
-  if (command.Brush >= 0) Fill(path, list_.Brush(command.Brush));
+  if (command.Brush >= 0) Fill(path, list_.Inks().Brush(command.Brush));
   if (command.Pen < 0) return;
-  const ListPen& pen = list_.Pen(command.Pen);
+  const ListPen& pen = list_.Inks().Pen(command.Pen);
   painter_.strokePath(path, MakePen(pen, pen.Pen.style() == Qt::SolidLine ? 0 : path.length()));
 }
 

@@ -1,0 +1,58 @@
+#include "pictures/metafile/list/outlines.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tarvis {
+namespace {
+
+std::uint32_t Count(std::size_t size) {
+  return static_cast<std::uint32_t>(size);  // the budget keeps all sizes far below 32 bits
+}
+
+}  // namespace
+
+std::size_t Outlines::BytesOf(const QPainterPath& path) {
+  return sizeof(Outline) + static_cast<std::size_t>(path.elementCount()) * (sizeof(ListPoint) + sizeof(Verb));
+}
+
+std::size_t Outlines::BytesOf(const QPolygonF& line) {
+  return sizeof(Outline) + static_cast<std::size_t>(line.size()) * sizeof(ListPoint);
+}
+
+void Outlines::AddPoint(double x, double y) {
+  const auto cut = [this](double value) {
+    return static_cast<float>(std::isfinite(value) ? std::clamp(value, -reach_, reach_) : 0.0);
+  };
+  points_.push_back({cut(x), cut(y)});
+}
+
+std::uint32_t Outlines::Add(const QPainterPath& path) {
+  Outline outline{Count(points_.size()), 0, Count(verbs_.size()), 0};
+  for (int i = 0; i < path.elementCount(); ++i) {
+    const QPainterPath::Element element = path.elementAt(i);
+    AddPoint(element.x, element.y);
+    if (element.type == QPainterPath::CurveToDataElement) continue;
+    verbs_.push_back(element.isMoveTo() ? Verb::Move : element.isLineTo() ? Verb::Line : Verb::Curve);
+  }
+  outline.PointCount = Count(points_.size()) - outline.FirstPoint;
+  outline.VerbCount = Count(verbs_.size()) - outline.FirstVerb;
+  outlines_.push_back(outline);
+  return Count(outlines_.size() - 1);
+}
+
+std::uint32_t Outlines::Add(const QPolygonF& line) {
+  outlines_.push_back({Count(points_.size()), Count(static_cast<std::size_t>(line.size())), 0, 0});
+  for (const QPointF& point : line) AddPoint(point.x(), point.y());
+  return Count(outlines_.size() - 1);
+}
+
+QRectF Outlines::Bounds() const {
+  if (points_.empty()) return {};
+  const auto [left, right] = std::ranges::minmax(points_, {}, &ListPoint::X);
+  const auto [top, bottom] = std::ranges::minmax(points_, {}, &ListPoint::Y);
+  return {QPointF(static_cast<double>(left.X), static_cast<double>(top.Y)),
+          QPointF(static_cast<double>(right.X), static_cast<double>(bottom.Y))};
+}
+
+}  // namespace tarvis
