@@ -45,8 +45,8 @@ class MaskedPixels {
   static std::uint32_t MaskOf(const DibHeader& header, std::size_t channel) {
     constexpr std::uint32_t of16[] = {0x7C00, 0x03E0, 0x001F};
     constexpr std::uint32_t of32[] = {0xFF0000, 0x00FF00, 0x0000FF};
-    const bool told = header.Masks[0] != 0 || header.Masks[1] != 0 || header.Masks[2] != 0;
-    if (told) return header.Masks[channel];
+    const bool hasMasks = header.Masks[0] != 0 || header.Masks[1] != 0 || header.Masks[2] != 0;
+    if (hasMasks) return header.Masks[channel];
     return header.BitCount == 16 ? of16[channel] : of32[channel];
   }
 

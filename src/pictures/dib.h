@@ -1,4 +1,4 @@
-// Device-independent bitmaps, as they stand in bitmap files and in records of metafiles.
+// Device-independent bitmaps, as found in bitmap files and in records of metafiles.
 #pragma once
 
 #include <QImage>
@@ -12,7 +12,7 @@ namespace tarvis {
 std::size_t DecodedSize(const DibHeader& header, Bytes bits);
 
 // The picture of a bitmap; BadDib or OutOfBytes if it can't be shown. Pixels that a run-length coded bitmap
-// leaves out take colour 0. The alpha of 32 bit pixels counts if the header tells an alpha mask, or if
+// leaves out take colour 0. The alpha of 32 bit pixels counts if the header has an alpha mask, or if
 // `alphaByte` says that the fourth byte is one.
 QImage DecodeDib(const DibHeader& header, Bytes bits, bool alphaByte = false);
 

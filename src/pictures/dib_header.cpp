@@ -38,14 +38,14 @@ void ReadSize(ByteReader& reader, bool core, DibHeader& header) {
 }
 
 void ReadMasks(ByteReader& reader, std::size_t headerSize, DibHeader& header) {
-  const bool told =
+  const bool hasMasks =
       header.Compression == DibCompression::BitFields || header.Compression == DibCompression::AlphaBitFields;
-  if (!told && headerSize < 56) return;
+  if (!hasMasks && headerSize < 56) return;
   reader.Seek(InfoHeaderSize);  // the masks follow a short header and are a part of a long one
   const bool alpha = headerSize >= 56 || header.Compression == DibCompression::AlphaBitFields;
   std::array<std::uint32_t, 4> masks{};
   for (std::size_t i = 0; i < (alpha ? 4u : 3u); ++i) masks[i] = reader.U32();
-  if (told) header.Masks = masks;
+  if (hasMasks) header.Masks = masks;
   header.Size = std::max(headerSize, reader.Position());
 }
 

@@ -36,7 +36,7 @@ struct DibHeader {
   bool TopDown = false;
   int BitCount = 0;
   DibCompression Compression = DibCompression::None;
-  std::array<std::uint32_t, 4> Masks{};  // red, green, blue, alpha; all 0 unless the bitmap tells them
+  std::array<std::uint32_t, 4> Masks{};  // red, green, blue, alpha; all 0 unless the bitmap has them
   std::vector<QRgb> Colors;              // 2 to the power of BitCount entries up to 8 bits, else none
   std::size_t Size = 0;  // of header, masks and colour table: where the bits of a packed bitmap start
 
@@ -49,7 +49,7 @@ struct DibHeader {
 bool LooksLikeDib(Bytes bytes);
 
 // BadDib or OutOfBytes if the header makes no sense or the picture is too large to be held.
-// `palette` stands in for colour indexes where `colors` says that the table holds such.
+// `palette` replaces colour indexes where `colors` says that the table holds such.
 DibHeader ReadDibHeader(Bytes bytes, DibColors colors = DibColors::Rgb, std::span<const QRgb> palette = {});
 
 }  // namespace tarvis

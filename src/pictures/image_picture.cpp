@@ -23,8 +23,8 @@ bool StartsWith(Bytes bytes, std::string_view start) {
   throw BadDib(reader.errorString().toStdString());
 }
 
-// The toolkit shows icons only: a cursor differs in its kind, and in the hot spots that stand where an icon
-// tells planes and bits.
+// The toolkit shows icons only: a cursor differs in its kind, and in the hot spots that are stored where an
+// icon has planes and bits.
 QByteArray CursorAsIcon(QByteArray bytes) {
   constexpr qsizetype entrySize = 16;
   constexpr qsizetype headerSize = 6;

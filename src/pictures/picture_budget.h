@@ -24,7 +24,7 @@ class PictureBudget {
   static constexpr std::size_t MostElements = std::size_t{16} << 20;
   static constexpr std::size_t MostCharacters = 100000;
   static constexpr int MostDepth = 4;    // of pictures inside pictures
-  static constexpr int MostSeconds = 5;  // of computing, unless told otherwise
+  static constexpr int MostSeconds = 5;  // of computing, by default
 
   // `answerEndRequest` is called again and again; it may end the process and not return.
   explicit PictureBudget(std::function<void()> answerEndRequest = {}, int mostSeconds = MostSeconds)

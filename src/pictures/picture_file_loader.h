@@ -12,7 +12,7 @@ namespace tarvis {
 class GlyphOutlines;
 class PictureBudget;
 
-// Keeps each picture until it is told to forget them.
+// Keeps each picture until `Forget` is called.
 class PictureFileLoader : public PictureLoader {
  public:
   // While a picture loads, `answerEndRequest` is called again and again: it may end the process.
@@ -29,7 +29,7 @@ class PictureFileLoader : public PictureLoader {
   std::unique_ptr<GlyphOutlines> glyphs_;
 };
 
-// Decodes a picture of any kind, metafiles with the outlines of `glyphs`; `name` stands for it in the
+// Decodes a picture of any kind, metafiles with the outlines of `glyphs`; `name` is its name in the
 // RunTimeFailure that says why it can't be shown.
 PicturePtr DecodePicture(const std::string& name, Bytes bytes, GlyphOutlines& glyphs, PictureBudget& budget);
 

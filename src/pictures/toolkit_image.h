@@ -7,8 +7,8 @@
 
 namespace tarvis {
 
-// How many bytes the picture will take once it is decoded; 0 if its head doesn't tell. BadDib if it is larger
-// than any picture may be, whatever the file around it says of its size.
+// How many bytes the picture will take once it is decoded; 0 if its header doesn't say. BadDib if it is
+// larger than any picture may be, whatever the file around it says of its size.
 std::size_t ToolkitImageSize(Bytes bytes);
 
 // BadDib with the reason if it can't be shown.

@@ -42,7 +42,7 @@ struct MetaPen {
   std::uint32_t Style = 0;
   double Width = 0;  // logical units
   MetaBrush Ink{MetaBrush::Kind::Solid, Qt::black, Qt::SolidPattern, {}, false};
-  bool Extended = false;       // caps, joins and cosmetic width are told
+  bool Extended = false;       // it has caps, joins and a cosmetic width
   std::vector<double> Dashes;  // of style User; logical units, or dots of a cosmetic pen
 };
 

@@ -15,7 +15,7 @@ class DeviceContext {
   // dropped.
   void Restore(int which);
 
-  // What the device tells of itself, for the mapping modes with physical units.
+  // The resolution of the device, for the mapping modes with physical units.
   void SetPixelsPerMillimeter(double x, double y) { pixelsPerMillimeter_ = {x, y}; }
 
   // From logical units to the device's.

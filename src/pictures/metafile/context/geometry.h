@@ -11,7 +11,7 @@ inline QRectF BoxOf(QPointF a, QPointF b) {
   return QRectF(a, b).normalized();
 }
 
-// How an arc is joined to what stands before and after it.
+// How the ends of an arc are joined.
 enum class ArcKind { Open, Chord, Pie };
 
 // The part of the ellipse in `box` from the ray through `start` to the one through `end`. `clockwise` is

@@ -107,7 +107,7 @@ std::optional<ListBrush> BrushFor(const MetaBrush& brush, const DcState& state) 
   if (!color) return std::nullopt;
   ListBrush list{QBrush(*color, brush.Is == MetaBrush::Kind::Hatch ? brush.Hatch : Qt::SolidPattern)};
   if (brush.Is == MetaBrush::Kind::Hatch && state.BackgroundMode == Opaque)
-    list.Behind = state.BackgroundColor;
+    list.Background = state.BackgroundColor;
   return list;
 }
 

@@ -27,7 +27,7 @@ bool UsesSource(std::uint32_t rop3);
 // The same for an area drawn with a ternary operation without a source.
 std::optional<QColor> PatternOnWhite(std::uint32_t rop3, QColor pattern);
 
-// What is seen of `source` drawn with an operation: pixels that leave alone what lies below come out
+// The visible part of `source` drawn with an operation: pixels that don't change what lies below become
 // transparent.
 QImage SourceOnWhite(std::uint32_t rop3, const QImage& source, QColor pattern);
 

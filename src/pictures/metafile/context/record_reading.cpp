@@ -43,7 +43,7 @@ MetaBrush MakeMetaBrush(std::uint32_t style, QColor color, std::uint32_t hatch) 
   constexpr Qt::BrushStyle hatches[] = {Qt::HorPattern,   Qt::VerPattern,   Qt::FDiagPattern,
                                         Qt::BDiagPattern, Qt::CrossPattern, Qt::DiagCrossPattern};
   if (style == Null) return {MetaBrush::Kind::Null, color, Qt::NoBrush, {}, false};
-  constexpr std::uint32_t lastSolidHatch = 11;  // numbers beyond the patterns stand for solid fills
+  constexpr std::uint32_t lastSolidHatch = 11;  // numbers beyond the patterns mean solid fills
   if (style == Hatched && hatch < std::size(hatches))
     return {MetaBrush::Kind::Hatch, color, hatches[hatch], {}, false};
   if (style != Solid && (style != Hatched || hatch > lastSolidHatch)) throw SkipRecord();

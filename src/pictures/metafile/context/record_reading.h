@@ -22,7 +22,7 @@ Points ReadPoints(ByteReader& reader, std::size_t count, bool small);
 // Left, top, right and bottom, in 32 bits.
 QRectF ReadBox(ByteReader& reader);
 
-// A colour that may stand for an entry of the palette.
+// A colour, which may be given as an entry of the palette.
 QColor ReadColor(ByteReader& reader, const MetaPalette& palette);
 
 MetaPalette ReadPalette(ByteReader& reader, std::size_t count);
@@ -38,7 +38,7 @@ class RecordBitmaps {
   // A bitmap that can't be shown is SkipRecord; too much of them is TooCostly.
   QImage Decode(Bytes info, Bytes bits, std::uint32_t usage, const MetaPalette& palette,
                 bool alphaByte = false);
-  // With the bits behind the header.
+  // With the bits after the header.
   QImage DecodePacked(Bytes bytes, std::uint32_t usage, const MetaPalette& palette);
 
  private:

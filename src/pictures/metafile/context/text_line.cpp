@@ -28,7 +28,7 @@ TextLine TextPlacer::Baseline(const TextRecord& text) {
   const QTransform page = context_.PageToDevice();
   const double signX = page.m11() < 0 ? -1 : 1;
   const double signY = page.m22() < 0 ? -1 : 1;
-  // Text stands upright however the axes of the mapping point; only the world transform turns it.
+  // Text is upright however the axes of the mapping point; only the world transform turns it.
   const QTransform upright = QTransform::fromScale(signX, signY) * Linear(state.World);
   const QTransform position = upright * Linear(page);
   const QTransform shape = upright * QTransform::fromScale(signX * std::abs(page.m22()), page.m22());
@@ -87,7 +87,7 @@ TextLine TextPlacer::Place(const TextRecord& text) {
 
 TextRecord TextPlacer::WithCharacters(const TextRecord& text) {
   const std::string face = QString::fromStdU16String(context_.State().Font->Face).toStdString();
-  const BadMetafile refusal("its text is told by numbers of glyphs of the font \"" + face +
+  const BadMetafile refusal("its text consists of glyph numbers of the font \"" + face +
                             "\", which isn't installed");
   TextRecord characters = text;
   characters.Options &= ~TextGlyphIndexes;

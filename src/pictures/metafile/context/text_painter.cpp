@@ -71,7 +71,7 @@ double TextPainter::Width(const TextRecord& text) {
   return placer_.Place(text).Width;
 }
 
-// Moves the line to where its alignment wants it, and the position behind it, if it does so.
+// Moves the line as its alignment says, and the position to its end, if the alignment asks for that.
 void TextPainter::Align(TextLine& line) {
   const std::uint32_t align = State().TextAlign;
   line.Start += line.Along * AlignedStart(align, line.Width) +

@@ -1,3 +1,4 @@
+// Records of enhanced metafiles that set the clip, or fill regions.
 #include "pictures/metafile/emf/emf_playback.h"
 
 namespace tarvis {

@@ -1,3 +1,4 @@
+// Records of enhanced metafiles that draw bitmaps and gradients.
 #include <cmath>
 
 #include "pictures/metafile/context/raster_ops.h"
@@ -65,7 +66,7 @@ void BitBlock(EmfPlayback& playback, ByteReader& reader, bool stretch) {
       {head.Bitmap.Decode(playback, reader), head.Source(size), head.Destination, head.Operation});
 }
 
-// Rows are counted from the bottom of a bitmap that stands bottom up.
+// Rows are counted from the bottom of a bitmap that is stored bottom up.
 QRectF SourceFromBottom(const Bytes info, QRectF source) {
   ByteReader header(info);
   header.Skip(8);

@@ -1,3 +1,4 @@
+// Records of enhanced metafiles that create and select objects: pens, brushes, fonts, palettes.
 #include "pictures/metafile/context/stock_objects.h"
 #include "pictures/metafile/emf/emf_playback.h"
 

@@ -20,8 +20,8 @@ struct EmfPlayback {
   MetaObject Object(std::uint32_t index) const;
 };
 
-// Plays one record. The reader holds the whole record and stands behind its type and size. OutOfBytes if the
-// record is broken, SkipRecord if it can't be played.
+// Plays one record. The reader holds the whole record and is positioned after its type and size. OutOfBytes
+// if the record is broken, SkipRecord if it can't be played.
 using EmfRecordFunction = void (*)(EmfPlayback& playback, ByteReader& reader);
 
 struct EmfRecord {

@@ -1,4 +1,4 @@
-// The records of an enhanced metafile by their published names (EMR_...), which tell what each does.
+// The records of an enhanced metafile by their published names (EMR_...).
 #pragma once
 
 #include <cstdint>

@@ -1,3 +1,4 @@
+// Records of enhanced metafiles that draw lines and shapes, and those of the path.
 #include <cmath>
 
 #include "pictures/metafile/emf/emf_playback.h"

@@ -1,3 +1,4 @@
+// Records of enhanced metafiles that change the state: mapping, modes, colours, transforms.
 #include <cmath>
 
 #include "pictures/metafile/emf/emf_playback.h"

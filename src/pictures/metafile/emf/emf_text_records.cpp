@@ -1,3 +1,4 @@
+// Records of enhanced metafiles that draw text.
 #include "pictures/metafile/emf/emf_playback.h"
 
 namespace tarvis {

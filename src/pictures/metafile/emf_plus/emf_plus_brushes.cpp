@@ -1,3 +1,4 @@
+// Brushes of the extended records: solid, gradients, hatches and textures.
 #include <algorithm>
 #include <cmath>
 
@@ -99,17 +100,17 @@ constexpr LineHatch LineHatches[] = {
 PlusBrush HatchBrush(ByteReader& reader) {
   const std::uint32_t hatch = reader.U32();
   const QColor lines = PlusColor(reader.U32());
-  const QColor behind = PlusColor(reader.U32());
+  const QColor background = PlusColor(reader.U32());
   const auto* const form = std::ranges::find(LineHatches, hatch, &LineHatch::Number);
   if (form != std::end(LineHatches))
     return {{.Brush = QBrush(lines, form->Style),
-             .Behind = behind,
+             .Background = background,
              .HatchStep = form->Step,
              .HatchLine = form->Line},
             nullptr};
   const HatchDots dots = FindHatchDots(hatch);
   if (!HasDots(dots)) throw SkipRecord();
-  return {{.Brush = QBrush(lines), .Behind = behind, .Dots = dots}, nullptr};
+  return {{.Brush = QBrush(lines), .Background = background, .Dots = dots}, nullptr};
 }
 
 // A pixel of the picture takes a unit of the world.

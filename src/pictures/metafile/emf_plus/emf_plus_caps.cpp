@@ -1,3 +1,4 @@
+// Line caps of the extended records, by number and of a form of their own.
 #include <cmath>
 #include <numbers>
 

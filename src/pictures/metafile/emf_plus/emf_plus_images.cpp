@@ -1,3 +1,4 @@
+// Bitmaps of the extended records.
 #include <utility>
 
 #include "pictures/metafile/emf_plus/emf_plus_objects.h"

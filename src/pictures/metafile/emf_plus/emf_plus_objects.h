@@ -31,7 +31,7 @@ struct PlusCap {
 
 struct PlusPen {
   ListPen Pen;
-  double Width = 0;  // world units, or pixels if told so
+  double Width = 0;  // world units, or pixels if `InPixels` is set
   bool InPixels = false;
   PlusCap Start, End;
 };

@@ -1,3 +1,4 @@
+// Paths and regions of the extended records.
 #include "pictures/metafile/emf_plus/emf_plus_objects.h"
 
 namespace tarvis {
@@ -27,7 +28,7 @@ QPainterPath ReadRegionNode(ByteReader& reader, int depth) {
 }
 
 // The type of each of `count` points. In paths with run lengths, or with relative points, a type may be
-// preceded by the number of points that have it; a bit that no type has tells the two apart. The published
+// preceded by the number of points that have it; a bit that no type has distinguishes the two. The published
 // format changed over time: which of the two flags means run lengths depends on its edition.
 std::vector<std::uint8_t> ReadPointTypes(ByteReader& reader, std::size_t count, std::uint32_t flags) {
   enum : unsigned { IsRun = 0x40, RunCount = 0x3F };

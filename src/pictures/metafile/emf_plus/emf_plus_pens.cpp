@@ -1,3 +1,4 @@
+// Pens of the extended records.
 #include <cmath>
 
 #include "pictures/metafile/emf_plus/emf_plus_objects.h"

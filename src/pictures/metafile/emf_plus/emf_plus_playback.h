@@ -9,8 +9,8 @@
 
 namespace tarvis {
 
-// Bits of a record's flags; which of them a record has is told by its kind.
-inline constexpr std::uint32_t PlusColorFlag = 0x8000;   // a colour stands where else a brush is named
+// Bits of a record's flags; which of them apply depends on the kind of record.
+inline constexpr std::uint32_t PlusColorFlag = 0x8000;   // the field of the brush holds a colour
 inline constexpr std::uint32_t PlusClosedFlag = 0x2000;  // of lines
 inline constexpr std::uint32_t PlusAppendFlag = 0x2000;  // of transforms
 

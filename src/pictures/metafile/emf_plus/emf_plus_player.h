@@ -1,7 +1,7 @@
-// Plays the extended records that stand in comments of an enhanced metafile. Files that hold both kinds of
+// Plays the extended records inside the comments of an enhanced metafile. Files that hold both kinds of
 // records play the plain ones, unless these draw nothing; files that hold extended ones only play those.
 //
-//   comment ── records ── Header       tells which of the two kinds rules
+//   comment ── records ── Header       decides which of the two kinds is played
 //                      ├─ Object       kept by number, put together from pieces (emf_plus_objects.h)
 //                      └─ all others   by the tables of emf_plus_playback.h, drawn by context/drawing.h
 #pragma once
@@ -13,7 +13,7 @@
 
 namespace tarvis {
 
-// Whether extended records play that stand beside plain ones.
+// Whether extended records are played in a file that has plain ones, too.
 enum class PlusUse { IfAlone, Always };
 
 class EmfPlusPlayer {
@@ -24,7 +24,7 @@ class EmfPlusPlayer {
   void Play(Bytes records, RecordCounts& counts);
   // Whether plain records are to be left alone at this moment.
   bool Rules() const { return active_ && !playback_.GivesContext; }
-  // Whether there were extended records that were left to the plain ones beside them.
+  // Whether extended records were skipped because the plain ones show the same.
   bool StoodAside() const { return dual_; }
 
  private:

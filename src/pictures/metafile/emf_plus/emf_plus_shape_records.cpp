@@ -144,7 +144,7 @@ void DrawPath(PlusPlayback& playback, std::uint32_t flags, ByteReader& reader) {
   playback.Stroke(path, reader.U32());
 }
 
-// Behind the number of the attributes and the unit of the source, which is a pixel.
+// The number of the attributes and the unit of the source come first; the unit is a pixel.
 QRectF ReadSource(ByteReader& reader) {
   reader.Skip(8);
   return ReadRectF(reader);

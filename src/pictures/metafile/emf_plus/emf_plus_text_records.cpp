@@ -51,8 +51,8 @@ void DrawString(PlusPlayback& playback, std::uint32_t flags, ByteReader& reader)
   const QRectF box = ReadRectF(reader);
   const std::vector<TextCharacter> text = DecodeUnits(reader.Take(length * 2));
   SetFont(playback, flags, brush);
-  const auto* told = playback.Find<PlusFormat>(formatIndex);
-  const PlusFormat format = told == nullptr ? PlusFormat() : *told;
+  const auto* named = playback.Find<PlusFormat>(formatIndex);
+  const PlusFormat format = named == nullptr ? PlusFormat() : *named;
   std::vector<TextRecord> lines = Lines(playback.Draw, text, format.Wraps ? box.width() : 0);
   const double em = -playback.Draw.State().Font->Height;
   const double pitch = em * 1.15;

@@ -10,8 +10,8 @@ constexpr int EmPixels = 256;
 constexpr std::size_t MostFaces = 64;     // kept at a time
 constexpr std::size_t MostGlyphs = 4096;  // of a face, kept at a time
 
-// How often letters and the blank stand in a thousand characters of Latin text, as the mean width that font
-// files tell was once defined. Writers of metafiles mean this width, not the mean of all glyphs of a font.
+// How frequent letters and the blank are in a thousand characters of Latin text, as the mean width that font
+// files contain was once defined. Writers of metafiles mean this width, not the mean of all glyphs of a font.
 struct LetterWeight {
   char16_t Letter;
   int Weight;

@@ -1,4 +1,4 @@
-// Outlines of characters, so that text looks alike on every device and can be painted on any thread.
+// Outlines of characters, so that text looks the same on every device and can be painted on any thread.
 #pragma once
 
 #include <QPainterPath>

@@ -7,26 +7,26 @@
 namespace tarvis {
 namespace {
 
-// Families whose usual stand-ins the font system may not know.
+// Families whose usual substitutes the font system may not know.
 QString KnownFamily(const QString& family) {
-  static const std::map<QString, QString> standIns = {{"helv", "Arial"},
-                                                      {"ms sans serif", "Arial"},
-                                                      {"ms shell dlg", "Arial"},
-                                                      {"system", "Arial"},
-                                                      {"helvetica", "Arial"},
-                                                      {"tms rmn", "Times New Roman"},
-                                                      {"times", "Times New Roman"},
-                                                      {"ms serif", "Times New Roman"},
-                                                      {"courier", "Courier New"},
-                                                      {"fixedsys", "Courier New"},
-                                                      {"terminal", "Courier New"},
-                                                      {"symbol", "Times New Roman"},
-                                                      {"wingdings", "DejaVu Sans"},
-                                                      {"wingdings 2", "DejaVu Sans"},
-                                                      {"webdings", "DejaVu Sans"},
-                                                      {"monotype sorts", "DejaVu Sans"}};
-  const auto found = standIns.find(family.toLower());
-  return family.isEmpty() ? QString("Arial") : found == standIns.end() ? family : found->second;
+  static const std::map<QString, QString> substitutes = {{"helv", "Arial"},
+                                                         {"ms sans serif", "Arial"},
+                                                         {"ms shell dlg", "Arial"},
+                                                         {"system", "Arial"},
+                                                         {"helvetica", "Arial"},
+                                                         {"tms rmn", "Times New Roman"},
+                                                         {"times", "Times New Roman"},
+                                                         {"ms serif", "Times New Roman"},
+                                                         {"courier", "Courier New"},
+                                                         {"fixedsys", "Courier New"},
+                                                         {"terminal", "Courier New"},
+                                                         {"symbol", "Times New Roman"},
+                                                         {"wingdings", "DejaVu Sans"},
+                                                         {"wingdings 2", "DejaVu Sans"},
+                                                         {"webdings", "DejaVu Sans"},
+                                                         {"monotype sorts", "DejaVu Sans"}};
+  const auto found = substitutes.find(family.toLower());
+  return family.isEmpty() ? QString("Arial") : found == substitutes.end() ? family : found->second;
 }
 
 }  // namespace

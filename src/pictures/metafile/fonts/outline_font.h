@@ -1,4 +1,4 @@
-// The font that a record names, and the installed one that stands in for it.
+// The font that a record names, and the installed one that replaces it.
 #pragma once
 
 #include <QFont>
@@ -18,7 +18,8 @@ struct OutlineFont {
   }
 };
 
-// Whether two families were designed with the same widths, and so number their first glyphs alike.
+// Whether two families were designed with the same widths, and so give the same numbers to their first
+// glyphs.
 bool AreMetricTwins(const QString& family, const QString& other);
 
 // With `emPixels` to the em, without hints and kerning.

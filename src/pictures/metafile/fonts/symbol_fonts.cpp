@@ -15,7 +15,7 @@ constexpr std::u16string_view GreekLow =
     u"\u03A0\u0398\u03A1\u03A3\u03A4\u03A5\u03C2\u03A9\u039E\u03A8\u0396[\u2234]\u22A5_"
     u"\u203E\u03B1\u03B2\u03C7\u03B4\u03B5\u03C6\u03B3\u03B7\u03B9\u03D5\u03BA\u03BB\u03BC\u03BD\u03BF"
     u"\u03C0\u03B8\u03C1\u03C3\u03C4\u03C5\u03D6\u03C9\u03BE\u03C8\u03B6{|}\u223C";
-// Codes 0xA0 to 0xFE; a zero stands where there is nothing.
+// Codes 0xA0 to 0xFE; 0 means that there is nothing.
 constexpr char16_t GreekHigh[] = {
     0x20AC, 0x03D2, 0x2032, 0x2264, 0x2044, 0x221E, 0x0192, 0x2663, 0x2666, 0x2665, 0x2660, 0x2194,
     0x2190, 0x2191, 0x2192, 0x2193, 0x00B0, 0x00B1, 0x2033, 0x2265, 0x00D7, 0x221D, 0x2202, 0x2022,
@@ -32,7 +32,7 @@ struct Sign {
 };
 
 // Codes 0x20 to 0xFF of the first dingbat font. Signs that only few fonts have are shown by the plainer one
-// that is most like them; a zero stands where there is none.
+// that is most like them; 0 means that there is none.
 constexpr char16_t Dingbats[] = {
     0x0020, 0,      0x2702, 0x2701, 0,      0,      0,      0,      0x260E, 0x2706, 0x2709, 0,      0,
     0,      0,      0,      0,      0,      0,      0,      0,      0,      0x231B, 0,      0,      0,

@@ -11,7 +11,8 @@ namespace {
 
 // Each edge changes what is covered from there to the right: of the pixels that it passes by the part that
 // lies right of it, of the next pixel by the rest. Inside one column of pixels this grows evenly from row to
-// row, so that a steep edge is told by where it starts and where it ends, however many rows it passes:
+// row, so a steep edge needs two entries only, where it starts and where it ends, however many rows it
+// passes:
 //
 //   row of a start   Value += v   Growth += g     each row adds the growth to the value of the row above it
 //   row of an end    Value -= v + rows * g   Growth -= g
@@ -116,9 +117,9 @@ class CoverageChanges {
     Change& start = changes_[Index(first, column)];
     start.Value += static_cast<float>(value);
     start.Growth += static_cast<float>(growth);
-    Change& behind = changes_[Index(end, column)];
-    behind.Value -= static_cast<float>(value + (end - first) * growth);
-    behind.Growth -= static_cast<float>(growth);
+    Change& after = changes_[Index(end, column)];
+    after.Value -= static_cast<float>(value + (end - first) * growth);
+    after.Growth -= static_cast<float>(growth);
   }
 
   int width_;

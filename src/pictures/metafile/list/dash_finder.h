@@ -12,7 +12,7 @@ namespace tarvis {
 struct DashedLine {
   QPolygonF Line;
   std::vector<double> Dashes;
-  std::size_t Count = 0;  // of the lines that it stands for
+  std::size_t Count = 0;  // of the lines that it replaces
 };
 
 // The longest dashed line that the first of `lines` start, all of them drawn with one pen; none if they are

@@ -227,7 +227,7 @@ void DrawListPainter::Fill(const QPainterPath& path, const ListBrush& listBrush)
   painter_.setRenderHint(QPainter::Antialiasing, true);
 }
 
-// Points closer than a quarter of a pixel are told apart by no eye.
+// Nobody sees the difference between points closer than a quarter of a pixel.
 bool DrawListPainter::FillDense(const QPainterPath& path, const QBrush& brush) {
   const QTransform& toDevice = painter_.deviceTransform();
   if (brush.style() != Qt::SolidPattern || toDevice.type() > QTransform::TxScale) return false;

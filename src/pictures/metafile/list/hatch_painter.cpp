@@ -46,10 +46,10 @@ QList<QLineF> HatchLines(const QRectF& box, Qt::BrushStyle style, double step) {
 QImage DotImage(const ListBrush& brush) {
   constexpr int side = static_cast<int>(DotsAcross);
   QImage image(side, side, QImage::Format_ARGB32);
-  const QRgb behind = brush.Behind.isValid() ? brush.Behind.rgba() : 0;
+  const QRgb background = brush.Background.isValid() ? brush.Background.rgba() : 0;
   for (int y = 0; y < side; ++y)
     for (int x = 0; x < side; ++x)
-      image.setPixel(x, y, IsDot(brush.Dots, x, y) ? brush.Brush.color().rgba() : behind);
+      image.setPixel(x, y, IsDot(brush.Dots, x, y) ? brush.Brush.color().rgba() : background);
   return image;
 }
 
@@ -109,14 +109,14 @@ QColor MixedColor(const ListBrush& brush) {
   int dots = 0;
   for (const std::uint8_t row : brush.Dots) dots += std::popcount(row);
   QColor color = brush.Brush.color();
-  if (!brush.Behind.isValid()) {
+  if (!brush.Background.isValid()) {
     color.setAlpha(color.alpha() * dots / 64);
     return color;
   }
   const auto mix = [dots](int a, int b) { return (a * dots + b * (64 - dots)) / 64; };
-  const QColor& behind = brush.Behind;
-  return QColor(mix(color.red(), behind.red()), mix(color.green(), behind.green()),
-                mix(color.blue(), behind.blue()), mix(color.alpha(), behind.alpha()));
+  const QColor& background = brush.Background;
+  return QColor(mix(color.red(), background.red()), mix(color.green(), background.green()),
+                mix(color.blue(), background.blue()), mix(color.alpha(), background.alpha()));
 }
 
 void PaintDots(QPainter& painter, const QPainterPath& path, const ListBrush& brush, const QRectF& box,
@@ -130,14 +130,14 @@ void PaintDots(QPainter& painter, const QPainterPath& path, const ListBrush& bru
     painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
     return painter.fillPath(path, dots);
   }
-  if (brush.Behind.isValid()) painter.fillPath(path, brush.Behind);
+  if (brush.Background.isValid()) painter.fillPath(path, brush.Background);
   painter.setClipPath(path, Qt::IntersectClip);
   DotLines(painter, box, brush, dot);
 }
 
 void PaintLines(QPainter& painter, const QPainterPath& path, const ListBrush& brush, const QRectF& box,
                 const DeviceUnits& units) {
-  if (brush.Behind.isValid()) painter.fillPath(path, brush.Behind);
+  if (brush.Background.isValid()) painter.fillPath(path, brush.Background);
   if (box.isEmpty()) return;
   painter.setClipPath(path, Qt::IntersectClip);
   painter.setPen(QPen(brush.Brush.color(), std::max(units.Hairline, brush.HatchLine * units.ScreenDot)));

@@ -1,4 +1,4 @@
-// Takes the points out of a dense line that no eye can tell apart.
+// Removes points from a dense line that make no visible difference.
 #pragma once
 
 #include <QPolygonF>

@@ -33,11 +33,11 @@ inline bool IsDot(const HatchDots& dots, int x, int y) {
 // A brush. Hatches and textures keep their physical size: a pixel of them is a dot of 1/96 inch.
 struct ListBrush {
   QBrush Brush = QBrush();
-  QColor Behind = QColor();  // between the lines of a hatch; invalid if nothing is
-  double HatchStep = 8;      // dots from line to line of a hatch
-  double HatchLine = 0;      // dots that a line of it is wide; 0 is a hairline
-  HatchDots Dots{};          // in place of lines, if there are any; the brush has their colour
-  bool Placed = false;       // the texture is mapped to the picture by the brush's transform instead
+  QColor Background = QColor();  // between the lines of a hatch; invalid if nothing is
+  double HatchStep = 8;          // dots from line to line of a hatch
+  double HatchLine = 0;          // dots that a line of it is wide; 0 is a hairline
+  HatchDots Dots{};              // in place of lines, if there are any; the brush has their colour
+  bool Placed = false;           // the texture is mapped to the picture by the brush's transform instead
   bool operator==(const ListBrush&) const = default;
 };
 

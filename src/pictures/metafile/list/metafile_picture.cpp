@@ -25,14 +25,14 @@ void MetafilePicture::AddTexts(const DrawList& list, const QTransform& place) {
   const auto size = [&place](QPointF vector) { return place.map(vector) - place.map(QPointF()); };
   for (const ListText& text : list.Texts()) {
     if (!frame_.contains(place.map(text.Origins.front()))) continue;
-    PictureText told;
-    told.Text = QString::fromUcs4(text.Characters.data(), static_cast<qsizetype>(text.Characters.size()))
+    PictureText line;
+    line.Text = QString::fromUcs4(text.Characters.data(), static_cast<qsizetype>(text.Characters.size()))
                     .toStdString();
     for (const QPointF& origin : text.Origins)
-      told.Edges.push_back(part(place.map(origin) - frame_.topLeft()));
-    told.Up = part(size(text.Up));
-    told.Down = part(size(text.Down));
-    texts_.push_back(std::move(told));
+      line.Edges.push_back(part(place.map(origin) - frame_.topLeft()));
+    line.Up = part(size(text.Up));
+    line.Down = part(size(text.Down));
+    texts_.push_back(std::move(line));
   }
   for (const ListPart& inner : list.Parts()) AddTexts(*inner.List, inner.Place * place);
 }

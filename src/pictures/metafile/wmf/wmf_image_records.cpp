@@ -1,3 +1,4 @@
+// Records of old-style metafiles that draw bitmaps.
 #include <algorithm>
 #include <utility>
 
@@ -7,7 +8,7 @@
 namespace tarvis {
 namespace {
 
-// Height before width, and both before y and x, as destinations stand in records.
+// Height before width, and both before y and x, the order of destinations in records.
 QRectF ReadSizeAndPlace(ByteReader& reader) {
   const QPointF size = ReadYX(reader);
   const QPointF at = ReadYX(reader);
@@ -25,7 +26,7 @@ std::int32_t HeightOf(Bytes dib) {
   return header.I32();
 }
 
-// Rows are counted from the bottom of a bitmap that stands bottom up.
+// Rows are counted from the bottom of a bitmap that is stored bottom up.
 QRectF FromBottom(Bytes dib, QRectF source) {
   const std::int32_t height = HeightOf(dib);
   if (height > 0) source.moveTop(height - source.top() - source.height());

@@ -1,3 +1,4 @@
+// Records of old-style metafiles that create and select objects, regions among them, and fill regions.
 #include <algorithm>
 
 #include "pictures/metafile/wmf/wmf_playback.h"

@@ -36,7 +36,7 @@ std::span<const WmfRecord> WmfShapeRecords();
 std::span<const WmfRecord> WmfTextRecords();
 std::span<const WmfRecord> WmfImageRecords();
 
-// Parameters stand in reverse order in these records: y before x, and bottom, right, top, left.
+// These records hold their parameters in reverse order: y before x, and bottom, right, top, left.
 inline QPointF ReadYX(ByteReader& reader) {
   const double y = reader.I16();
   return {static_cast<double>(reader.I16()), y};

@@ -40,7 +40,7 @@ struct Placeable {
   bool HasExtent() const { return Size().x() != 0 && Size().y() != 0; }
 };
 
-// What a metafile itself tells first of its window and viewport.
+// The first window and viewport that the records of a metafile set.
 struct FirstExtents {
   std::optional<QPointF> WindowOrigin, WindowExtent, ViewportOrigin, ViewportExtent;
 };
@@ -119,22 +119,22 @@ class WmfPlayer {
 
  private:
   // The device is as large as the picture in logical units; the window maps to all of it.
-  void SetExtents(const FirstExtents& told) {
+  void SetExtents(const FirstExtents& first) {
     DcState& state = playback_.Draw.State();
     state.Mapping = MapMode::Anisotropic;
     if (placeable_) {
       state.WindowOrigin = placeable_->From;
       state.WindowExtent = placeable_->Size();
     }
-    if (!placeable_ && IsExtent(told.WindowExtent)) state.WindowExtent = *told.WindowExtent;
-    const bool known = placeable_ || IsExtent(told.WindowExtent);
+    if (!placeable_ && IsExtent(first.WindowExtent)) state.WindowExtent = *first.WindowExtent;
+    const bool known = placeable_ || IsExtent(first.WindowExtent);
     if (known) {
       frame_ = {0, 0, std::abs(state.WindowExtent.x()), std::abs(state.WindowExtent.y())};
       state.ViewportExtent = {frame_.width(), frame_.height()};
     }
-    if (IsExtent(told.ViewportExtent)) {
-      const QPointF origin = told.ViewportOrigin.value_or(QPointF());
-      frame_ = BoxOf(origin, origin + *told.ViewportExtent);
+    if (IsExtent(first.ViewportExtent)) {
+      const QPointF origin = first.ViewportOrigin.value_or(QPointF());
+      frame_ = BoxOf(origin, origin + *first.ViewportExtent);
     }
     if (!frame_.isEmpty()) list_.SetFrameExtent(frame_.width() + frame_.height());
   }

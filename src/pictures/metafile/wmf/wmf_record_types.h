@@ -1,4 +1,4 @@
-// The records of an old-style metafile by their published names (META_...), which tell what each does.
+// The records of an old-style metafile by their published names (META_...).
 #pragma once
 
 #include <cstdint>

@@ -1,3 +1,4 @@
+// Records of old-style metafiles that draw lines and shapes.
 #include "pictures/metafile/wmf/wmf_playback.h"
 
 namespace tarvis {

@@ -1,3 +1,4 @@
+// Records of old-style metafiles that change the state: mapping, modes, colours, the clip.
 #include "pictures/metafile/wmf/wmf_playback.h"
 
 namespace tarvis {
@@ -19,8 +20,8 @@ QColor Color(WmfPlayback& playback, ByteReader& reader) {
   return ReadColor(reader, playback.Palette());
 }
 
-// The viewport of the outside stands for the device, so that all modes but the isotropic one map window to
-// viewport.
+// The viewport is that of the program which shows the picture, so that all modes but the isotropic one map
+// window to viewport.
 void SetMapMode(WmfPlayback& playback, ByteReader& reader) {
   const std::uint32_t mode = reader.U16();
   playback.Draw.State().Mapping = mode == 7 ? MapMode::Isotropic : MapMode::Anisotropic;
