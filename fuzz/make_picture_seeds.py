@@ -276,6 +276,7 @@ def plus_objects():
     path = words(4, 0) + floats(10, 10, 80, 10, 80, 80, 10, 80) + bytes([0, 1, 1, 0x81])
     pixels = words(1, 2, 2, 8, 0x26200A, 0) + INK * 4
     box = floats(10, 10, 60, 60)
+    inner, old_inner = emf([points(87, 6, 1)]), wmf([wmf_record(0x0325, 3, 10, 10, 60, 20, 30, 70)])
     objects = {f"hatch-{style}": (1, words(1, style) + INK + b"\xFF" * 4) for style in range(53)}
     objects |= {
         "solid": (1, solid),
@@ -292,9 +293,13 @@ def plus_objects():
                     words(1, 0, 0, 0) + floats(10, 1) + VERSION + solid),
         "path": (3, path),
         "path-small": (3, words(3, 0x4000) + shorts(10, 10, 80, 10, 40, 80) + bytes([0, 1, 0x81])),
+        "path-runs": (3, words(4, 0x5000) + shorts(10, 10, 80, 10, 80, 80, 10, 80) + bytes([0x41, 0, 0x42, 1, 0x81])),
+        "path-relative": (3, words(3, 0x800) + bytes([10, 10, 60, 0, 0, 60, 0x41, 0, 0x42, 1])),
         "region": (4, words(2, 3, 0x10000000) + box + words(0x10000001, len(path) + 4) + VERSION + path),
         "image": (5, pixels),
         "image-indexed": (5, words(1, 8, 1, 4, 0x30101, 0, 0, 2) + INK * 2 + b"\xA5\0\0\0"),
+        "metafile": (5, words(2, 3, len(inner)) + inner),
+        "metafile-old": (5, words(2, 2, len(old_inner)) + old_inner),
         "font": (6, floats(14) + words(2, 15, 0, 5) + "Arial".encode("utf-16-le")),
         "format": (7, words(0, 0, 1, 2, 0, 0) + floats(0, 0, 0, 1, 0, 0) + words(0, 0)),
         "attributes": (8, words(0, 4, 0, 0, 0)),
