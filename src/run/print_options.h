@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -79,11 +80,16 @@ struct OptionElements : std::array<std::int16_t, ElementCount<Element>> {
   using Values = std::array<std::int16_t, ElementCount<Element>>;
   using Values::operator[];
 
-  std::int16_t& operator[](Element element) { return (*this)[static_cast<std::size_t>(element) - 1]; }
-  const std::int16_t& operator[](Element element) const {
-    return (*this)[static_cast<std::size_t>(element) - 1];
-  }
+  std::int16_t& operator[](Element element) { return (*this)[IndexOf(element)]; }
+  const std::int16_t& operator[](Element element) const { return (*this)[IndexOf(element)]; }
   bool IsOn(Element element) const { return (*this)[element] == 1; }
+
+ private:
+  static std::size_t IndexOf(Element element) {
+    const auto number = static_cast<std::size_t>(element);
+    assert(number >= 1 && number <= ElementCount<Element>);
+    return number - 1;
+  }
 };
 
 struct PrintOptions {

@@ -12,8 +12,8 @@ namespace {
 constexpr float RowTop = 10;
 
 // Geometry enters the running x and y as whole twips, halves to the even one.
-std::int32_t Whole(float twips) {
-  return static_cast<std::int32_t>(std::nearbyint(twips));
+float Whole(float twips) {
+  return std::nearbyint(twips);
 }
 
 }  // namespace
@@ -37,7 +37,7 @@ void rptUserPrm::ActiveReport_ReportStart() {
                            static_cast<Control*>(&txtValueDefault)}) {
     control->Top = RowTop;
   }
-  std::int32_t x = Whole(txtTitleNo.Left + txtTitleNo.Width);
+  float x = Whole(txtTitleNo.Left + txtTitleNo.Width);
   PlaceNameColumns(x);
   if (ShowDigits == 1) {
     StackDesignBlock();
@@ -48,15 +48,15 @@ void rptUserPrm::ActiveReport_ReportStart() {
   PlaceDefaultColumn(x);
 }
 
-void rptUserPrm::PlaceNameColumns(std::int32_t& x) {
+void rptUserPrm::PlaceNameColumns(float& x) {
   if (Run.Session.ShowPrmName != 0) {
     x += Whole(txtTitleName.Width + txtTitleValue.Width);
     return;
   }
   txtTitleName.Visible = false;
   txtValueName.Visible = false;
-  txtTitleValue.Left = static_cast<float>(x);
-  txtValueVal.Left = static_cast<float>(x);
+  txtTitleValue.Left = x;
+  txtValueVal.Left = x;
   x += Whole(txtTitleValue.Width);
   txtValueNo.Height = txtTitleNo.Height;
   txtValueNoReal.Height = txtTitleNo.Height;
@@ -88,25 +88,25 @@ void rptUserPrm::HideDigitBlock() {
   }
 }
 
-void rptUserPrm::PlaceUnitColumn(std::int32_t& x) {
+void rptUserPrm::PlaceUnitColumn(float& x) {
   if (Run.Session.ShowPrmUnit != 0) {
-    txtTitleUnit.Left = static_cast<float>(x);
-    txtValueUnit.Left = static_cast<float>(x);
+    txtTitleUnit.Left = x;
+    txtValueUnit.Left = x;
     x += Whole(txtTitleUnit.Width);
     return;
   }
   // x stays: the default column takes the place of the unit column.
   txtTitleUnit.Visible = false;
   txtValueUnit.Visible = false;
-  txtTitleDefault.Left = static_cast<float>(x);
-  txtValueDefault.Left = static_cast<float>(x);
+  txtTitleDefault.Left = x;
+  txtValueDefault.Left = x;
   NarrowDigitBlock(txtTitleUnit.Width);
 }
 
-void rptUserPrm::PlaceDefaultColumn(std::int32_t x) {
+void rptUserPrm::PlaceDefaultColumn(float x) {
   if (Run.Session.ShowPrmDefault != 0) {
-    txtTitleDefault.Left = static_cast<float>(x);
-    txtValueDefault.Left = static_cast<float>(x);
+    txtTitleDefault.Left = x;
+    txtValueDefault.Left = x;
     return;
   }
   txtTitleDefault.Visible = false;
@@ -225,33 +225,33 @@ void rptUserPrm::Detail_Format() {
 
 void rptUserPrm::Detail_BeforePrint() {
   // Hidden cells count too.
-  const std::int32_t h = Whole(std::max({txtValueNo.Height, txtValueNoReal.Height, txtValueName.Height,
-                                         txtValueVal.Height, txtValueUnit.Height, txtValueDefault.Height}));
+  const float h = Whole(std::max({txtValueNo.Height, txtValueNoReal.Height, txtValueName.Height,
+                                  txtValueVal.Height, txtValueUnit.Height, txtValueDefault.Height}));
   for (Field* cell : {&txtValueNoReal, &txtValueName, &txtValueVal, &txtValueUnit, &txtValueDefault}) {
-    cell->Height = static_cast<float>(h);
+    cell->Height = h;
   }
-  std::int32_t y = Whole(txtValueNo.Top) + h;
+  float y = Whole(txtValueNo.Top) + h;
   if (spaceNibbleTop.Visible) {
-    spaceNibbleTop.Top = static_cast<float>(y);
+    spaceNibbleTop.Top = y;
     y += Whole(spaceNibbleTop.Height);
   }
   for (std::size_t group = 0; group < Groups; ++group) {
     if (!txtPos[group]->Visible) continue;
     // The meaning has grown; the value next to it takes its height.
     txtValueBitValue[group]->Height = txtValueBitName[group]->Height;
-    txtPos[group]->Top = static_cast<float>(y);
-    txtValueBitValue[group]->Top = static_cast<float>(y) + txtPos[group]->Height;
-    txtValueBitName[group]->Top = static_cast<float>(y) + txtPos[group]->Height;
+    txtPos[group]->Top = y;
+    txtValueBitValue[group]->Top = y + txtPos[group]->Height;
+    txtValueBitName[group]->Top = y + txtPos[group]->Height;
     y += Whole(txtPos[group]->Height + txtValueBitName[group]->Height);
   }
   if (spaceNibbleTop.Visible) {
-    spaceNibbleBottom.Top = static_cast<float>(y);
+    spaceNibbleBottom.Top = y;
     y += Whole(spaceNibbleTop.Height);  // not of the bottom spacer
-    shapeNibble.Height = static_cast<float>(y) - txtValueNo.Top - 2;
+    shapeNibble.Height = y - txtValueNo.Top - 2;
     txtValueNo.Height = shapeNibble.Height;
   } else {
     shapeNibble.Height = 0;
-    txtValueNo.Height = static_cast<float>(y) - txtValueNo.Top;
+    txtValueNo.Height = y - txtValueNo.Top;
   }
 }
 

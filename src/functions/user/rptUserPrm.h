@@ -28,9 +28,9 @@ class rptUserPrm : public FunctionReport {
 
   void StackDesignBlock();
   void HideDigitBlock();
-  void PlaceNameColumns(std::int32_t& x);
-  void PlaceUnitColumn(std::int32_t& x);
-  void PlaceDefaultColumn(std::int32_t x);
+  void PlaceNameColumns(float& x);
+  void PlaceUnitColumn(float& x);
+  void PlaceDefaultColumn(float x);
   void NarrowDigitBlock(float by);
   void FillDigitGroups(const UserSwitch& digits);
   void ClearDigitGroups();

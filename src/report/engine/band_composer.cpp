@@ -1,6 +1,8 @@
 #include "report/engine/band_composer.h"
 
 #include <algorithm>
+#include <cassert>
+#include <limits>
 
 #include "report/engine/line_room.h"
 
@@ -73,6 +75,11 @@ float TopOfOneLine(const TextControl& text) {
   if (other == nullptr) return OneLineTop(text);
   const float ascent = static_cast<float>(AscentEm) * TwipsPerPoint;
   return OneLineTop(*other) + ascent * (other->Style.Size - text.Style.Size);
+}
+
+std::uint8_t WeightOf(int weight) {
+  assert(weight >= 0 && weight <= std::numeric_limits<std::uint8_t>::max());
+  return static_cast<std::uint8_t>(weight);
 }
 
 void CallEvent(const std::function<void()>& handler) {
@@ -157,14 +164,14 @@ void BandComposer::Emit(const Label& label, const Output& output) {
 void BandComposer::Emit(const Line& line, const Output& output) {
   Item item = output.Model;
   item.Kind = ItemKind::Line;
-  item.Weight = static_cast<std::uint8_t>(line.Weight);
+  item.Weight = WeightOf(line.Weight);
   output.Band.Items.push_back(item);
 }
 
 void BandComposer::Emit(const Shape& shape, const Output& output) {
   Item item = output.Model;
   item.Kind = ItemKind::Box;
-  item.Weight = static_cast<std::uint8_t>(shape.Weight);
+  item.Weight = WeightOf(shape.Weight);
   item.Filled = shape.Fill.has_value();
   item.Fill = shape.Fill.value_or(White);
   output.Band.Items.push_back(item);

@@ -1,6 +1,7 @@
 #include "report/engine/contents_tree.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace tarvis {
 namespace {
@@ -18,6 +19,11 @@ int ContentsTree::NewLanding() {
   return static_cast<int>(landings_.size()) - 1;
 }
 
+ContentsTree::Place& ContentsTree::PlaceOf(int landing) {
+  assert(landing >= 0 && landing < static_cast<int>(landings_.size()));
+  return landings_[static_cast<std::size_t>(landing)];
+}
+
 void ContentsTree::Land(int landing, int page, float top, float height) {
   if (height <= 0) {
     waiting_.push_back(landing);
@@ -32,15 +38,16 @@ void ContentsTree::Pass(int page, float top, float height) {
   last_ = {true, false, page, top, height};
   if (height <= 0) return;
   for (const int landing : waiting_) {
-    const bool dropped = landings_[static_cast<std::size_t>(landing)].Dropped;
-    landings_[static_cast<std::size_t>(landing)] = last_;
-    landings_[static_cast<std::size_t>(landing)].Dropped = dropped;
+    Place& place = PlaceOf(landing);
+    const bool dropped = place.Dropped;
+    place = last_;
+    place.Dropped = dropped;
   }
   waiting_.clear();
 }
 
 void ContentsTree::Drop(int landing) {
-  landings_[static_cast<std::size_t>(landing)].Dropped = true;
+  PlaceOf(landing).Dropped = true;
 }
 
 void ContentsTree::Add(const std::string& path, int landing) {
@@ -48,11 +55,11 @@ void ContentsTree::Add(const std::string& path, int landing) {
 }
 
 std::vector<ContentsEntry> ContentsTree::Finish() {
-  for (const int landing : waiting_) landings_[static_cast<std::size_t>(landing)] = last_;
+  for (const int landing : waiting_) PlaceOf(landing) = last_;
   waiting_.clear();
   std::vector<Root> roots;
   for (const Added& added : added_) {
-    const Place& place = landings_[static_cast<std::size_t>(added.Landing)];
+    const Place& place = PlaceOf(added.Landing);
     if (place.Dropped) continue;
     const std::size_t slash = added.Path.find('\\');
     ContentsEntry entry{added.Path.substr(0, slash), 0, place.Page, place.Top, place.Height};

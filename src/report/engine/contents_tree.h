@@ -37,6 +37,8 @@ class ContentsTree {
     int Landing;
   };
 
+  Place& PlaceOf(int landing);
+
   std::vector<Place> landings_;
   std::vector<int> waiting_;  // landings of height 0
   std::vector<Added> added_;
