@@ -9,6 +9,8 @@
 #include <thread>
 #include <vector>
 
+#include "platform/message_box.h"
+
 namespace tarvis {
 namespace {
 
@@ -56,7 +58,7 @@ void QtDesktop::ShowMessage(const std::string& title, const std::string& text) {
                   QMessageBox::Ok, Owner());
   box.setObjectName("message");
   box.setTextFormat(Qt::PlainText);
-  box.exec();
+  ShowUntilAnswered(box);
 }
 
 void QtDesktop::Diagnose(const std::string& line) {

@@ -1,8 +1,8 @@
 #include "platform/system_printers.h"
 
-#include <QMessageBox>
 #include <QPrinterInfo>
 
+#include "platform/message_box.h"
 #include "platform/print_server.h"
 
 namespace tarvis {
@@ -21,7 +21,7 @@ void SystemPrinters::PrintDialog() {
   QMessageBox box(QMessageBox::NoIcon, "Print", "No printer is installed. Install a printer and try again.",
                   QMessageBox::Ok);
   box.setObjectName("noPrinter");
-  box.exec();
+  ShowUntilAnswered(box);
 }
 
 }  // namespace tarvis

@@ -61,6 +61,24 @@ TEST(QtDesktop, DiagnosisIsOneLineOnStandardError) {
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "tarvis: User.tmp:3: unknown key 'x'\n");
 }
 
+// As newer toolkits do when they lose their display.
+TEST(QtDesktopDeathTest, MessageBoxThatEndsUnansweredEndsTheProcess) {
+  EXPECT_EXIT(
+      {
+        QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(1); });
+        QtDesktop().ShowMessage("Printing Error", "Argument is wrong.");
+        std::_Exit(99);
+      },
+      testing::ExitedWithCode(1), "");
+}
+
+TEST(QtDesktop, MessageBoxThatIsClosedIsAnswered) {
+  QTimer::singleShot(0, qApp, [] {
+    if (QWidget* box = QApplication::activeModalWidget()) box->close();
+  });
+  QtDesktop().ShowMessage("Printing Error", "Argument is wrong.");  // the process goes on
+}
+
 TEST(QtDesktopDeathTest, EndOfTheProcessHasTheStatusAndRunsNoExitHandler) {
   EXPECT_EXIT(
       {

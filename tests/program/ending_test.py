@@ -82,28 +82,39 @@ class Signals(ProgramCase):
 
 
 class LostDisplay(ProgramCase):
-    def lose(self, through_preview):
-        display = VirtualDisplay()
-        self.addCleanup(display.close)
-        self.user = User(display.environment)
+    def setUp(self):
+        super().setUp()
+        self.lost = VirtualDisplay()
+        self.addCleanup(self.lost.close)
+        self.user = User(self.lost.environment)
         self.host.write_data("User")
-        session = self.start("User", environment=display.environment)
-        session.wait_for(DIALOG)
-        if through_preview:
-            session.confirm_dialog()
-        display.close()
+
+    def environment(self):
+        return {**super().environment(), **self.lost.environment}
+
+    def lose(self, session):
+        self.lost.close()
         self.expect_end(session.process, 1)
         # The toolkit has two wordings, by which of its threads sees the end first.
-        self.assertRegex(self.standard_error(), r"^The X11 connection broke(: I/O error| \(error 1\))")
+        self.assertRegex(self.standard_error(), r"(?m)^The X11 connection broke(: I/O error| \(error 1\))")
         self.assertEqual(self.files_left(), ["User.tmp"])
 
     def test_ends_the_dialog_with_a_word_and_touches_no_file(self):
-        self.lose(through_preview=False)
+        session = self.start("User")
+        session.wait_for(DIALOG)
+        self.lose(session)
         self.assertFalse(self.host.options_file.exists())
 
     def test_ends_the_preview_with_a_word_and_touches_no_file(self):
-        self.lose(through_preview=True)
+        session = self.start("User")
+        session.confirm_dialog()
+        self.lose(session)
         self.assertTrue(self.host.options_file.exists())
+
+    def test_ends_a_message_with_a_word_and_touches_no_file(self):
+        session = self.start(None, arguments=["user", "host.html", "1", "1"])
+        session.wait_for("Printing Error")
+        self.lose(session)
 
 
 class LostPrinter(ProgramCase):
