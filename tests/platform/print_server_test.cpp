@@ -1,3 +1,4 @@
+// Questions to the print server: what it answers, and that a server which is silent keeps nothing waiting.
 #include "platform/print_server.h"
 
 #include <gtest/gtest.h>
