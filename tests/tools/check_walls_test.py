@@ -53,9 +53,6 @@ class CheckWalls(TreeCheck):
         self.expect_breach({"src/report/a.h": '#include "report/b.h"\n', "src/report/b.h": '#include "report/a.h"\n'},
                            "includes go in a circle: report/a.h -> report/b.h -> report/a.h")
 
-    def test_file_of_401_lines_is_a_breach(self):
-        self.expect_breach({"tests/core/a.cpp": "//\n" * 401}, "401 lines")
-
     def test_path_of_a_machine_is_a_breach(self):
         self.expect_breach({"demo/a.sh": "cd /ho" + "me/somebody\n"}, "a.sh:1: names a path of a machine")
 

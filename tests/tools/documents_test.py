@@ -33,9 +33,9 @@ RUN_BY = {
     "tools/try_on trixie": ("tests/CMakeLists.txt", "tools/try_on ${release}"),
     "tools/try_on testing ./bench.sh": ("tests/CMakeLists.txt", "tools/try_on ${release}"),
     "./lint.sh --changed": (".ci/run", "./lint.sh --changed"),
-    "tools/check_walls": ("tests/CMakeLists.txt", "tools/check_walls"),
-    "tools/check_sizes": ("tests/CMakeLists.txt", "tools/check_sizes"),
-    "tools/check_names": ("tests/CMakeLists.txt", "tools/check_names"),
+    "tools/check_walls": ("tests/CMakeLists.txt", "tools/check_${rule}"),
+    "tools/check_sizes": ("tests/CMakeLists.txt", "tools/check_${rule}"),
+    "tools/check_names": ("tests/CMakeLists.txt", "tools/check_${rule}"),
     "man tarvis": ("tests/tools/package_test.py", "mandoc"),
 }
 
