@@ -81,11 +81,11 @@ struct ConfirmingInEveryMode : Confirming {};
 
 TEST_P(ConfirmingInEveryMode, IsTheSameWithAndWithoutTheDialog) {
   for (const std::int16_t edition : {std::int16_t{1}, std::int16_t{2}, std::int16_t{4}}) {
-    for (const char* mode :
-         {"User", "UPWizard", "Trace", "RealTrace", "Mecha", "Sim", "SimEx", "IdxTbl", "ZoneTbl", "JogTbl"}) {
+    for (const Mode mode : {Mode::User, Mode::UPWizard, Mode::Trace, Mode::RealTrace, Mode::Mecha, Mode::Sim,
+                            Mode::SimEx, Mode::IdxTbl, Mode::ZoneTbl, Mode::JogTbl}) {
       const ModeChoice* choice = FindModeChoice(edition, mode);
       if (choice == nullptr) continue;
-      SCOPED_TRACE(std::string(mode) + " of edition " + std::to_string(edition));
+      SCOPED_TRACE(std::string(TextOf(mode)) + " of edition " + std::to_string(edition));
       for (PrintRun* run : {&Run, &Quiet}) {
         run->Session.OverlapMode = run->Session.OverlapNum = run->Session.SimExMode = 0;
         run->Session.StepLimit = 0;
