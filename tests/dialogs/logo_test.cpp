@@ -212,7 +212,7 @@ TEST_F(LogoPicture, DoesNotWaitForADeadShare) {
   EXPECT_TRUE(QTest::qWaitFor([&share] { return share.Answered() == 2; }));
 }
 
-TEST_F(LogoPicture, ThatComesLateForAnotherPathIsNotShown) {
+TEST_F(LogoPicture, IsNotShownIfItComesLateForAnotherPath) {
   Share share;
   Read = share.Reader();
   Run.Options.DrowLogo = SavePicture("red.bmp", Qt::red);
@@ -224,7 +224,7 @@ TEST_F(LogoPicture, ThatComesLateForAnotherPathIsNotShown) {
   EXPECT_FALSE(In("imgLogo").isVisible());
 }
 
-TEST_F(LogoPicture, ThatArrivedJustBeforeThePathBecameAnotherOneIsNotShown) {
+TEST_F(LogoPicture, IsNotShownIfItArrivedJustBeforeThePathBecameAnotherOne) {
   const std::string path = SavePicture("red.bmp", Qt::red);
   auto reading = std::make_shared<int>();  // a copy of it is kept as long as the thread that reads
   QWidget dialog;

@@ -95,7 +95,7 @@ TEST(DashedLines, BecomeFewDrawingStepsOfAFile) {
   EXPECT_LT(Play(CurveOfDashes().Bytes())->List().Commands().size(), 40u);
 }
 
-TEST(JoinedLines, ThatGoOnWhereTheLastEndedAreOne) {
+TEST(JoinedLines, AreOneIfTheyGoOnWhereTheLastEnded) {
   EmfWriter emf;
   emf.Pen(0, 3).Pair(27, 5, 5);
   for (int i = 1; i < 50; ++i) emf.Pair(54, 5 + i, 5 + i % 7);

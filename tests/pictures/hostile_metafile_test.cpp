@@ -51,7 +51,7 @@ TEST(HostileMetafile, IsRefusedWithoutExtent) {
   ExpectRefused(WmfWriter().Placeable(5, 5, 5, 5, 96).Words(0x041B, {9, 9, 0, 0}).Bytes(), "box");
 }
 
-TEST(HostileMetafile, ThatShowsNothingAtAllIsRefused) {
+TEST(HostileMetafile, IsRefusedIfItShowsNothingAtAll) {
   ExpectRefused(EmfWriter().Add(200).Bytes(), "unknown records only");
   ExpectRefused(WmfWriter().Window(0, 0, 100, 100).Bytes(), "no drawing");
 }

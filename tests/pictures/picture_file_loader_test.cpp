@@ -68,7 +68,7 @@ TEST_F(PictureFiles, HeldInMemoryAreKeptUnderTheirName) {
   EXPECT_EQ(loader_.LoadBytes("band", {}), first);
 }
 
-TEST_F(PictureFiles, ThatAreNoPicturesFailWithTheirNameAndTheReason) {
+TEST_F(PictureFiles, FailWithTheirNameAndTheReasonIfTheyAreNoPictures) {
   const std::string path = Path("letter.bmp");
   QFile file(QString::fromStdString(path));
   ASSERT_TRUE(file.open(QIODevice::WriteOnly));

@@ -39,7 +39,7 @@ TEST_F(SettledFile, KeepsItsOwnerWhereItReplacesNone) {
   EXPECT_EQ(OwnerOf("fresh"), geteuid());
 }
 
-TEST_F(SettledFile, ThatIsGoneIsLost) {
+TEST_F(SettledFile, IsLostIfItIsGone) {
   EXPECT_FALSE(SettleFile(Path("none"), Path("old")));
 }
 

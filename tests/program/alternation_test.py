@@ -41,15 +41,15 @@ class Alternation(ProgramCase):
         self.assertEqual(self.files_left(), [])
         self.assertEqual(self.standard_error(), "")
 
-    def test_of_a_parameter_list(self):
+    def test_keeps_its_memory_with_a_parameter_list(self):
         self.host.write_data("User")
         self.alternate("User")
 
-    def test_of_curves_that_overlap(self):
+    def test_keeps_its_memory_with_curves_that_overlap(self):
         self.host.write_data("Trace", 3)
         self.alternate("Trace")
 
-    def test_of_a_long_list(self):
+    def test_keeps_its_memory_with_a_long_list(self):
         file = PrintFile("Parameter File", servo_pack.MODELS, "long.prm")
         write_parameters(file, list(servo_pack.PARAMETERS) * 30, servo_pack.SWITCHES, "")
         file.write(self.host.temp_folder / "User.tmp")

@@ -46,7 +46,7 @@ class CoverEditing(ProgramCase):
         self.user.press_until(key, FILE_CHOICE, 0)
         session.wait_for(EDITOR)
 
-    def test_chooses_a_logo_that_stands_on_the_letter(self):
+    def test_chooses_a_logo_that_is_printed_on_the_letter(self):
         session = self.open_editor()
         self.choose(session, self.logo, "Return")
         self.assertEqual(self.logo_text(), str(self.logo))

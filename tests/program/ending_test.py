@@ -60,7 +60,7 @@ class Signals(ProgramCase):
         session.wait_for("Run-time error")
         self.end(session, status=1, left=["User.tmp"])
 
-    def test_that_the_caller_told_to_ignore_are_ignored(self):
+    def test_are_ignored_if_the_caller_ignores_them(self):
         session = self.start_dialog(through=("sh", "-c", 'trap "" HUP; exec "$@"', "sh"))
         session.process.send_signal(signal.SIGHUP)
         session.confirm_dialog()
@@ -99,19 +99,19 @@ class LostDisplay(ProgramCase):
         self.assertRegex(self.standard_error(), r"(?m)^The X11 connection broke(: I/O error| \(error 1\))")
         self.assertEqual(self.files_left(), ["User.tmp"])
 
-    def test_ends_the_dialog_with_a_word_and_touches_no_file(self):
+    def test_ends_the_dialog_with_a_message_and_touches_no_file(self):
         session = self.start("User")
         session.wait_for(DIALOG)
         self.lose(session)
         self.assertFalse(self.host.options_file.exists())
 
-    def test_ends_the_preview_with_a_word_and_touches_no_file(self):
+    def test_ends_the_preview_with_a_message_and_touches_no_file(self):
         session = self.start("User")
         session.confirm_dialog()
         self.lose(session)
         self.assertTrue(self.host.options_file.exists())
 
-    def test_ends_a_message_with_a_word_and_touches_no_file(self):
+    def test_ends_a_message_box_with_a_message_and_touches_no_file(self):
         session = self.start(None, arguments=["user", "host.html", "1", "1"])
         session.wait_for("Printing Error")
         self.lose(session)
@@ -126,7 +126,7 @@ class LostPrinter(ProgramCase):
     def environment(self):
         return {**super().environment(), **self.queue.environment}
 
-    def test_while_its_dialog_stands_is_told_and_the_preview_stays(self):
+    def test_is_reported_while_its_dialog_is_open_and_the_preview_stays(self):
         self.host.write_data("User")
         session = self.start("User")
         session.confirm_dialog()
@@ -142,7 +142,7 @@ class LostPrinter(ProgramCase):
         self.assertEqual(session.close_preview(), 0)
         self.assertEqual(self.files_left(), [])
 
-    def test_after_the_start_leaves_the_pdf(self):
+    def test_keeps_the_pdf_as_an_output_after_the_start(self):
         self.host.write_data("User")
         session = self.start("User")
         session.confirm_dialog()

@@ -23,7 +23,7 @@ class Failures(ProgramCase):
         self.assertEqual(self.standard_error(), "tarvis: command line: no argument\n")
         self.assertEqual(self.files_left(), ["User.tmp"])
 
-    def test_too_long_title_in_the_options_is_told_over_the_dialog(self):
+    def test_too_long_title_in_the_options_is_reported_over_the_dialog(self):
         self.host.options_file.write_bytes(b"File-Spec,4\r\nUserHeader,1,1,1,1,1," + b"x" * 41 + b"\r\n")
         session = self.start("User")
         text, _ = self.read_message(session, "Input Error")
@@ -81,7 +81,7 @@ class Failures(ProgramCase):
         self.expect_run_time_error(session, "User.tmp", "UserNum", "many")
         self.assertEqual(self.files_left(), ["User.tmp"])
 
-    def test_without_a_printer_the_user_is_told_and_the_run_ends(self):
+    def test_a_missing_printer_is_reported_and_the_run_ends(self):
         self.host.prepare(pdf_printer=False)
         self.host.write_data("User")
         session = self.start("User")

@@ -23,26 +23,26 @@ class FileFaults(ProgramCase):
 
 
 class TemporaryFolder(FileFaults):
-    def test_that_never_was_is_a_missing_file_after_ok(self):
+    def test_is_a_missing_file_after_ok_if_it_never_was(self):
         shutil.rmtree(self.host.temp_folder)
         session = self.start("User")
         self.confirm(session)
         self.expect_failure(session, "Parameter File is wrong.")
         self.assertTrue(self.host.options_file.exists())
 
-    def test_that_never_was_ends_the_dialog_of_a_program_table(self):
+    def test_ends_the_dialog_of_a_program_table_if_it_never_was(self):
         shutil.rmtree(self.host.temp_folder)
         self.expect_failure(self.start("IdxTbl"), "Program Table File is wrong.")
         self.assertFalse(self.host.options_file.exists())
 
-    def test_that_never_was_is_no_matter_for_settings(self):
+    def test_is_not_needed_for_settings(self):
         shutil.rmtree(self.host.temp_folder)
         session = self.start("PrnSetting")
         self.confirm(session)
         self.expect_end(session.process)
         self.assertTrue(self.host.options_file.exists())
 
-    def test_that_goes_while_the_dialog_stands_is_a_missing_file_after_ok(self):
+    def test_is_missing_after_ok_if_it_goes_while_the_dialog_is_open(self):
         self.host.write_data("Trace")
         session = self.start("Trace")
         session.wait_for(DIALOG)
@@ -50,7 +50,7 @@ class TemporaryFolder(FileFaults):
         self.confirm(session)
         self.expect_failure(session, "Tracing File is wrong.")
 
-    def test_that_goes_while_the_preview_stands_takes_nothing_from_the_document(self):
+    def test_takes_nothing_from_the_document_if_it_goes_while_the_preview_is_open(self):
         self.host.write_data("Mecha")
         session = self.start("Mecha")
         session.confirm_dialog()
@@ -60,7 +60,7 @@ class TemporaryFolder(FileFaults):
         self.assertEqual(session.close_preview(), 0)
         self.assertEqual(self.standard_error(), "")
 
-    def test_that_goes_while_the_preview_stands_is_missed_by_the_next_preview(self):
+    def test_is_missed_by_the_next_preview_if_it_goes_while_one_is_open(self):
         self.host.write_data("JogTbl")
         session = self.start("JogTbl")
         session.confirm_dialog()
@@ -72,7 +72,7 @@ class TemporaryFolder(FileFaults):
 
 
 class DataFile(FileFaults):
-    def test_written_anew_while_the_preview_stands_shows_after_the_next_ok(self):
+    def test_shows_after_the_next_ok_if_it_is_written_again_while_the_preview_is_open(self):
         self.host.write_data("JogTbl")
         data = self.host.temp_folder / "IdxJogTbl.tmp"
         session = self.start("JogTbl")
@@ -86,7 +86,7 @@ class DataFile(FileFaults):
         self.assertNotIn("Speeds grow", text)
         self.assertEqual(session.close_preview(), 0)
 
-    def test_that_is_a_folder_is_a_file_that_can_not_be_read(self):
+    def test_can_not_be_read_if_it_is_a_folder(self):
         (self.host.temp_folder / "User.tmp").mkdir()
         session = self.start("User")
         self.confirm(session)
@@ -94,7 +94,7 @@ class DataFile(FileFaults):
         self.assertIn("User.tmp", self.standard_error())
         self.assertEqual(self.files_left(), ["User.tmp"])  # only files are deleted
 
-    def test_of_five_gigabytes_is_refused_by_its_size(self):
+    def test_is_refused_by_its_size_of_five_gigabytes(self):
         data = self.host.temp_folder / "User.tmp"
         data.touch()
         os.truncate(data, 5_000_000_000)
@@ -104,14 +104,14 @@ class DataFile(FileFaults):
         self.assertIn("tarvis: User.tmp: too large: 5000000000 bytes, where 33554432 are read at most", self.standard_error())
         self.assertEqual(self.files_left(), [])
 
-    def test_that_is_a_pipe_is_not_waited_for(self):
+    def test_is_not_waited_for_if_it_is_a_pipe(self):
         os.mkfifo(self.host.temp_folder / "Trace.tmp")
         session = self.start("Trace")
         self.confirm(session)
         self.expect_failure(session, "Tracing File is wrong.")
         self.assertEqual(self.files_left(), [])
 
-    def test_that_may_not_be_read_is_wrong(self):
+    def test_is_wrong_if_it_may_not_be_read(self):
         self.host.write_data("User")
         (self.host.temp_folder / "User.tmp").chmod(0)
         session = self.start("User", through=AS_A_USER)
@@ -119,7 +119,7 @@ class DataFile(FileFaults):
         self.expect_failure(session, "Parameter File is wrong.")
         self.assertEqual(self.files_left(), [])
 
-    def test_that_can_not_be_deleted_stays_and_the_run_ends_all_the_same(self):
+    def test_stays_if_it_can_not_be_deleted_and_the_run_ends_all_the_same(self):
         self.host.write_data("User")
         self.addCleanup(self.host.temp_folder.chmod, 0o755)
         self.host.temp_folder.chmod(0o555)
@@ -145,7 +145,7 @@ class Picture(FileFaults):
         (self.host.temp_folder / name).unlink()
         return session
 
-    def test_that_goes_while_the_dialog_stands_is_told_by_its_kind(self):
+    def test_is_reported_by_its_kind_if_it_goes_while_the_dialog_is_open(self):
         for mode, name, words in self.LOST:
             with self.subTest(mode=mode, name=name):
                 session = self.lose(mode, name)
@@ -153,18 +153,18 @@ class Picture(FileFaults):
                 self.expect_failure(session, words)
                 self.assertEqual(self.data_files_left(), [])
 
-    def test_in_colour_is_told_as_one_in_colour(self):
+    def test_is_reported_as_one_in_colour(self):
         session = self.lose("Sim", "SimGraphC.emf")
         self.user.press("alt+c")
         self.confirm(session)
         self.expect_failure(session, "Graph File (Color) is not found.")
 
-    def test_that_is_not_chosen_is_not_missed(self):
+    def test_is_not_missed_if_it_is_not_chosen(self):
         session = self.lose("Sim", "SimGraphC.emf")
         session.confirm_dialog()
         self.assertEqual(session.close_preview(), 0)
 
-    def test_of_the_cover_letter_is_told_each_time(self):
+    def test_is_reported_each_time_for_the_cover_letter(self):
         self.host.write_cover()
         for _ in range(2):
             self.host.write_data("JogTbl")
@@ -175,7 +175,7 @@ class Picture(FileFaults):
             self.expect_failure(session, "Logo Mark File is not found.")
             self.assertIn(b"logo.bmp", self.host.options_file.read_bytes())
 
-    def test_that_is_no_picture_is_a_run_time_error_that_names_it(self):
+    def test_is_a_run_time_error_that_names_it_if_it_is_no_picture(self):
         self.host.write_data("Mecha")
         (self.host.temp_folder / "MechaGain.emf").write_bytes(b"no curve")
         session = self.start("Mecha")
@@ -212,23 +212,23 @@ class OptionsFile(FileFaults):
         self.host.system_folder.chmod(0o555)
         self.run_to_the_end(AS_A_USER)
 
-    def test_that_can_not_be_made_is_no_matter_for_this_run(self):
+    def test_does_not_matter_for_this_run_if_it_can_not_be_made(self):
         self.in_a_folder_without_leave()
         self.assertFalse(self.host.options_file.exists())
         self.assertEqual(self.data_files_left(), [])
 
-    def test_in_a_folder_without_leave_stays_as_it_is(self):
+    def test_stays_as_it_is_in_a_folder_without_permission(self):
         self.host.options_file.write_bytes(OPTIONS_BEFORE)
         self.in_a_folder_without_leave()
         self.assertEqual(self.host.options_file.read_bytes(), OPTIONS_BEFORE)
 
-    def test_on_a_full_disk_stays_as_it_is(self):
+    def test_stays_as_it_is_on_a_full_disk(self):
         self.host.options_file.write_bytes(OPTIONS_BEFORE)
         self.run_to_the_end(ON_A_FULL_DISK)
         self.assertEqual(self.host.options_file.read_bytes(), OPTIONS_BEFORE)
         self.assertEqual(self.beside_options(), [])
 
-    def test_on_a_full_disk_is_not_made(self):
+    def test_is_not_made_on_a_full_disk(self):
         self.run_to_the_end(ON_A_FULL_DISK)
         self.assertFalse(self.host.options_file.exists())
         self.assertEqual(self.beside_options(), [])
@@ -245,7 +245,7 @@ class OptionsFile(FileFaults):
         self.assertEqual((after.st_mode, after.st_uid, after.st_gid), (before.st_mode, before.st_uid, before.st_gid))
         self.assertEqual(self.beside_options(), [])
 
-    def test_behind_a_link_is_written_where_it_lies(self):
+    def test_is_written_where_a_link_leads(self):
         real = self.folder / "my options"
         real.write_bytes(OPTIONS_BEFORE)
         self.host.options_file.symlink_to(real)
@@ -254,25 +254,25 @@ class OptionsFile(FileFaults):
         self.assertIn(b"DrowCorp,Northport Motion Ltd.\r\n", real.read_bytes())
         self.assertIn(b"ColorType,1\r\n", real.read_bytes())
 
-    def test_with_a_link_to_nowhere_in_its_place_is_as_good_as_none(self):
+    def test_is_missing_where_a_link_to_nowhere_is_in_its_place(self):
         self.host.options_file.symlink_to(self.folder / "nowhere")
         self.run_to_the_end(())
         self.assertTrue(self.host.options_file.is_symlink())
         self.assertFalse((self.folder / "nowhere").exists())
 
-    def test_with_a_pipe_in_its_place_is_as_good_as_none(self):
+    def test_is_missing_where_a_pipe_is_in_its_place(self):
         os.mkfifo(self.host.options_file)
         self.run_to_the_end(())
         self.assertTrue(self.host.options_file.is_fifo())
 
-    def test_that_may_not_be_read_is_failure_10_and_stays(self):
+    def test_is_failure_10_and_stays_if_it_may_not_be_read(self):
         self.host.options_file.write_bytes(OPTIONS_BEFORE)
         self.host.options_file.chmod(0)
         session = self.start("PrnSetting", through=AS_A_USER)
         self.expect_failure(session, "Printing Items Setting File is wrong.")
         self.assertEqual(self.host.options_file.read_bytes(), OPTIONS_BEFORE)
 
-    def test_with_a_folder_in_its_place_is_as_good_as_none(self):
+    def test_is_missing_where_a_folder_is_in_its_place(self):
         self.host.options_file.mkdir()
         self.run_to_the_end(())
         self.assertTrue(self.host.options_file.is_dir())
@@ -298,13 +298,13 @@ class SavedPdf(FileFaults):
         wait_until(lambda: len(self.program.windows()) == 1, "the message to go")
         self.assertEqual(session.close_preview(), 0)
 
-    def test_on_a_full_disk_leaves_nothing(self):
+    def test_creates_nothing_on_a_full_disk(self):
         session = self.start_preview(ON_A_FULL_DISK)
         session.ask_for_pdf(self.target / "document.pdf")
         self.expect_refusal(session)
         self.assertEqual(list(self.target.iterdir()), [])
 
-    def test_on_a_full_disk_leaves_the_one_before(self):
+    def test_keeps_the_one_before_on_a_full_disk(self):
         before = self.target / "document.pdf"
         before.write_bytes(b"the one before")
         session = self.start_preview(ON_A_FULL_DISK)
@@ -313,7 +313,7 @@ class SavedPdf(FileFaults):
         self.assertEqual([(path.name, path.read_bytes()) for path in self.target.iterdir()],
                          [("document.pdf", b"the one before")])
 
-    def test_in_a_folder_without_leave_is_told_with_its_reason(self):
+    def test_is_reported_with_its_reason_in_a_folder_without_permission(self):
         self.target.chmod(0o555)
         session = self.start_preview(AS_A_USER)
         session.ask_for_pdf(self.target / "document.pdf")

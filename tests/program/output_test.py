@@ -57,7 +57,7 @@ class PrintedFile(Output):
         self.assertLess(abs(printed.stat().st_size - saved.stat().st_size), 100)
         self.assertEqual(session.close_preview(), 0)
 
-    def test_on_a_full_disk_leaves_the_one_before(self):
+    def test_keeps_the_one_before_on_a_full_disk(self):
         session = self.start_preview()
         printed = self.proposed_file(session)
         self.assertEqual(session.close_preview(), 0)
@@ -109,8 +109,8 @@ class SavedFile(Output):
         self.assertTrue(stat.S_ISFIFO(fifo.stat().st_mode))
 
 
-class NothingElse(Output):
-    def test_of_the_dialogs_is_left_in_the_users_home(self):
+class OtherFile(Output):
+    def test_does_not_stay_in_the_users_home(self):
         session = self.start_preview()
         session.save_pdf(self.home / "saved.pdf")
         self.assertEqual(session.close_preview(), 0)

@@ -53,17 +53,17 @@ class Silence(ProgramCase):
         self.user.press_until("Escape", DIALOG, 0)
         self.expect_end(session.process)
 
-    def test_of_the_display_is_told(self):
+    def test_is_reported_for_the_display(self):
         display = f"127.0.0.1:{self.silent_port() - 6000}"
         self.start("User", environment={"DISPLAY": display})
         self.expect_told(f"the display {display}")
 
-    def test_of_the_print_system_is_told(self):
+    def test_is_reported_for_the_print_system(self):
         self.host.prepare(pdf_printer=False)
         self.start("User", environment={"CUPS_SERVER": f"127.0.0.1:{self.silent_port()}"})
         self.expect_told("the print system")
 
-    def test_of_the_print_system_counts_as_no_printer_after_half_a_minute(self):
+    def test_counts_as_no_printer_after_half_a_minute_for_the_print_system(self):
         self.host.prepare(pdf_printer=False)
         session = self.start("User", environment={"CUPS_SERVER": f"127.0.0.1:{self.silent_port()}"})
         begin = time.monotonic()
@@ -72,12 +72,12 @@ class Silence(ProgramCase):
         self.assertLess(time.monotonic() - begin, 90)
         self.answer_and_end(session, 0)
 
-    def test_of_the_print_system_holds_nobody_up_who_counts_the_pdf_as_a_printer(self):
+    def test_keeps_nobody_waiting_who_counts_the_pdf_as_a_printer(self):
         session = self.start("User", environment={"CUPS_SERVER": f"127.0.0.1:{self.silent_port()}"})
         session.wait_for(DIALOG)
         self.assertEqual(self.standard_error(), "")
 
-    def test_of_the_window_manager_is_told(self):
+    def test_is_reported_for_the_window_manager(self):
         root = subprocess.run(["xprop", "-root", "_OPENBOX_PID"], env={**os.environ, **self.display.environment},
                               capture_output=True, text=True, check=True).stdout
         manager = int(root.split()[-1])
@@ -88,16 +88,16 @@ class Silence(ProgramCase):
         os.kill(manager, signal.SIGCONT)
         session.wait_for(DIALOG)
 
-    def test_of_the_session_bus_leaves_it_out(self):
+    def test_makes_the_program_do_without_the_session_bus(self):
         bus = self.silent_bus("silent")
         self.expect_left_out({"DBUS_SESSION_BUS_ADDRESS": bus}, "message bus of the session", bus)
 
-    def test_of_the_session_bus_in_its_usual_place_leaves_it_out(self):
+    def test_makes_the_program_do_without_the_session_bus_in_its_usual_place(self):
         self.silent_bus("bus")
         self.expect_left_out({"DBUS_SESSION_BUS_ADDRESS": None}, "message bus of the session",
                              f"unix:path={self.folder}/bus")
 
-    def test_of_the_bus_of_the_assistive_tools_leaves_it_out(self):
+    def test_makes_the_program_do_without_the_bus_of_the_assistive_tools(self):
         bus = self.silent_bus("silent")
         self.expect_left_out({"AT_SPI_BUS_ADDRESS": bus}, "message bus of the assistive tools", bus)
 

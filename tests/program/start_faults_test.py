@@ -23,13 +23,13 @@ class WithoutDisplay(ProgramCase):
         self.assertEqual(self.files_left(), ["User.tmp"])
         self.assertFalse(self.host.options_file.exists())
 
-    def test_unset(self):
+    def test_is_reported_where_no_display_is_set(self):
         self.expect_one_line({"DISPLAY": None}, "could not connect to display (DISPLAY is not set)")
 
-    def test_that_nobody_serves(self):
+    def test_is_reported_where_nobody_serves_the_display(self):
         self.expect_one_line({"DISPLAY": ":7777"}, "could not connect to display :7777")
 
-    def test_of_a_kind_that_the_toolkit_does_not_know(self):
+    def test_is_reported_for_a_kind_that_the_toolkit_does_not_know(self):
         self.expect_one_line({"QT_QPA_PLATFORM": "easel"}, 'Could not find the Qt platform plugin "easel" in ""')
 
 
@@ -39,7 +39,7 @@ class Fonts(ProgramCase):
         configuration.write_text(FONTS.format(folder=folder, cache=self.folder / "fontcache"))
         return {"FONTCONFIG_FILE": str(configuration)}
 
-    def test_none_ends_the_run_before_a_page_of_boxes_is_shown(self):
+    def test_end_the_run_before_a_page_of_boxes_is_shown_if_there_are_none(self):
         self.host.write_data("User")
         session = self.start("User", environment=self.with_fonts_of(self.folder / "none"))
         self.expect_end(session.process, 1)
@@ -47,7 +47,7 @@ class Fonts(ProgramCase):
                          "tarvis: no font is installed, so no text can be shown; install Arial or Liberation Sans\n")
         self.assertEqual(self.files_left(), ["User.tmp"])
 
-    def test_without_the_reports_own_is_told_and_pages_can_be_read(self):
+    def test_are_reported_without_those_of_the_reports_and_pages_can_be_read(self):
         self.host.write_data("User")
         session = self.start("User", environment=self.with_fonts_of(CJK_FONTS))
         session.confirm_dialog()
@@ -69,30 +69,30 @@ class Configuration(ProgramCase):
         self.assertEqual(self.standard_error().splitlines()[len(words):],
                          ["tarvis: no such version of edition 1: ''"])
 
-    def test_missing(self):
+    def test_is_reported_if_it_is_missing(self):
         self.host.configuration.unlink()
         self.expect_wrong_argument("can't be read: No such file or directory")
 
-    def test_that_may_not_be_read(self):
+    def test_is_reported_if_it_may_not_be_read(self):
         self.host.configuration.chmod(0)
         self.expect_wrong_argument("can't be read: Permission denied", through=AS_A_USER)
 
-    def test_that_is_a_folder(self):
+    def test_is_reported_if_it_is_a_folder(self):
         self.host.configuration.unlink()
         self.host.configuration.mkdir()
         self.expect_wrong_argument("can't be read: Is a directory")
 
-    def test_that_is_a_pipe_holds_up_nothing(self):
+    def test_keeps_nothing_waiting_if_it_is_a_pipe(self):
         self.host.configuration.unlink()
         os.mkfifo(self.host.configuration)
         self.expect_wrong_argument("can't be read: is no regular file")
 
-    def test_of_random_bytes(self):
+    def test_is_refused_with_random_bytes(self):
         self.host.configuration.write_bytes(bytes(k * k % 251 for k in range(100_000)))
         section = r"[SOFTWARE\Korvane\Tessaline\Brenmark\Quillon\Setup]"
         self.expect_wrong_argument(*(f"there is no {name} in {section}" for name in ("SystemPath", "Quillon", "QuillonHelpPath")))
 
-    def test_that_begins_with_a_byte_order_mark_is_read_as_any_other(self):
+    def test_is_read_as_any_other_with_a_byte_order_mark(self):
         self.host.configuration.write_bytes(b"\xef\xbb\xbf" + self.host.configuration.read_bytes())
         session = self.start("PrnSetting")
         session.wait_for(DIALOG)
@@ -100,25 +100,25 @@ class Configuration(ProgramCase):
         self.expect_end(session.process)
         self.assertEqual(self.standard_error(), "")
 
-    def test_with_a_code_page_that_is_no_code_page_of_bytes_is_a_run_time_error(self):
+    def test_is_a_run_time_error_with_a_code_page_that_is_not_of_bytes(self):
         text = self.host.configuration.read_text()
         self.host.configuration.write_text(text.replace("CodePage=1252", "CodePage=1200"))
         self.expect_run_time_error(self.start("PrnSetting"), str(self.host.configuration), "CodePage",
                                    "not a code page that holds ASCII", "1200")
 
-    def test_without_a_version(self):
+    def test_is_reported_without_a_version(self):
         kept = [line for line in self.host.configuration.read_text().splitlines() if not line.startswith("Quillon=")]
         self.host.configuration.write_text("\n".join(kept))
         self.expect_wrong_argument(r"there is no Quillon in [SOFTWARE\Korvane\Tessaline\Brenmark\Quillon\Setup]")
 
-    def test_missing_holds_nobody_up_who_needs_no_version(self):
+    def test_keeps_nobody_from_printing_who_needs_no_version(self):
         self.host.configuration.unlink()
         session = self.start("PrnSetting", edition=2)
         session.wait_for(DIALOG)
         self.user.press("Escape")
         self.expect_end(session.process)
 
-    def test_with_a_code_page_that_nobody_knows_is_a_run_time_error(self):
+    def test_is_a_run_time_error_with_a_code_page_that_nobody_knows(self):
         text = self.host.configuration.read_text()
         self.host.configuration.write_text(text.replace("CodePage=1252", "CodePage=12x"))
         self.expect_run_time_error(self.start("PrnSetting"), "CodePage", "12x")
@@ -136,7 +136,7 @@ class StandardError(ProgramCase):
     def write_wrong_data(self):
         (self.host.temp_folder / "User.tmp").write_bytes(b"File-Spec,3\r\nParameterNum,1\r\n")
 
-    def test_closed(self):
+    def test_may_be_closed(self):
         self.write_wrong_data()
         session = self.start("User", through=CLOSED)
         session.wait_for(DIALOG)
@@ -144,7 +144,7 @@ class StandardError(ProgramCase):
         self.assertEqual(streams, ["/dev/null"] * 3)  # else a diagnosis goes into some file or connection
         self.expect_failure_3(session)
 
-    def test_that_nobody_reads_any_more(self):
+    def test_may_be_a_pipe_that_nobody_reads_any_more(self):
         self.write_wrong_data()
         kept, given = socket.socketpair()
         with given:

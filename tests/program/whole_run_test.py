@@ -23,7 +23,7 @@ class WholeRun(ProgramCase):
     def environment(self):
         return {**super().environment(), **self.queue.environment}
 
-    def test_from_launch_to_exit(self):
+    def test_goes_from_launch_to_exit(self):
         self.host.write_data("User")
         (self.host.temp_folder / "graph of another run.emf").write_bytes(b"x")
         session = self.start("User")

@@ -27,8 +27,14 @@ class CheckNames(TreeCheck):
         self.expect_breach({"tests/a.cpp": "\nTEST_F(DialogTest, Opens) {}\n"}, "tests/a.cpp:2: the suite DialogTest")
 
     def test_case_that_goes_on_with_the_name_of_its_suite_is_named(self):
-        for case in ("OfAFirstRun", "Of24Bits", "WithoutCount"):
+        for case in ("OfAFirstRun", "Of24Bits", "WithoutCount", "ThatIsMissing"):
             self.expect_breach({"tests/a.cpp": f"TEST(File,\n     {case}) {{}}\n"}, f"tests/a.cpp:1: the case {case}")
+
+    def test_test_of_a_script_is_named_in_the_same_way(self):
+        self.expect_breach({"tests/a_test.py": "class File:\n    def test_of_a_first_run(self):\n"},
+                           "tests/a_test.py:2: the test of_a_first_run")
+        self.expect_breach({"tests/a_test.py": "def test_ReadsLines():\n"}, "the test ReadsLines")
+        self.expect_clean({"tests/a_test.py": "def test_offers_nothing_and_reads_8_lines():\n"})
 
     def test_case_in_another_case_is_named(self):
         self.expect_breach({"tests/a.cpp": "TEST(File, reads_lines) {}\n"}, "the case reads_lines")

@@ -206,7 +206,7 @@ class Paths(unittest.TestCase):
             if path.is_dir() and not path.name.startswith(".") and path.name not in ("build", "docs", "src"):
                 self.assertTrue(any(span.split("/")[0] == path.name for span in architecture.spans), path.name)
 
-    def test_architecture_tells_each_target_with_what_it_links(self):
+    def test_architecture_lists_each_target_with_what_it_links(self):
         architecture = next(document for document in documents() if document.name == "docs/architecture.md")
         rows = {}
         for folder, _, target, links in architecture.rows("### Targets"):

@@ -45,7 +45,7 @@ class Keys(unittest.TestCase):
         documented = {row[0]: re.findall(r"`([^`]+)`", row[1]) for row in GUIDE.rows("In the preview:")}
         self.assertEqual(documented, self.commands())
 
-    def test_keys_of_the_page_view_are_told(self):
+    def test_keys_of_the_page_view_are_described(self):
         documented = {key for row in GUIDE.rows("While the pages have the focus:") for key in re.findall(r"`(\w+)`", row[0])}
         self.assertEqual(documented, set(re.findall(r"KeyStep\{Qt::Key_(\w+),", source("preview/pages/page_input.cpp"))))
 
@@ -56,13 +56,13 @@ class Captions(unittest.TestCase):
         for caption in sorted(captions):
             self.assertIn(plain(caption), GUIDE.text)
 
-    def test_every_box_and_choice_of_the_item_pages_is_told(self):
+    def test_every_box_and_choice_of_the_item_pages_is_described(self):
         found = set()
         for page in SRC.glob("dialogs/pages/Inf*.cpp"):
             found |= set(re.findall(r'"(?:chkItem\w+|optRange)", \w+, "([^"]+)"', page.read_text(encoding="utf-8")))
         self.expect_told(found, 20)
 
-    def test_every_box_of_header_and_footer_is_told(self):
+    def test_every_box_of_header_and_footer_is_described(self):
         text = source("dialogs/pages/item_page.cpp")
         self.expect_told(set(re.findall(r'\{"([^"]+)", &HeaderOptions::', text)) |
                          set(re.findall(r'"chkFooter", NoFamily, "([^"]+)"', text)), 5)
@@ -97,7 +97,7 @@ class ManualPages(unittest.TestCase):
     def page(self, name):
         return (ROOT / "packaging" / name).read_text(encoding="utf-8")
 
-    def test_every_mode_stands_under_its_editions(self):
+    def test_every_mode_is_listed_under_its_editions(self):
         choices = set(re.findall(r'ModeChoice\{(\d), "(\w+)"', source("session/function_list.cpp")))
         documented = set()
         for edition, modes in re.findall(r"^\.TP\n(\d)(?:, version \d00)?\n(.+)$", self.page("tarvis.1"), re.MULTILINE):
@@ -106,7 +106,7 @@ class ManualPages(unittest.TestCase):
         for _, mode in choices:
             self.assertIn(f"`{mode}`", (ROOT / "README.md").read_text(encoding="utf-8"))
 
-    def test_every_value_of_the_configuration_is_told(self):
+    def test_every_value_of_the_configuration_is_described(self):
         page = self.page("tarvis.ini.5").replace(r"\(rs", "\\")
         keys = re.findall(r'EditionKeys\{\d, R"\(([^)]+)\)", "(\w+)", "(\w+)",\s*"(\w+)"\}', source("launch/system_paths.cpp"))
         self.assertEqual(len(keys), 3)
@@ -119,7 +119,7 @@ class ManualPages(unittest.TestCase):
 
 
 class Messages(unittest.TestCase):
-    def test_every_numbered_failure_is_told_with_its_number(self):
+    def test_every_numbered_failure_is_listed_with_its_number(self):
         table = re.search(r"Messages = \{(.*?)\};", source("run/failures.cpp"), re.DOTALL)[1]
         messages = re.findall(r'"([^"]+)"', table)
         self.assertEqual(len(messages), 17)
@@ -127,7 +127,7 @@ class Messages(unittest.TestCase):
         documented = {row[0]: row[1] for row in GUIDE.rows("confirmed in the dialog is kept.")}
         self.assertEqual(documented, {str(number): text for number, text in enumerate(messages, 1)})
 
-    def test_every_other_message_is_told(self):
+    def test_every_other_message_is_described(self):
         sentence = re.compile(r'(?:tr\(|Box box\([^;]*?)"([A-Z][^"]*\.)"')
         found = {text for name in ("preview/window/document_output.cpp", "platform/system_printers.cpp", "dialogs/pages/InfIdxTbl.cpp")
                  for text in sentence.findall(source(name))}
@@ -180,7 +180,7 @@ class FileKeys(unittest.TestCase):
             if re.search(r"KeyTable|OptionLine", text) and reader.stem != "key_table":
                 yield reader, text
 
-    def test_every_key_of_the_readers_is_told(self):
+    def test_every_key_of_the_readers_is_described(self):
         documented = set(FORMATS.spans)
         count = 0
         for reader, text in self.tables():
@@ -203,7 +203,7 @@ class FileKeys(unittest.TestCase):
                 for key in re.findall(r"`([^`]+)`", row.split("|")[1]):
                     yield key, name
 
-    def test_every_key_that_is_told_is_known(self):
+    def test_every_key_that_is_described_is_known(self):
         keys = list(self.told_keys())
         self.assertGreaterEqual(len(keys), 170)
         with tempfile.TemporaryDirectory() as folder:

@@ -97,7 +97,7 @@ class InstallPackages(unittest.TestCase):
         self.assertEqual(len(sudo), 2)
         self.assertTrue(sudo[1].endswith("compiler library-dev"), sudo)
 
-    def test_an_ordinary_user_without_sudo_is_told_the_one_command(self):
+    def test_an_ordinary_user_without_sudo_is_shown_the_one_command(self):
         self.debian(installed=["compiler", "player"], known=["old-font"], user=1000)
         done = self.run_for("playing")
         self.assertEqual(done.returncode, 1)
@@ -112,7 +112,7 @@ class InstallPackages(unittest.TestCase):
         self.assertIn("gardening", done.stderr)
         self.assertFalse(self.calls.exists())
 
-    def test_without_package_tools_the_missing_are_named_with_the_least_version(self):
+    def test_the_missing_are_named_with_the_least_version_without_package_tools(self):
         self.command("pkg-config", "exit 1")
         done = self.run_for("playing", "reading")
         self.assertEqual(done.returncode, 1)
@@ -123,12 +123,12 @@ class InstallPackages(unittest.TestCase):
         self.assertIn("the font Some Font", lines)
         self.assertIn(f"the file {self.folder}/manual", lines)
 
-    def test_without_package_tools_a_library_of_an_older_version_is_missing(self):
+    def test_a_library_of_an_older_version_is_missing_without_package_tools(self):
         self.command("compiler-command", "")
         self.command("pkg-config", 'case $2 in "library-module >= 6.4") exit 1 ;; esac')
         self.assertIn("version 6.4", self.run_for("building").stderr)
 
-    def test_without_package_tools_the_way_goes_on_if_nothing_is_missing(self):
+    def test_nothing_stops_without_package_tools_if_nothing_is_missing(self):
         for name in ("compiler-command", "pkg-config", "player-command"):
             self.command(name, "")
         self.command("fc-list", 'test "$*" = "Some Font" && echo found')

@@ -96,7 +96,7 @@ class Lint(unittest.TestCase):
         self.write("src/text/lines.cpp", "int two;\n")
         self.commit()
 
-    def test_on_main_what_the_remote_branch_does_not_hold_is_looked_at(self):
+    def test_what_the_remote_branch_does_not_hold_is_looked_at_on_main(self):
         self.git("tag", "older")
         self.commit()
         remote = self.root.parent / "remote.git"
@@ -106,13 +106,13 @@ class Lint(unittest.TestCase):
         self.change_two_files_in_two_commits()
         self.assertEqual(self.lint("--changed"), {"dev-asan": {"src/text/dates.cpp", "src/text/lines.cpp"}})
 
-    def test_on_main_without_remote_what_has_changed_since_the_last_tag_is_looked_at(self):
+    def test_what_has_changed_since_the_last_tag_is_looked_at_on_main_without_remote(self):
         self.git("tag", "older")
         self.change_two_files_in_two_commits()
         self.git("tag", "newest")
         self.assertEqual(self.lint("--changed"), {"dev-asan": {"src/text/dates.cpp", "src/text/lines.cpp"}})
 
-    def test_on_main_without_remote_and_tag_the_last_commit_is_looked_at(self):
+    def test_the_last_commit_is_looked_at_on_main_without_remote_and_tag(self):
         self.change_two_files_in_two_commits()
         self.assertEqual(self.lint("--changed"), {"dev-asan": {"src/text/lines.cpp"}})
 

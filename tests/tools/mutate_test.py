@@ -71,7 +71,7 @@ class Changes(unittest.TestCase):
     def test_declarations_of_a_class_are_no_statements(self):
         self.assertEqual(mutants_of("a.h", "class A {\n  A();\n  void B(int c);\n  int d_;\n};\n"), [])
 
-    def test_changes_stand_side_by_side_in_the_switched_code(self):
+    def test_changes_are_side_by_side_in_the_switched_code(self):
         code = "void F() {\n  if (a < 1) b = c + 2;\n}\n"
         numbered = [(number, mutant) for number, mutant in enumerate(mutants_of("a.cpp", code)) if mutant.switch(0)]
         self.assertEqual(with_switches(code, numbered),
@@ -79,7 +79,7 @@ class Changes(unittest.TestCase):
                          "void F() {\n  if (IsMutated(0LL) != static_cast<bool>(a < Switch{1LL} < Mutated(2LL, 1, 2))) "
                          "{ if (!IsMutated(3LL)) b = c + Switch{4LL} + Mutated(5LL, 2, 3); }\n}\n")
 
-    def test_the_line_is_told_and_the_rest_of_the_code_stays(self):
+    def test_the_line_is_named_and_the_rest_of_the_code_stays(self):
         code = "int a() {\n  return 1;\n}\n"
         mutant, = mutants_of("a.cpp", code)
         self.assertEqual(str(mutant), "a.cpp:2: number: 1 -> 2")

@@ -126,7 +126,7 @@ class Package(unittest.TestCase):
             text.write_bytes(gzip.decompress(page.read_bytes()))
             self.assertEqual(output_of("mandoc", "-T", "lint", text), "")
 
-    def test_manual_page_tells_the_same_as_the_checker_itself(self):
+    def test_manual_page_says_the_same_as_the_checker_itself(self):
         done = subprocess.run([self.root / "usr/bin/tarvis-check"], capture_output=True, text=True, check=False)
         self.assertEqual(done.returncode, 1)
         page = (ROOT / "packaging/tarvis-check.1").read_text()
@@ -184,7 +184,7 @@ class PackageLife(unittest.TestCase):
         self.assertEqual(before - self.system.files(), {"usr/share/doc/tarvis/user-guide.md"})
         self.assertEqual(self.system.files() - before, set())
 
-    def test_removal_and_purge_leave_nothing_behind(self):
+    def test_removal_and_purge_leave_no_file(self):
         for action in ("-r", "-P"):
             self.system.dpkg("-i", package())
             self.assertIn("usr/bin/tarvis", self.system.files())

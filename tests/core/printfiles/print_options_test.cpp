@@ -346,7 +346,7 @@ TEST_F(PrintOptionsFile, StaysWholeWhereTheNewOneCanNotBeWritten) {
   EXPECT_EQ(Folder.Read("PrintOption.ToT"), kDefaultFile);
 }
 
-TEST_F(PrintOptionsFile, ThatCanNotBeWrittenGivesFalseAndNothingElse) {
+TEST_F(PrintOptionsFile, GivesFalseAndNothingElseIfItCanNotBeWritten) {
   EXPECT_FALSE(WritePrintOptionsFile(Run, Folder.HostPath("no\\such\\folder\\PrintOption.ToT")));
   std::filesystem::create_directory(Folder.Path() / "PrintOption.ToT");
   EXPECT_FALSE(WritePrintOptionsFile(Run, Path()));

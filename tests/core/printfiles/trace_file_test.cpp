@@ -141,7 +141,7 @@ TEST_F(TraceFile, NamesTheLineOfAnUnknownKey) {
   EXPECT_EQ(Run.Session.Diagnosis, "Trace.tmp:17: unknown key 'Cursolselect'");
 }
 
-TEST_F(TraceFile, ThatIsMissingGivesNoLines) {
+TEST_F(TraceFile, GivesNoLinesIfItIsMissing) {
   const TempFolder folder;
   EXPECT_EQ(LoadLines(Run, folder.HostPath("Trace3.tmp")), -1);
   EXPECT_EQ(Run.Session.Diagnosis, "Trace3.tmp: can't be read");
