@@ -35,8 +35,7 @@ struct ItemLabel {
 
 // An element of whichever option key a page edits.
 struct ElementNumber {
-  template <typename Element>
-  requires std::is_enum_v<Element>
+  template <typename Element, std::enable_if_t<std::is_enum_v<Element>, int> = 0>
   constexpr ElementNumber(Element element) : Value(static_cast<int>(element)) {}
 
   int Value;  // counted from 1
