@@ -49,7 +49,7 @@ class Mutant:
     start: int
     old: str
     new: str
-    operands: int = 0  # of an operator that can be switched: 1 if it stands before the only one
+    operands: int = 0  # of an operator that can be switched: 1 if it is before the only one
 
     @property
     def end(self):

@@ -87,7 +87,7 @@ class Changes(unittest.TestCase):
 
 
 class Switches(unittest.TestCase):
-    """The program prints what each kind of change alters, so that two changes of it can be told apart."""
+    """The program prints what each kind of change alters, so that no two changes of it are the same."""
     CODE = """#include <cstdio>
 #include <optional>
 int main() {
