@@ -1,6 +1,6 @@
 // Compiled into the copy of tools/mutate only, where many changes are side by side: the one whose number
-// the environment variable TARVIS_MUTANT holds is made, all others are not. With TARVIS_REACHED, the numbers of all
-// changes that the process comes by are written into the file of that name when it ends.
+// the environment variable TARVIS_MUTANT holds is made, all others are not. With TARVIS_REACHED, the numbers
+// of all changes that the process comes by are written into the file of that name when it ends.
 #pragma once
 
 #include <cstdio>
@@ -42,29 +42,30 @@ constexpr Old Mutated(long long number, Old old, New changed) {
   return IsMutated(number) ? static_cast<Old>(changed) : old;
 }
 
-// `a < b` becomes `a < Switch{number} < b`: the first operator keeps `a`, the second one compares as the number decides.
-// Both have the precedence of the operator that they replace, so nothing around them need be known.
+// `a < b` becomes `a < Switch{number} < b`: the first operator keeps `a`, the second one compares as the
+// number decides. Both have the precedence of the operator that they replace, so nothing around them need be
+// known.
 struct Switch {
   long long number;
 };
 
-#define TARVIS_SWITCHED(Half, present, changed)                                                    \
-  template <typename Left>                                                                         \
-  struct Half {                                                                                    \
-    Left&& left;                                                                                   \
-    long long number;                                                                              \
-  };                                                                                               \
-  template <typename Left>                                                                         \
-  constexpr Half<Left> operator present(Left&& left, Switch chosen) {                              \
-    return {std::forward<Left>(left), chosen.number};                                              \
-  }                                                                                                \
-  template <typename Left, typename Right>                                                         \
-  constexpr decltype(auto) operator present(Half<Left> half, Right&& right) {                      \
-    using Result = decltype(half.left present right);                                              \
-    if constexpr (requires { static_cast<Result>(half.left changed right); }) {                    \
-      if (IsMutated(half.number)) return static_cast<Result>(half.left changed right);             \
-    }                                                                                              \
-    return static_cast<Result>(half.left present right);                                           \
+#define TARVIS_SWITCHED(Half, present, changed)                                        \
+  template <typename Left>                                                             \
+  struct Half {                                                                        \
+    Left&& left;                                                                       \
+    long long number;                                                                  \
+  };                                                                                   \
+  template <typename Left>                                                             \
+  constexpr Half<Left> operator present(Left&& left, Switch chosen) {                  \
+    return {std::forward<Left>(left), chosen.number};                                  \
+  }                                                                                    \
+  template <typename Left, typename Right>                                             \
+  constexpr decltype(auto) operator present(Half<Left> half, Right&& right) {          \
+    using Result = decltype(half.left present right);                                  \
+    if constexpr (requires { static_cast<Result>(half.left changed right); }) {        \
+      if (IsMutated(half.number)) return static_cast<Result>(half.left changed right); \
+    }                                                                                  \
+    return static_cast<Result>(half.left present right);                               \
   }
 
 TARVIS_SWITCHED(HalfLess, <, <=)
@@ -78,26 +79,26 @@ TARVIS_SWITCHED(HalfDifference, -, +)
 TARVIS_SWITCHED(HalfProduct, *, /)
 
 // Assignments are evaluated from the right: `a += Switch{number} += b` keeps `b` first.
-#define TARVIS_SWITCHED_ASSIGNMENT(Half, present, changed)                                         \
-  template <typename Right>                                                                        \
-  struct Half {                                                                                    \
-    Right&& right;                                                                                 \
-    long long number;                                                                              \
-  };                                                                                               \
-  template <typename Right>                                                                        \
-  constexpr Half<Right> operator present(Switch chosen, Right&& right) {                           \
-    return {std::forward<Right>(right), chosen.number};                                            \
-  }                                                                                                \
-  template <typename Left, typename Right>                                                         \
-  constexpr Left& operator present(Left& left, Half<Right> half) {                                 \
-    if constexpr (requires { left changed half.right; }) {                                         \
-      if (IsMutated(half.number)) {                                                                \
-        left changed half.right;                                                                   \
-        return left;                                                                               \
-      }                                                                                            \
-    }                                                                                              \
-    left present half.right;                                                                       \
-    return left;                                                                                   \
+#define TARVIS_SWITCHED_ASSIGNMENT(Half, present, changed)               \
+  template <typename Right>                                              \
+  struct Half {                                                          \
+    Right&& right;                                                       \
+    long long number;                                                    \
+  };                                                                     \
+  template <typename Right>                                              \
+  constexpr Half<Right> operator present(Switch chosen, Right&& right) { \
+    return {std::forward<Right>(right), chosen.number};                  \
+  }                                                                      \
+  template <typename Left, typename Right>                               \
+  constexpr Left& operator present(Left& left, Half<Right> half) {       \
+    if constexpr (requires { left changed half.right; }) {               \
+      if (IsMutated(half.number)) {                                      \
+        left changed half.right;                                         \
+        return left;                                                     \
+      }                                                                  \
+    }                                                                    \
+    left present half.right;                                             \
+    return left;                                                         \
   }
 
 TARVIS_SWITCHED_ASSIGNMENT(HalfIncrease, +=, -=)
@@ -136,7 +137,8 @@ constexpr Operand& operator->*(StepSwitch chosen, Operand& operand) {
   return operand;
 }
 
-// `a ? b : c` becomes `a ^ Flip{number} ? b : c`; no operator that a condition is made of binds less close but && and ||.
+// `a ? b : c` becomes `a ^ Flip{number} ? b : c`; no operator that a condition is made of binds less close
+// but && and ||.
 struct Flip {
   long long number;
 };

@@ -1,9 +1,10 @@
 // The common header, the small blocks and the band.
+#include "report/rptBaseHeader.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "report/band_bitmap.h"
-#include "report/rptBaseHeader.h"
 #include "support/report_run.h"
 #include "support/sample_report.h"
 
