@@ -11,6 +11,7 @@ namespace {
 constexpr auto WithoutComparison = static_cast<std::size_t>(SimElement::Comments);
 
 using Marks = std::vector<const std::int16_t*>;
+using HeaderOfPage = HeaderOptions PrintOptions::*;
 
 Marks Pointers(std::span<const std::int16_t> elements) {
   Marks marks;
@@ -20,7 +21,7 @@ Marks Pointers(std::span<const std::int16_t> elements) {
 
 struct PageEntry {
   PageId Page;
-  HeaderOptions PrintOptions::*Header;
+  HeaderOfPage Header;
   const char* OverlapFile;
   Marks (*List)(const PrintOptions&);
 };

@@ -68,8 +68,7 @@ TEST_F(PrintServerOfTheUser, IsNotSilentIfItAnswers) {
 }
 
 TEST_F(PrintServerOfTheUser, IsNotSilentIfNobodyListens) {
-  std::string gone;
-  { gone = Server().Name(); }
+  const std::string gone = Server().Name();
   Use(gone.c_str());
   EXPECT_FALSE(PrintServerIsSilent(60s));
   Use("/nowhere/print.sock");

@@ -20,8 +20,6 @@ constexpr Bounds PageBounds{180, 840, 5055, 3050};
 constexpr Bounds TabBounds{0, 0, 4935, 3015};
 constexpr int RuleGap = 90;  // twips between a heading and its rule, and between rule and tab edge
 
-using HeaderElement = std::int16_t HeaderOptions::*;
-
 // Of the option keys of the tables.
 enum class OnlyElement { Comments = 1 };
 
@@ -97,7 +95,7 @@ void ItemPage::AddTitleBox(QWidget* tab) {
   connect(&title, &TickBox::ValueChanged, this, [this, &title] { txtTitle_->setEnabled(title.IsOn()); });
 }
 
-TickBox& ItemPage::HeaderBox(std::int16_t HeaderOptions::*element) const {
+TickBox& ItemPage::HeaderBox(HeaderElement element) const {
   const auto plan = std::find_if(HeaderBoxes.begin(), HeaderBoxes.end(),
                                  [&](const HeaderBoxPlan& box) { return box.Element == element; });
   return *chkHeader_.at(static_cast<std::size_t>(plan - HeaderBoxes.begin()));

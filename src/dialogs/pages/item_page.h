@@ -33,6 +33,8 @@ struct ItemLabel {
   Bounds Place;
 };
 
+using HeaderElement = std::int16_t HeaderOptions::*;
+
 // An element of whichever option key a page edits.
 struct ElementNumber {
   template <typename Element, std::enable_if_t<std::is_enum_v<Element>, int> = 0>
@@ -93,7 +95,7 @@ class ItemPage : public QWidget {
   PrintRun& Run() const { return run_; }
   HeaderOptions& Header() const { return header_; }
   // The box of an element of the header options.
-  TickBox& HeaderBox(std::int16_t HeaderOptions::*element) const;
+  TickBox& HeaderBox(HeaderElement element) const;
 
   void AddLabels(QWidget* tab, std::initializer_list<ItemLabel> labels);
   // The boxes in the order given, each writing through to its element of `elements` on a click. Starts

@@ -156,20 +156,15 @@ void PreviewWindow::MakeToolbar() {
 }
 
 PreviewWindow::Handlers PreviewWindow::MakeHandlers() {
+  const auto jumpToPage = [this](int page) { Jump({page, 0}); };
   return {
       {Command::Print, [this](bool) { output_->Print(); }},
       {Command::SavePdf, [this](bool) { output_->SavePdf(); }},
       {Command::SidePane, [this](bool checked) { pane_->setVisible(checked); }},
-      {Command::FirstPage,
-       [this](bool) {
-         Jump({0, 0});
-       }},
+      {Command::FirstPage, [jumpToPage](bool) { jumpToPage(0); }},
       {Command::PreviousPage, [this](bool) { ScrollPages(*view_, -1); }},
       {Command::NextPage, [this](bool) { ScrollPages(*view_, 1); }},
-      {Command::LastPage,
-       [this](bool) {
-         Jump({view_->Layout().PageCount() - 1, 0});
-       }},
+      {Command::LastPage, [this, jumpToPage](bool) { jumpToPage(view_->Layout().PageCount() - 1); }},
       {Command::GoToPage, [this](bool) { pageBox_->StartTyping(); }},
       {Command::Back, [this](bool) { Walk(history_.Back(view_->CurrentPlace())); }},
       {Command::Forward, [this](bool) { Walk(history_.Forward(view_->CurrentPlace())); }},
