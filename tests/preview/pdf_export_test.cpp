@@ -9,6 +9,7 @@
 #include <QImage>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QTimeZone>
 #include <QXmlStreamReader>
 
 #include "preview/document_builder.h"
@@ -160,7 +161,7 @@ TEST_F(PdfExport, ContentsBecomeAnOutlineOfTwoLevelsThatLeadsToPlaces) {
 
 TEST_F(PdfExport, MetadataHoldsTitleAuthorCreatorAndDates) {
   Export(*DocumentBuilder("Parameter List").TablePages(1).Build(),
-         QDateTime({2026, 3, 5}, {10, 20, 30}, Qt::UTC));
+         QDateTime({2026, 3, 5}, {10, 20, 30}, QTimeZone::utc()));
   EXPECT_EQ(PdfFact(Path(), "Title"), QStringLiteral("Parameter List"));
   EXPECT_EQ(PdfFact(Path(), "Author"), QStringLiteral("Korvane"));
   EXPECT_EQ(PdfFact(Path(), "Creator"), QStringLiteral("Tarvis"));
