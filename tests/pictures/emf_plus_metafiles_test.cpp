@@ -109,6 +109,29 @@ TEST(MetafileInMetafile, IsRefusedWhenDrawnAgainAndAgainOnEachLevel) {
   EXPECT_THROW(PictureFileLoader().LoadBytes("many.emf", bytes), RunTimeFailure);
 }
 
+TEST(MetafileInMetafile, IsRefusedWhenItsBitmapsAreDrawnTooOften) {
+  constexpr std::size_t side = 200;
+  ByteWriter pixels;
+  pixels.U32(PlusVersion)
+      .U32(1)
+      .I32(side)
+      .I32(side)
+      .I32(4 * side)
+      .U32(0x26200A)
+      .U32(0)
+      .Zeros(4 * side * side);
+  const ByteWriter whole = DrawFrom(0, 0, side, side).F32(0).F32(0).F32(100).F32(100);
+  std::string bytes = OuterEmf(pixels, whole).Bytes();
+  const ByteWriter drawn = DrawFrom(0, 0, 100, 100).F32(0).F32(0).F32(100).F32(100);
+  for (int level = 0; level < 2; ++level) {
+    PlusWriter plus;
+    plus.Object(5, 0, MetafileObject(bytes));
+    for (int i = 0; i < 40; ++i) plus.Add(0x401A, 0, drawn);
+    bytes = plus.Emf().Bytes();
+  }
+  EXPECT_THROW(PictureFileLoader().LoadBytes("bitmaps.emf", bytes), RunTimeFailure);
+}
+
 // Points of a square, from one to the next; then how many of them have which type.
 QImage ShowRunLengths(std::uint32_t flags, const ByteWriter& types) {
   ByteWriter path;

@@ -100,7 +100,9 @@ void DrawList::EmitLine(const QPolygonF& points, const ListPen& pen) {
 
 void DrawList::AddImage(ListImage image) {
   FlushLines();
-  budget_->TakeKeptBytes(sizeof(ListImage) + static_cast<std::size_t>(image.Image.sizeInBytes()));
+  const auto bytes = static_cast<std::size_t>(image.Image.sizeInBytes());
+  budget_->TakeKeptBytes(sizeof(ListImage) + bytes);
+  imageBytes_ += bytes;
   images_.push_back(std::move(image));
   AddCommand({.Kind = ListKind::Image, .Index = Count(images_.size() - 1)});
 }
@@ -113,8 +115,9 @@ void DrawList::AddPart(ListPart part) {
   FlushLines();
   const std::size_t elements = part.List->PaintedElements();
   budget_->TakeElements(elements);
-  budget_->TakeKeptBytes(sizeof(ListPart));
+  budget_->TakeKeptBytes(sizeof(ListPart) + part.List->imageBytes_);
   elementsOfParts_ += elements;
+  imageBytes_ += part.List->imageBytes_;
   parts_.push_back(std::move(part));
   AddCommand({.Kind = ListKind::Part, .Index = Count(parts_.size() - 1)});
 }

@@ -126,6 +126,7 @@ class DrawList {
   std::vector<std::shared_ptr<const ListClip>> clips_;
   std::vector<ListPart> parts_;
   std::size_t elementsOfParts_ = 0;
+  std::size_t imageBytes_ = 0;             // painted in all, also by parts
   std::shared_ptr<const ListClip> asked_;  // null: none
   std::shared_ptr<const ListClip> clip_;
   bool clipPending_ = false;
