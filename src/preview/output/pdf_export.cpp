@@ -5,6 +5,7 @@
 #include <QSaveFile>
 #include <QTimeZone>
 #include <algorithm>
+#include <deque>
 #include <map>
 #include <numeric>
 #include <optional>
@@ -13,6 +14,7 @@
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFWriter.hh>
 
+#include "preview/output/content_compressor.h"
 #include "preview/output/pdf_greys.h"
 #include "preview/output/pdf_resources.h"
 #include "preview/output/reading_order.h"
@@ -47,12 +49,20 @@ QPDFObjectHandle MakePage(QPDF& pdf, const PdfSheets& sheets, const QPDFObjectHa
   return pdf.makeIndirectObject(page);
 }
 
+void FillStreams(std::vector<QPDFObjectHandle>& streams, const std::deque<std::string>& contents) {
+  const QPDFObjectHandle filter = Name("/FlateDecode");
+  for (std::size_t index = 0; index < streams.size(); ++index)
+    streams[index].replaceStreamData(contents[index], filter, QPDFObjectHandle::newNull());
+}
+
 // False if cancelled.
 bool AddPages(QPDF& pdf, const Document& document, const PdfSheets& sheets, const Progress& progress) {
   ReportFont& font = ReportFont::OfThisThread();
   PdfGlyphs glyphs(font);
   PdfPictures pictures;
+  ContentCompressor compressor;
   std::vector<QPDFObjectHandle> pages;
+  std::vector<QPDFObjectHandle> streams;     // of the contents that were added
   std::map<int, QPDFObjectHandle> contents;  // further copies of a page share its content
   const int count = static_cast<int>(sheets.Pages.size());
   for (const int page : sheets.Pages) {
@@ -61,11 +71,14 @@ bool AddPages(QPDF& pdf, const Document& document, const PdfSheets& sheets, cons
     if (isNew) {
       PdfCanvas canvas(sheets.Paper.height(), sheets.Scale, glyphs, pictures);
       PaintInReadingOrder(document, static_cast<std::size_t>(page), canvas);
-      content->second = pdf.newStream(canvas.Finish());
+      content->second = pdf.newStream();
+      streams.push_back(content->second);
+      compressor.Add(canvas.Finish());
     }
     pages.push_back(MakePage(pdf, sheets, content->second));
   }
   const QPDFObjectHandle resources = MakeResources(pdf, glyphs, pictures, font);
+  FillStreams(streams, compressor.Finish());
   QPDFPageDocumentHelper helper(pdf);
   for (QPDFObjectHandle& page : pages) {
     page.replaceKey("/Resources", resources);

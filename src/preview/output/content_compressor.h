@@ -1,0 +1,43 @@
+// Compresses the contents of pages in other threads than the one that makes them.
+#pragma once
+
+#include <condition_variable>
+#include <deque>
+#include <exception>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace tarvis {
+
+// Each content is compressed by itself, so the result does not depend on the number of threads.
+class ContentCompressor {
+ public:
+  // Starts a thread for each further processor, up to a few; without any, `Finish` does the work.
+  ContentCompressor();
+  // Leaves out what is not compressed yet.
+  ~ContentCompressor();
+  ContentCompressor(const ContentCompressor&) = delete;
+  ContentCompressor& operator=(const ContentCompressor&) = delete;
+
+  void Add(std::string content);
+  // All contents in the order in which they were added, compressed for the filter FlateDecode. To be called
+  // once, as the last one. Throws what the compression threw.
+  std::deque<std::string> Finish();
+
+ private:
+  void Work();
+  std::string* TakeNext();
+  void End();
+
+  std::mutex mutex_;  // guards all but the threads
+  std::condition_variable changed_;
+  std::deque<std::string> contents_;  // an element stays in its place while others are added
+  std::size_t next_ = 0;              // the first one that no thread has taken
+  bool isComplete_ = false;
+  std::exception_ptr failure_;
+  std::vector<std::thread> threads_;
+};
+
+}  // namespace tarvis
