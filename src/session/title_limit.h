@@ -13,8 +13,8 @@ inline constexpr int TitleLimit = 40;
 // Title of every message about an input.
 inline constexpr char InputErrorTitle[] = "Input Error";
 
-// What the title box of an item page makes of a kept title: its first line, cut at the limit. A
-// message informs the user of a cut.
+// What the title box of an item page makes of a kept title: its first line, cut at the limit with a
+// message.
 void TakeTitle(PrintRun& run, std::string& title);
 
 // Shows the message that a text has more than `limit` bytes.

@@ -36,6 +36,8 @@ RUN_BY = {
     "tools/check_walls": ("tests/CMakeLists.txt", "tools/check_${rule}"),
     "tools/check_sizes": ("tests/CMakeLists.txt", "tools/check_${rule}"),
     "tools/check_names": ("tests/CMakeLists.txt", "tools/check_${rule}"),
+    'ls -d machines/* | xargs -P "$(nproc)" -I @ tarvis-pdf --data @ User 1 @.pdf':
+        ("tests/program/pdf_program_test.py", "ls -d machine* | xargs -P 4 -I @"),
     "man tarvis": ("tests/tools/package_test.py", "mandoc"),
 }
 
@@ -63,7 +65,7 @@ LONG = {
 FILLED_IN = {"tarvis-check FILE...": "tarvis-check docs/examples/User.tmp"}
 
 PROGRAM = re.compile(r"^([A-Z_]+=\S+ )*(\./|(tools|tests|build|demo|bench)/\S+ |(cmake|ctest|cpack|git|python3|sudo|man|"
-                     r"apt-get|tarvis|tarvis-check) )")
+                     r"apt-get|tarvis|tarvis-check|tarvis-pdf) )")
 TOOL = re.compile(r"^(tools/\w+|\./\w+\.sh)$")
 KINDS = {"sh", "console", "text", "ini"}
 
@@ -151,7 +153,7 @@ class Commands(unittest.TestCase):
             for block in document.blocks:
                 self.assertIn(block.kind, KINDS, document.name)
                 if block.kind not in ("sh", "console"):
-                    hidden = [line for line in block.lines if PROGRAM.match(line) and not line.startswith("tarvis MODE")]
+                    hidden = [line for line in block.lines if PROGRAM.match(line) and not line.startswith(("tarvis MODE", "tarvis-pdf [OPTION"))]
                     self.assertEqual(hidden, [], document.name)
 
 

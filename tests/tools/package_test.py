@@ -78,9 +78,10 @@ class Package(unittest.TestCase):
         return output_of("dpkg-deb", "-f", package(), name).strip()
 
     def test_everything_is_installed_in_its_place(self):
-        for name in ("bin/tarvis", "bin/tarvis-check", "share/applications/tarvis.desktop",
+        for name in ("bin/tarvis", "bin/tarvis-check", "bin/tarvis-pdf", "share/applications/tarvis.desktop",
                      "share/icons/hicolor/scalable/apps/tarvis.svg", "share/man/man1/tarvis.1.gz",
-                     "share/man/man1/tarvis-check.1.gz", "share/man/man5/tarvis.ini.5.gz",
+                     "share/man/man1/tarvis-check.1.gz", "share/man/man1/tarvis-pdf.1.gz",
+                     "share/bash-completion/completions/tarvis-pdf", "share/man/man5/tarvis.ini.5.gz",
                      "share/metainfo/example.tarvis.tarvis.metainfo.xml", "share/doc/tarvis/user-guide.md",
                      "share/doc/tarvis/file-formats.md"):
             self.assertTrue((self.root / "usr" / name).is_file(), name)

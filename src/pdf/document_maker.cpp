@@ -1,0 +1,33 @@
+#include "pdf/document_maker.h"
+
+#include "functions/catalog.h"
+#include "platform/system/text_measurer.h"
+#include "preview/output/pdf_export.h"
+#include "report/master_document.h"
+#include "report/paper_setup.h"
+#include "report/rptTarvis.h"
+#include "run/print_run.h"
+
+namespace tarvis {
+
+const Document& DocumentMaker::Compose() {
+  ShowPrintPreview(run_, AllFunctions(), *this);
+  return document_;
+}
+
+void DocumentMaker::ShowMasterReport() {
+  rptTarvis report(ReportContext{run_, pictures_}, AllFunctions(), CreateFunctionReport, *this);
+  document_ = ComposeMasterReport(run_, report, SetupForPaper(paper_.Width, paper_.Height), QtTextMeasurer());
+  run_.Session.MasterReport = nullptr;
+}
+
+std::string DocumentMaker::MakePdf(std::time_t created, const Progress& progress) const {
+  const PdfInfo info{QString::fromStdString(document_.Title), QString::fromStdString(run_.Header.MadeBy),
+                     QDateTime::fromSecsSinceEpoch(created)};
+  PdfSheets sheets = PdfSheets::AllOf(document_);
+  sheets.Scale = static_cast<double>(paper_.Width / document_.Setup.Width);
+  sheets.Paper = QSizeF(static_cast<double>(paper_.Width), static_cast<double>(paper_.Height));
+  return tarvis::MakePdf(document_, sheets, info, progress);
+}
+
+}  // namespace tarvis

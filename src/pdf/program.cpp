@@ -1,0 +1,79 @@
+#include "pdf/program.h"
+
+#include <ctime>
+#include <memory>
+
+#include "pdf/document_maker.h"
+#include "pdf/interruption.h"
+#include "pdf/pdf_error.h"
+#include "pdf/prepare_run.h"
+#include "pdf/progress_line.h"
+#include "pdf/quiet_toolkit.h"
+#include "platform/system/fonts.h"
+#include "platform/system/host_settings.h"
+#include "platform/system/standard_output.h"
+#include "platform/system/usual_paper.h"
+#include "preview/output/pdf_export.h"
+#include "run/print_run.h"
+
+namespace tarvis {
+namespace {
+
+constexpr const char* StandardOutput = "-";
+
+void WriteOutput(const std::string& pdf, const std::string& output) {
+  if (output != StandardOutput) {
+    const QString failure = WritePdf(pdf, QString::fromStdString(output));
+    if (!failure.isEmpty()) throw PdfError(failure.toStdString());
+    return;
+  }
+  const std::string failure = WriteStandardOutput(pdf);
+  if (!failure.empty()) throw PdfError("standard output can't be written: " + failure);
+}
+
+// Checked before the work starts, where that is possible.
+void RequireOutput(const PdfOrder& order, const PdfProcess& process) {
+  if (order.Task != PdfTask::MakeDocument || order.Output != StandardOutput || process.IsOutputOpen) return;
+  throw PdfError("standard output is closed");
+}
+
+PaperSize PaperOf(const PdfOrder& order) {
+  if (order.Paper) return *order.Paper;
+  const QSizeF usual = UprightTwips(UsualPaper());
+  return {static_cast<float>(usual.width()), static_cast<float>(usual.height())};
+}
+
+void StopIfInterrupted() {
+  if (IsInterrupted()) EndAsInterrupted();
+}
+
+std::string MakePdfOf(const DocumentMaker& maker, const PdfOrder& order, ProgressLine& line) {
+  return maker.MakePdf(order.Date.value_or(std::time(nullptr)), [&line](int done, int total) {
+    line.ShowStep("making page", done, total);
+    return !IsInterrupted();
+  });
+}
+
+}  // namespace
+
+void CarryOut(const PdfOrder& order, const PdfProcess& process, PdfDesktop& desktop) {
+  RequireOutput(order, process);
+  PdfDesktop unheard;  // with a folder of data files, nobody needs the host's settings
+  const std::unique_ptr<HostSettings> settings = OpenHostSettings(order.DataFolder ? unheard : desktop);
+  PrintRun run(desktop);
+  PrepareRun(run, order, *settings);
+  const std::unique_ptr<QGuiApplication> toolkit = StartQuietToolkit(process.Name);
+  RequireFonts(desktop);
+  ProgressLine line(order.ShowsProgress);
+  line.Show("composing");
+  DocumentMaker maker(run, PaperOf(order));
+  maker.Compose();
+  StopIfInterrupted();
+  if (order.Task == PdfTask::CheckDocument) return;
+  const std::string pdf = MakePdfOf(maker, order, line);
+  StopIfInterrupted();
+  line.Show("writing");
+  WriteOutput(pdf, order.Output);
+}
+
+}  // namespace tarvis

@@ -1,0 +1,36 @@
+#include "pdf/quiet_toolkit.h"
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include "run/failures.h"
+
+namespace tarvis {
+namespace {
+
+// What the toolkit remarks is about desktops, which this program has none of. The last words before it aborts
+// the process are the exception; no exception may leave from here.
+void Listen(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
+  if (type != QtFatalMsg) return;
+  const std::string line =
+      "tarvis-pdf: the toolkit can't start: " + text.section(u'\n', 0, 0).trimmed().toStdString() + "\n";
+  std::fputs(line.c_str(), stderr);
+  std::fflush(nullptr);
+  std::_Exit(ExitAfterRunTimeFailure);
+}
+
+}  // namespace
+
+std::unique_ptr<QGuiApplication> StartQuietToolkit(char* programName) {
+  qInstallMessageHandler(Listen);
+  qunsetenv("QT_QPA_PLATFORMTHEME");  // a desktop's look may need its display
+  static std::string platform = "-platform";
+  static std::string offscreen = "offscreen";
+  static std::array<char*, 4> arguments{programName, platform.data(), offscreen.data(), nullptr};
+  static int count = static_cast<int>(arguments.size()) - 1;
+  return std::make_unique<QGuiApplication>(count, arguments.data());
+}
+
+}  // namespace tarvis

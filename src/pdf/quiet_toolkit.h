@@ -1,0 +1,14 @@
+// The toolkit without windows: fonts and painting alone.
+#pragma once
+
+#include <QGuiApplication>
+#include <memory>
+
+namespace tarvis {
+
+// Starts the toolkit in such a way that it asks for no display, whatever the environment says, and says
+// nothing of its own. A toolkit that can't start ends the process with status 1 and one line on standard
+// error.
+std::unique_ptr<QGuiApplication> StartQuietToolkit(char* programName);
+
+}  // namespace tarvis
