@@ -20,6 +20,7 @@ ROOT = Path(__file__).resolve().parent.parent
 sys.path.insert(0, str(ROOT / "tests/host"))
 
 import servo_pack  # noqa: E402
+import whole_process  # noqa: E402
 from desktop import User, VirtualDisplay  # noqa: E402
 from host import Host  # noqa: E402
 from print_file import PrintFile, write_parameters  # noqa: E402
@@ -212,11 +213,23 @@ def print_table(head, rows):
         print("| " + " | ".join([row[0].ljust(widths[0])] + [t.rjust(w) for t, w in zip(row[1:], widths[1:])]) + " |")
 
 
+def measure_whole_process(options):
+    with tempfile.TemporaryDirectory() as name:
+        folder = Path(name)
+        write_parameter_file(folder, JOBS[1].parameters)
+        ours = whole_process.Way("tarvis-pdf", (options.build / "src/tarvis-pdf", "--data", folder, "User", "1"), {})
+        ways = [ours, *(whole_process.peers(folder) if options.peers else [])]
+        print_table(whole_process.HEAD, list(whole_process.rows(ways, 3 * options.runs, folder)))
+    print()
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--build", type=Path, default=ROOT / "build/bench")
     parser.add_argument("--runs", type=int, default=5, help="runs of each document; the table holds the medians")
+    parser.add_argument("--peers", action="store_true", help="measures other ways to a PDF beside tarvis-pdf")
     options = parser.parse_args()
+    measure_whole_process(options)
     ours, toolkits = [], []
     for job in JOBS:
         ours.append(medians(options.runs, measure_program, options, job) |
