@@ -21,6 +21,13 @@ class Selection : public WindowTest {
     QTest::mouseMove(viewport, to);
     QTest::mouseRelease(viewport, Qt::LeftButton, Qt::NoModifier, to);
   }
+  // Moves the pressed mouse, also outside of the view.
+  void MoveMouse(QPoint to) {
+    QMouseEvent event(QEvent::MouseMove, to, View().viewport()->mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(View().viewport(), &event);
+  }
+  int Scrolled() { return View().verticalScrollBar()->value(); }
 };
 
 TEST_F(Selection, ATableCopiesAsLinesWithTabsBetweenCells) {
@@ -53,6 +60,56 @@ TEST_F(Selection, ADoubleClickSelectsTheWord) {
   Open(DocumentBuilder().Page().Text("Speed Loop Gain", 1440, 1000, 12).Build());
   QTest::mouseDClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, At(0, 1440 + 900, 1100));
   EXPECT_EQ(Copied(), QStringLiteral("Loop"));
+}
+
+TEST_F(Selection, ATripleClickSelectsTheRow) {
+  Open(DocumentBuilder()
+           .Page()
+           .Row({"Pn100", "Gain", "40.0"}, 720)
+           .Row({"Pn101", "Ratio", "8"}, 1003)
+           .Build());
+  const QPoint at = At(0, 1440 + 1800, 1100);
+  QTest::mouseDClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, at);
+  EXPECT_EQ(Copied(), QStringLiteral("Ratio"));
+  QTest::mouseClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, at);
+  EXPECT_EQ(Copied(), QStringLiteral("Pn101\tRatio\t8"));
+}
+
+TEST_F(Selection, AThirdClickElsewhereOnlyTakesTheSelectionAway) {
+  Open(DocumentBuilder()
+           .Page()
+           .Row({"Pn100", "Gain", "40.0"}, 720)
+           .Row({"Pn101", "Ratio", "8"}, 1003)
+           .Build());
+  QTest::mouseDClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, At(0, 1440 + 1800, 1100));
+  QTest::mouseClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, At(0, 1440 + 1800, 800));
+  EXPECT_FALSE(window_->ActionOf(Command::Copy)->isEnabled());
+}
+
+TEST_F(Selection, ScrollsOnWhileTheMouseRestsPastTheEdge) {
+  OpenTable(5);
+  const int height = View().viewport()->height();
+  QTest::mousePress(View().viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(200, 100));
+  MoveMouse({200, height + 60});
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Scrolled() > 2 * height; })) << "no further move of the mouse";
+  EXPECT_GT(Copied().count(QLatin1Char('\n')), 48) << "what was scrolled by is selected";
+  MoveMouse({200, -60});
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Scrolled() == 0; }));
+}
+
+TEST_F(Selection, StopsScrollingWhenTheButtonIsReleased) {
+  OpenTable(5);
+  const QPoint outside(200, View().viewport()->height() + 60);
+  QTest::mousePress(View().viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(200, 100));
+  MoveMouse(outside);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Scrolled() > 50; }));
+  QTest::mouseRelease(View().viewport(), Qt::LeftButton, Qt::NoModifier, outside);
+  const int stopped = Scrolled();
+  QTimer timer;  // slower than the scrolling
+  QSignalSpy ticks(&timer, &QTimer::timeout);
+  timer.start(100);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return ticks.count() >= 2; }));
+  EXPECT_EQ(Scrolled(), stopped);
 }
 
 TEST_F(Selection, CharactersBeyond16BitsAndCombiningMarksAreCopiedWhole) {

@@ -1,12 +1,16 @@
 #include "preview/pages/page_input.h"
 
+#include <QApplication>
 #include <QGestureEvent>
 #include <QKeyEvent>
 #include <QNativeGestureEvent>
 #include <QScrollBar>
+#include <QStyleHints>
+#include <QTimerEvent>
 #include <QWheelEvent>
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdlib>
 
 #include "preview/pages/page_steps.h"
@@ -14,8 +18,10 @@
 namespace tarvis {
 namespace {
 
-constexpr int NotchAngle = 120;     // of a wheel, in eighths of a degree
-constexpr int ScrollPastEdge = 24;  // logical pixels, for each move of the mouse
+constexpr int NotchAngle = 120;         // of a wheel, in eighths of a degree
+constexpr int EdgeScrollInterval = 30;  // milliseconds
+constexpr int SlowestEdgeScroll = 4;    // logical pixels each time
+constexpr int FastestEdgeScroll = 80;
 
 struct KeyStep {
   Qt::Key Key;
@@ -130,8 +136,11 @@ bool PageInput::Mouse(const QMouseEvent& event) {
   if (event.type() == QEvent::MouseButtonPress) Press(event);
   if (event.type() == QEvent::MouseMove) Move(event);
   if (event.type() == QEvent::MouseButtonRelease) Release(event);
-  if (event.type() == QEvent::MouseButtonDblClick && event.button() == Qt::LeftButton)
+  if (event.type() == QEvent::MouseButtonDblClick && event.button() == Qt::LeftButton) {
+    doubleClickAt_ = event.position();
+    sinceDoubleClick_.start();
     emit DoubleClicked(view_.SpotAt(event.position()));
+  }
   return true;
 }
 
@@ -139,10 +148,40 @@ void PageInput::Press(const QMouseEvent& event) {
   if (event.button() == Qt::MiddleButton) {
     handAt_ = event.position().toPoint();
     view_.viewport()->setCursor(Qt::ClosedHandCursor);
+  } else if (IsThirdClick(event)) {
+    sinceDoubleClick_.invalidate();
+    emit TripleClicked(view_.SpotAt(event.position()));
   } else if (event.button() == Qt::LeftButton) {
     selecting_ = true;
     emit Pressed(view_.SpotAt(event.position()));
   }
+}
+
+// The toolkit has no event for it.
+bool PageInput::IsThirdClick(const QMouseEvent& event) const {
+  return event.button() == Qt::LeftButton && sinceDoubleClick_.isValid() &&
+         !sinceDoubleClick_.hasExpired(QGuiApplication::styleHints()->mouseDoubleClickInterval()) &&
+         (event.position() - doubleClickAt_).manhattanLength() < QApplication::startDragDistance();
+}
+
+QPoint PageInput::PastEdge() const {
+  const auto past = [](double at, int length) {
+    return static_cast<int>(at < 0 ? std::floor(at) : std::ceil(std::max(0.0, at - length)));
+  };
+  const QSize size = view_.viewport()->size();
+  return {past(selectedTo_.x(), size.width()), past(selectedTo_.y(), size.height())};
+}
+
+// Selecting past an edge scrolls on as long as the mouse stays there, the faster the farther it is away.
+void PageInput::timerEvent(QTimerEvent* event) {
+  if (event->timerId() != edgeScroll_.timerId()) return QObject::timerEvent(event);
+  const auto step = [](int past) {
+    const int distance = std::clamp(std::abs(past) / 2, SlowestEdgeScroll, FastestEdgeScroll);
+    return past == 0 ? 0 : past < 0 ? -distance : distance;
+  };
+  const QPoint past = PastEdge();
+  DragBy({-step(past.x()), -step(past.y())});
+  emit Dragged(view_.SpotAt(selectedTo_));
 }
 
 void PageInput::Move(const QMouseEvent& event) {
@@ -150,9 +189,12 @@ void PageInput::Move(const QMouseEvent& event) {
     DragBy(event.position().toPoint() - *handAt_);
     handAt_ = event.position().toPoint();
   } else if (selecting_) {
-    // Selecting past an edge scrolls on.
-    const double y = event.position().y();
-    if (y < 0 || y > view_.viewport()->height()) DragBy({0, y < 0 ? ScrollPastEdge : -ScrollPastEdge});
+    selectedTo_ = event.position();
+    if (PastEdge().isNull()) {
+      edgeScroll_.stop();
+    } else if (!edgeScroll_.isActive()) {
+      edgeScroll_.start(EdgeScrollInterval, this);
+    }
     emit Dragged(view_.SpotAt(event.position()));
   }
 }
@@ -162,7 +204,9 @@ void PageInput::Release(const QMouseEvent& event) {
     handAt_.reset();
     view_.viewport()->setCursor(Qt::ArrowCursor);
   }
-  if (event.button() == Qt::LeftButton) selecting_ = false;
+  if (event.button() != Qt::LeftButton) return;
+  selecting_ = false;
+  edgeScroll_.stop();
 }
 
 void PageInput::DragBy(QPoint distance) {

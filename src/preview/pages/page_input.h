@@ -1,6 +1,8 @@
 // What the user does on the pages by wheel, keys, mouse, touchpad and touch.
 #pragma once
 
+#include <QBasicTimer>
+#include <QElapsedTimer>
 #include <QObject>
 #include <optional>
 
@@ -23,9 +25,11 @@ class PageInput : public QObject {
   void Pressed(const PageView::Spot& spot);
   void Dragged(const PageView::Spot& spot);
   void DoubleClicked(const PageView::Spot& spot);
+  void TripleClicked(const PageView::Spot& spot);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void timerEvent(QTimerEvent* event) override;
 
  private:
   // Each is true if the event needs no other handling.
@@ -39,11 +43,18 @@ class PageInput : public QObject {
   void Press(const QMouseEvent& event);
   void Move(const QMouseEvent& event);
   void Release(const QMouseEvent& event);
+  bool IsThirdClick(const QMouseEvent& event) const;
+  // How far the mouse is outside of the view; null inside.
+  QPoint PastEdge() const;
   void DragBy(QPoint distance);
 
   PageView& view_;
   std::optional<QPoint> handAt_;  // where the hand holds the page
   bool selecting_ = false;
+  QPointF selectedTo_;      // where the mouse is while it selects
+  QBasicTimer edgeScroll_;  // runs while the mouse selects outside of the view
+  QPointF doubleClickAt_;
+  QElapsedTimer sinceDoubleClick_;  // invalid before the first one
   // What fine wheels and touchpads have turned, in eighths of a degree: towards the next zoom step, and past
   // the end of a single page towards the next one.
   int zoomAngle_ = 0;

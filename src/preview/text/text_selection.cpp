@@ -79,6 +79,16 @@ void TextSelection::SelectWord(int page, QPointF point) {
   while (end_.Character < count && isWord(end_.Character)) ++end_.Character;
 }
 
+void TextSelection::SelectRow(int page, QPointF point) {
+  anchor_ = end_ = PositionAt(page, point);
+  const std::vector<ReadPiece>& pieces = text_.Page(page).Pieces;
+  if (pieces.empty()) return;
+  while (anchor_.Piece > 0 && pieces[anchor_.Piece].Before != Join::Line) --anchor_.Piece;
+  while (end_.Piece + 1 < pieces.size() && pieces[end_.Piece + 1].Before != Join::Line) ++end_.Piece;
+  anchor_.Character = 0;
+  end_.Character = CharacterCount(text_.Source(), pieces[end_.Piece]);
+}
+
 void TextSelection::SelectAll() {
   anchor_ = end_ = {};
   const int pages = static_cast<int>(text_.Source().Pages.size());

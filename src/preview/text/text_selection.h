@@ -30,6 +30,8 @@ class TextSelection {
   void Start(int page, QPointF point);
   void ExtendTo(int page, QPointF point);
   void SelectWord(int page, QPointF point);
+  // All cells of the row, with all their lines.
+  void SelectRow(int page, QPointF point);
   void SelectAll();
 
   // What is selected of a page, for marking.

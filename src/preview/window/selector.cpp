@@ -16,6 +16,7 @@ Selector::Selector(DocumentText& text, PageView& view, PageInput& input, QObject
   connect(&input, &PageInput::Pressed, this, &Selector::Start);
   connect(&input, &PageInput::Dragged, this, &Selector::Extend);
   connect(&input, &PageInput::DoubleClicked, this, &Selector::SelectWord);
+  connect(&input, &PageInput::TripleClicked, this, &Selector::SelectRow);
 }
 
 void Selector::Start(const PageView::Spot& spot) {
@@ -31,6 +32,11 @@ void Selector::Extend(const PageView::Spot& spot) {
 
 void Selector::SelectWord(const PageView::Spot& spot) {
   if (spot.Page >= 0) selection_.SelectWord(spot.Page, spot.Point);
+  TellChange();
+}
+
+void Selector::SelectRow(const PageView::Spot& spot) {
+  if (spot.Page >= 0) selection_.SelectRow(spot.Page, spot.Point);
   TellChange();
 }
 

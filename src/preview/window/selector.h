@@ -28,6 +28,7 @@ class Selector : public QObject {
   void Start(const PageView::Spot& spot);
   void Extend(const PageView::Spot& spot);
   void SelectWord(const PageView::Spot& spot);
+  void SelectRow(const PageView::Spot& spot);
   void TellChange();
 
   PageView& view_;
