@@ -1,4 +1,7 @@
 // Touchpads, touch screens and single keys on the pages.
+#include <QClipboard>
+#include <QElapsedTimer>
+#include <QGesture>
 #include <QNativeGestureEvent>
 #include <QPointingDevice>
 
@@ -30,6 +33,23 @@ class Touch : public WindowTest {
                               View().viewport()->mapToGlobal(at), value, {});
     QApplication::sendEvent(View().viewport(), &event);
   }
+  void FingerDown(QPoint at) { QTest::touchEvent(View().viewport(), screen_.get()).press(0, at); }
+  void FingerMove(QPoint at) { QTest::touchEvent(View().viewport(), screen_.get()).move(0, at); }
+  void FingerUp(QPoint at) { QTest::touchEvent(View().viewport(), screen_.get()).release(0, at); }
+  // Up the screen, in steps as a hand makes them.
+  void Swipe(QPoint from, int steps) {
+    FingerDown(from);
+    for (int step = 1; step <= steps; ++step) {
+      QElapsedTimer clock;
+      clock.start();
+      ASSERT_TRUE(QTest::qWaitFor([&clock] { return clock.hasExpired(8); }));
+      FingerMove(from - QPoint(0, step * 20));
+    }
+  }
+  int Scrolled() { return View().verticalScrollBar()->value(); }
+  bool HasSelection() { return window_->ActionOf(Command::Copy)->isEnabled(); }
+
+  std::unique_ptr<QPointingDevice> screen_{QTest::createTouchDevice()};
 };
 
 TEST_F(Touch, SmallStepsOfATouchpadTurnOnePageForEachWholeNotch) {
@@ -86,19 +106,75 @@ TEST_F(Touch, TwoFingersOnATouchpadZoomAtTheirPlace) {
 
 TEST_F(Touch, TwoFingersOnATouchScreenZoom) {
   OpenTable(5);
-  const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
   QWidget* viewport = View().viewport();
   const double zoom = View().Zoom();
   const auto move = [&](int apart) {
-    QTest::touchEvent(viewport, screen.get())
+    QTest::touchEvent(viewport, screen_.get())
         .move(0, QPoint(300 - apart, 250))
         .move(1, QPoint(300 + apart, 250));
   };
-  QTest::touchEvent(viewport, screen.get()).press(0, QPoint(250, 250)).press(1, QPoint(350, 250));
+  QTest::touchEvent(viewport, screen_.get()).press(0, QPoint(250, 250)).press(1, QPoint(350, 250));
   for (int apart = 50; apart <= 100; apart += 5) move(apart);
-  QTest::touchEvent(viewport, screen.get()).release(0, QPoint(200, 250)).release(1, QPoint(400, 250));
+  QTest::touchEvent(viewport, screen_.get()).release(0, QPoint(200, 250)).release(1, QPoint(400, 250));
   EXPECT_GT(View().Zoom(), zoom * 1.5);
   EXPECT_LT(View().Zoom(), zoom * 2.5);
+}
+
+TEST_F(Touch, AFingerScrollsThePagesAndSelectsNothing) {
+  OpenTable(9);
+  Swipe({300, 400}, 10);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Scrolled() > 100; })) << Scrolled();
+  EXPECT_FALSE(HasSelection());
+  FingerUp({300, 200});
+  EXPECT_FALSE(HasSelection());
+}
+
+TEST_F(Touch, ASwipeGoesOnAfterTheFingerIsLifted) {
+  OpenTable(9);
+  Swipe({300, 400}, 12);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Scrolled() > 100; }));
+  FingerUp({300, 160});
+  const int lifted = Scrolled();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Scrolled() > lifted + 100; })) << Scrolled() - lifted;
+}
+
+TEST_F(Touch, AFingerThatRestsSelectsAWordAndMoreWhenItMovesOn) {
+  Open(DocumentBuilder().Page().Text("Speed Loop Gain Wide", 1440, 1000, 12).Build());
+  const int patience = QTapAndHoldGesture::timeout();
+  QTapAndHoldGesture::setTimeout(50);
+  FingerDown(At(0, 1440 + 900, 1100));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return HasSelection(); }));
+  QTapAndHoldGesture::setTimeout(patience);
+  Press(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("Loop"));
+  const int height = Scrolled();
+  FingerMove(At(0, 9000, 1100));
+  FingerUp(At(0, 9000, 1100));
+  Press(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("Loop Gain Wide"));
+  EXPECT_EQ(Scrolled(), height);
+}
+
+TEST_F(Touch, AMouseThatRestsSelectsNoWord) {
+  OpenTable(1);
+  const int patience = QTapAndHoldGesture::timeout();
+  QTapAndHoldGesture::setTimeout(50);
+  QTest::mousePress(View().viewport(), Qt::LeftButton, Qt::NoModifier, {200, 200});
+  QElapsedTimer clock;
+  clock.start();
+  EXPECT_TRUE(QTest::qWaitFor([&clock] { return clock.hasExpired(200); })) << "four times the patience";
+  QTapAndHoldGesture::setTimeout(patience);
+  EXPECT_FALSE(HasSelection());
+  QTest::mouseRelease(View().viewport(), Qt::LeftButton, Qt::NoModifier, {200, 200});
+}
+
+TEST_F(Touch, ATapEndsTheSelection) {
+  OpenTable(1);
+  Press(Qt::Key_A, Qt::ControlModifier);
+  ASSERT_TRUE(HasSelection());
+  FingerDown({300, 200});
+  FingerUp({300, 200});
+  EXPECT_FALSE(HasSelection());
 }
 
 TEST_F(Touch, SingleKeysMoveAndZoomAsInOtherViewers) {

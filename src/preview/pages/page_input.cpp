@@ -1,7 +1,6 @@
 #include "preview/pages/page_input.h"
 
 #include <QApplication>
-#include <QGestureEvent>
 #include <QKeyEvent>
 #include <QNativeGestureEvent>
 #include <QScrollBar>
@@ -14,6 +13,7 @@
 #include <cstdlib>
 
 #include "preview/pages/page_steps.h"
+#include "preview/pages/page_touch.h"
 
 namespace tarvis {
 namespace {
@@ -52,9 +52,12 @@ constexpr std::array KeySteps{
 
 PageInput::PageInput(PageView& view) : QObject(&view), view_(view) {
   setObjectName(QStringLiteral("pageInput"));
-  view.viewport()->grabGesture(Qt::PinchGesture);
   view.installEventFilter(this);
   view.viewport()->installEventFilter(this);
+  const auto* touch = new PageTouch(view);
+  connect(touch, &PageTouch::Tapped, this, &PageInput::Pressed);
+  connect(touch, &PageTouch::Held, this, &PageInput::DoubleClicked);
+  connect(touch, &PageTouch::Dragged, this, &PageInput::Dragged);
 }
 
 bool PageInput::eventFilter(QObject* watched, QEvent* event) {
@@ -63,8 +66,7 @@ bool PageInput::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::Wheel:
       return Wheel(static_cast<QWheelEvent&>(*event));
     case QEvent::NativeGesture:
-    case QEvent::Gesture:
-      return Pinch(*event);
+      return Pinch(static_cast<QNativeGestureEvent&>(*event));
     case QEvent::MouseButtonPress:
     case QEvent::MouseMove:
     case QEvent::MouseButtonRelease:
@@ -117,18 +119,10 @@ bool PageInput::TurnByWheel(int angle) {
   return true;
 }
 
-// Two fingers on a touchpad arrive as a native gesture, on a touch screen as the toolkit's own one.
-bool PageInput::Pinch(QEvent& event) {
-  if (event.type() == QEvent::NativeGesture) {
-    const auto& gesture = static_cast<const QNativeGestureEvent&>(event);
-    if (gesture.gestureType() != Qt::ZoomNativeGesture) return false;
-    view_.SetZoom(view_.Zoom() * (1 + gesture.value()), gesture.position());
-    return true;
-  }
-  const auto* pinch =
-      static_cast<QPinchGesture*>(static_cast<QGestureEvent&>(event).gesture(Qt::PinchGesture));
-  if (pinch == nullptr) return false;
-  view_.SetZoom(view_.Zoom() * pinch->scaleFactor(), view_.viewport()->mapFromGlobal(pinch->centerPoint()));
+// Two fingers on a touchpad; those on a touch screen are the matter of PageTouch.
+bool PageInput::Pinch(const QNativeGestureEvent& event) {
+  if (event.gestureType() != Qt::ZoomNativeGesture) return false;
+  view_.SetZoom(view_.Zoom() * (1 + event.value()), event.position());
   return true;
 }
 

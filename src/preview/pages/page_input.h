@@ -1,4 +1,4 @@
-// What the user does on the pages by wheel, keys, mouse, touchpad and touch.
+// What the user does on the pages by wheel, keys, mouse and touchpad; PageTouch adds what fingers do.
 #pragma once
 
 #include <QBasicTimer>
@@ -10,6 +10,7 @@
 
 class QKeyEvent;
 class QMouseEvent;
+class QNativeGestureEvent;
 class QWheelEvent;
 
 namespace tarvis {
@@ -35,7 +36,7 @@ class PageInput : public QObject {
   // Each is true if the event needs no other handling.
   bool Key(const QKeyEvent& event);
   bool Wheel(QWheelEvent& event);
-  bool Pinch(QEvent& event);
+  bool Pinch(const QNativeGestureEvent& event);
   bool Mouse(const QMouseEvent& event);
 
   void ZoomByWheel(const QWheelEvent& event);
