@@ -30,8 +30,8 @@ TEST(PageLayout, PlacesAndHeightsLeadBackToEachOther) {
 TEST(PageLayout, TheSpaceBetweenPagesBelongsToTheNearerOne) {
   const PageLayout layout = A4Pages(3);
   const double end = layout.PageRect(0).bottom();
-  EXPECT_EQ(layout.PageAt(end + 1), 0);
-  EXPECT_EQ(layout.PageAt(end + PageLayout::Margin - 1), 1);
+  EXPECT_EQ(layout.PageAt({450, end + 1}), 0);
+  EXPECT_EQ(layout.PageAt({450, end + PageLayout::Margin - 1}), 1);
 }
 
 TEST(PageLayout, PagesThatShowAndNoOthersAreListed) {
@@ -51,6 +51,39 @@ TEST(PageLayout, ASinglePageSmallerThanTheViewIsCentred) {
   EXPECT_NEAR(page.center().y(), 300, 1);
 }
 
+TEST(PageLayout, PutsFacingPagesSideBySide) {
+  PageLayout layout = A4Pages(5);
+  layout.SetColumns(Columns::Two);
+  EXPECT_EQ(layout.PageRect(0).top(), layout.PageRect(1).top());
+  EXPECT_EQ(layout.PageRect(1).left() - layout.PageRect(0).right(), PageLayout::Margin);
+  EXPECT_GT(layout.PageRect(2).top(), layout.PageRect(0).bottom());
+  EXPECT_EQ(layout.PageAt(layout.PageRect(3).center()), 3);
+  EXPECT_EQ(layout.PageAt({5000, layout.PageRect(4).center().y()}), 4) << "there is no page beside the last";
+  layout.SetZoom(ZoomMode::FitWidth, 1);
+  EXPECT_NEAR(layout.PageRect(1).right(), 900 - PageLayout::Margin, 1);
+}
+
+TEST(PageLayout, PutsAsManyPagesSideBySideAsFit) {
+  PageLayout layout = A4Pages(50);
+  layout.SetColumns(Columns::AsManyAsFit);
+  layout.SetZoom(ZoomMode::Factor, 0.25);  // pages of 198 pixels
+  EXPECT_EQ(layout.ColumnCount(), 4);
+  EXPECT_EQ(layout.PagesBetween(layout.PageRect(4).top(), layout.PageRect(4).bottom() - 1).First, 4);
+  EXPECT_EQ(layout.PagesBetween(layout.PageRect(4).top(), layout.PageRect(4).bottom() - 1).Last, 7);
+  EXPECT_LE(layout.PageRect(3).right(), 900);
+  layout.SetZoom(ZoomMode::Factor, 2);
+  EXPECT_EQ(layout.ColumnCount(), 1);
+}
+
+TEST(PageLayout, KeepsTheColumnOfThePageThatWasGoneTo) {
+  PageLayout layout = A4Pages(9);
+  layout.SetColumns(Columns::Two);
+  layout.SetSinglePage(3);
+  EXPECT_EQ(layout.PlaceAt(layout.YOf({3, 2000})).Page, 3);
+  EXPECT_EQ(layout.PlaceAt(layout.YOf({4, 2000})).Page, 5);
+  EXPECT_EQ(layout.PlaceAt(layout.YOf({8, 2000})).Page, 8);
+}
+
 TEST(PageLayout, ZoomStaysWithinItsBounds) {
   PageLayout layout = A4Pages(1);
   layout.SetZoom(ZoomMode::Factor, 100);
@@ -64,7 +97,7 @@ TEST(PageLayout, ThereIsNoPlaceWithoutPages) {
   PageLayout layout;
   layout.SetPages(0, 11906, 16838);
   layout.SetViewport({900, 600});
-  EXPECT_EQ(layout.PageAt(100), -1);
+  EXPECT_EQ(layout.PageAt({450, 100}), -1);
   EXPECT_LT(layout.PagesBetween(0, 600).Last, layout.PagesBetween(0, 600).First);
 }
 

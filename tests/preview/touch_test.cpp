@@ -94,20 +94,20 @@ TEST_F(Touch, TwoFingersOnATouchpadZoomAtTheirPlace) {
   View().GoTo({2, 3000});
   const QPointF at(300, 250);
   const PageView::Spot before = View().SpotAt(at);
-  const double zoom = View().Zoom();
+  const double zoom = View().Layout().Zoom();
   PinchOnTouchpad(at, 0.25);
-  EXPECT_NEAR(View().Zoom(), zoom * 1.25, 0.001);
+  EXPECT_NEAR(View().Layout().Zoom(), zoom * 1.25, 0.001);
   const PageView::Spot after = View().SpotAt(at);
   EXPECT_EQ(after.Page, before.Page);
   EXPECT_NEAR(after.Point.y(), before.Point.y(), 15);
   for (int i = 0; i < 40; ++i) PinchOnTouchpad(at, -0.5);
-  EXPECT_NEAR(View().Zoom(), PageLayout::LeastZoom, 0.001);
+  EXPECT_NEAR(View().Layout().Zoom(), PageLayout::LeastZoom, 0.001);
 }
 
 TEST_F(Touch, TwoFingersOnATouchScreenZoom) {
   OpenTable(5);
   QWidget* viewport = View().viewport();
-  const double zoom = View().Zoom();
+  const double zoom = View().Layout().Zoom();
   const auto move = [&](int apart) {
     QTest::touchEvent(viewport, screen_.get())
         .move(0, QPoint(300 - apart, 250))
@@ -116,8 +116,8 @@ TEST_F(Touch, TwoFingersOnATouchScreenZoom) {
   QTest::touchEvent(viewport, screen_.get()).press(0, QPoint(250, 250)).press(1, QPoint(350, 250));
   for (int apart = 50; apart <= 100; apart += 5) move(apart);
   QTest::touchEvent(viewport, screen_.get()).release(0, QPoint(200, 250)).release(1, QPoint(400, 250));
-  EXPECT_GT(View().Zoom(), zoom * 1.5);
-  EXPECT_LT(View().Zoom(), zoom * 2.5);
+  EXPECT_GT(View().Layout().Zoom(), zoom * 1.5);
+  EXPECT_LT(View().Layout().Zoom(), zoom * 2.5);
 }
 
 TEST_F(Touch, AFingerScrollsThePagesAndSelectsNothing) {

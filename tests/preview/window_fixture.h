@@ -54,7 +54,7 @@ class WindowTest : public testing::Test {
 
   PageView& View() { return window_->View(); }
   int Page() { return View().CurrentPage(); }
-  int Percent() { return qRound(View().Zoom() * 100); }
+  int Percent() { return qRound(View().Layout().Zoom() * 100); }
   // Where a place of a page (twips) is in the view.
   QPoint At(int page, double x, double y) {
     const PageLayout& layout = View().Layout();

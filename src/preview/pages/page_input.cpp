@@ -122,7 +122,7 @@ bool PageInput::TurnByWheel(int angle) {
 // Two fingers on a touchpad; those on a touch screen are the matter of PageTouch.
 bool PageInput::Pinch(const QNativeGestureEvent& event) {
   if (event.gestureType() != Qt::ZoomNativeGesture) return false;
-  view_.SetZoom(view_.Zoom() * (1 + event.value()), event.position());
+  view_.SetZoom(view_.Layout().Zoom() * (1 + event.value()), event.position());
   return true;
 }
 

@@ -25,45 +25,81 @@ void PageLayout::SetZoom(ZoomMode mode, double factor) {
   Update();
 }
 
+void PageLayout::SetColumns(Columns columns) {
+  columns_ = columns;
+  Update();
+}
+
 void PageLayout::Update() {
-  const double acrossZoom = (viewport_.width() - 2 * Margin) * TwipsPerScreenPixel / width_;
+  const int across = columns_ == Columns::Two ? 2 : 1;
+  const double acrossZoom =
+      (viewport_.width() - (across + 1) * Margin) * TwipsPerScreenPixel / (across * width_);
   const double downZoom = (viewport_.height() - 2 * Margin) * TwipsPerScreenPixel / height_;
   if (mode_ == ZoomMode::Factor) zoom_ = factor_;
   if (mode_ == ZoomMode::FitWidth) zoom_ = std::clamp(acrossZoom, LeastZoom, GreatestZoom);
   if (mode_ == ZoomMode::FitPage) zoom_ = std::clamp(std::min(acrossZoom, downZoom), LeastZoom, GreatestZoom);
 }
 
+int PageLayout::ColumnCount() const {
+  if (columns_ == Columns::One) return 1;
+  if (columns_ == Columns::Two) return 2;
+  const double fitting = std::floor((viewport_.width() - Margin) / (PageSize().width() + Margin));
+  return std::clamp(static_cast<int>(fitting), 1, std::max(1, count_));
+}
+
+int PageLayout::RowCount() const {
+  return continuous_ ? (count_ + ColumnCount() - 1) / ColumnCount() : 1;
+}
+
 QSizeF PageLayout::ContentSize() const {
   if (count_ == 0) return viewport_;
-  const int rows = continuous_ ? count_ : 1;
-  return {std::max(viewport_.width(), PageSize().width() + 2 * Margin),
-          std::max(viewport_.height(), rows * (PageSize().height() + Margin) + Margin)};
+  const QSizeF step = PageSize() + QSizeF(Margin, Margin);
+  return {std::max(viewport_.width(), ColumnCount() * step.width() + Margin),
+          std::max(viewport_.height(), RowCount() * step.height() + Margin)};
 }
 
 QRectF PageLayout::PageRect(int page) const {
   assert(page >= 0);
   const QSizeF size = PageSize();
-  const double left = std::max(Margin, std::floor((ContentSize().width() - size.width()) / 2));
-  const double rows = continuous_ ? count_ : 1;
-  const double used = rows * (size.height() + Margin) + Margin;
+  const QSizeF step = size + QSizeF(Margin, Margin);
+  const int columns = ColumnCount();
+  const double used = RowCount() * step.height() + Margin;
+  const double left =
+      std::max(Margin, std::floor((ContentSize().width() - columns * step.width() + Margin) / 2));
   const double above = Margin + std::max(0.0, std::floor((viewport_.height() - used) / 2));
-  return {QPointF(left, above + (continuous_ ? page * (size.height() + Margin) : 0)), size};
+  const int row = continuous_ ? page / columns : 0;
+  return {QPointF(left + page % columns * step.width(), above + row * step.height()), size};
 }
 
-int PageLayout::PageAt(double y) const {
-  if (count_ == 0) return -1;
-  if (!continuous_) return single_;
+int PageLayout::RowAt(double y) const {
+  if (!continuous_) return single_ / ColumnCount();
   const double first = PageRect(0).top() - Margin / 2;
   return std::clamp(static_cast<int>(std::floor((y - first) / (PageSize().height() + Margin))), 0,
-                    count_ - 1);
+                    RowCount() - 1);
+}
+
+int PageLayout::PageOfRow(int row) const {
+  const int columns = ColumnCount();
+  return std::min(row * columns + single_ % columns, count_ - 1);
+}
+
+int PageLayout::PageAt(QPointF point) const {
+  if (count_ == 0) return -1;
+  const int columns = ColumnCount();
+  const double first = PageRect(0).left() - Margin / 2;
+  const int column = std::clamp(
+      static_cast<int>(std::floor((point.x() - first) / (PageSize().width() + Margin))), 0, columns - 1);
+  return std::min(RowAt(point.y()) * columns + column, count_ - 1);
 }
 
 PageLayout::Range PageLayout::PagesBetween(double top, double bottom) const {
   if (count_ == 0) return {};
-  Range range{PageAt(top), PageAt(bottom)};
-  if (range.First < range.Last && PageRect(range.First).bottom() <= top) ++range.First;
-  if (range.First < range.Last && PageRect(range.Last).top() >= bottom) --range.Last;
-  return range;
+  const int columns = ColumnCount();
+  int first = RowAt(top);
+  int last = RowAt(bottom);
+  if (first < last && PageRect(first * columns).bottom() <= top) ++first;
+  if (first < last && PageRect(last * columns).top() >= bottom) --last;
+  return {first * columns, std::min(last * columns + columns, count_) - 1};
 }
 
 double PageLayout::YOf(const PagePlace& place) const {
@@ -71,8 +107,8 @@ double PageLayout::YOf(const PagePlace& place) const {
 }
 
 PagePlace PageLayout::PlaceAt(double y) const {
-  const int page = PageAt(y);
-  if (page < 0) return {};
+  if (count_ == 0) return {};
+  const int page = PageOfRow(RowAt(y));
   return {page, (y - PageRect(page).top()) / PixelsPerTwip()};
 }
 

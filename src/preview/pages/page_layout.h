@@ -10,6 +10,8 @@
 //   │  ┌────────┐  │
 //   │  │ page 1 │  │
 //   └──────────────┘
+//
+// Each row may have several pages side by side. Then a single-page view shows one row of them.
 #pragma once
 
 #include <QRectF>
@@ -20,6 +22,9 @@
 namespace tarvis {
 
 enum class ZoomMode { Factor, FitWidth, FitPage };
+
+// How many pages are side by side. With as many as fit, a single page decides what FitWidth means.
+enum class Columns { One, Two, AsManyAsFit };
 
 // Twips to a logical pixel at 100 %.
 inline constexpr double TwipsPerScreenPixel = TwipsPerPixel;
@@ -41,13 +46,16 @@ class PageLayout {
   void SetPages(int count, double width, double height);
   void SetViewport(QSizeF size);
   void SetContinuous(bool continuous) { continuous_ = continuous; }
-  // The page that a single-page view shows.
+  void SetColumns(Columns columns);
+  // The page that a single-page view shows, and whose column the places of rows get.
   void SetSinglePage(int page) { single_ = page; }
   // The factor counts for ZoomMode::Factor only.
   void SetZoom(ZoomMode mode, double factor);
 
   int PageCount() const { return count_; }
   bool Continuous() const { return continuous_; }
+  Columns Side() const { return columns_; }
+  int ColumnCount() const;
   int SinglePage() const { return single_; }
   ZoomMode Mode() const { return mode_; }
   double Zoom() const { return zoom_; }
@@ -57,8 +65,8 @@ class PageLayout {
   QSizeF ContentSize() const;
   // In content coordinates.
   QRectF PageRect(int page) const;
-  // The page at height `y` of the content, the nearest one between pages; -1 without pages.
-  int PageAt(double y) const;
+  // The nearest page to a point of the content; -1 without pages.
+  int PageAt(QPointF point) const;
   // Pages of which something shows between two heights of the content; first > last if none.
   struct Range {
     int First = 0;
@@ -67,11 +75,15 @@ class PageLayout {
   Range PagesBetween(double top, double bottom) const;
   // Height of `place` in the content.
   double YOf(const PagePlace& place) const;
-  // The place at height `y` of the content.
+  // The place at height `y` of the content, in the column of the page that was set last.
   PagePlace PlaceAt(double y) const;
 
  private:
   void Update();
+  int RowAt(double y) const;
+  int RowCount() const;
+  // In the row, the page of the column of the page that was set last.
+  int PageOfRow(int row) const;
 
   int count_ = 0;
   int single_ = 0;
@@ -79,6 +91,7 @@ class PageLayout {
   double height_ = 1;
   QSizeF viewport_;
   bool continuous_ = true;
+  Columns columns_ = Columns::One;
   ZoomMode mode_ = ZoomMode::FitWidth;
   double factor_ = 1;
   double zoom_ = 1;

@@ -23,7 +23,8 @@ void ScrollDown(PageView& view, int direction, int distance) {
 
 bool TurnPage(PageView& view, int direction) {
   if (view.Layout().Continuous()) return false;
-  const int next = view.Layout().SinglePage() + direction;
+  const int columns = view.Layout().ColumnCount();
+  const int next = view.Layout().SinglePage() / columns * columns + direction * columns;
   if (next < 0 || next >= view.Layout().PageCount()) return false;
   view.GoTo({next, 0});
   QScrollBar& bar = *view.verticalScrollBar();
@@ -41,7 +42,7 @@ void ScrollScreen(PageView& view, int direction) {
 }
 
 void ScrollPages(PageView& view, int count) {
-  view.GoTo({view.CurrentPage() + count, 0});
+  view.GoTo({view.CurrentPage() + count * view.Layout().ColumnCount(), 0});
 }
 
 void ScrollAcross(PageView& view, int direction) {
@@ -66,10 +67,10 @@ void GoToEnd(PageView& view) {
 void ZoomStep(PageView& view, int direction, std::optional<QPointF> anchor) {
   constexpr double Same = 1e-3;
   if (direction > 0) {
-    const auto next = std::upper_bound(ZoomSteps.begin(), ZoomSteps.end(), view.Zoom() + Same);
+    const auto next = std::upper_bound(ZoomSteps.begin(), ZoomSteps.end(), view.Layout().Zoom() + Same);
     if (next != ZoomSteps.end()) view.SetZoom(*next, anchor);
   } else {
-    const auto next = std::lower_bound(ZoomSteps.begin(), ZoomSteps.end(), view.Zoom() - Same);
+    const auto next = std::lower_bound(ZoomSteps.begin(), ZoomSteps.end(), view.Layout().Zoom() - Same);
     if (next != ZoomSteps.begin()) view.SetZoom(*std::prev(next), anchor);
   }
 }

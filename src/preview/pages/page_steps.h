@@ -12,14 +12,15 @@ class PageView;
 void ScrollLine(PageView& view, int direction);
 // By the height of the view, less one line that stays in sight.
 void ScrollScreen(PageView& view, int direction);
-// By `count` whole pages, back if it is negative.
+// By `count` rows of pages, back if it is negative.
 void ScrollPages(PageView& view, int count);
-// To the side; where there is nothing to scroll, by a page.
+// To the side; where there is nothing to scroll, by a row of pages.
 void ScrollAcross(PageView& view, int direction);
 void GoToStart(PageView& view);
 void GoToEnd(PageView& view);
 
-// Turns the page of a single-page view. False where pages are continuous, and at the last page.
+// Turns the page of a single-page view, or its row of pages. False where pages are continuous, and after the
+// last page.
 [[nodiscard]] bool TurnPage(PageView& view, int direction);
 
 // To the next larger or smaller zoom step, around `anchor` as in PageView::SetZoom.

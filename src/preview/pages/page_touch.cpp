@@ -37,7 +37,8 @@ bool PageTouch::Gesture(QGestureEvent& event) {
   if (const auto* pinch = static_cast<QPinchGesture*>(event.gesture(Qt::PinchGesture))) {
     use_ = Use::Zoom;
     QScroller::scroller(view_.viewport())->stop();
-    view_.SetZoom(view_.Zoom() * pinch->scaleFactor(), view_.viewport()->mapFromGlobal(pinch->centerPoint()));
+    view_.SetZoom(view_.Layout().Zoom() * pinch->scaleFactor(),
+                  view_.viewport()->mapFromGlobal(pinch->centerPoint()));
     return true;
   }
   const QGesture* hold = event.gesture(Qt::TapAndHoldGesture);

@@ -25,6 +25,14 @@ void PaintShadow(QPainter& painter, const QRectF& page, const QColor& edge) {
   painter.fillRect(page.adjusted(-1, -1, 1, 1), edge);
 }
 
+// Tints multiply, so that the text below stays black.
+void PaintHighlights(QPainter& painter, const std::vector<Highlight>& marks, QPointF corner, double scale) {
+  painter.setCompositionMode(QPainter::CompositionMode_Multiply);
+  for (const Highlight& mark : marks)
+    painter.fillRect(QRectF(corner + mark.Box.topLeft() * scale, mark.Box.size() * scale), mark.Tint);
+  painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+}
+
 }  // namespace
 
 PageView::PageView(std::shared_ptr<const Document> document, QWidget* parent)
@@ -133,6 +141,13 @@ void PageView::SetContinuous(bool continuous) {
   GoTo(place);
 }
 
+void PageView::SetColumns(Columns columns) {
+  const PagePlace place = CurrentPlace();
+  layout_.SetColumns(columns);
+  GoTo(place);
+  emit ZoomChanged();
+}
+
 void PageView::SetZoomMode(ZoomMode mode) {
   ChangeLayout([&] { layout_.SetZoom(mode, layout_.Zoom()); },
                QPointF(viewport()->width() / 2.0, PageLayout::Margin));
@@ -151,7 +166,7 @@ void PageView::SetHighlights(std::function<std::vector<Highlight>(int)> highligh
 }
 
 PageView::Spot PageView::SpotAt(QPointF point) const {
-  const int page = layout_.PageAt(Offset().y() + point.y());
+  const int page = layout_.PageAt(point + Offset());
   if (page < 0) return {};
   return {page, (point + Offset() - layout_.PageRect(page).topLeft()) / layout_.PixelsPerTwip()};
 }
@@ -175,27 +190,17 @@ void PageView::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
   const QColor window = palette().color(QPalette::Window);
   painter.fillRect(event->rect(), window.lightness() < 128 ? window.darker(130) : window.darker(118));
+  const double ratio = devicePixelRatioF();
+  StripPainter strips(painter, *document_, pictures_, DeviceWidth(layout_, ratio), ratio);
   const double top = Offset().y();
   const PageLayout::Range range =
       layout_.PagesBetween(top + event->rect().top(), top + event->rect().bottom() + 1);
-  for (int page = range.First; page <= range.Last; ++page) PaintPage(painter, page, event->rect());
-}
-
-void PageView::PaintPage(QPainter& painter, int page, const QRect& exposed) {
-  const QRectF place = layout_.PageRect(page).translated(-Offset());
-  PaintShadow(painter, place, palette().color(QPalette::Shadow));
-  const double ratio = devicePixelRatioF();
-  StripPainter(painter, *document_, pictures_, DeviceWidth(layout_, ratio), ratio)
-      .Paint(page, place, exposed);
-  if (!highlights_) return;
-  const double scale = layout_.PixelsPerTwip();
-  // Tints multiply, so that the text below stays black.
-  painter.setCompositionMode(QPainter::CompositionMode_Multiply);
-  for (const Highlight& mark : highlights_(page)) {
-    painter.fillRect(QRectF(place.topLeft() + mark.Box.topLeft() * scale, mark.Box.size() * scale),
-                     mark.Tint);
+  for (int page = range.First; page <= range.Last; ++page) {
+    const QRectF place = layout_.PageRect(page).translated(-Offset());
+    PaintShadow(painter, place, palette().color(QPalette::Shadow));
+    strips.Paint(page, place, event->rect());
+    if (highlights_) PaintHighlights(painter, highlights_(page), place.topLeft(), layout_.PixelsPerTwip());
   }
-  painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
 }
 
 }  // namespace tarvis

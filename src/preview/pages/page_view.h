@@ -30,12 +30,12 @@ class PageView : public QAbstractScrollArea {
   PagePlace ReadPlace() const;
   // The place at the top edge of the view.
   PagePlace CurrentPlace() const;
-  double Zoom() const { return layout_.Zoom(); }
 
   void GoTo(const PagePlace& place);
   // Scrolls as little as needed to show `box` (twips) of a page.
   void Reveal(int page, const QRectF& box);
   void SetContinuous(bool continuous);
+  void SetColumns(Columns columns);
   void SetZoomMode(ZoomMode mode);
   // Keeps the point of the document that is at `anchor` in its place (view coordinates; the middle of the
   // view if there is none).
@@ -66,7 +66,6 @@ class PageView : public QAbstractScrollArea {
   void ChangeLayout(const std::function<void()>& change, QPointF anchor);
   void Changed();
   void WantShown();
-  void PaintPage(QPainter& painter, int page, const QRect& exposed);
 
   std::shared_ptr<const Document> document_;
   PageLayout layout_;

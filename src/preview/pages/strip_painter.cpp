@@ -6,13 +6,19 @@
 namespace tarvis {
 namespace {
 
-constexpr int Patience = 8;  // milliseconds, half a frame
+constexpr int PagePatience = 8;    // milliseconds for a page, half a frame
+constexpr int WholePatience = 16;  // for all pages of a painting
 
 }  // namespace
 
 StripPainter::StripPainter(QPainter& painter, const Document& document, PagePictures& pictures, int pageWidth,
                            double ratio)
-    : painter_(painter), document_(document), pictures_(pictures), pageWidth_(pageWidth), ratio_(ratio) {}
+    : painter_(painter),
+      document_(document),
+      pictures_(pictures),
+      pageWidth_(pageWidth),
+      ratio_(ratio),
+      patience_(WholePatience) {}
 
 void StripPainter::Paint(int page, const QRectF& place, const QRect& exposed) {
   const double from = std::max(0.0, exposed.top() - place.top());
@@ -26,11 +32,18 @@ void StripPainter::Paint(int page, const QRectF& place, const QRect& exposed) {
   if (!whole) {
     const std::vector<Strip> substitutes = pictures_.SubstituteStrips(page, pageWidth_);
     // Most pages are there within a few milliseconds; one that isn't must not hold up the window.
-    if (substitutes.empty()) pictures_.WaitFor(sharp, Patience);
+    if (substitutes.empty()) WaitFor(sharp);
     painter_.fillRect(place, Qt::white);
     for (const Strip& strip : substitutes) PaintStrip(strip, place);
   }
   for (const Strip& strip : sharp) PaintStrip(strip, place);
+}
+
+void StripPainter::WaitFor(const std::vector<Strip>& strips) {
+  QElapsedTimer waited;
+  waited.start();
+  if (patience_ > 0) pictures_.WaitFor(strips, std::min(patience_, PagePatience));
+  patience_ -= static_cast<int>(waited.elapsed());
 }
 
 void StripPainter::PaintStrip(const Strip& strip, const QRectF& place) {

@@ -2,6 +2,7 @@
 // the page in another size are shown instead.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QPainter>
 
 #include "preview/pages/page_pictures.h"
@@ -19,6 +20,7 @@ class StripPainter {
   void Paint(int page, const QRectF& place, const QRect& exposed);
 
  private:
+  void WaitFor(const std::vector<Strip>& strips);
   void PaintStrip(const Strip& strip, const QRectF& place);
 
   QPainter& painter_;
@@ -26,6 +28,7 @@ class StripPainter {
   PagePictures& pictures_;
   int pageWidth_;
   double ratio_;
+  int patience_;  // milliseconds left in which missing strips are waited for
 };
 
 }  // namespace tarvis

@@ -17,7 +17,7 @@ constexpr auto Next = InGroup::Next;
 
 // Icons are outlines on a square of 16: M x y moves, L x y draws, Z closes, R x y w h is a rectangle,
 // O x y w h an ellipse.
-constexpr std::array<CommandEntry, 22> Table{{
+constexpr std::array<CommandEntry, 26> Table{{
     {Print, "print", "&Print…", "Ctrl+P",
      "M4 6 L4 2 L12 2 L12 6 R2 6 12 6 M4 10 L4 14 L12 14 L12 10 M4.5 10 L11.5 10", Bar, Push, Next, 0},
     {SavePdf, "savePdf", "&Save as PDF…", "Ctrl+S",
@@ -47,6 +47,10 @@ constexpr std::array<CommandEntry, 22> Table{{
      "R3 2 10 12 M6.5 6 L4.7 8 L6.5 10 M9.5 6 L11.3 8 L9.5 10 M4.7 8 L11.3 8", Bar, Toggle, Next, 0},
     {Continuous, "continuous", "&Continuous pages", "F8",
      "M4 1.5 L4 6.5 L12 6.5 L12 1.5 M4 14.5 L4 9 L12 9 L12 14.5", Bar, Toggle, Next, 0},
+    {FacingPages, "facingPages", "Fa&cing pages", "Ctrl+3", "", Menu, Toggle, Next, 0},
+    {ManyColumns, "manyColumns", "As many columns as f&it", "Ctrl+4", "", Menu, Toggle, Next, 0},
+    {Overview, "overview", "O&verview", "F9", "", Menu, Toggle, Next, 0},
+    {FullScreen, "fullScreen", "F&ull screen", "F11", "", Menu, Toggle, Next, 0},
     {Find, "find", "Fin&d…", "Ctrl+F", "O2 2 9 9 M9.7 9.7 L14 14", Bar, Push, First, 0},
     {FindNext, "findNext", "Find ne&xt", "F3", "", Menu, Push, Next, 0},
     {FindPrevious, "findPrevious", "Find pre&vious", "Shift+F3", "", Menu, Push, Next, 0},

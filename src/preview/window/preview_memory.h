@@ -27,6 +27,7 @@ struct WindowState {
   bool SidePane = true;
   int SidePaneTab = 0;
   bool Continuous = true;
+  Columns Side = Columns::One;
   ZoomMode Zoom = ZoomMode::FitWidth;
   double Factor = 1;
   ReadingPlace Place = {};

@@ -18,6 +18,7 @@
 #include "preview/pages/page_view.h"
 #include "preview/window/find_bar.h"
 #include "preview/window/finder.h"
+#include "preview/window/overview.h"
 #include "preview/window/page_box.h"
 #include "preview/window/reading_place.h"
 #include "preview/window/saved_bar.h"
@@ -37,6 +38,14 @@ int Pixels(double twips) {
   return static_cast<int>(twips / TwipsPerScreenPixel);
 }
 
+void ShowColumns(Columns columns, PageView& view, Overview& overview) {
+  overview.Close();
+  view.SetColumns(columns);
+  // In its full width a page would leave no room for others.
+  if (columns == Columns::AsManyAsFit && view.Layout().Mode() == ZoomMode::FitWidth)
+    view.SetZoomMode(ZoomMode::FitPage);
+}
+
 }  // namespace
 
 PreviewWindow::PreviewWindow(std::shared_ptr<const Document> document, const PreviewSetup& setup,
@@ -54,6 +63,7 @@ PreviewWindow::PreviewWindow(std::shared_ptr<const Document> document, const Pre
       findBar_(new FindBar(this)),
       savedBar_(new SavedBar(this)),
       finder_(new Finder(*findBar_, text_, *view_, this)),
+      overview_(new Overview(*view_, *input_, this)),
       splitter_(new QSplitter(this)),
       pageBox_(new PageBox(view_->Layout().PageCount(), this)),
       zoomBox_(new ZoomBox(this)),
@@ -115,6 +125,7 @@ void PreviewWindow::ShowAsBefore(const WindowState& state) {
   ActionOf(Command::SidePane)->setChecked(state.SidePane);
   pane_->setCurrentIndex(state.SidePaneTab);
   view_->SetContinuous(state.Continuous);
+  view_->SetColumns(state.Side);
   if (state.Zoom == ZoomMode::Factor) {
     view_->SetZoom(state.Factor);
   } else {
@@ -130,6 +141,7 @@ WindowState PreviewWindow::State() const {
           .SidePane = ActionOf(Command::SidePane)->isChecked(),
           .SidePaneTab = pane_->currentIndex(),
           .Continuous = layout.Continuous(),
+          .Side = layout.Side(),
           .Zoom = layout.Mode(),
           .Factor = layout.Zoom(),
           .Place = Remember(*document_, view_->CurrentPlace())};
@@ -141,8 +153,14 @@ void PreviewWindow::showEvent(QShowEvent* event) {
 }
 
 void PreviewWindow::hideEvent(QHideEvent* event) {
+  overview_->Close();
   memory_->Window = State();
   QMainWindow::hideEvent(event);
+}
+
+void PreviewWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) ActionOf(Command::FullScreen)->setChecked(isFullScreen());
 }
 
 void PreviewWindow::MakeToolbar() {
@@ -174,6 +192,12 @@ PreviewWindow::Handlers PreviewWindow::MakeHandlers() {
       {Command::ActualSize, [this](bool) { view_->SetZoom(1); }},
       {Command::FitWidth, [this](bool) { view_->SetZoomMode(ZoomMode::FitWidth); }},
       {Command::Continuous, [this](bool checked) { view_->SetContinuous(checked); }},
+      {Command::FacingPages,
+       [this](bool on) { ShowColumns(on ? Columns::Two : Columns::One, *view_, *overview_); }},
+      {Command::ManyColumns,
+       [this](bool on) { ShowColumns(on ? Columns::AsManyAsFit : Columns::One, *view_, *overview_); }},
+      {Command::Overview, [this](bool checked) { checked ? overview_->Open() : overview_->Close(); }},
+      {Command::FullScreen, [this](bool) { setWindowState(windowState() ^ Qt::WindowFullScreen); }},
       {Command::Find, [this](bool) { finder_->Open(); }},
       {Command::FindNext, [this](bool) { finder_->Step(1); }},
       {Command::FindPrevious, [this](bool) { finder_->Step(-1); }},
@@ -187,6 +211,13 @@ void PreviewWindow::Connect() {
   // The desktop opens the menu on the menu key, but not everywhere on this key, which means the same.
   connect(new QShortcut(Qt::SHIFT | Qt::Key_F10, this), &QShortcut::activated, this,
           [this] { ShowMenu(view_->mapToGlobal(view_->rect().center())); });
+  auto* escape = new QShortcut(Qt::Key_Escape, view_);
+  escape->setContext(Qt::WidgetShortcut);
+  connect(escape, &QShortcut::activated, this, [this] {
+    if (overview_->IsOpen()) return overview_->Close();
+    setWindowState(windowState() & ~Qt::WindowFullScreen);
+  });
+  connect(overview_, &Overview::Toggled, this, &PreviewWindow::ShowZoom);
   connect(actions_, &PreviewActions::Triggered, this,
           [this](Command command, bool checked) { handlers_.at(command)(checked); });
   connect(actions_, &PreviewActions::ToolUsed, this, &PreviewWindow::toolUsed);
@@ -237,10 +268,14 @@ void PreviewWindow::ShowPlace() {
 }
 
 void PreviewWindow::ShowZoom() {
-  zoomBox_->ShowZoom(view_->Zoom());
+  zoomBox_->ShowZoom(view_->Layout().Zoom());
   ActionOf(Command::FitPage)->setChecked(view_->Layout().Mode() == ZoomMode::FitPage);
   ActionOf(Command::FitWidth)->setChecked(view_->Layout().Mode() == ZoomMode::FitWidth);
   ActionOf(Command::Continuous)->setChecked(view_->Layout().Continuous());
+  const Columns columns = view_->Layout().Side();
+  ActionOf(Command::FacingPages)->setChecked(columns == Columns::Two);
+  ActionOf(Command::ManyColumns)->setChecked(columns == Columns::AsManyAsFit && !overview_->IsOpen());
+  ActionOf(Command::Overview)->setChecked(overview_->IsOpen());
 }
 
 void PreviewWindow::closeEvent(QCloseEvent* event) {

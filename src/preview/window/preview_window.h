@@ -21,6 +21,7 @@ namespace tarvis {
 
 class FindBar;
 class Finder;
+class Overview;
 class PageBox;
 class PageInput;
 class PageView;
@@ -63,6 +64,7 @@ class PreviewWindow : public QMainWindow {
   void contextMenuEvent(QContextMenuEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void hideEvent(QHideEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   using Handlers = std::map<Command, std::function<void(bool checked)>>;
@@ -93,6 +95,7 @@ class PreviewWindow : public QMainWindow {
   FindBar* findBar_;
   SavedBar* savedBar_;
   Finder* finder_;
+  Overview* overview_;
   QSplitter* splitter_;
   PageBox* pageBox_;
   ZoomBox* zoomBox_;
