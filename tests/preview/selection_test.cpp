@@ -86,6 +86,22 @@ TEST_F(Selection, AThirdClickElsewhereOnlyTakesTheSelectionAway) {
   EXPECT_FALSE(window_->ActionOf(Command::Copy)->isEnabled());
 }
 
+TEST_F(Selection, TheLeftButtonDragsThePageWhereNoTextIs) {
+  Open(DocumentBuilder().Page().Text("Speed Loop Gain", 1440, 1000, 12).Page().Build());
+  const QPoint below = At(0, 3000, 6000);
+  Drag(below, below - QPoint(0, 120));
+  EXPECT_EQ(Scrolled(), 120);
+  EXPECT_FALSE(window_->ActionOf(Command::Copy)->isEnabled());
+}
+
+TEST_F(Selection, TheMousePointerShowsWhereTextIsSelectedAndWhereThePageIsDragged) {
+  Open(DocumentBuilder().Page().Text("Speed Loop Gain", 1440, 1000, 12).Page().Build());
+  QTest::mouseMove(View().viewport(), At(0, 1500, 1100));
+  EXPECT_EQ(View().viewport()->cursor().shape(), Qt::IBeamCursor);
+  QTest::mouseMove(View().viewport(), At(0, 1500, 6000));
+  EXPECT_EQ(View().viewport()->cursor().shape(), Qt::OpenHandCursor);
+}
+
 TEST_F(Selection, ScrollsOnWhileTheMouseRestsPastTheEdge) {
   OpenTable(5);
   const int height = View().viewport()->height();

@@ -52,6 +52,7 @@ constexpr std::array KeySteps{
 
 PageInput::PageInput(PageView& view) : QObject(&view), view_(view) {
   setObjectName(QStringLiteral("pageInput"));
+  view.viewport()->setMouseTracking(true);
   view.installEventFilter(this);
   view.viewport()->installEventFilter(this);
   const auto* touch = new PageTouch(view);
@@ -139,15 +140,18 @@ bool PageInput::Mouse(const QMouseEvent& event) {
 }
 
 void PageInput::Press(const QMouseEvent& event) {
-  if (event.button() == Qt::MiddleButton) {
+  const PageView::Spot spot = view_.SpotAt(event.position());
+  if (IsThirdClick(event)) {
+    sinceDoubleClick_.invalidate();
+    return emit TripleClicked(spot);
+  }
+  if (event.button() == Qt::LeftButton) {
+    selecting_ = isText_(spot);
+    emit Pressed(spot);
+  }
+  if (event.button() == Qt::MiddleButton || (event.button() == Qt::LeftButton && !selecting_)) {
     handAt_ = event.position().toPoint();
     view_.viewport()->setCursor(Qt::ClosedHandCursor);
-  } else if (IsThirdClick(event)) {
-    sinceDoubleClick_.invalidate();
-    emit TripleClicked(view_.SpotAt(event.position()));
-  } else if (event.button() == Qt::LeftButton) {
-    selecting_ = true;
-    emit Pressed(view_.SpotAt(event.position()));
   }
 }
 
@@ -190,17 +194,21 @@ void PageInput::Move(const QMouseEvent& event) {
       edgeScroll_.start(EdgeScrollInterval, this);
     }
     emit Dragged(view_.SpotAt(event.position()));
+  } else {
+    ShowCursor(event.position());
   }
 }
 
+void PageInput::ShowCursor(QPointF at) {
+  view_.viewport()->setCursor(isText_(view_.SpotAt(at)) ? Qt::IBeamCursor : Qt::OpenHandCursor);
+}
+
 void PageInput::Release(const QMouseEvent& event) {
-  if (event.button() == Qt::MiddleButton) {
-    handAt_.reset();
-    view_.viewport()->setCursor(Qt::ArrowCursor);
-  }
-  if (event.button() != Qt::LeftButton) return;
+  if (event.button() != Qt::MiddleButton && event.button() != Qt::LeftButton) return;
+  handAt_.reset();
   selecting_ = false;
   edgeScroll_.stop();
+  ShowCursor(event.position());
 }
 
 void PageInput::DragBy(QPoint distance) {

@@ -4,7 +4,9 @@
 #include <QBasicTimer>
 #include <QElapsedTimer>
 #include <QObject>
+#include <functional>
 #include <optional>
+#include <utility>
 
 #include "preview/pages/page_view.h"
 
@@ -20,6 +22,9 @@ class PageInput : public QObject {
  public:
   // Handles the input of `view`, which owns it.
   explicit PageInput(PageView& view);
+
+  // Where the left button selects text; elsewhere it drags the page.
+  void SetTextTest(std::function<bool(const PageView::Spot& spot)> isText) { isText_ = std::move(isText); }
 
  signals:
   // The left button on the pages, to select text.
@@ -47,9 +52,11 @@ class PageInput : public QObject {
   bool IsThirdClick(const QMouseEvent& event) const;
   // How far the mouse is outside of the view; null inside.
   QPoint PastEdge() const;
+  void ShowCursor(QPointF at);
   void DragBy(QPoint distance);
 
   PageView& view_;
+  std::function<bool(const PageView::Spot&)> isText_ = [](const PageView::Spot&) { return true; };
   std::optional<QPoint> handAt_;  // where the hand holds the page
   bool selecting_ = false;
   QPointF selectedTo_;      // where the mouse is while it selects

@@ -41,7 +41,6 @@ PageView::PageView(std::shared_ptr<const Document> document, QWidget* parent)
   setAccessibleName(tr("Pages"));
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::StrongFocus);
-  viewport()->setCursor(Qt::ArrowCursor);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
   layout_.SetPages(static_cast<int>(document_->Pages.size()), static_cast<double>(document_->Setup.Width),
                    static_cast<double>(document_->Setup.Height));

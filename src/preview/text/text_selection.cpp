@@ -95,6 +95,15 @@ void TextSelection::SelectAll() {
   if (pages > 0) end_ = {pages, 0, 0};
 }
 
+bool TextSelection::HasTextBeside(int page, QPointF point) const {
+  constexpr double Tolerance = 60;  // twips
+  const std::vector<ReadPiece>& pieces = text_.Page(page).Pieces;
+  return std::any_of(pieces.begin(), pieces.end(), [&](const ReadPiece& piece) {
+    const QRectF line = BoxOfLine(text_.Source(), piece);
+    return point.y() > line.top() - Tolerance && point.y() < line.bottom() + Tolerance;
+  });
+}
+
 TextSelection::Part TextSelection::PartOf(int page, std::size_t piece, const ReadPiece& read) const {
   const TextPosition first = First();
   const TextPosition last = Last();

@@ -34,6 +34,9 @@ class TextSelection {
   void SelectRow(int page, QPointF point);
   void SelectAll();
 
+  // Whether there is text at the height of `point`.
+  bool HasTextBeside(int page, QPointF point) const;
+
   // What is selected of a page, for marking.
   std::vector<QRectF> Boxes(int page) const;
   // LF between lines, tabs between cells: pasted into a spreadsheet, a table is a table again.

@@ -21,7 +21,6 @@ void Overview::Open() {
   view_.SetContinuous(true);
   view_.SetColumns(Columns::AsManyAsFit);
   view_.SetZoom(layout.Zoom() * SmallWidth / layout.PageSize().width());
-  view_.viewport()->setCursor(Qt::PointingHandCursor);
   emit Toggled();
 }
 
@@ -29,7 +28,6 @@ void Overview::Close() {
   if (!IsOpen()) return;
   const Look look = *std::exchange(before_, {});
   const int page = view_.CurrentPage();
-  view_.viewport()->setCursor(Qt::ArrowCursor);
   view_.SetContinuous(look.Continuous);
   view_.SetColumns(look.Side);
   if (look.Mode == ZoomMode::Factor) {

@@ -13,6 +13,9 @@ const QColor SelectionTint(170, 205, 255);
 Selector::Selector(DocumentText& text, PageView& view, PageInput& input, QObject* parent)
     : QObject(parent), view_(view), selection_(text) {
   setObjectName(QStringLiteral("selector"));
+  input.SetTextTest([this](const PageView::Spot& spot) {
+    return spot.Page >= 0 && selection_.HasTextBeside(spot.Page, spot.Point);
+  });
   connect(&input, &PageInput::Pressed, this, &Selector::Start);
   connect(&input, &PageInput::Dragged, this, &Selector::Extend);
   connect(&input, &PageInput::DoubleClicked, this, &Selector::SelectWord);
