@@ -1,7 +1,5 @@
 #include "preview/output/pdf_glyphs.h"
 
-#include <algorithm>
-
 namespace tarvis {
 
 const PdfGlyph& PdfGlyphs::Use(char32_t character, bool bold) {
@@ -20,23 +18,15 @@ const PdfGlyph& PdfGlyphs::Use(char32_t character, bool bold) {
 PdfGlyph PdfGlyphs::Register(char32_t character, bool bold) {
   const FontGlyph& found = font_.Find(character, bold);
   if (!found.Inks) return {};
-  const std::uint16_t number = FaceNumber(found.Face);
-  PdfFace& face = faces_[number];
-  const auto [place, isNew] = codes_.try_emplace({number, found.Glyph}, 0);
+  PdfFace& face = faces_[found.Face];
+  const auto [place, isNew] = codes_.try_emplace({found.Face, found.Glyph}, 0);
   if (isNew) {
     face.Glyphs.push_back(found.Glyph);
     face.Characters.push_back(character);
     face.AdvancesEm.push_back(found.AdvanceEm);
     place->second = static_cast<std::uint16_t>(face.Glyphs.size());
   }
-  return {place->second, number, true, found.AdvanceEm};
-}
-
-std::uint16_t PdfGlyphs::FaceNumber(std::uint16_t fontFace) {
-  const auto known = std::ranges::find(faces_, fontFace, &PdfFace::FontFace);
-  if (known != faces_.end()) return static_cast<std::uint16_t>(known - faces_.begin());
-  faces_.emplace_back().FontFace = fontFace;
-  return static_cast<std::uint16_t>(faces_.size() - 1);
+  return {place->second, found.Face, true, found.AdvanceEm};
 }
 
 }  // namespace tarvis

@@ -14,14 +14,13 @@ namespace tarvis {
 
 struct PdfGlyph {
   std::uint16_t Code = 0;  // in its face; counts from 1 in order of first use
-  std::uint16_t Face = 0;  // an index of PdfGlyphs::Faces
+  std::uint16_t Face = 0;
   bool Inks = false;
   float AdvanceEm = 0;
 };
 
 // The glyphs of one face, by code less one.
 struct PdfFace {
-  std::uint16_t FontFace = 0;  // its number in the font, which depends on what the font was asked before
   std::vector<std::uint32_t> Glyphs;
   std::vector<char32_t> Characters;  // what is copied for the glyph
   std::vector<float> AdvancesEm;
@@ -32,15 +31,14 @@ class PdfGlyphs {
   explicit PdfGlyphs(ReportFont& font) : font_(font) {}
 
   const PdfGlyph& Use(char32_t character, bool bold);
-  // In order of first use, so that the same pages give the same PDF.
-  const std::vector<PdfFace>& Faces() const { return faces_; }
+  // By number of the face; those that are not used are empty.
+  const std::map<std::uint16_t, PdfFace>& Faces() const { return faces_; }
 
  private:
   PdfGlyph Register(char32_t character, bool bold);
-  std::uint16_t FaceNumber(std::uint16_t fontFace);
 
   ReportFont& font_;
-  std::vector<PdfFace> faces_;
+  std::map<std::uint16_t, PdfFace> faces_;
   std::map<std::pair<std::uint16_t, std::uint32_t>, std::uint16_t> codes_;
   std::array<std::array<PdfGlyph, 128>, 2> ascii_{};
   std::array<std::array<bool, 128>, 2> asciiKnown_{};

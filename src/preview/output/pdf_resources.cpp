@@ -19,9 +19,9 @@ namespace {
 constexpr double FontPixels = 1000;
 
 void DrawGlyphs(QPainter& painter, const PdfGlyphs& glyphs, ReportFont& font) {
-  for (const PdfFace& face : glyphs.Faces()) {
+  for (const auto& [number, face] : glyphs.Faces()) {
     QGlyphRun run;
-    run.setRawFont(font.FaceAt(face.FontFace, FontPixels));
+    run.setRawFont(font.FaceAt(number, FontPixels));
     run.setGlyphIndexes(QList<quint32>(face.Glyphs.begin(), face.Glyphs.end()));
     run.setPositions(QList<QPointF>(static_cast<qsizetype>(face.Glyphs.size())));
     painter.drawGlyphRun({}, run);
@@ -165,8 +165,7 @@ QPDFObjectHandle TakeFonts(QPDF& pdf, QPDFPageObjectHelper& page, const PdfGlyph
   QPDFObjectHandle foreign = page.getAttribute("/Resources", false).getKey("/Font");
   QPDFObjectHandle fonts = QPDFObjectHandle::newDictionary();
   std::size_t next = 0;
-  std::uint16_t number = 0;
-  for (const PdfFace& face : glyphs.Faces()) {
+  for (const auto& [number, face] : glyphs.Faces()) {
     const std::size_t first = next;
     for (std::size_t index = 0; index < face.Glyphs.size(); ++index, ++next) {
       if (next >= reader.Glyphs.size() || reader.Glyphs[next].Code != index + 1 ||
@@ -176,7 +175,6 @@ QPDFObjectHandle TakeFonts(QPDF& pdf, QPDFPageObjectHelper& page, const PdfGlyph
     }
     fonts.replaceKey("/F" + std::to_string(number),
                      TakeFont(pdf, foreign.getKey(reader.Glyphs[first].Font), face, number));
-    ++number;
   }
   return fonts;
 }
