@@ -102,7 +102,7 @@ void PdfCanvas::Text(const TextPiece& piece, const TextStyle& style, const Rect&
 // The operator Q restores what was set before its q.
 void PdfCanvas::ForgetTextState() {
   ink_ = 0x1000000;  // no colour
-  face_ = -1;
+  font_ = -1;
   stretch_ = 0;
 }
 
@@ -117,9 +117,9 @@ void PdfCanvas::ShowText(const TextPiece& piece, const TextStyle& style, double 
   for (std::size_t offset = 0; offset < piece.Text.size();) {
     const PdfGlyph& glyph = glyphs_.Use(NextCharacter(piece.Text, offset), style.Bold);
     if (!glyph.Inks) continue;
-    if (!open || glyph.Face != face_) {
+    if (!open || glyph.Font != font_) {
       if (open) Add(">Tj\n");
-      UseFont(glyph.Face, style.Size);
+      UseFont(glyph.Font, style.Size);
       MoveTo(x, y);
       Add("<");
       open = true;
@@ -130,12 +130,12 @@ void PdfCanvas::ShowText(const TextPiece& piece, const TextStyle& style, double 
   if (open) Add(">Tj\n");
 }
 
-void PdfCanvas::UseFont(std::uint16_t face, float size) {
-  if (face == face_ && size == size_) return;
-  face_ = face;
+void PdfCanvas::UseFont(std::uint16_t font, float size) {
+  if (font == font_ && size == size_) return;
+  font_ = font;
   size_ = size;
   Add("/F");
-  AppendNumber(content_, face);
+  AppendNumber(content_, font);
   AppendNumber(content_, D(size * TwipsPerPoint));
   Add("Tf ");
 }

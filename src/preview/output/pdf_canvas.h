@@ -57,7 +57,7 @@ class PdfCanvas : public Canvas {
   void EndText();
   void ShowText(const TextPiece& piece, const TextStyle& style, double x, double y, double stretch);
   void MoveTo(double x, double y);
-  void UseFont(std::uint16_t face, float size);
+  void UseFont(std::uint16_t font, float size);
   void ForgetTextState();
 
   PdfGlyphs& glyphs_;
@@ -68,7 +68,7 @@ class PdfCanvas : public Canvas {
   bool inText_ = false;
   double lineX_ = 0;  // where the current text line starts
   double lineY_ = 0;
-  int face_ = -1;
+  int font_ = -1;
   float size_ = 0;
   double stretch_ = 1;
 };

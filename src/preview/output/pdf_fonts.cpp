@@ -2,8 +2,9 @@
 
 #include <QGlyphRun>
 #include <algorithm>
+#include <map>
 #include <qpdf/QPDFTokenizer.hh>
-#include <stdexcept>
+#include <set>
 
 #include "preview/output/pdf_helper_file.h"
 #include "preview/output/pdf_numbers.h"
@@ -13,59 +14,96 @@ namespace {
 
 constexpr double FontPixels = 1000;
 
-void DrawGlyphs(QPainter& painter, const PdfGlyphs& glyphs, ReportFont& font) {
-  for (const auto& [number, face] : glyphs.Faces()) {
-    QGlyphRun run;
-    run.setRawFont(font.FaceAt(number, FontPixels));
-    run.setGlyphIndexes(QList<quint32>(face.Glyphs.begin(), face.Glyphs.end()));
-    run.setPositions(QList<QPointF>(static_cast<qsizetype>(face.Glyphs.size())));
-    painter.drawGlyphRun({}, run);
+QList<quint32> DistinctGlyphs(const PdfFont& font) {
+  QList<quint32> glyphs;
+  std::set<std::uint32_t> seen;
+  for (const std::uint32_t glyph : font.Glyphs) {
+    if (seen.insert(glyph).second) glyphs.append(glyph);
+  }
+  return glyphs;
+}
+
+void DrawGlyphs(QPainter& painter, const QRawFont& face, const QList<quint32>& glyphs) {
+  QGlyphRun run;
+  run.setRawFont(face);
+  run.setGlyphIndexes(glyphs);
+  run.setPositions(QList<QPointF>(glyphs.size()));
+  painter.drawGlyphRun({}, run);
+}
+
+// The first page shows the box that stands for a missing character, each further one a font's glyphs.
+void DrawFonts(QPdfWriter& writer, QPainter& painter, const PdfGlyphs& glyphs, ReportFont& font) {
+  DrawGlyphs(painter, font.FaceAt(0, FontPixels), {0});
+  for (const PdfFont& used : glyphs.Fonts()) {
+    writer.newPage();
+    DrawGlyphs(painter, font.FaceAt(used.Face, FontPixels), DistinctGlyphs(used));
   }
 }
 
-// Name of the font and code of each glyph that a content stream shows, in order.
-struct ShownGlyph {
-  std::string Font;
-  std::uint16_t Code;
-};
-
-class GlyphReader : public QPDFObjectHandle::TokenFilter {
+// The codes of all glyphs that a content stream shows, in order.
+class CodeReader : public QPDFObjectHandle::TokenFilter {
  public:
-  std::vector<ShownGlyph> Glyphs;
+  std::vector<std::uint16_t> Codes;
 
   void handleToken(const QPDFTokenizer::Token& token) override {
-    if (token.getType() == QPDFTokenizer::tt_name) name_ = token.getValue();
     if (token.getType() == QPDFTokenizer::tt_string) text_ = token.getValue();
-    if (token.getType() != QPDFTokenizer::tt_word) return;
-    if (token.getValue() == "Tf") font_ = name_;
-    if (token.getValue() != "Tj") return;
+    if (token.getType() != QPDFTokenizer::tt_word || token.getValue() != "Tj") return;
     for (std::size_t index = 0; index + 1 < text_.size(); index += 2) {
-      Glyphs.push_back({font_, static_cast<std::uint16_t>(static_cast<unsigned char>(text_[index]) << 8U |
-                                                          static_cast<unsigned char>(text_[index + 1]))});
+      Codes.push_back(static_cast<std::uint16_t>(static_cast<unsigned char>(text_[index]) << 8U |
+                                                 static_cast<unsigned char>(text_[index + 1])));
     }
   }
 
  private:
-  std::string name_;
   std::string text_;
-  std::string font_;
 };
 
-std::string ToUnicode(const PdfFace& face) {
+// A font program as the toolkit has embedded it.
+struct Program {
+  QPDFObjectHandle Font;                         // not initialized if there is none
+  std::map<std::uint32_t, std::uint16_t> Codes;  // in the program, by glyph
+};
+
+bool IsEmbedded(QPDFObjectHandle font) {
+  QPDFObjectHandle descriptor = font.getKey("/DescendantFonts").getArrayItem(0).getKey("/FontDescriptor");
+  return descriptor.hasKey("/FontFile2") || descriptor.hasKey("/FontFile3");
+}
+
+// There is none if the toolkit may not embed the face, or shows its glyphs in another way.
+Program ReadProgram(QPDFPageObjectHelper page, const QList<quint32>& glyphs) {
+  CodeReader reader;
+  page.filterContents(&reader);
+  const std::map<std::string, QPDFObjectHandle> fonts =
+      page.getAttribute("/Resources", false).getKey("/Font").getDictAsMap();
+  Program program;
+  if (fonts.size() != 1 || reader.Codes.size() != static_cast<std::size_t>(glyphs.size())) return program;
+  if (!IsEmbedded(fonts.begin()->second)) return program;
+  program.Font = fonts.begin()->second;
+  for (qsizetype index = 0; index < glyphs.size(); ++index)
+    program.Codes[glyphs[index]] = reader.Codes[static_cast<std::size_t>(index)];
+  return program;
+}
+
+void AppendText(std::string& map, const std::u32string& text) {
+  for (const QChar unit : QString::fromUcs4(text.data(), static_cast<qsizetype>(text.size())))
+    AppendHex(map, unit.unicode());
+}
+
+std::string ToUnicode(const PdfFont& font) {
   std::string map =
       "/CIDInit /ProcSet findresource begin 12 dict begin begincmap\n"
       "/CIDSystemInfo << /Registry (Adobe) /Ordering (UCS) /Supplement 0 >> def\n"
       "/CMapName /Adobe-Identity-UCS def /CMapType 2 def\n"
       "1 begincodespacerange <0000> <FFFF> endcodespacerange\n";
   constexpr std::size_t BlockSize = 100;  // the format's limit
-  for (std::size_t first = 0; first < face.Characters.size(); first += BlockSize) {
-    const std::size_t end = std::min(first + BlockSize, face.Characters.size());
+  for (std::size_t first = 0; first < font.Texts.size(); first += BlockSize) {
+    const std::size_t end = std::min(first + BlockSize, font.Texts.size());
     map += std::to_string(end - first) + " beginbfchar\n";
     for (std::size_t index = first; index < end; ++index) {
       map += '<';
       AppendHex(map, static_cast<std::uint16_t>(index + 1));
       map += "> <";
-      for (const QChar unit : QString::fromUcs4(&face.Characters[index], 1)) AppendHex(map, unit.unicode());
+      AppendText(map, font.Texts[index]);
       map += ">\n";
     }
     map += "endbfchar\n";
@@ -74,9 +112,9 @@ std::string ToUnicode(const PdfFace& face) {
 }
 
 // Exact design widths; rounded ones would add up along a line.
-QPDFObjectHandle Widths(const PdfFace& face) {
+QPDFObjectHandle Widths(const PdfFont& font) {
   QPDFObjectHandle widths = QPDFObjectHandle::newArray();
-  for (const float advance : face.AdvancesEm) {
+  for (const float advance : font.AdvancesEm) {
     widths.appendItem(QPDFObjectHandle::newReal(static_cast<double>(advance) * 1000, 3));
   }
   QPDFObjectHandle table = QPDFObjectHandle::newArray();
@@ -85,55 +123,76 @@ QPDFObjectHandle Widths(const PdfFace& face) {
   return table;
 }
 
+// Which glyph of the program each code shows. What the program doesn't have is its first glyph, the box.
+QPDFObjectHandle GlyphMap(QPDF& pdf, const PdfFont& font, const Program& program) {
+  std::string map(2, '\0');
+  bool isIdentity = true;
+  for (std::size_t index = 0; index < font.Glyphs.size(); ++index) {
+    const auto found = program.Codes.find(font.Glyphs[index]);
+    const std::uint16_t glyph = found == program.Codes.end() ? std::uint16_t{0} : found->second;
+    isIdentity = isIdentity && glyph == index + 1;
+    map += static_cast<char>(glyph >> 8U);
+    map += static_cast<char>(glyph & 0xFFU);
+  }
+  return isIdentity ? QPDFObjectHandle::newName("/Identity") : pdf.newStream(map);
+}
+
 // The name of a subset starts with six capitals of its own.
-void NameAsSubset(QPDFObjectHandle font, std::uint16_t number) {
+std::string SubsetName(const std::string& name, std::size_t number) {
   std::string tag = "/TARVIS";
   for (std::size_t place = tag.size() - 1; number > 0; --place, number /= 26) {
     tag[place] = static_cast<char>('A' + number % 26);
   }
-  QPDFObjectHandle descendant = font.getKey("/DescendantFonts").getArrayItem(0);
+  return tag + "+" + name.substr(1);
+}
+
+// Programs may be shared, so what is told of a font is written into objects of its own.
+QPDFObjectHandle MakeFont(QPDF& pdf, const PdfFont& used, const Program& program, std::size_t number) {
+  QPDFObjectHandle font =
+      program.Font.isIndirect() ? pdf.copyForeignObject(program.Font).shallowCopy() : program.Font;
+  QPDFObjectHandle descendant = font.getKey("/DescendantFonts").getArrayItem(0).shallowCopy();
+  QPDFObjectHandle descriptor = descendant.getKey("/FontDescriptor").shallowCopy();
   const QPDFObjectHandle name =
-      QPDFObjectHandle::newName(tag + "+" + font.getKey("/BaseFont").getName().substr(1));
-  font.replaceKey("/BaseFont", name);
+      QPDFObjectHandle::newName(SubsetName(font.getKey("/BaseFont").getName(), number));
+  descriptor.replaceKey("/FontName", name);
+  descendant.replaceKey("/FontDescriptor", pdf.makeIndirectObject(descriptor));
   descendant.replaceKey("/BaseFont", name);
-  descendant.getKey("/FontDescriptor").replaceKey("/FontName", name);
+  descendant.replaceKey("/W", Widths(used));
+  descendant.replaceKey("/CIDToGIDMap", GlyphMap(pdf, used, program));
+  font.replaceKey("/BaseFont", name);
+  font.replaceKey("/DescendantFonts", QPDFObjectHandle::newArray({pdf.makeIndirectObject(descendant)}));
+  font.replaceKey("/ToUnicode", pdf.newStream(ToUnicode(used)));
+  return pdf.makeIndirectObject(font);
 }
 
-QPDFObjectHandle TakeFont(QPDF& pdf, const QPDFObjectHandle& foreign, const PdfFace& face,
-                          std::uint16_t number) {
-  QPDFObjectHandle font = pdf.copyForeignObject(foreign);
-  NameAsSubset(font, number);
-  font.replaceKey("/ToUnicode", pdf.newStream(ToUnicode(face)));
-  font.getKey("/DescendantFonts").getArrayItem(0).replaceKey("/W", Widths(face));
-  return font;
-}
-
-QPDFObjectHandle TakeFonts(QPDF& pdf, QPDFPageObjectHelper page, const PdfGlyphs& glyphs) {
-  GlyphReader reader;
-  page.filterContents(&reader);
-  QPDFObjectHandle foreign = page.getAttribute("/Resources", false).getKey("/Font");
-  QPDFObjectHandle fonts = QPDFObjectHandle::newDictionary();
-  std::size_t next = 0;
-  for (const auto& [number, face] : glyphs.Faces()) {
-    const std::size_t first = next;
-    for (std::size_t index = 0; index < face.Glyphs.size(); ++index, ++next) {
-      if (next >= reader.Glyphs.size() || reader.Glyphs[next].Code != index + 1 ||
-          reader.Glyphs[next].Font != reader.Glyphs[first].Font) {
-        throw std::runtime_error("A font of the document can't be embedded.");
-      }
-    }
-    fonts.replaceKey("/F" + std::to_string(number),
-                     TakeFont(pdf, foreign.getKey(reader.Glyphs[first].Font), face, number));
-  }
-  return fonts;
+// Without any program: a viewer takes a font of its own, which it finds by name.
+Program NamedFont() {
+  Program program;
+  program.Font = QPDFObjectHandle::parse(
+      "<< /Type /Font /Subtype /Type0 /BaseFont /Arial /Encoding /Identity-H /DescendantFonts [ << /Type "
+      "/Font "
+      "/Subtype /CIDFontType2 /BaseFont /Arial /CIDSystemInfo << /Registry (Adobe) /Ordering (Identity) "
+      "/Supplement 0 >> /FontDescriptor << /Type /FontDescriptor /FontName /Arial /Flags 4 /ItalicAngle 0 "
+      "/FontBBox [0 -212 1000 905] /Ascent 905 /Descent -212 /CapHeight 716 /StemV 80 >> >> ] >>");
+  return program;
 }
 
 }  // namespace
 
 QPDFObjectHandle MakeFonts(QPDF& pdf, const PdfGlyphs& glyphs, ReportFont& font) {
-  HelperFile file(
-      PaintHelperFile([&](QPdfWriter&, QPainter& painter) { DrawGlyphs(painter, glyphs, font); }));
-  return TakeFonts(pdf, file.Pages().at(0), glyphs);
+  HelperFile file(PaintHelperFile(
+      [&](QPdfWriter& writer, QPainter& painter) { DrawFonts(writer, painter, glyphs, font); }));
+  const std::vector<QPDFPageObjectHelper> pages = file.Pages();
+  Program boxes = ReadProgram(pages.at(0), {0});
+  if (!boxes.Font.isInitialized()) boxes = NamedFont();
+  QPDFObjectHandle fonts = QPDFObjectHandle::newDictionary();
+  for (std::size_t number = 0; number < glyphs.Fonts().size(); ++number) {
+    const PdfFont& used = glyphs.Fonts()[number];
+    const Program program = ReadProgram(pages.at(number + 1), DistinctGlyphs(used));
+    fonts.replaceKey("/F" + std::to_string(number),
+                     MakeFont(pdf, used, program.Font.isInitialized() ? program : boxes, number));
+  }
+  return fonts;
 }
 
 }  // namespace tarvis

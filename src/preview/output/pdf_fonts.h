@@ -7,8 +7,8 @@
 
 namespace tarvis {
 
-// The fonts of all `glyphs` by the names that page content gives them, "F" and a number. Throws
-// std::runtime_error if a font can't be embedded.
+// The fonts of all `glyphs` by the names that page content gives them, "F" and their number.
+// Glyphs of a face that can't be embedded are boxes, so that every document can be saved.
 QPDFObjectHandle MakeFonts(QPDF& pdf, const PdfGlyphs& glyphs, ReportFont& font);
 
 }  // namespace tarvis

@@ -4,6 +4,8 @@
 #include <array>
 #include <cstdint>
 #include <map>
+#include <string>
+#include <tuple>
 #include <unordered_map>
 #include <vector>
 
@@ -13,16 +15,18 @@
 namespace tarvis {
 
 struct PdfGlyph {
-  std::uint16_t Code = 0;  // in its face; counts from 1 in order of first use
-  std::uint16_t Face = 0;
+  std::uint16_t Code = 0;  // in its font; counts from 1 in order of first use
+  std::uint16_t Font = 0;  // index of PdfGlyphs::Fonts
   bool Inks = false;
   float AdvanceEm = 0;
 };
 
-// The glyphs of one face, by code less one.
-struct PdfFace {
+// A font of the PDF: glyphs of one face, by code less one. A glyph has a code for each text that it stands
+// for, so that a box can be copied as the character that no font has.
+struct PdfFont {
+  std::uint16_t Face = 0;
   std::vector<std::uint32_t> Glyphs;
-  std::vector<char32_t> Characters;  // what is copied for the glyph
+  std::vector<std::u32string> Texts;  // what is copied for the glyph
   std::vector<float> AdvancesEm;
 };
 
@@ -31,15 +35,16 @@ class PdfGlyphs {
   explicit PdfGlyphs(ReportFont& font) : font_(font) {}
 
   const PdfGlyph& Use(char32_t character, bool bold);
-  // By number of the face; those that are not used are empty.
-  const std::map<std::uint16_t, PdfFace>& Faces() const { return faces_; }
+  const std::vector<PdfFont>& Fonts() const { return fonts_; }
 
  private:
   PdfGlyph Register(char32_t character, bool bold);
+  PdfGlyph NewCode(const FontGlyph& glyph, const std::u32string& text);
 
   ReportFont& font_;
-  std::map<std::uint16_t, PdfFace> faces_;
-  std::map<std::pair<std::uint16_t, std::uint32_t>, std::uint16_t> codes_;
+  std::vector<PdfFont> fonts_;
+  std::map<std::uint16_t, std::uint16_t> fontOfFace_;  // the one that still has free codes
+  std::map<std::tuple<std::uint16_t, std::uint32_t, std::u32string>, PdfGlyph> known_;
   std::array<std::array<PdfGlyph, 128>, 2> ascii_{};
   std::array<std::array<bool, 128>, 2> asciiKnown_{};
   std::array<std::unordered_map<char32_t, PdfGlyph>, 2> others_;

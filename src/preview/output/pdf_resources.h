@@ -10,7 +10,6 @@
 namespace tarvis {
 
 // The resource dictionary that all pages of `pdf` share: fonts "F" and pictures "P" with their numbers.
-// Throws std::runtime_error if a font can't be embedded.
 QPDFObjectHandle MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPictures& pictures,
                                ReportFont& font);
 

@@ -3,6 +3,7 @@
 #include <QFont>
 #include <QFontDatabase>
 #include <QGlyphRun>
+#include <QPainterPath>
 #include <QTextLayout>
 
 #include "report/engine/text_measurer.h"
@@ -29,6 +30,12 @@ bool IsCombining(char32_t character) {
 bool IsInvisible(char32_t character) {
   const QChar::Category category = QChar::category(character);
   return category == QChar::Other_Control || category == QChar::Other_Format;
+}
+
+// False for glyphs that are pictures, such as those of fonts with coloured signs: they can't be painted in
+// every size on every device. A blank has nothing to outline.
+bool HasOutline(const QRawFont& face, std::uint32_t glyph) {
+  return !face.pathForGlyph(glyph).isEmpty() || face.boundingRect(glyph).isEmpty();
 }
 
 QRawFont AtDesignUnits(QRawFont font) {
@@ -78,6 +85,7 @@ FontGlyph ReportFont::Look(char32_t character, bool bold) {
   return found;
 }
 
+// The box of the first face remains if no font has the character.
 bool ReportFont::LookInFallback(char32_t character, bool bold, FontGlyph& found) {
   QTextLayout layout(QString::fromUcs4(&character, 1), BaseFont(bold));
   layout.beginLayout();
@@ -87,8 +95,11 @@ bool ReportFont::LookInFallback(char32_t character, bool bold, FontGlyph& found)
   if (runs.isEmpty() || runs.front().glyphIndexes().isEmpty() || runs.front().glyphIndexes().front() == 0) {
     return false;
   }
-  found.Glyph = runs.front().glyphIndexes().front();
-  found.Face = FaceIndex(AtDesignUnits(runs.front().rawFont()));
+  const QRawFont face = AtDesignUnits(runs.front().rawFont());
+  const std::uint32_t glyph = runs.front().glyphIndexes().front();
+  if (!HasOutline(face, glyph)) return false;
+  found.Glyph = glyph;
+  found.Face = FaceIndex(face);
   return true;
 }
 

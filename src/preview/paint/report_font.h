@@ -12,7 +12,7 @@
 
 namespace tarvis {
 
-// How one character prints.
+// How one character prints. One that no font has is glyph 0 of the report's own face, a box.
 struct FontGlyph {
   std::uint32_t Glyph = 0;
   std::uint16_t Face = 0;  // see ReportFont::Face
