@@ -45,8 +45,12 @@ std::uint32_t DocumentBuilder::Piece(const std::string& text, float size, bool b
       pieces_.try_emplace({text, number}, static_cast<std::uint32_t>(document_->Texts.size()));
   if (isNew) {
     document_->Storage.push_back(text);
-    const float advance = CharacterEdges(text, size, bold, ReportFont::OfThisThread()).back();
-    document_->Texts.push_back({document_->Storage.back(), number, advance});
+    ReportFont& font = ReportFont::OfThisThread();
+    const TextFlow flow = FlowOf(text);
+    const float advance = flow == TextFlow::Plain
+                              ? CharacterEdges(text, size, bold, font).back()
+                              : ShapedAdvance(text, bold, flow, font) * size * TwipsPerPoint;
+    document_->Texts.push_back({document_->Storage.back(), number, flow, advance});
   }
   return place->second;
 }

@@ -31,7 +31,7 @@ class MissingGlyphs : public testing::TestWithParam<HostText> {
   static std::string Text() { return CodePage(GetParam().CodePage).ToUtf8(GetParam().Bytes); }
 };
 
-TEST_P(MissingGlyphs, the_document_is_saved_and_the_text_can_be_copied_from_it) {
+TEST_P(MissingGlyphs, TheDocumentIsSavedAndTheTextCanBeCopiedFromIt) {
   const QTemporaryDir folder;
   const QString path = folder.filePath(QStringLiteral("out.pdf"));
   const auto document = DocumentBuilder().Page().Text(Text(), 1440, 720).Build();
@@ -42,7 +42,7 @@ TEST_P(MissingGlyphs, the_document_is_saved_and_the_text_can_be_copied_from_it) 
 }
 
 INSTANTIATE_TEST_SUITE_P(HostTexts, MissingGlyphs, testing::ValuesIn(HostTexts),
-                         [](const auto& info) { return info.param.Name; });
+                         [](const auto& sample) { return sample.param.Name; });
 
 // Dark dots of a page on the screen, or of its PDF as a viewer draws it, from `left` to `right` points.
 int DarkDots(const QImage& page, double left, double right) {
@@ -73,7 +73,7 @@ QImage InPdf(const Document& document, const QTemporaryDir& folder) {
   return QImage(folder.filePath(QStringLiteral("box.png")));
 }
 
-TEST(MissingGlyph, is_the_same_box_on_the_screen_and_in_the_pdf) {
+TEST(MissingGlyph, IsTheSameBoxOnTheScreenAndInThePdf) {
   const auto document = DocumentBuilder().Page().Text("\xEE\x80\x80", 1440, 720, 40).Build();
   const QTemporaryDir folder;
   const int onScreen = DarkDots(OnScreen(*document), 72, 112);
@@ -82,7 +82,7 @@ TEST(MissingGlyph, is_the_same_box_on_the_screen_and_in_the_pdf) {
   EXPECT_NEAR(inPdf, onScreen, onScreen / 5);
 }
 
-TEST(MissingGlyph, two_characters_of_one_glyph_are_copied_as_what_they_are) {
+TEST(MissingGlyph, TwoCharactersOfOneGlyphAreCopiedAsWhatTheyAre) {
   const QTemporaryDir folder;
   const QString path = folder.filePath(QStringLiteral("out.pdf"));
   const auto document =

@@ -9,6 +9,7 @@ namespace tarvis {
 class QtTextMeasurer : public TextMeasurer {
  public:
   float AdvanceEm(char32_t character, bool bold) const override;
+  float LineAdvanceEm(std::string_view line, bool bold, TextFlow flow) const override;
 };
 
 }  // namespace tarvis

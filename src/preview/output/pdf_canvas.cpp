@@ -1,6 +1,7 @@
 #include "preview/output/pdf_canvas.h"
 
 #include <QByteArray>
+#include <algorithm>
 
 #include "preview/output/pdf_numbers.h"
 #include "report/engine/text_measurer.h"
@@ -112,6 +113,15 @@ void PdfCanvas::ShowText(const TextPiece& piece, const TextStyle& style, double 
     AppendNumber(content_, stretch * 100);
     Add("Tz ");
   }
+  if (piece.Flow == TextFlow::Plain) {
+    ShowPlain(piece, style, x, y, stretch);
+  } else {
+    ShowShaped(piece, style, x, y, stretch);
+  }
+}
+
+void PdfCanvas::ShowPlain(const TextPiece& piece, const TextStyle& style, double x, double y,
+                          double stretch) {
   const double em = D(style.Size * TwipsPerPoint) * stretch;
   bool open = false;
   for (std::size_t offset = 0; offset < piece.Text.size();) {
@@ -128,6 +138,43 @@ void PdfCanvas::ShowText(const TextPiece& piece, const TextStyle& style, double 
     x += D(glyph.AdvanceEm) * em;
   }
   if (open) Add(">Tj\n");
+}
+
+// Letters that run to the left come in the order in which they are read: some viewers sort them by their
+// places, others take them as they come.
+void PdfCanvas::ShowShaped(const TextPiece& piece, const TextStyle& style, double x, double y,
+                           double stretch) {
+  const std::vector<ShapedCluster>& clusters =
+      KnownLine(piece.Text, style.Bold, piece.Flow, glyphs_.Font()).Clusters;
+  const auto runsToTheRight = [](const ShapedCluster& cluster) { return !cluster.RunsToTheLeft; };
+  for (auto first = clusters.begin(); first != clusters.end();) {
+    const auto end = std::find_if(first, clusters.end(), runsToTheRight);
+    for (auto cluster = end; cluster != first;) ShowCluster(*--cluster, style, x, y, stretch);
+    first = end;
+    if (first != clusters.end()) ShowCluster(*first++, style, x, y, stretch);
+  }
+}
+
+void PdfCanvas::ShowCluster(const ShapedCluster& cluster, const TextStyle& style, double x, double y,
+                            double stretch) {
+  const double em = D(style.Size * TwipsPerPoint);
+  const PdfCluster used = glyphs_.Use(cluster);
+  if (used.NeedsText) StartActualText(cluster.Text);
+  for (std::size_t index = 0; index < used.Glyphs.size(); ++index) {
+    UseFont(used.Glyphs[index].Font, style.Size);
+    MoveTo(x + D(cluster.Glyphs[index].X) * em * stretch, y + D(cluster.Glyphs[index].Y) * em);
+    Add("<");
+    AppendHex(content_, used.Glyphs[index].Code);
+    Add(">Tj\n");
+  }
+  if (used.NeedsText) Add("EMC\n");
+}
+
+void PdfCanvas::StartActualText(const std::u32string& text) {
+  Add("/Span<</ActualText<FEFF");
+  for (const QChar unit : QString::fromUcs4(text.data(), static_cast<qsizetype>(text.size())))
+    AppendHex(content_, unit.unicode());
+  Add(">>>BDC\n");
 }
 
 void PdfCanvas::UseFont(std::uint16_t font, float size) {

@@ -3,6 +3,27 @@
 namespace tarvis {
 namespace {
 
+// How many parts a character may be painted as.
+std::size_t PartsOf(char32_t character) {
+  const QString parts = QString::fromUcs4(&character, 1).normalized(QString::NormalizationForm_KD);
+  return static_cast<std::size_t>(parts.toUcs4().size());
+}
+
+// The text of each glyph of a cluster: a character at the last of its parts, and nothing at the others; where
+// glyphs are no such parts, the first one has all of the text.
+std::vector<std::u32string> TextsOfGlyphs(const std::u32string& text, std::size_t glyphs) {
+  const std::u32string nothing(1, U'\u200B');  // shows nothing and takes no room
+  std::vector<std::u32string> texts;
+  for (const char32_t character : text) {
+    if (glyphs != text.size()) texts.resize(texts.size() + PartsOf(character) - 1, nothing);
+    texts.emplace_back(1, character);
+  }
+  if (texts.size() == glyphs) return texts;
+  texts.assign(glyphs, nothing);
+  if (glyphs > 0) texts.front() = text;
+  return texts;
+}
+
 constexpr std::size_t MostCodes = 0xFFFF;  // of a font; a code has two bytes, and 0 is not used
 
 }  // namespace
@@ -23,9 +44,25 @@ const PdfGlyph& PdfGlyphs::Use(char32_t character, bool bold) {
 PdfGlyph PdfGlyphs::Register(char32_t character, bool bold) {
   const FontGlyph& found = font_.Find(character, bold);
   if (!found.Inks) return {};
-  const std::u32string text(1, character);
-  const auto [place, isNew] = known_.try_emplace({found.Face, found.Glyph, text});
-  if (isNew) place->second = NewCode(found, text);
+  return Known(found, std::u32string(1, character));
+}
+
+PdfCluster PdfGlyphs::Use(const ShapedCluster& cluster) {
+  const std::vector<std::u32string> texts = TextsOfGlyphs(cluster.Text, cluster.Glyphs.size());
+  PdfCluster used;
+  std::u32string all;
+  for (std::size_t index = 0; index < texts.size(); ++index) {
+    const ShapedGlyph& glyph = cluster.Glyphs[index];
+    used.Glyphs.push_back(Known(font_.Drawn(glyph.Face, glyph.Glyph), texts[index]));
+    all += texts[index];
+  }
+  used.NeedsText = all != cluster.Text;
+  return used;
+}
+
+const PdfGlyph& PdfGlyphs::Known(const FontGlyph& glyph, const std::u32string& text) {
+  const auto [place, isNew] = known_.try_emplace({glyph.Face, glyph.Glyph, text});
+  if (isNew) place->second = NewCode(glyph, text);
   return place->second;
 }
 

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "preview/paint/report_font.h"
+#include "preview/paint/shaped_line.h"
 #include "report/engine/units.h"
 
 namespace tarvis {
@@ -30,15 +31,24 @@ struct PdfFont {
   std::vector<float> AdvancesEm;
 };
 
+// The glyphs of a shaped cluster, as many as it has.
+struct PdfCluster {
+  std::vector<PdfGlyph> Glyphs;
+  bool NeedsText = false;  // the texts of its glyphs, one after the other, are not its text
+};
+
 class PdfGlyphs {
  public:
   explicit PdfGlyphs(ReportFont& font) : font_(font) {}
 
   const PdfGlyph& Use(char32_t character, bool bold);
+  PdfCluster Use(const ShapedCluster& cluster);
   const std::vector<PdfFont>& Fonts() const { return fonts_; }
+  ReportFont& Font() { return font_; }
 
  private:
   PdfGlyph Register(char32_t character, bool bold);
+  const PdfGlyph& Known(const FontGlyph& glyph, const std::u32string& text);
   PdfGlyph NewCode(const FontGlyph& glyph, const std::u32string& text);
 
   ReportFont& font_;

@@ -77,7 +77,7 @@ void PainterCanvas::Text(const TextPiece& piece, const TextStyle& style, const R
 void PainterCanvas::Runs(const TextPiece& piece, const TextStyle& style, const QPointF& start) {
   painter_.setPen(ToColor(Black));
   const auto em = static_cast<double>(style.Size * TwipsPerPoint);
-  for (const TextRun& run : MakeRuns(piece.Text, style.Size, style.Bold, font_)) {
+  for (const TextRun& run : MakeRuns(piece, style, font_)) {
     QGlyphRun glyphs;
     glyphs.setRawFont(font_.FaceAt(run.Face, em));
     glyphs.setGlyphIndexes(run.Glyphs);

@@ -95,11 +95,11 @@ bool ReportFont::LookInFallback(char32_t character, bool bold, FontGlyph& found)
   if (runs.isEmpty() || runs.front().glyphIndexes().isEmpty() || runs.front().glyphIndexes().front() == 0) {
     return false;
   }
-  const QRawFont face = AtDesignUnits(runs.front().rawFont());
+  const std::uint16_t face = NumberOf(runs.front().rawFont());
   const std::uint32_t glyph = runs.front().glyphIndexes().front();
-  if (!HasOutline(face, glyph)) return false;
+  if (!HasOutline(faces_[face], glyph)) return false;
   found.Glyph = glyph;
-  found.Face = FaceIndex(face);
+  found.Face = face;
   return true;
 }
 
@@ -108,13 +108,28 @@ float ReportFont::DesignAdvance(std::uint16_t face, std::uint32_t glyph) const {
   return advances.isEmpty() ? 0 : static_cast<float>(advances.front().x() / faces_[face].unitsPerEm());
 }
 
-std::uint16_t ReportFont::FaceIndex(const QRawFont& font) {
+QFont ReportFont::ForLayout(bool bold) const {
+  return BaseFont(bold);
+}
+
+const FontGlyph& ReportFont::Drawn(std::uint16_t face, std::uint32_t glyph) {
+  const auto [place, isNew] = drawn_.try_emplace({face, glyph});
+  FontGlyph& drawn = place->second;
+  if (!isNew) return drawn;
+  const bool isBox = glyph == 0 || !HasOutline(faces_[face], glyph);
+  drawn.Glyph = isBox ? 0 : glyph;
+  drawn.Face = isBox ? std::uint16_t{0} : face;
+  drawn.AdvanceEm = DesignAdvance(drawn.Face, drawn.Glyph);
+  return drawn;
+}
+
+std::uint16_t ReportFont::NumberOf(const QRawFont& font) {
   for (std::size_t index = 0; index < faces_.size(); ++index) {
     const QRawFont& face = faces_[index];
     if (face.familyName() == font.familyName() && face.styleName() == font.styleName())
       return static_cast<std::uint16_t>(index);
   }
-  faces_.push_back(font);
+  faces_.push_back(AtDesignUnits(font));
   return static_cast<std::uint16_t>(faces_.size() - 1);
 }
 

@@ -2,6 +2,7 @@
 // Metrics are the fonts' design metrics: unhinted, without kerning, the same for every screen and printer.
 #pragma once
 
+#include <QFont>
 #include <QRawFont>
 #include <array>
 #include <cstdint>
@@ -35,15 +36,22 @@ class ReportFont {
   const QRawFont& FaceAt(std::uint16_t face, double pixels);
   std::size_t FaceCount() const { return faces_.size(); }
 
+  // For the toolkit to lay out lines, in a size in which its measures are design metrics.
+  QFont ForLayout(bool bold) const;
+  // The number of a face that the toolkit has chosen for a line.
+  std::uint16_t NumberOf(const QRawFont& font);
+  // How a glyph of a face is painted: as it is, or as a box.
+  const FontGlyph& Drawn(std::uint16_t face, std::uint32_t glyph);
+
  private:
   FontGlyph Look(char32_t character, bool bold);
   bool LookInFallback(char32_t character, bool bold, FontGlyph& found);
   float DesignAdvance(std::uint16_t face, std::uint32_t glyph) const;
-  std::uint16_t FaceIndex(const QRawFont& font);
 
   std::vector<QRawFont> faces_;  // at one pixel to the design unit
   std::array<std::array<FontGlyph, 128>, 2> ascii_;
   std::array<std::unordered_map<char32_t, FontGlyph>, 2> others_;
+  std::map<std::pair<std::uint16_t, std::uint32_t>, FontGlyph> drawn_;
   std::map<std::pair<std::uint16_t, double>, QRawFont> sized_;
 };
 

@@ -7,6 +7,8 @@
 #include <vector>
 
 #include "preview/paint/report_font.h"
+#include "preview/paint/shaped_line.h"
+#include "report/engine/document.h"
 
 namespace tarvis {
 
@@ -17,10 +19,13 @@ struct TextRun {
   QList<QPointF> Places;
 };
 
-// `text` is UTF-8; `size` in points.
-std::vector<TextRun> MakeRuns(std::string_view text, float size, bool bold, ReportFont& font);
+std::vector<TextRun> MakeRuns(const TextPiece& piece, const TextStyle& style, ReportFont& font);
 
-// Left edge of each character and the end of the last, in twips: one more than characters.
+// Where each character of a piece stands, in the order of the text, in twips from its left edge.
+std::vector<CharacterPlace> CharacterPlaces(const TextPiece& piece, const TextStyle& style, ReportFont& font);
+
+// Left edge of each character and the end of the last, in twips: one more than characters. `text` is UTF-8
+// and needs no shaping; `size` in points.
 std::vector<float> CharacterEdges(std::string_view text, float size, bool bold, ReportFont& font);
 
 }  // namespace tarvis

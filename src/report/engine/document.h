@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "report/engine/picture.h"
+#include "report/engine/text_flow.h"
 #include "report/engine/units.h"
 
 namespace tarvis {
@@ -30,8 +31,9 @@ struct TextStyle {
 
 // A piece of text in one style; each distinct pair is held once.
 struct TextPiece {
-  std::string_view Text;  // UTF-8, without line ends; lives as long as the document
+  std::string_view Text;  // UTF-8 in normal form C, without line ends; lives as long as the document
   std::uint16_t Style = 0;
+  TextFlow Flow = TextFlow::Plain;
   float Advance = 0;  // natural width in twips
 };
 

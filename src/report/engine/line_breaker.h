@@ -1,4 +1,4 @@
-// Break opportunities of running text, by the line breaking rules of Unicode.
+// Where running text may break, as Unicode's line breaking and grapheme clusters tell.
 #pragma once
 
 #include <memory>
@@ -16,9 +16,12 @@ class LineBreaker {
   // next call.
   const std::vector<int>& Opportunities(std::string_view text);
 
+  // The length in bytes of the first cluster of `text`, which is not empty: a character with its marks.
+  std::size_t FirstCluster(std::string_view text);
+
  private:
-  struct Iterator;
-  std::unique_ptr<Iterator> iterator_;
+  struct Iterators;
+  std::unique_ptr<Iterators> iterators_;
   std::vector<int> offsets_;
 };
 

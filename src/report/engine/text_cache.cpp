@@ -9,6 +9,7 @@
 
 #include "report/engine/line_breaker.h"
 #include "report/engine/utf8.h"
+#include "text/normal_form.h"
 
 namespace tarvis {
 namespace {
@@ -33,6 +34,14 @@ std::optional<std::string> WithPlainBlanks(std::string_view text) {
     (*plain)[offset] = ' ';
   }
   return plain;
+}
+
+// `text` as pages show it: with plain blanks, and each letter with its marks as one character; nothing if it
+// is so already.
+std::optional<std::string> AsShown(std::string_view text) {
+  std::optional<std::string> plain = WithPlainBlanks(text);
+  std::optional<std::string> composed = ToComposed(plain ? *plain : text);
+  return composed ? composed : plain;
 }
 
 }  // namespace
@@ -94,23 +103,24 @@ std::uint32_t TextCache::OneLine(std::string_view text, std::uint16_t style) {
   return PieceOf(Find(joined, style));
 }
 
-std::uint32_t TextCache::Find(std::string_view text, std::uint16_t style) {
-  const auto found = index_.find(Key{text, style});
+std::uint32_t TextCache::Find(std::string_view text, std::uint16_t style, TextFlow paragraph) {
+  const auto found = index_.find(Key{text, style, paragraph});
   if (found != index_.end()) return found->second;
-  // Blanks from here on, so that each is measured, broken, painted, found and copied as one.
-  if (const auto plain = WithPlainBlanks(text)) {
-    const std::uint32_t whole = Find(*plain, style);
-    index_.emplace(Key{Keep(text), style}, whole);
+  // From here on each text is measured, broken, painted, found and copied in one form.
+  if (const auto shown = AsShown(text)) {
+    const std::uint32_t whole = Find(*shown, style, paragraph);
+    index_.emplace(Key{Keep(text), style, paragraph}, whole);
     return whole;
   }
   const auto next = static_cast<std::uint32_t>(wholes_.size());
   Whole whole;
   whole.Text = Keep(text);
   whole.Style = style;
+  whole.Flow = paragraph == TextFlow::Plain ? FlowOf(text) : paragraph;
   whole.HasLineEnds = text.find("\r\n") != std::string_view::npos;
-  whole.Advance = Advance(text, style);
+  if (!whole.HasLineEnds) whole.Advance = Advance(text, style, whole.Flow);
   wholes_.push_back(whole);
-  index_.emplace(Key{whole.Text, style}, next);
+  index_.emplace(Key{whole.Text, style, paragraph}, next);
   return next;
 }
 
@@ -118,7 +128,7 @@ std::uint32_t TextCache::PieceOf(std::uint32_t whole) {
   Whole& entry = wholes_[whole];
   if (entry.Piece < 0) {
     entry.Piece = static_cast<std::int64_t>(document_.Texts.size());
-    document_.Texts.push_back({entry.Text, entry.Style, entry.Advance});
+    document_.Texts.push_back({entry.Text, entry.Style, entry.Flow, entry.Advance});
   }
   return static_cast<std::uint32_t>(entry.Piece);
 }
@@ -140,51 +150,67 @@ const TextCache::Broken& TextCache::Break(std::uint32_t whole, float width) {
 }
 
 void TextCache::BreakParagraph(std::string_view paragraph, std::uint16_t style, float width) {
+  const Setting setting{style, FlowOf(paragraph), width};
   std::string_view line = paragraph.substr(0, 0);
   std::size_t start = 0;
-  if (Advance(paragraph, style) <= width + FitTolerance) {
+  if (Advance(paragraph, style, setting.Flow) <= width + FitTolerance) {
     line = paragraph;
   } else {
     for (const int opportunity : breaker_->Opportunities(paragraph)) {
       const auto end = static_cast<std::size_t>(opportunity);
-      BreakPiece(paragraph.substr(start, end - start), style, width, line);
+      BreakPiece(paragraph.substr(start, end - start), setting, line);
       start = end;
     }
   }
-  EndLine(line, style);
+  EndLine(line, setting);
+}
+
+bool TextCache::Fits(std::string_view line, const Setting& setting) const {
+  return Advance(WithoutTrailingBlanks(line), setting.Style, setting.Flow) <= setting.Width + FitTolerance;
 }
 
 // Appends an unbreakable piece to `line`, ending lines as needed. Blanks at the end of a line take no room.
-void TextCache::BreakPiece(std::string_view piece, std::uint16_t style, float width, std::string_view& line) {
-  const auto fits = [&](std::string_view text) {
-    return Advance(WithoutTrailingBlanks(text), style) <= width + FitTolerance;
-  };
+void TextCache::BreakPiece(std::string_view piece, const Setting& setting, std::string_view& line) {
   const std::string_view longer{line.empty() ? piece.data() : line.data(), line.size() + piece.size()};
-  if (fits(longer)) {
+  if (Fits(longer, setting)) {
     line = longer;
     return;
   }
-  if (!line.empty()) EndLine(WithoutTrailingBlanks(line), style);
+  if (!line.empty()) EndLine(WithoutTrailingBlanks(line), setting);
   line = piece;
-  while (!fits(line)) {
-    std::size_t end = 0;
-    NextCharacter(line, end);
-    for (std::size_t next = end; next < line.size(); end = next) {
-      NextCharacter(line, next);
-      if (!fits(line.substr(0, next))) break;
-    }
-    if (end >= line.size()) return;  // a single character wider than the box
-    EndLine(line.substr(0, end), style);
+  for (;;) {
+    const std::size_t end = FittingStart(line, setting);
+    if (end >= line.size()) return;
+    EndLine(line.substr(0, end), setting);
     line.remove_prefix(end);
   }
 }
 
-void TextCache::EndLine(std::string_view line, std::uint16_t style) {
-  const std::uint32_t piece = PieceOf(Find(line, style));
-  linePieces_.push_back(piece);
+// The end of the longest start that fits; at least of the first cluster, which may be wider than the box.
+std::size_t TextCache::FittingStart(std::string_view piece, const Setting& setting) {
+  std::size_t end = ClusterEnd(piece, 0, setting.Flow);
+  while (end < piece.size()) {
+    const std::size_t next = ClusterEnd(piece, end, setting.Flow);
+    if (!Fits(piece.substr(0, next), setting)) break;
+    end = next;
+  }
+  return end;
 }
 
-float TextCache::Advance(std::string_view text, std::uint16_t style) const {
+std::size_t TextCache::ClusterEnd(std::string_view text, std::size_t offset, TextFlow flow) {
+  if (flow != TextFlow::Plain) return offset + breaker_->FirstCluster(text.substr(offset));
+  NextCharacter(text, offset);
+  return offset;
+}
+
+void TextCache::EndLine(std::string_view line, const Setting& setting) {
+  linePieces_.push_back(PieceOf(Find(line, setting.Style, FlowOfLine(line, setting.Flow))));
+}
+
+float TextCache::Advance(std::string_view text, std::uint16_t style, TextFlow flow) const {
+  const TextStyle& font = document_.Styles[style];
+  if (flow != TextFlow::Plain)
+    return measurer_.LineAdvanceEm(text, font.Bold, flow) * font.Size * TwipsPerPoint;
   float advance = 0;
   for (std::size_t offset = 0; offset < text.size();)
     advance += CharacterAdvance(NextCharacter(text, offset), style);

@@ -44,6 +44,7 @@ class TextCache {
   struct Key {
     std::string_view Text;
     std::uint16_t Style;
+    TextFlow Paragraph;
     bool operator==(const Key&) const = default;
   };
   struct KeyHash {
@@ -52,8 +53,9 @@ class TextCache {
   // A text in one style as a handler gave it.
   struct Whole {
     std::string_view Text;
-    float Advance = 0;  // of the whole text, line ends counted as nothing
+    float Advance = 0;  // of a text without line ends
     std::uint16_t Style = 0;
+    TextFlow Flow = TextFlow::Plain;
     bool HasLineEnds = false;
     std::int64_t Piece = -1;  // index of Document::Texts, once it has been set on one line
   };
@@ -62,13 +64,24 @@ class TextCache {
     std::uint32_t Count = 0;
   };
 
-  std::uint32_t Find(std::string_view text, std::uint16_t style);
+  // How a paragraph is set.
+  struct Setting {
+    std::uint16_t Style = 0;
+    TextFlow Flow = TextFlow::Plain;
+    float Width = 0;
+  };
+
+  // `paragraph` is the flow of the paragraph that `text` is a line of; Plain if it is a text of its own.
+  std::uint32_t Find(std::string_view text, std::uint16_t style, TextFlow paragraph = TextFlow::Plain);
   std::uint32_t PieceOf(std::uint32_t whole);
   const Broken& Break(std::uint32_t whole, float width);
   void BreakParagraph(std::string_view paragraph, std::uint16_t style, float width);
-  void BreakPiece(std::string_view piece, std::uint16_t style, float width, std::string_view& line);
-  void EndLine(std::string_view line, std::uint16_t style);
-  float Advance(std::string_view text, std::uint16_t style) const;
+  void BreakPiece(std::string_view piece, const Setting& setting, std::string_view& line);
+  bool Fits(std::string_view line, const Setting& setting) const;
+  std::size_t FittingStart(std::string_view piece, const Setting& setting);
+  std::size_t ClusterEnd(std::string_view text, std::size_t offset, TextFlow flow);
+  void EndLine(std::string_view line, const Setting& setting);
+  float Advance(std::string_view text, std::uint16_t style, TextFlow flow) const;
   float CharacterAdvance(char32_t character, std::uint16_t style) const;
   std::string_view Keep(std::string_view text);
 

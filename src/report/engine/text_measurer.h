@@ -1,6 +1,11 @@
 // The interface through which the composer asks how wide text is, without a screen, a printer or a toolkit.
 #pragma once
 
+#include <string_view>
+
+#include "report/engine/text_flow.h"
+#include "report/engine/utf8.h"
+
 namespace tarvis {
 
 // The font of reports and dialogs, and the one with the same widths that is used where it isn't installed.
@@ -18,6 +23,15 @@ class TextMeasurer {
 
   // Design advance width of one character in em, without hinting or kerning. A combining mark has 0.
   virtual float AdvanceEm(char32_t character, bool bold) const = 0;
+
+  // Advance width in em of a line (UTF-8) that must be shaped, as it is painted. A measurer that knows no
+  // shaping adds up the characters.
+  virtual float LineAdvanceEm(std::string_view line, bool bold, TextFlow /*flow*/) const {
+    float advance = 0;
+    for (std::size_t offset = 0; offset < line.size();)
+      advance += AdvanceEm(NextCharacter(line, offset), bold);
+    return advance;
+  }
 };
 
 }  // namespace tarvis
