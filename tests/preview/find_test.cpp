@@ -110,5 +110,50 @@ TEST(TextSearch, CharactersBeyond16BitsAreFoundWithTheirPlace) {
   EXPECT_NEAR(Search(text, QStringLiteral("gain"), {}).at(0).Boxes[0].left(), 1440 + 400 + 55.6, 1);
 }
 
+std::size_t HitsOf(const char* wanted, const char* page, const SearchOptions& options = {}) {
+  const auto document = DocumentBuilder().Page().Text(page, 1440, 720).Build();
+  DocumentText text(*document);
+  return Search(text, QString::fromUtf8(wanted), options).size();
+}
+
+TEST(SearchOfScripts, FullAndHalfWidthFindEachOther) {
+  EXPECT_EQ(HitsOf("pn100", "設定 ＰＮ１００"), 1U);
+  EXPECT_EQ(HitsOf("パラメータ", "ﾊﾟﾗﾒｰﾀ"), 1U);
+  EXPECT_EQ(HitsOf("ﾊﾟﾗﾒｰﾀ", "パラメータ"), 1U);
+}
+
+TEST(SearchOfScripts, LettersWithMarksAreFoundHoweverTheyAreWritten) {
+  EXPECT_EQ(HitsOf("khuếch", "Độ khuếch đại"), 1U);
+  EXPECT_EQ(HitsOf("KHU\xC3\x8A\xCC\x81"
+                   "CH",
+                   "Độ khuếch đại"),
+            1U);
+  EXPECT_EQ(HitsOf("straße", "HAUPTSTRASSE"), 1U);
+}
+
+TEST(SearchOfScripts, CaseMattersOnlyWhereItIsAskedFor) {
+  EXPECT_EQ(HitsOf("ĐỘ", "Độ khuếch đại", {.CaseMatters = true}), 0U);
+  EXPECT_EQ(HitsOf("Độ", "Độ khuếch đại", {.CaseMatters = true}), 1U);
+}
+
+TEST(SearchOfScripts, AHitInAHebrewLineIsMarkedWhereItStands) {
+  const auto document = DocumentBuilder().Page().Text("שלום Pn100", 1440, 720).Build();
+  DocumentText text(*document);
+  const std::vector<SearchHit> hits = Search(text, QStringLiteral("pn100"), {});
+  ASSERT_EQ(hits.size(), 1U);
+  ASSERT_EQ(hits[0].Boxes.size(), 1U);
+  EXPECT_NEAR(hits[0].Boxes[0].left(), 1440, 1);
+  EXPECT_LT(hits[0].Boxes[0].right(), 1440 + static_cast<double>(document->Texts[0].Advance) - 100);
+}
+
+TEST(SearchOfScripts, AHitBehindFoldedLettersIsMarkedWhereItStands) {
+  const auto document = DocumentBuilder().Page().Text("ﾊﾟﾊﾟ㎜X", 1440, 720).Build();
+  DocumentText text(*document);
+  const std::vector<SearchHit> hits = Search(text, QStringLiteral("x"), {});
+  ASSERT_EQ(hits.size(), 1U);
+  EXPECT_NEAR(hits[0].Boxes.at(0).right(), 1440 + static_cast<double>(document->Texts[0].Advance), 1);
+  EXPECT_NEAR(hits[0].Boxes.at(0).width(), 0.667 * 170, 1);
+}
+
 }  // namespace
 }  // namespace tarvis

@@ -173,5 +173,52 @@ TEST(TextSelection, CellsAreReadFromTheLeftWhateverTheirLayoutOrder) {
   EXPECT_EQ(selection.Text(), QStringLiteral("a\tb\tc"));
 }
 
+// The boxes of what lies between two places of the first line of the page, and its text.
+struct Between {
+  std::vector<QRectF> Boxes;
+  QString Text;
+
+  Between(const Document& document, double from, double to) : text_(document), selection_(text_) {
+    selection_.Start(0, {from, 1100});
+    selection_.ExtendTo(0, {to, 1100});
+    Boxes = selection_.Boxes(0);
+    Text = selection_.Text();
+  }
+
+ private:
+  DocumentText text_;
+  TextSelection selection_;
+};
+
+TEST(ShapedSelection, HebrewIsSelectedFromTheRight) {
+  const auto document = DocumentBuilder().Page().Text("שלום", 1440, 1000, 12).Build();
+  const auto width = static_cast<double>(document->Texts[0].Advance);
+  const Between start(*document, 1440 + width + 50, 1440 + width * 0.8);
+  EXPECT_EQ(start.Text, QStringLiteral("ש"));
+  ASSERT_EQ(start.Boxes.size(), 1U);
+  EXPECT_NEAR(start.Boxes[0].right(), 1440 + width, 1);
+  const Between all(*document, 1440 + width + 50, 1400);
+  EXPECT_EQ(all.Text, QStringLiteral("שלום"));
+  ASSERT_EQ(all.Boxes.size(), 1U);
+  EXPECT_NEAR(all.Boxes[0].width(), width, 1);
+}
+
+TEST(ShapedSelection, TextOfBothDirectionsHasABoxForEachStretch) {
+  const auto document = DocumentBuilder().Page().Text("Pn100 שלום", 1440, 1000, 12).Build();
+  const auto width = static_cast<double>(document->Texts[0].Advance);
+  // From the start to after the first Hebrew letter, which stands at the very right.
+  const Between both(*document, 1400, 1440 + width - 130);
+  EXPECT_EQ(both.Text, QStringLiteral("Pn100 ש"));
+  ASSERT_EQ(both.Boxes.size(), 2U);
+  EXPECT_NEAR(both.Boxes[1].right(), 1440 + width, 1);
+  EXPECT_GT(both.Boxes[1].left(), both.Boxes[0].right() + 100);
+}
+
+TEST(ShapedSelection, ALetterIsSelectedWithItsMarks) {
+  const auto document = DocumentBuilder().Page().Text("ที่นี่", 1440, 1000, 12).Build();
+  const auto width = static_cast<double>(document->Texts[0].Advance);
+  EXPECT_EQ(Between(*document, 1400, 1440 + width / 2).Text, QStringLiteral("ที่"));
+}
+
 }  // namespace
 }  // namespace tarvis

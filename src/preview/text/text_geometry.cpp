@@ -10,17 +10,53 @@
 namespace tarvis {
 namespace {
 
-// Edges as printed, in twips from the left edge of the paper.
-std::vector<double> PrintedEdges(const Document& document, std::uint32_t index) {
+// Places as printed, in twips from the left edge of the paper.
+std::vector<CharacterPlace> PrintedPlaces(const Document& document, std::uint32_t index) {
   const Item& item = document.Items[index];
   const TextPiece& piece = document.Texts[item.Source];
-  const TextStyle& style = document.Styles[piece.Style];
   const float stretch = FitText(piece, item.Box).Stretch;
-  std::vector<double> printed;
-  for (const float edge : CharacterEdges(piece.Text, style.Size, style.Bold, ReportFont::OfThisThread())) {
-    printed.push_back(static_cast<double>(item.Box.Left + edge * stretch));
+  std::vector<CharacterPlace> places =
+      CharacterPlaces(piece, document.Styles[piece.Style], ReportFont::OfThisThread());
+  for (CharacterPlace& place : places) {
+    place.Left = item.Box.Left + place.Left * stretch;
+    place.Right = item.Box.Left + place.Right * stretch;
   }
-  return printed;
+  return places;
+}
+
+// Neighbours become one box.
+std::vector<QRectF> BoxesOf(std::vector<CharacterPlace> places, const Rect& line) {
+  constexpr double Touching = 0.5;  // twips, for rounding
+  std::ranges::sort(places, {}, &CharacterPlace::Left);
+  std::vector<QRectF> boxes;
+  for (const CharacterPlace& place : places) {
+    const auto left = static_cast<double>(place.Left), right = static_cast<double>(place.Right);
+    if (boxes.empty() || left > boxes.back().right() + Touching) {
+      boxes.emplace_back(left, static_cast<double>(line.Top), right - left, static_cast<double>(line.Height));
+    } else {
+      boxes.back().setRight(std::max(boxes.back().right(), right));
+    }
+  }
+  return boxes;
+}
+
+double DistanceTo(const CharacterPlace& place, double x) {
+  return std::max({static_cast<double>(place.Left) - x, x - static_cast<double>(place.Right), 0.0});
+}
+
+// Before the nearest character or after it, by its half.
+std::size_t CharacterAt(const std::vector<CharacterPlace>& places, double x) {
+  if (places.empty()) return 0;
+  const auto nearest =
+      std::ranges::min_element(places, {}, [x](const CharacterPlace& place) { return DistanceTo(place, x); });
+  const auto index = static_cast<std::size_t>(nearest - places.begin());
+  const double middle = (static_cast<double>(nearest->Left) + static_cast<double>(nearest->Right)) / 2;
+  if ((x > middle) == nearest->RunsToTheLeft) return index;
+  // Behind its marks, which stand in the same place.
+  std::size_t end = index + 1;
+  while (end < places.size() && places[end].Left == nearest->Left && places[end].Right == nearest->Right)
+    ++end;
+  return end;
 }
 
 QRectF ToRectF(const Rect& box) {
@@ -82,22 +118,19 @@ QRectF BoxOfLine(const Document& document, const ReadPiece& piece) {
   return text.Box(0, text.Edges.size() - 1);
 }
 
-QRectF BoxOfCharacters(const Document& document, const ReadPiece& piece, std::size_t first, std::size_t end) {
-  if (IsInPicture(piece)) return PlacedText(document, piece).Box(first, end);
-  const std::vector<double> edges = PrintedEdges(document, piece.Item);
-  const double left = edges[std::min(first, edges.size() - 1)];
-  const double right = edges[std::min(end, edges.size() - 1)];
-  const Rect& box = document.Items[piece.Item].Box;
-  return {left, static_cast<double>(box.Top), right - left, static_cast<double>(box.Height)};
+std::vector<QRectF> BoxesOfCharacters(const Document& document, const ReadPiece& piece, std::size_t first,
+                                      std::size_t end) {
+  if (IsInPicture(piece)) return {PlacedText(document, piece).Box(first, end)};
+  const std::vector<CharacterPlace> places = PrintedPlaces(document, piece.Item);
+  const std::size_t last = std::min(end, places.size());
+  if (first >= last) return {};
+  const auto at = [&](std::size_t index) { return places.begin() + static_cast<std::ptrdiff_t>(index); };
+  return BoxesOf({at(first), at(last)}, document.Items[piece.Item].Box);
 }
 
 std::size_t CharacterAt(const Document& document, const ReadPiece& piece, QPointF point) {
   if (IsInPicture(piece)) return PlacedText(document, piece).CharacterAt(point);
-  const std::vector<double> edges = PrintedEdges(document, piece.Item);
-  std::size_t character = 0;
-  while (character + 1 < edges.size() && point.x() > (edges[character] + edges[character + 1]) / 2)
-    ++character;
-  return character;
+  return CharacterAt(PrintedPlaces(document, piece.Item), point.x());
 }
 
 std::size_t CharacterCount(const Document& document, const ReadPiece& piece) {

@@ -5,6 +5,7 @@
 #include <QPointF>
 #include <QRectF>
 #include <string_view>
+#include <vector>
 
 #include "preview/paint/document_text.h"
 
@@ -16,10 +17,11 @@ std::string_view TextOf(const Document& document, const ReadPiece& piece);
 // The box of the whole line.
 QRectF BoxOfLine(const Document& document, const ReadPiece& piece);
 
-// The box of characters `first` to before `end`.
-QRectF BoxOfCharacters(const Document& document, const ReadPiece& piece, std::size_t first, std::size_t end);
+// The boxes of characters `first` to before `end`: several where the line runs in both directions.
+std::vector<QRectF> BoxesOfCharacters(const Document& document, const ReadPiece& piece, std::size_t first,
+                                      std::size_t end);
 
-// The number of characters before `point` along the line, counted to the nearer edge.
+// The number of characters that come before `point` in the text, counted to the nearer edge.
 std::size_t CharacterAt(const Document& document, const ReadPiece& piece, QPointF point);
 
 std::size_t CharacterCount(const Document& document, const ReadPiece& piece);

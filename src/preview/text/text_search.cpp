@@ -1,22 +1,28 @@
 #include "preview/text/text_search.h"
 
-#include <QList>
 #include <algorithm>
+#include <iterator>
 
 #include "preview/text/text_geometry.h"
+#include "text/normal_form.h"
 
 namespace tarvis {
 namespace {
 
-// The text of one cell with the places where its lines start.
+// The text of one cell as it is compared, with the places where its lines start.
 struct CellText {
   QString Text;
   struct Line {
     qsizetype Start;
     ReadPiece Piece;
+    FoldedText Folded;
   };
   std::vector<Line> Lines;
 };
+
+QString ToString(const std::u16string& units) {
+  return QString::fromUtf16(units.data(), static_cast<qsizetype>(units.size()));
+}
 
 bool IsWordCharacter(QChar character) {
   return character.isLetterOrNumber() || character == QLatin1Char('_');
@@ -29,18 +35,12 @@ bool IsWholeWord(const QString& text, qsizetype start, qsizetype length) {
   return !startsInside && !endsInside;
 }
 
-QString WordsOf(const Document& document, const ReadPiece& piece) {
-  const std::string_view text = TextOf(document, piece);
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 class Searcher {
  public:
   Searcher(const Document& document, const QString& wanted, const SearchOptions& options)
       : document_(document),
-        wanted_(wanted),
-        options_(options),
-        caseMode_(options.CaseMatters ? Qt::CaseSensitive : Qt::CaseInsensitive) {}
+        wanted_(ToString(Fold(wanted.toStdString(), options.CaseMatters).Units)),
+        options_(options) {}
 
   void SearchPage(int page, const PageText& text, std::vector<SearchHit>& hits) {
     CellText cell;
@@ -52,18 +52,19 @@ class Searcher {
         cell.Lines.clear();
       }
       if (!cell.Lines.empty()) cell.Text += QLatin1Char(' ');
-      cell.Lines.push_back({cell.Text.size(), piece});
-      cell.Text += WordsOf(document_, piece);
+      cell.Lines.push_back({cell.Text.size(), piece, Fold(TextOf(document_, piece), options_.CaseMatters)});
+      cell.Text += ToString(cell.Lines.back().Folded.Units);
     }
     SearchCell(page, cell, hits);
   }
 
  private:
   void SearchCell(int page, const CellText& cell, std::vector<SearchHit>& hits) const {
-    for (qsizetype at = cell.Text.indexOf(wanted_, 0, caseMode_); at >= 0;) {
+    if (wanted_.isEmpty()) return;
+    for (qsizetype at = cell.Text.indexOf(wanted_); at >= 0;) {
       const bool counts = !options_.WholeWords || IsWholeWord(cell.Text, at, wanted_.size());
       if (counts) hits.push_back({page, BoxesOf(cell, at, at + wanted_.size())});
-      at = cell.Text.indexOf(wanted_, counts ? at + wanted_.size() : at + 1, caseMode_);
+      at = cell.Text.indexOf(wanted_, counts ? at + wanted_.size() : at + 1);
     }
   }
 
@@ -73,20 +74,19 @@ class Searcher {
       const qsizetype first = cell.Lines[line].Start;
       const qsizetype last = line + 1 < cell.Lines.size() ? cell.Lines[line + 1].Start - 1 : cell.Text.size();
       if (start >= last || end <= first) continue;
-      // Geometry counts characters, strings count UTF-16 units.
-      const auto characters = [&](qsizetype unit) {
-        return static_cast<std::size_t>(QStringView(cell.Text).mid(first, unit - first).toUcs4().size());
-      };
-      boxes.push_back(BoxOfCharacters(document_, cell.Lines[line].Piece, characters(std::max(start, first)),
-                                      characters(std::min(end, last))));
+      const auto unit = [first](qsizetype place) { return static_cast<std::size_t>(place - first); };
+      const FoldedText& folded = cell.Lines[line].Folded;
+      std::ranges::copy(
+          BoxesOfCharacters(document_, cell.Lines[line].Piece, folded.FirstOf(unit(std::max(start, first))),
+                            folded.EndOf(unit(std::min(end, last) - 1))),
+          std::back_inserter(boxes));
     }
     return boxes;
   }
 
   const Document& document_;
-  const QString& wanted_;
+  const QString wanted_;  // folded
   const SearchOptions& options_;
-  Qt::CaseSensitivity caseMode_;
 };
 
 }  // namespace

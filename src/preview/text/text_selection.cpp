@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <algorithm>
+#include <iterator>
 #include <limits>
 
 #include "preview/text/text_geometry.h"
@@ -122,7 +123,8 @@ std::vector<QRectF> TextSelection::Boxes(int page) const {
   for (std::size_t piece = 0; piece < text.Pieces.size(); ++piece) {
     const Part part = PartOf(page, piece, text.Pieces[piece]);
     if (part.First < part.End) {
-      boxes.push_back(BoxOfCharacters(text_.Source(), text.Pieces[piece], part.First, part.End));
+      std::ranges::copy(BoxesOfCharacters(text_.Source(), text.Pieces[piece], part.First, part.End),
+                        std::back_inserter(boxes));
     }
   }
   return boxes;
