@@ -23,7 +23,8 @@ class BusyPointer {
 
 std::shared_ptr<const Document> ComposeOnDefaultPaper(PrintRun& run, rptTarvis& report) {
   const BusyPointer busy;
-  return std::make_shared<const Document>(ComposeMasterReport(run, report, DefaultPaper(), QtTextMeasurer()));
+  return std::make_shared<const Document>(
+      ComposeMasterReport(run, report, DefaultPaper(), QtTextMeasurer(run.Page.Number())));
 }
 
 PreviewSetup SetupOf(const ActiveReport& report, const FileHeader& data,

@@ -19,6 +19,11 @@ DocumentBuilder& DocumentBuilder::Paper(float width, float height) {
   return *this;
 }
 
+DocumentBuilder& DocumentBuilder::CodePage(int number) {
+  document_->CodePage = number;
+  return *this;
+}
+
 DocumentBuilder& DocumentBuilder::Page() {
   document_->Pages.push_back({static_cast<std::uint32_t>(document_->Items.size()), 0});
   return *this;
@@ -45,7 +50,7 @@ std::uint32_t DocumentBuilder::Piece(const std::string& text, float size, bool b
       pieces_.try_emplace({text, number}, static_cast<std::uint32_t>(document_->Texts.size()));
   if (isNew) {
     document_->Storage.push_back(text);
-    ReportFont& font = ReportFont::OfThisThread();
+    ReportFont& font = ReportFont::OfThisThread(document_->CodePage);
     const TextFlow flow = FlowOf(text);
     const float advance = flow == TextFlow::Plain
                               ? CharacterEdges(text, size, bold, font).back()

@@ -15,6 +15,8 @@ class DocumentBuilder {
 
   // A4 unless set otherwise.
   DocumentBuilder& Paper(float width, float height);
+  // Of the texts that follow, for their fonts.
+  DocumentBuilder& CodePage(int number);
   DocumentBuilder& Page();
   // A table row: bordered cells of equal width, one text each. A new band.
   DocumentBuilder& Row(const std::vector<std::string>& cells, float top, float height = 283,

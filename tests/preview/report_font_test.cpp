@@ -57,5 +57,24 @@ TEST(ReportFont, ACharacterOfNoFontStillShowsSomething) {
   EXPECT_GT(glyph.AdvanceEm, 0);
 }
 
+TEST(ReportFont, WritesIdeographsAsTheReadersOfTheCodePageDo) {
+  const auto family = [](int codePage) {
+    ReportFont& font = ReportFont::OfThisThread(codePage);
+    return font.Face(font.Find(U'直', false).Face).familyName();
+  };
+  EXPECT_EQ(family(932), QStringLiteral("Noto Sans CJK JP"));
+  EXPECT_EQ(family(936), QStringLiteral("Noto Sans CJK SC"));
+  EXPECT_EQ(family(949), QStringLiteral("Noto Sans CJK KR"));
+  EXPECT_EQ(family(950), QStringLiteral("Noto Sans CJK TC"));
+}
+
+TEST(ReportFont, KeepsArialForWhatItHasInEveryCodePage) {
+  for (const int codePage : {0, 874, 932, 936, 949, 950, 1255, 1256}) {
+    ReportFont& font = ReportFont::OfThisThread(codePage);
+    EXPECT_EQ(font.Find(U'A', false).Face, 0) << codePage;
+    EXPECT_FLOAT_EQ(font.Find(U'0', true).AdvanceEm, 1139.0F / 2048) << codePage;
+  }
+}
+
 }  // namespace
 }  // namespace tarvis

@@ -8,8 +8,15 @@ namespace tarvis {
 // Needs a QGuiApplication; to be used on one thread at a time.
 class QtTextMeasurer : public TextMeasurer {
  public:
+  // `codePage` is that of the texts.
+  explicit QtTextMeasurer(int codePage = 0) : codePage_(codePage) {}
+
+  int CodePage() const override { return codePage_; }
   float AdvanceEm(char32_t character, bool bold) const override;
   float LineAdvanceEm(std::string_view line, bool bold, TextFlow flow) const override;
+
+ private:
+  int codePage_;
 };
 
 }  // namespace tarvis

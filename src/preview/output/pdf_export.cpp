@@ -57,7 +57,7 @@ void FillStreams(std::vector<QPDFObjectHandle>& streams, const std::deque<std::s
 
 // False if cancelled.
 bool AddPages(QPDF& pdf, const Document& document, const PdfSheets& sheets, const Progress& progress) {
-  ReportFont& font = ReportFont::OfThisThread();
+  ReportFont& font = ReportFont::OfThisThread(document.CodePage);
   PdfGlyphs glyphs(font);
   PdfPictures pictures;
   ContentCompressor compressor;

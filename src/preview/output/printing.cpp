@@ -93,7 +93,7 @@ QString PrintDocument(const Document& document, const std::vector<int>& pages, Q
     if (!progress(static_cast<int>(index), count)) return Drop(printer);
     if (index > 0 && !printer.newPage())
       return Text("The printer \"%1\" took no further page.").arg(printer.printerName());
-    PainterCanvas canvas(painter);
+    PainterCanvas canvas(painter, document.CodePage);
     PaintInReadingOrder(document, static_cast<std::size_t>(pages[index]), canvas);
   }
   if (!progress(count, count)) return Drop(printer);

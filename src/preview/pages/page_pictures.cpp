@@ -34,7 +34,7 @@ QImage RenderPage(const Document& document, int page, int pageWidth, int top, in
   const double scale = pageWidth / static_cast<double>(document.Setup.Width);
   painter.translate(0, -top);
   painter.scale(scale, scale);
-  PixelCanvas canvas(painter);
+  PixelCanvas canvas(painter, document.CodePage);
   PaintPage(document, static_cast<std::size_t>(page), canvas);
   return picture;
 }

@@ -12,7 +12,9 @@ namespace tarvis {
 // it was made.
 class PainterCanvas : public Canvas {
  public:
-  explicit PainterCanvas(QPainter& painter) : painter_(painter), font_(ReportFont::OfThisThread()) {}
+  // `codePage` is that of the document.
+  explicit PainterCanvas(QPainter& painter, int codePage = 0)
+      : painter_(painter), font_(ReportFont::OfThisThread(codePage)) {}
 
   void Fill(const std::vector<Rect>& boxes, Color color) override;
   void Frame(const std::vector<Rect>& boxes, float width) override;
@@ -33,7 +35,8 @@ class PainterCanvas : public Canvas {
 // zoom.
 class PixelCanvas : public PainterCanvas {
  public:
-  explicit PixelCanvas(QPainter& painter) : PainterCanvas(painter), toDevice_(painter.deviceTransform()) {}
+  explicit PixelCanvas(QPainter& painter, int codePage = 0)
+      : PainterCanvas(painter, codePage), toDevice_(painter.deviceTransform()) {}
 
   void Fill(const std::vector<Rect>& boxes, Color color) override;
   void Frame(const std::vector<Rect>& boxes, float width) override;

@@ -6,20 +6,26 @@
 #include <QPainterPath>
 #include <QTextLayout>
 
+#include "pictures/font_families.h"
 #include "report/engine/text_measurer.h"
 
 namespace tarvis {
 namespace {
 
-QFont BaseFont(bool bold) {
-  static const bool isInstalled = QFontDatabase::families().contains(QLatin1String(FontFamily));
-  static const QString family = QLatin1String(isInstalled ? FontFamily : SubstituteFamily);
-  QFont font(family);
+QFont AtFullSize(const QStringList& families, bool bold) {
+  QFont font;
+  font.setFamilies(families);
   font.setPixelSize(2048);
   font.setBold(bold);
   font.setHintingPreference(QFont::PreferNoHinting);
   font.setKerning(false);
   return font;
+}
+
+QString BaseFamily() {
+  static const bool isInstalled = QFontDatabase::families().contains(QLatin1String(FontFamily));
+  static const QString family = QLatin1String(isInstalled ? FontFamily : SubstituteFamily);
+  return family;
 }
 
 bool IsCombining(char32_t character) {
@@ -45,13 +51,14 @@ QRawFont AtDesignUnits(QRawFont font) {
 
 }  // namespace
 
-ReportFont& ReportFont::OfThisThread() {
-  thread_local ReportFont font;
-  return font;
+ReportFont& ReportFont::OfThisThread(int codePage) {
+  thread_local std::map<int, ReportFont> fonts;
+  return fonts.try_emplace(codePage, codePage).first->second;
 }
 
-ReportFont::ReportFont() {
-  for (const bool bold : {false, true}) faces_.push_back(AtDesignUnits(QRawFont::fromFont(BaseFont(bold))));
+ReportFont::ReportFont(int codePage) : codePage_(codePage) {
+  for (const bool bold : {false, true})
+    faces_.push_back(AtDesignUnits(QRawFont::fromFont(AtFullSize({BaseFamily()}, bold))));
   for (const bool bold : {false, true}) {
     for (char32_t character = 0; character < 128; ++character)
       ascii_[bold][character] = Look(character, bold);
@@ -80,14 +87,29 @@ FontGlyph ReportFont::Look(char32_t character, bool bold) {
   const QString text = QString::fromUcs4(&character, 1);
   const QList<quint32> glyphs = faces_[found.Face].glyphIndexesForString(text);
   found.Glyph = glyphs.isEmpty() ? 0 : glyphs.front();
-  if (found.Glyph == 0) LookInFallback(character, bold, found);
+  if (found.Glyph == 0 && !LookInFamilies(character, bold, found)) LookInFallback(character, bold, found);
   if (!IsCombining(character)) found.AdvanceEm = DesignAdvance(found.Face, found.Glyph);
   return found;
 }
 
+// The first installed family of the code page that has the character. The toolkit would ask them in an order
+// of its own.
+bool ReportFont::LookInFamilies(char32_t character, bool bold, FontGlyph& found) {
+  for (const QString& family : FamiliesOf(codePage_)) {
+    if (!QFontDatabase::hasFamily(family)) continue;
+    const QRawFont face = QRawFont::fromFont(AtFullSize({family}, bold));
+    const QList<quint32> glyphs = face.glyphIndexesForString(QString::fromUcs4(&character, 1));
+    if (glyphs.isEmpty() || glyphs.front() == 0 || !HasOutline(face, glyphs.front())) continue;
+    found.Glyph = glyphs.front();
+    found.Face = NumberOf(face);
+    return true;
+  }
+  return false;
+}
+
 // The box of the first face remains if no font has the character.
 bool ReportFont::LookInFallback(char32_t character, bool bold, FontGlyph& found) {
-  QTextLayout layout(QString::fromUcs4(&character, 1), BaseFont(bold));
+  QTextLayout layout(QString::fromUcs4(&character, 1), ForLayout(bold));
   layout.beginLayout();
   layout.createLine();
   layout.endLayout();
@@ -109,7 +131,7 @@ float ReportFont::DesignAdvance(std::uint16_t face, std::uint32_t glyph) const {
 }
 
 QFont ReportFont::ForLayout(bool bold) const {
-  return BaseFont(bold);
+  return AtFullSize(QStringList(BaseFamily()) + FamiliesOf(codePage_), bold);
 }
 
 const FontGlyph& ReportFont::Drawn(std::uint16_t face, std::uint32_t glyph) {

@@ -24,9 +24,10 @@ struct FontGlyph {
 // Fonts belong to the thread that made them, so each thread has a ReportFont of its own.
 class ReportFont {
  public:
-  static ReportFont& OfThisThread();
+  // `codePage`: that of the texts, by which fallback fonts are chosen; 0 if it isn't known.
+  static ReportFont& OfThisThread(int codePage = 0);
 
-  ReportFont();
+  explicit ReportFont(int codePage = 0);
 
   // Found once for each character and weight.
   const FontGlyph& Find(char32_t character, bool bold);
@@ -45,9 +46,11 @@ class ReportFont {
 
  private:
   FontGlyph Look(char32_t character, bool bold);
+  bool LookInFamilies(char32_t character, bool bold, FontGlyph& found);
   bool LookInFallback(char32_t character, bool bold, FontGlyph& found);
   float DesignAdvance(std::uint16_t face, std::uint32_t glyph) const;
 
+  int codePage_;
   std::vector<QRawFont> faces_;  // at one pixel to the design unit
   std::array<std::array<FontGlyph, 128>, 2> ascii_;
   std::array<std::unordered_map<char32_t, FontGlyph>, 2> others_;

@@ -16,7 +16,7 @@ std::vector<CharacterPlace> PrintedPlaces(const Document& document, std::uint32_
   const TextPiece& piece = document.Texts[item.Source];
   const float stretch = FitText(piece, item.Box).Stretch;
   std::vector<CharacterPlace> places =
-      CharacterPlaces(piece, document.Styles[piece.Style], ReportFont::OfThisThread());
+      CharacterPlaces(piece, document.Styles[piece.Style], ReportFont::OfThisThread(document.CodePage));
   for (CharacterPlace& place : places) {
     place.Left = item.Box.Left + place.Left * stretch;
     place.Right = item.Box.Left + place.Right * stretch;

@@ -90,6 +90,7 @@ class Document {
   Document& operator=(Document&&) = default;
 
   PageSetup Setup;
+  int CodePage = 0;   // of the texts, by which fonts were chosen when they were measured; 0 if it isn't known
   std::string Title;  // caption of the report shown
   std::vector<Page> Pages;
   std::vector<Item> Items;

@@ -57,6 +57,7 @@ std::size_t TextCache::KeyHash::operator()(const Key& key) const {
 
 TextCache::TextCache(Document& document, const TextMeasurer& measurer)
     : document_(document), measurer_(measurer), breaker_(std::make_unique<LineBreaker>()) {
+  document_.CodePage = measurer_.CodePage();
   for (const bool bold : {false, true}) {
     for (char32_t character = ' '; character < 127; ++character) {
       ascii_[bold][character] = measurer_.AdvanceEm(character, bold);

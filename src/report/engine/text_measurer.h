@@ -24,6 +24,9 @@ class TextMeasurer {
   // Design advance width of one character in em, without hinting or kerning. A combining mark has 0.
   virtual float AdvanceEm(char32_t character, bool bold) const = 0;
 
+  // The code page of the texts, by which the fonts are chosen; 0 if it isn't known.
+  virtual int CodePage() const { return 0; }
+
   // Advance width in em of a line (UTF-8) that must be shaped, as it is painted. A measurer that knows no
   // shaping adds up the characters.
   virtual float LineAdvanceEm(std::string_view line, bool bold, TextFlow /*flow*/) const {

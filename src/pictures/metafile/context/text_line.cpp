@@ -23,7 +23,8 @@ TextLine TextPlacer::Baseline(const TextRecord& text) {
   const DcState& state = context_.State();
   const MetaFont& font = *state.Font;
   TextLine line;
-  line.Font = {QString::fromStdU16String(font.Face), font.Weight >= BoldWeight, font.Italic};
+  line.Font = {QString::fromStdU16String(font.Face), font.Weight >= BoldWeight, font.Italic,
+               CodePageOf(font.Charset)};
   line.Face = &glyphs_.Face(line.Font);
   const QTransform page = context_.PageToDevice();
   const double signX = page.m11() < 0 ? -1 : 1;

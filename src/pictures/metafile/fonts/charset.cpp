@@ -11,18 +11,26 @@ namespace {
 struct CharsetName {
   std::uint8_t Number;
   const char* Converter;
+  int CodePage;
 };
 
 constexpr CharsetName Names[] = {
-    {77, "macintosh"},     {128, "windows-932"},  {129, "windows-949"},  {130, "windows-949"},
-    {134, "windows-936"},  {136, "windows-950"},  {161, "windows-1253"}, {162, "windows-1254"},
-    {163, "windows-1258"}, {177, "windows-1255"}, {178, "windows-1256"}, {186, "windows-1257"},
-    {204, "windows-1251"}, {222, "windows-874"},  {238, "windows-1250"}, {255, "ibm-850"},
+    {77, "macintosh", 10000},    {128, "windows-932", 932},   {129, "windows-949", 949},
+    {130, "windows-949", 949},   {134, "windows-936", 936},   {136, "windows-950", 950},
+    {161, "windows-1253", 1253}, {162, "windows-1254", 1254}, {163, "windows-1258", 1258},
+    {177, "windows-1255", 1255}, {178, "windows-1256", 1256}, {186, "windows-1257", 1257},
+    {204, "windows-1251", 1251}, {222, "windows-874", 874},   {238, "windows-1250", 1250},
+    {255, "ibm-850", 850},
 };
 
+const CharsetName* Find(std::uint8_t charset) {
+  const auto* const found = std::ranges::find(Names, charset, &CharsetName::Number);
+  return found == std::end(Names) ? nullptr : found;
+}
+
 const char* ConverterName(std::uint8_t charset) {
-  const auto found = std::ranges::find(Names, charset, &CharsetName::Number);
-  return found == std::end(Names) ? "windows-1252" : found->Converter;
+  const CharsetName* const name = Find(charset);
+  return name == nullptr ? "windows-1252" : name->Converter;
 }
 
 std::vector<TextCharacter> BytesAsCodes(Bytes bytes) {
@@ -33,6 +41,11 @@ std::vector<TextCharacter> BytesAsCodes(Bytes bytes) {
 }
 
 }  // namespace
+
+int CodePageOf(std::uint8_t charset) {
+  const CharsetName* const name = Find(charset);
+  return name == nullptr ? 0 : name->CodePage;
+}
 
 std::vector<TextCharacter> DecodeText(Bytes bytes, std::uint8_t charset) {
   const bool plain = std::ranges::all_of(bytes, [](std::uint8_t byte) { return byte < 0x80; });

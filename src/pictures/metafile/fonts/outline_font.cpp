@@ -1,8 +1,12 @@
 #include "pictures/metafile/fonts/outline_font.h"
 
+#include <QFontDatabase>
 #include <algorithm>
+#include <array>
 #include <map>
 #include <utility>
+
+#include "pictures/font_families.h"
 
 namespace tarvis {
 namespace {
@@ -29,6 +33,20 @@ QString KnownFamily(const QString& family) {
   return family.isEmpty() ? QString("Arial") : found == substitutes.end() ? family : found->second;
 }
 
+// A family that is not installed is replaced by one that has the characters of its character set. The
+// families of Latin letters have replacements of their own.
+QString Replacement(const QString& family, int codePage) {
+  constexpr std::array latin = {"arial", "times new roman", "courier new"};
+  const QString name = family.toLower();
+  if (QFontDatabase::hasFamily(family) ||
+      std::ranges::any_of(latin, [&](const char* known) { return name == QLatin1String(known); }))
+    return family;
+  for (const QString& other : FamiliesOf(codePage)) {
+    if (QFontDatabase::hasFamily(other)) return other;
+  }
+  return family;
+}
+
 }  // namespace
 
 bool AreMetricTwins(const QString& family, const QString& other) {
@@ -43,7 +61,8 @@ bool AreMetricTwins(const QString& family, const QString& other) {
 
 QFont InstalledFont(const OutlineFont& font, int emPixels) {
   // A name after @ is that of the same font for upright text.
-  QFont installed(KnownFamily(font.Family.startsWith('@') ? font.Family.mid(1) : font.Family));
+  QFont installed(Replacement(KnownFamily(font.Family.startsWith('@') ? font.Family.mid(1) : font.Family),
+                              font.CodePage));
   installed.setBold(font.Bold);
   installed.setItalic(font.Italic);
   installed.setPixelSize(emPixels);

@@ -11,10 +11,12 @@ struct OutlineFont {
   QString Family;
   bool Bold = false;
   bool Italic = false;
+  int CodePage = 0;  // of the character set, by which stand-ins are chosen; 0 if it tells none
 
   bool operator==(const OutlineFont&) const = default;
   bool operator<(const OutlineFont& other) const {
-    return std::tie(Family, Bold, Italic) < std::tie(other.Family, other.Bold, other.Italic);
+    return std::tie(Family, Bold, Italic, CodePage) <
+           std::tie(other.Family, other.Bold, other.Italic, other.CodePage);
   }
 };
 

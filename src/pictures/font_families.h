@@ -1,0 +1,14 @@
+// Which fonts have the characters of a code page, in the letter forms of its readers. Chinese, Japanese and
+// Korean share their ideographs but don't write them alike, so the desktop's own choice may be another
+// language's.
+#pragma once
+
+#include <QStringList>
+
+namespace tarvis {
+
+// Families for what Arial doesn't have, best first; those that are not installed are passed over. None for a
+// code page whose scripts don't tell a language: there the desktop chooses by script.
+QStringList FamiliesOf(int codePage);
+
+}  // namespace tarvis
