@@ -81,7 +81,7 @@ void PdfCanvas::Strokes(const std::vector<Rect>& lines, float width) {
 
 void PdfCanvas::Text(const TextPiece& piece, const TextStyle& style, const Rect& box) {
   if (piece.Text.empty()) return;
-  const double baseline = D(box.Top) + AscentEm * D(style.Size * TwipsPerPoint);
+  const double baseline = BaselineOf(piece, style, box);
   const TextFit fit = FitText(piece, box);
   const std::optional<Rect> clip = ClipOfText(fit, style, box);
   if (clip) {

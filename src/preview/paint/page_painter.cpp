@@ -4,9 +4,27 @@
 #include <tuple>
 
 #include "report/engine/text_cache.h"
+#include "report/engine/utf8.h"
 
 namespace tarvis {
 namespace {
+
+// Whether a line has characters as high as ideographs: Chinese, Japanese and Korean, and their full-width
+// signs.
+bool HasIdeographs(std::string_view text) {
+  constexpr unsigned char FirstByte = 0xE2;  // with which they and all higher characters begin in UTF-8
+  const auto mayBegin = [](char byte) { return static_cast<unsigned char>(byte) >= FirstByte; };
+  if (std::ranges::none_of(text, mayBegin)) return false;
+  for (std::size_t offset = 0; offset < text.size();) {
+    const char32_t character = NextCharacter(text, offset);
+    const bool isLow = character >= 0x2E80 && character <= 0xD7FF;
+    const bool isCompatible = character >= 0xF900 && character <= 0xFAFF;
+    const bool isWide = character >= 0xFF01 && character <= 0xFFE6;
+    const bool isHigh = character >= 0x20000 && character <= 0x3FFFF;
+    if (isLow || isCompatible || isWide || isHigh) return true;
+  }
+  return false;
+}
 
 float LineWidth(const Item& item) {
   return static_cast<float>(item.Weight) * LineWeightUnit;
@@ -113,6 +131,15 @@ TextFit FitText(const TextPiece& piece, const Rect& box) {
   if (piece.Advance <= 0 || box.Width + Tolerance >= piece.Advance) return {};
   const float stretch = box.Width / piece.Advance;
   return {std::max(stretch, Narrowest), stretch < Narrowest};
+}
+
+double BaselineOf(const TextPiece& piece, const TextStyle& style, const Rect& box) {
+  // Ideographs reach from 0.85 em above the baseline to 0.09 em below it; this puts them in the middle of the
+  // line's pitch.
+  constexpr double LoweringEm = 0.034;
+  const double lowering = HasIdeographs(piece.Text) ? LoweringEm : 0;
+  return static_cast<double>(box.Top) +
+         (AscentEm + lowering) * static_cast<double>(style.Size * TwipsPerPoint);
 }
 
 std::optional<Rect> ClipOfText(const TextFit& fit, const TextStyle& style, const Rect& box) {

@@ -36,6 +36,11 @@ struct TextFit {
 };
 [[nodiscard]] TextFit FitText(const TextPiece& piece, const Rect& box);
 
+// Where the baseline of a piece is, in twips below the top of the paper. Ideographs reach higher and less
+// deep than Latin letters: their lines are lowered a little, so that they keep clear of the border above
+// them.
+double BaselineOf(const TextPiece& piece, const TextStyle& style, const Rect& box);
+
 // What may be painted of a piece in its item's box, with room for letters that reach above or below their
 // line; none if it is to be painted whole.
 [[nodiscard]] std::optional<Rect> ClipOfText(const TextFit& fit, const TextStyle& style, const Rect& box);

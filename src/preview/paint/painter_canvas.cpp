@@ -57,8 +57,7 @@ void PainterCanvas::Strokes(const std::vector<Rect>& lines, float width) {
 }
 
 void PainterCanvas::Text(const TextPiece& piece, const TextStyle& style, const Rect& box) {
-  const double baseline =
-      static_cast<double>(box.Top) + AscentEm * static_cast<double>(style.Size * TwipsPerPoint);
+  const double baseline = BaselineOf(piece, style, box);
   const QPointF start(static_cast<double>(box.Left), baseline);
   const TextFit fit = FitText(piece, box);
   const std::optional<Rect> clip = ClipOfText(fit, style, box);
