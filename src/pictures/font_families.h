@@ -1,5 +1,5 @@
 // Which fonts have the characters of a code page, in the letter forms of its readers. Chinese, Japanese and
-// Korean share their ideographs but don't write them alike, so the desktop's own choice may be another
+// Korean share their ideographs but write them in different forms, so the desktop's own choice may be another
 // language's.
 #pragma once
 

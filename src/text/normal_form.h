@@ -1,4 +1,4 @@
-// Unicode's normal forms: one way to write each letter, and what is alike to a reader who searches.
+// Unicode's normal forms: one way to write each letter, and what a search compares.
 #pragma once
 
 #include <cstddef>
@@ -14,8 +14,8 @@ namespace tarvis {
 // is so already.
 std::optional<std::string> ToComposed(std::string_view text);
 
-// A text as a search compares it (form NFKC): full and half width, and other ways to write a letter, are
-// alike.
+// A text as a search compares it (form NFKC): full and half width, and other ways to write a letter, are the
+// same.
 struct FoldedText {
   std::u16string Units;
   // The first character of the text (counted by code points) that each unit comes from, and the one after the

@@ -136,7 +136,7 @@ TEST(SearchOfScripts, CaseMattersOnlyWhereItIsAskedFor) {
   EXPECT_EQ(HitsOf("Độ", "Độ khuếch đại", {.CaseMatters = true}), 1U);
 }
 
-TEST(SearchOfScripts, AHitInAHebrewLineIsMarkedWhereItStands) {
+TEST(SearchOfScripts, AHitInAHebrewLineIsMarkedAtItsPlace) {
   const auto document = DocumentBuilder().Page().Text("שלום Pn100", 1440, 720).Build();
   DocumentText text(*document);
   const std::vector<SearchHit> hits = Search(text, QStringLiteral("pn100"), {});
@@ -146,7 +146,7 @@ TEST(SearchOfScripts, AHitInAHebrewLineIsMarkedWhereItStands) {
   EXPECT_LT(hits[0].Boxes[0].right(), 1440 + static_cast<double>(document->Texts[0].Advance) - 100);
 }
 
-TEST(SearchOfScripts, AHitBehindFoldedLettersIsMarkedWhereItStands) {
+TEST(SearchOfScripts, AHitAfterFoldedLettersIsMarkedAtItsPlace) {
   const auto document = DocumentBuilder().Page().Text("ﾊﾟﾊﾟ㎜X", 1440, 720).Build();
   DocumentText text(*document);
   const std::vector<SearchHit> hits = Search(text, QStringLiteral("x"), {});

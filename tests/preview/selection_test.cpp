@@ -206,7 +206,7 @@ TEST(ShapedSelection, HebrewIsSelectedFromTheRight) {
 TEST(ShapedSelection, TextOfBothDirectionsHasABoxForEachStretch) {
   const auto document = DocumentBuilder().Page().Text("Pn100 שלום", 1440, 1000, 12).Build();
   const auto width = static_cast<double>(document->Texts[0].Advance);
-  // From the start to after the first Hebrew letter, which stands at the very right.
+  // From the start to after the first Hebrew letter, which is at the very right.
   const Between both(*document, 1400, 1440 + width - 130);
   EXPECT_EQ(both.Text, QStringLiteral("Pn100 ש"));
   ASSERT_EQ(both.Boxes.size(), 2U);

@@ -224,6 +224,13 @@ class Paths(unittest.TestCase):
                     for name in line.split()[0].split("|")}
         self.assertEqual(packages - set(architecture.spans), set())
 
+    def test_architecture_tells_the_fonts_of_each_code_page(self):
+        architecture = next(document for document in documents() if document.name == "docs/architecture.md")
+        table = {page: families.split(", ") for page, families in architecture.rows("### Fonts by code page")}
+        code = source_of("src/pictures/font_families.cpp")
+        self.assertEqual(table, {page: re.findall(r'"([^"]+)"', families)
+                                 for page, families in re.findall(r"{(\d+),\s*{([^}]+)}", code)})
+
     def test_every_link_leads_somewhere(self):
         every = {document.path: document for document in documents()}
         for document in every.values():

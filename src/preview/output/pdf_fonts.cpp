@@ -31,7 +31,7 @@ void DrawGlyphs(QPainter& painter, const QRawFont& face, const QList<quint32>& g
   painter.drawGlyphRun({}, run);
 }
 
-// The first page shows the box that stands for a missing character, each further one a font's glyphs.
+// The first page shows the box of a missing character, each further one a font's glyphs.
 void DrawFonts(QPdfWriter& writer, QPainter& painter, const PdfGlyphs& glyphs, ReportFont& font) {
   DrawGlyphs(painter, font.FaceAt(0, FontPixels), {0});
   for (const PdfFont& used : glyphs.Fonts()) {
@@ -146,7 +146,7 @@ std::string SubsetName(const std::string& name, std::size_t number) {
   return tag + "+" + name.substr(1);
 }
 
-// Programs may be shared, so what is told of a font is written into objects of its own.
+// Programs may be shared, so what belongs to one font is written into objects of its own.
 QPDFObjectHandle MakeFont(QPDF& pdf, const PdfFont& used, const Program& program, std::size_t number) {
   QPDFObjectHandle font =
       program.Font.isIndirect() ? pdf.copyForeignObject(program.Font).shallowCopy() : program.Font;

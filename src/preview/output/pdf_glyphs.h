@@ -22,8 +22,8 @@ struct PdfGlyph {
   float AdvanceEm = 0;
 };
 
-// A font of the PDF: glyphs of one face, by code less one. A glyph has a code for each text that it stands
-// for, so that a box can be copied as the character that no font has.
+// A font of the PDF: glyphs of one face, by code less one. A glyph has a code for each text that it
+// represents, so that a box can be copied as the character that no font has.
 struct PdfFont {
   std::uint16_t Face = 0;
   std::vector<std::uint32_t> Glyphs;

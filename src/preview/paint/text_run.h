@@ -21,7 +21,7 @@ struct TextRun {
 
 std::vector<TextRun> MakeRuns(const TextPiece& piece, const TextStyle& style, ReportFont& font);
 
-// Where each character of a piece stands, in the order of the text, in twips from its left edge.
+// The place of each character of a piece, in the order of the text, in twips from its left edge.
 std::vector<CharacterPlace> CharacterPlaces(const TextPiece& piece, const TextStyle& style, ReportFont& font);
 
 // Left edge of each character and the end of the last, in twips: one more than characters. `text` is UTF-8

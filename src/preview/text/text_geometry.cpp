@@ -52,7 +52,7 @@ std::size_t CharacterAt(const std::vector<CharacterPlace>& places, double x) {
   const auto index = static_cast<std::size_t>(nearest - places.begin());
   const double middle = (static_cast<double>(nearest->Left) + static_cast<double>(nearest->Right)) / 2;
   if ((x > middle) == nearest->RunsToTheLeft) return index;
-  // Behind its marks, which stand in the same place.
+  // After its marks, which have the same place.
   std::size_t end = index + 1;
   while (end < places.size() && places[end].Left == nearest->Left && places[end].Right == nearest->Right)
     ++end;

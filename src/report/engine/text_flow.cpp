@@ -9,7 +9,7 @@
 namespace tarvis {
 namespace {
 
-// Up to here each character is one glyph in its place: Latin letters, and what stands between them.
+// Up to here each character is one glyph in its place: Latin letters, and the signs between them.
 constexpr char32_t LastPlainCharacter = 0x2FF;
 constexpr unsigned char FirstByteAbove = 0xCC;  // with which all further characters begin in UTF-8
 

@@ -19,7 +19,7 @@ struct TextCharacter {
 // 8-bit text; characters of the symbol set keep their byte as code.
 std::vector<TextCharacter> DecodeText(Bytes bytes, std::uint8_t charset);
 
-// The code page of a character set; 0 if it tells none.
+// The code page of a character set; 0 if it has none.
 int CodePageOf(std::uint8_t charset);
 
 // 16-bit text, little-endian.

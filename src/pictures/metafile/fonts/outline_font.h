@@ -11,7 +11,7 @@ struct OutlineFont {
   QString Family;
   bool Bold = false;
   bool Italic = false;
-  int CodePage = 0;  // of the character set, by which stand-ins are chosen; 0 if it tells none
+  int CodePage = 0;  // of the character set, by which replacements are chosen; 0 if it has none
 
   bool operator==(const OutlineFont&) const = default;
   bool operator<(const OutlineFont& other) const {
