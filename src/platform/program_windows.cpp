@@ -24,7 +24,7 @@ class BusyPointer {
 std::shared_ptr<const Document> ComposeOnDefaultPaper(PrintRun& run, rptTarvis& report) {
   const BusyPointer busy;
   return std::make_shared<const Document>(
-      ComposeMasterReport(run, report, DefaultPaper(), QtTextMeasurer(run.Page.Number())));
+      ComposeMasterReport(run, report, DefaultPaper(), QtTextMeasurer(run.CodePage.Number())));
 }
 
 PreviewSetup SetupOf(const ActiveReport& report, const FileHeader& data,

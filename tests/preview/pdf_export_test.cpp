@@ -11,8 +11,10 @@
 #include <QTemporaryDir>
 #include <QTimeZone>
 #include <QXmlStreamReader>
+#include <thread>
 
 #include "preview/document_builder.h"
+#include "preview/paint/report_font.h"
 #include "preview/pdf_file.h"
 #include "preview/sample_picture.h"
 #include "support/full_disk.h"
@@ -60,6 +62,24 @@ TEST_F(PdfExport, TextCanBeExtractedInReadingOrder) {
               .Build());
   const QString raw = RunTool("pdftotext", {QStringLiteral("-raw"), Path(), QStringLiteral("-")});
   EXPECT_EQ(raw.simplified(), QStringLiteral("Pn100 Speed Loop Gain 40.0 x 1"));
+}
+
+TEST_F(PdfExport, BytesDoNotDependOnWhatTheFontsWereAskedBefore) {
+  const auto document = DocumentBuilder()
+                            .Page()
+                            .Text("\u8868\u793A", 1440, 1000)
+                            .Text("\u05D0", 1440, 2000, 8.5F, true)
+                            .Build();
+  std::string fresh;
+  std::thread([&] { fresh = MakePdf(*document, PdfSheets::AllOf(*document), {}, GoOn); }).join();
+  std::string after;
+  std::thread([&] {
+    ReportFont::OfThisThread().Find(U'\u05D0', true);
+    ReportFont::OfThisThread().Find(U'\u05D0', false);
+    after = MakePdf(*document, PdfSheets::AllOf(*document), {}, GoOn);
+  }).join();
+  EXPECT_FALSE(fresh.empty());
+  EXPECT_EQ(after, fresh);
 }
 
 TEST_F(PdfExport, WordsAreWhereTheLayoutSaysWithinATwentiethOfAPoint) {
