@@ -17,7 +17,8 @@ const Document& DocumentMaker::Compose() {
 
 void DocumentMaker::ShowMasterReport() {
   rptTarvis report(ReportContext{run_, pictures_}, AllFunctions(), CreateFunctionReport, *this);
-  document_ = ComposeMasterReport(run_, report, SetupForPaper(paper_.Width, paper_.Height), QtTextMeasurer(run_.CodePage.Number()));
+  document_ = ComposeMasterReport(run_, report, SetupForPaper(paper_.Width, paper_.Height),
+                                  QtTextMeasurer(run_.CodePage.Number()));
   run_.Session.MasterReport = nullptr;
 }
 

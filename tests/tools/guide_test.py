@@ -98,7 +98,7 @@ class ManualPages(unittest.TestCase):
         return (ROOT / "packaging" / name).read_text(encoding="utf-8")
 
     def test_every_mode_is_listed_under_its_editions(self):
-        choices = set(re.findall(r'ModeChoice\{(\d), "(\w+)"', source("session/function_list.cpp")))
+        choices = set(re.findall(r"ModeChoice\{(\d), Mode::(\w+)", source("session/function_list.cpp")))
         documented = set()
         for edition, modes in re.findall(r"^\.TP\n(\d)(?:, version \d00)?\n(.+)$", self.page("tarvis.1"), re.MULTILINE):
             documented |= {(edition, mode) for mode in modes.replace("the same, ", "").split(", ")}
@@ -170,7 +170,7 @@ class FileKeys(unittest.TestCase):
         """The keys that a reader's tables name."""
         entry = r'\{\s*"([\w/-]+)",\s*(?:Rest|Fields|FieldsAndRest|OnlyAbove|CursorLine|ItemLine|SettingLine|ValuesLine' \
                 r'|CmpTimeLine|SlotLine|UnitLine|newFileSpec|\w+\.(?:Count|Begin|End|Continue|Whole))\b'
-        option = r'(?<![A-Za-z])(?:Whole|List|Header|AcceptedOnly)\("([\w/-]+)"'
+        option = r'(?<![A-Za-z])(?:Whole|List|Elements|Header|AcceptedOnly)\("([\w/-]+)"'
         return set(re.findall(entry, text)) | set(re.findall(option, text))
 
     def tables(self):

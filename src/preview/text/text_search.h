@@ -20,7 +20,8 @@ struct SearchHit {
 };
 
 // All hits in reading order. A hit lies within one cell; where the cell wraps, a blank takes the place of the
-// line's end. Other ways to write the same letters are found, too: full and half width, marks apart, ligatures.
+// line's end. Other ways to write the same letters are found, too: full and half width, marks apart,
+// ligatures.
 [[nodiscard]] std::vector<SearchHit> Search(DocumentText& text, const QString& wanted,
                                             const SearchOptions& options);
 
