@@ -8,7 +8,7 @@ set -eu
 cd "$(dirname "$0")"
 
 # With this linter the headers of the PDF library are right in the language of their time only.
-of_its_time='^src/preview/output/pdf_(export|resources)\.cpp$'
+of_its_time='^src/preview/output/pdf_(export|fonts|resources)\.cpp$'
 in_its_language='-extra-arg=-std=c++17'
 
 base_of_changes() {

@@ -79,7 +79,7 @@ class Parser {
 
   std::string ValueOf(const std::string& name, const std::string& argument, std::size_t equals) {
     if (equals == std::string::npos && next_ + 1 == arguments_.size()) Refuse(name + " needs a value");
-    const std::string value = equals == std::string::npos ? arguments_[++next_] : argument.substr(equals + 1);
+    std::string value = equals == std::string::npos ? arguments_[++next_] : argument.substr(equals + 1);
     if (value.empty()) Refuse(name + " needs a value");
     return value;
   }

@@ -18,7 +18,7 @@ class ProgressLine {
   ProgressLine(const ProgressLine&) = delete;
   ProgressLine& operator=(const ProgressLine&) = delete;
 
-  void Show(const std::string& text) {
+  void Show(const std::string& text) const {
     if (isShown_) std::fputs((Clear + text).c_str(), stderr);
   }
   // The same for a step of many, as often as people can read.

@@ -23,12 +23,13 @@ void Listen(QtMsgType type, const QMessageLogContext& /*context*/, const QString
 
 }  // namespace
 
-std::unique_ptr<QGuiApplication> StartQuietToolkit(char* programName) {
+std::unique_ptr<QGuiApplication> StartQuietToolkit(const char* programName) {
   qInstallMessageHandler(Listen);
   qunsetenv("QT_QPA_PLATFORMTHEME");  // a desktop's look may need its display
+  static std::string name = programName;
   static std::string platform = "-platform";
   static std::string offscreen = "offscreen";
-  static std::array<char*, 4> arguments{programName, platform.data(), offscreen.data(), nullptr};
+  static std::array<char*, 4> arguments{name.data(), platform.data(), offscreen.data(), nullptr};
   static int count = static_cast<int>(arguments.size()) - 1;
   return std::make_unique<QGuiApplication>(count, arguments.data());
 }

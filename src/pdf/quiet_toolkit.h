@@ -9,6 +9,6 @@ namespace tarvis {
 // Starts the toolkit in such a way that it asks for no display, whatever the environment says, and says
 // nothing of its own. A toolkit that can't start ends the process with status 1 and one line on standard
 // error.
-std::unique_ptr<QGuiApplication> StartQuietToolkit(char* programName);
+std::unique_ptr<QGuiApplication> StartQuietToolkit(const char* programName);
 
 }  // namespace tarvis

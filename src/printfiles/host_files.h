@@ -10,7 +10,7 @@ namespace tarvis {
 struct PrintRun;
 
 // In bytes: the 32768 lines that a reader counts, of 1024 bytes on average.
-constexpr std::int64_t LargestFile = 32768 * 1024;
+constexpr std::int64_t LargestFile = std::int64_t{32768} * 1024;
 
 // Loads the lines of a file into `Lines` of the session, and sets `LineCount`, `LinesFile` and `Diagnosis`.
 // Returns the number of lines, or -1, also in `LineCount`, if the file can't be read or is too large. A line

@@ -6,6 +6,7 @@
 #include <QPdfWriter>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
+#include <utility>
 #include <vector>
 
 #include "report/engine/units.h"
@@ -30,7 +31,7 @@ QByteArray PaintHelperFile(Paint paint) {
 
 class HelperFile {
  public:
-  explicit HelperFile(const QByteArray& bytes) : bytes_(bytes) {
+  explicit HelperFile(QByteArray bytes) : bytes_(std::move(bytes)) {
     file_.processMemoryFile("helper", bytes_.constData(), static_cast<std::size_t>(bytes_.size()));
     file_.setImmediateCopyFrom(true);  // it no longer exists when the PDF is written
   }
