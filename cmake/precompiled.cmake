@@ -1,5 +1,5 @@
 # Precompiled headers: the toolkit's, the standard library's and the test library's headers take most of the compiler's
-# time. Each set of them is compiled once and serves all targets that are compiled with the same options. Files must still include what
+# time. Each set of them is compiled once and serves all targets with the same options. Files must still include what
 # they use: the tests compile each header alone, without these.
 
 # Adds the target `name`, which precompiles `header` of this folder for others to reuse.

@@ -28,9 +28,9 @@ constexpr std::array Papers = {Paper{"A6 upright", 5953, 8391},      Paper{"A6 a
 
 constexpr float HalfTwip = 0.5F;
 
-// Each text of each control and each picture, as often as the document has it; what repeats on every page,
-// and what counts pages, is left out.
-std::multiset<std::string> Inventory(const Document& document) {
+// Each distinct text of each control, and each control that shows a picture; how often they print depends
+// on the paper. What repeats on every page, and what counts pages, is omitted.
+std::set<std::string> Inventory(const Document& document) {
   static const std::set<std::string> everyPage{"Label1", "Label2", "txtPageNumber", "txtPageCount"};
   std::set<std::string> inventory;
   for (const Item& item : document.Items) {
@@ -40,7 +40,7 @@ std::multiset<std::string> Inventory(const Document& document) {
     if (item.Kind == ItemKind::Text)
       inventory.insert(control + " " + std::string(document.Texts[item.Source].Text));
   }
-  return {inventory.begin(), inventory.end()};
+  return inventory;
 }
 
 struct PaperEdges : HostRun, testing::WithParamInterface<const char*> {
