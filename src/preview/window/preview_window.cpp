@@ -149,7 +149,9 @@ WindowState PreviewWindow::State() const {
 
 void PreviewWindow::showEvent(QShowEvent* event) {
   QMainWindow::showEvent(event);
-  if (const auto place = std::exchange(place_, {})) view_->GoTo(FindAgain(*document_, *place));
+  if (!place_) return;
+  view_->GoTo(FindAgain(*document_, *place_));
+  place_.reset();
 }
 
 void PreviewWindow::hideEvent(QHideEvent* event) {
