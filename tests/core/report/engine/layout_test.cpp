@@ -267,7 +267,7 @@ TEST(EngineText, IsCondensedToALowBoxThatCannotGrow) {
   OneField one("Sincerely yours, yours", {0, 0, 1000, 283}, Plain, false);
   one.Detail.AddShape("beside", {1000, 0, 500, 283});
   const Document document = one.Compose();
-  const Item& item = Find(document, "text", ItemKind::Text);
+  const Item item = Find(document, "text", ItemKind::Text);
   EXPECT_EQ(item.Box.Width, 1000);
   EXPECT_GT(document.Texts[item.Source].Advance, 1010);
 }
