@@ -88,7 +88,7 @@ class Package(unittest.TestCase):
 
     def test_libraries_and_fonts_come_with_it(self):
         needed = self.field("Depends")
-        for name in ("libqt6widgets6", "libqt6printsupport6", r"libqpdf\d+", r"libicu\d+", "fonts-liberation"):
+        for name in ("libqt6widgets6", "libqt6printsupport6", r"libqpdf\d+", "libdeflate0", r"libicu\d+", "fonts-liberation"):
             self.assertRegex(needed, rf"(^|, ){name}\b")
 
     def test_licence_is_the_one_of_the_tree(self):
