@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QTimeZone>
 #include <algorithm>
 #include <deque>
 #include <map>
@@ -15,6 +14,7 @@
 #include <qpdf/QPDFWriter.hh>
 
 #include "preview/output/content_compressor.h"
+#include "preview/output/pdf_archive.h"
 #include "preview/output/pdf_greys.h"
 #include "preview/output/pdf_resources.h"
 #include "preview/output/reading_order.h"
@@ -55,8 +55,9 @@ void FillStreams(std::vector<QPDFObjectHandle>& streams, const std::deque<std::s
     streams[index].replaceStreamData(contents[index], filter, QPDFObjectHandle::newNull());
 }
 
-// False if cancelled.
-bool AddPages(QPDF& pdf, const Document& document, const PdfSheets& sheets, const Progress& progress) {
+// Whether the fonts of the pages are embedded; nothing if cancelled.
+std::optional<bool> AddPages(QPDF& pdf, const Document& document, const PdfSheets& sheets,
+                             const Progress& progress) {
   ReportFont& font = ReportFont::OfThisThread(document.CodePage);
   PdfGlyphs glyphs(font);
   PdfPictures pictures;
@@ -66,7 +67,7 @@ bool AddPages(QPDF& pdf, const Document& document, const PdfSheets& sheets, cons
   std::map<int, QPDFObjectHandle> contents;  // further copies of a page share its content
   const int count = static_cast<int>(sheets.Pages.size());
   for (const int page : sheets.Pages) {
-    if (!progress(static_cast<int>(pages.size()), count)) return false;
+    if (!progress(static_cast<int>(pages.size()), count)) return {};
     const auto [content, isNew] = contents.try_emplace(page);
     if (isNew) {
       PdfCanvas canvas(sheets.Paper.height(), sheets.Scale, glyphs, pictures);
@@ -77,14 +78,14 @@ bool AddPages(QPDF& pdf, const Document& document, const PdfSheets& sheets, cons
     }
     pages.push_back(MakePage(pdf, sheets, content->second));
   }
-  const QPDFObjectHandle resources = MakeResources(pdf, glyphs, pictures, font);
+  const PdfResources resources = MakeResources(pdf, glyphs, pictures, font);
   FillStreams(streams, compressor.Finish());
   QPDFPageDocumentHelper helper(pdf);
   for (QPDFObjectHandle& page : pages) {
-    page.replaceKey("/Resources", resources);
+    page.replaceKey("/Resources", resources.Dictionary);
     helper.addPage(page, false);
   }
-  return true;
+  return resources.FontsAreEmbedded;
 }
 
 // The first sheet with a page; none if there is no such sheet.
@@ -183,22 +184,6 @@ void AddOpening(QPDF& pdf, const PdfSheets& sheets) {
   pdf.getRoot().replaceKey("/PageLabels", PageLabels(sheets));
 }
 
-QString PdfDate(const QDateTime& date) {
-  return date.toUTC().toString(QStringLiteral("'D:'yyyyMMddHHmmss'Z'"));
-}
-
-void AddMetadata(QPDF& pdf, const PdfInfo& info) {
-  QPDFObjectHandle data = pdf.makeIndirectObject(QPDFObjectHandle::newDictionary());
-  if (!info.Title.isEmpty()) data.replaceKey("/Title", TextString(info.Title));
-  if (!info.Author.isEmpty()) data.replaceKey("/Author", TextString(info.Author));
-  data.replaceKey("/Creator", TextString(QStringLiteral("Tarvis")));
-  if (info.Created.isValid()) {
-    data.replaceKey("/CreationDate", TextString(PdfDate(info.Created)));
-    data.replaceKey("/ModDate", TextString(PdfDate(info.Created)));
-  }
-  pdf.getTrailer().replaceKey("/Info", data);
-}
-
 // Unbuffered, and piece by piece: a full disk accepts a part first and refuses the rest, and a buffer would
 // hide that.
 bool WriteAll(QSaveFile& file, const char* bytes, qint64 size) {
@@ -210,6 +195,19 @@ bool WriteAll(QSaveFile& file, const char* bytes, qint64 size) {
     size -= written;
   }
   return file.commit();
+}
+
+std::string Written(QPDF& pdf) {
+  std::string bytes;
+  Pl_String sink("pdf", nullptr, bytes);
+  QPDFWriter writer(pdf);
+  writer.setOutputPipeline(&sink);
+  writer.setDeterministicID(true);
+  writer.setObjectStreamMode(qpdf_o_generate);
+  writer.setMinimumPDFVersion("1.7");
+  writer.setNewlineBeforeEndstream(true);
+  writer.write();
+  return bytes;
 }
 
 QString Text(const char* text) {
@@ -236,21 +234,16 @@ std::string MakePdf(const Document& document, const PdfSheets& sheets, const Pdf
                     const Progress& progress) {
   QPDF pdf;
   pdf.emptyPDF();
-  if (!AddPages(pdf, document, sheets, progress)) return {};
+  const std::optional<bool> fontsAreEmbedded = AddPages(pdf, document, sheets, progress);
+  if (!fontsAreEmbedded) return {};
   AddOutline(pdf, document, sheets);
   AddOpening(pdf, sheets);
-  AddMetadata(pdf, info);
+  MakeArchive(pdf, document.CodePage);
+  AddMetadata(pdf, info, *fontsAreEmbedded ? std::optional(PdfConformance()) : std::nullopt);
   if (sheets.Greys) TurnIntoGreys(pdf);
-  std::string bytes;
-  Pl_String sink("pdf", nullptr, bytes);
-  QPDFWriter writer(pdf);
-  writer.setOutputPipeline(&sink);
-  writer.setDeterministicID(true);
-  writer.setObjectStreamMode(qpdf_o_generate);
-  writer.write();
   const int count = static_cast<int>(sheets.Pages.size());
-  if (!progress(count, count)) return {};
-  return bytes;
+  std::string bytes = Written(pdf);
+  return progress(count, count) ? bytes : std::string();
 }
 
 QString WritePdf(std::string_view pdf, const QString& path) {

@@ -1,23 +1,18 @@
-// A composed document as a PDF file: real text in embedded subset fonts, contents as outline, metadata.
+// A composed document as a PDF file: real text in embedded subset fonts, contents as outline, metadata, all
+// as archives ask for.
 #pragma once
 
-#include <QDateTime>
 #include <QSizeF>
 #include <QString>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "preview/output/pdf_metadata.h"
 #include "preview/output/progress.h"
 #include "report/engine/document.h"
 
 namespace tarvis {
-
-struct PdfInfo {
-  QString Title;
-  QString Author;     // empty for none
-  QDateTime Created;  // invalid: no dates, so that the same document gives the same bytes
-};
 
 // The sheets of a PDF: which pages of the document, on which paper.
 struct PdfSheets {

@@ -7,7 +7,7 @@
 #include <set>
 
 #include "preview/output/pdf_helper_file.h"
-#include "preview/output/pdf_numbers.h"
+#include "preview/output/pdf_to_unicode.h"
 
 namespace tarvis {
 namespace {
@@ -84,33 +84,6 @@ Program ReadProgram(QPDFPageObjectHelper page, const QList<quint32>& glyphs) {
   return program;
 }
 
-void AppendText(std::string& map, const std::u32string& text) {
-  for (const QChar unit : QString::fromUcs4(text.data(), static_cast<qsizetype>(text.size())))
-    AppendHex(map, unit.unicode());
-}
-
-std::string ToUnicode(const PdfFont& font) {
-  std::string map =
-      "/CIDInit /ProcSet findresource begin 12 dict begin begincmap\n"
-      "/CIDSystemInfo << /Registry (Adobe) /Ordering (UCS) /Supplement 0 >> def\n"
-      "/CMapName /Adobe-Identity-UCS def /CMapType 2 def\n"
-      "1 begincodespacerange <0000> <FFFF> endcodespacerange\n";
-  constexpr std::size_t BlockSize = 100;  // the format's limit
-  for (std::size_t first = 0; first < font.Texts.size(); first += BlockSize) {
-    const std::size_t end = std::min(first + BlockSize, font.Texts.size());
-    map += std::to_string(end - first) + " beginbfchar\n";
-    for (std::size_t index = first; index < end; ++index) {
-      map += '<';
-      AppendHex(map, static_cast<std::uint16_t>(index + 1));
-      map += "> <";
-      AppendText(map, font.Texts[index]);
-      map += ">\n";
-    }
-    map += "endbfchar\n";
-  }
-  return map + "endcmap CMapName currentdict /CMap defineresource pop end end\n";
-}
-
 // Exact design widths; rounded ones would add up along a line.
 QPDFObjectHandle Widths(const PdfFont& font) {
   QPDFObjectHandle widths = QPDFObjectHandle::newArray();
@@ -137,6 +110,14 @@ QPDFObjectHandle GlyphMap(QPDF& pdf, const PdfFont& font, const Program& program
   return isIdentity ? QPDFObjectHandle::newName("/Identity") : pdf.newStream(map);
 }
 
+// One bit for each code: all that the map of the font knows, 0 among them.
+QPDFObjectHandle CodeSet(QPDF& pdf, const PdfFont& font) {
+  std::string bits(font.Glyphs.size() / 8 + 1, '\0');
+  for (std::size_t code = 0; code <= font.Glyphs.size(); ++code)
+    bits[code / 8] = static_cast<char>(static_cast<unsigned char>(bits[code / 8]) | 0x80U >> code % 8);
+  return pdf.newStream(bits);
+}
+
 // The name of a subset starts with six capitals of its own.
 std::string SubsetName(const std::string& name, std::size_t number) {
   std::string tag = "/TARVIS";
@@ -155,13 +136,14 @@ QPDFObjectHandle MakeFont(QPDF& pdf, const PdfFont& used, const Program& program
   const QPDFObjectHandle name =
       QPDFObjectHandle::newName(SubsetName(font.getKey("/BaseFont").getName(), number));
   descriptor.replaceKey("/FontName", name);
+  descriptor.replaceKey("/CIDSet", CodeSet(pdf, used));
   descendant.replaceKey("/FontDescriptor", pdf.makeIndirectObject(descriptor));
   descendant.replaceKey("/BaseFont", name);
   descendant.replaceKey("/W", Widths(used));
   descendant.replaceKey("/CIDToGIDMap", GlyphMap(pdf, used, program));
   font.replaceKey("/BaseFont", name);
   font.replaceKey("/DescendantFonts", QPDFObjectHandle::newArray({pdf.makeIndirectObject(descendant)}));
-  font.replaceKey("/ToUnicode", pdf.newStream(ToUnicode(used)));
+  font.replaceKey("/ToUnicode", pdf.newStream(ToUnicodeMap(1, used.Texts)));
   return pdf.makeIndirectObject(font);
 }
 
@@ -179,18 +161,20 @@ Program NamedFont() {
 
 }  // namespace
 
-QPDFObjectHandle MakeFonts(QPDF& pdf, const PdfGlyphs& glyphs, ReportFont& font) {
+PdfFonts MakeFonts(QPDF& pdf, const PdfGlyphs& glyphs, ReportFont& font) {
   HelperFile file(PaintHelperFile(
       [&](QPdfWriter& writer, QPainter& painter) { DrawFonts(writer, painter, glyphs, font); }));
   const std::vector<QPDFPageObjectHelper> pages = file.Pages();
   Program boxes = ReadProgram(pages.at(0), {0});
   if (!boxes.Font.isInitialized()) boxes = NamedFont();
-  QPDFObjectHandle fonts = QPDFObjectHandle::newDictionary();
+  PdfFonts fonts{QPDFObjectHandle::newDictionary()};
   for (std::size_t number = 0; number < glyphs.Fonts().size(); ++number) {
     const PdfFont& used = glyphs.Fonts()[number];
     const Program program = ReadProgram(pages.at(number + 1), DistinctGlyphs(used));
-    fonts.replaceKey("/F" + std::to_string(number),
-                     MakeFont(pdf, used, program.Font.isInitialized() ? program : boxes, number));
+    const bool isEmbedded = program.Font.isInitialized();
+    fonts.AreEmbedded = fonts.AreEmbedded && isEmbedded;
+    fonts.Dictionary.replaceKey("/F" + std::to_string(number),
+                                MakeFont(pdf, used, isEmbedded ? program : boxes, number));
   }
   return fonts;
 }

@@ -7,8 +7,13 @@
 
 namespace tarvis {
 
+struct PdfFonts {
+  QPDFObjectHandle Dictionary;
+  bool AreEmbedded = true;  // false: boxes are used for a face, whose widths are not theirs
+};
+
 // The fonts of all `glyphs` by the names that page content gives them, "F" and their number.
 // Glyphs of a face that can't be embedded are boxes, so that every document can be saved.
-QPDFObjectHandle MakeFonts(QPDF& pdf, const PdfGlyphs& glyphs, ReportFont& font);
+PdfFonts MakeFonts(QPDF& pdf, const PdfGlyphs& glyphs, ReportFont& font);
 
 }  // namespace tarvis

@@ -1,10 +1,13 @@
 #include "preview/output/pdf_resources.h"
 
 #include <cmath>
+#include <qpdf/Buffer.hh>
+#include <set>
 
 #include "pictures/paintable_picture.h"
 #include "preview/output/pdf_fonts.h"
 #include "preview/output/pdf_helper_file.h"
+#include "preview/output/pdf_to_unicode.h"
 
 namespace tarvis {
 namespace {
@@ -37,21 +40,48 @@ QPDFObjectHandle TakeForm(QPDF& pdf, QPDFPageObjectHelper& page) {
   return form;
 }
 
+// How many glyphs the toolkit has put into a font: it writes the widths of all, in one list.
+std::size_t GlyphCount(QPDFObjectHandle font) {
+  QPDFObjectHandle widths = font.getKey("/DescendantFonts").getArrayItem(0).getKey("/W");
+  if (!widths.isArray() || widths.getArrayNItems() != 2 || !widths.getArrayItem(1).isArray()) return 0;
+  return static_cast<std::size_t>(widths.getArrayItem(1).getArrayNItems());
+}
+
+// Glyphs of a font that stand for no single character get a text, too: archives ask for it.
+void CompleteTexts(QPDFObjectHandle font) {
+  QPDFObjectHandle map = font.getKey("/ToUnicode");
+  if (!map.isStream()) return;
+  const std::shared_ptr<Buffer> bytes = map.getStreamData();
+  const std::string_view text(reinterpret_cast<const char*>(bytes->getBuffer()), bytes->getSize());
+  map.replaceStreamData(CompletedMap(text, GlyphCount(font)), QPDFObjectHandle::newNull(),
+                        QPDFObjectHandle::newNull());
+}
+
+void CompleteTexts(QPDFObjectHandle resources, std::set<QPDFObjGen>& done) {
+  for (const auto& [name, font] : resources.getKey("/Font").getDictAsMap()) {
+    if (done.insert(font.getObjGen()).second) CompleteTexts(font);
+  }
+}
+
 }  // namespace
 
-QPDFObjectHandle MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPictures& pictures,
-                               ReportFont& font) {
+PdfResources MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPictures& pictures,
+                           ReportFont& font) {
   HelperFile pictureFile(PaintHelperFile(
       [&](QPdfWriter& writer, QPainter& painter) { PaintPictures(pictures, writer, painter); }));
   QPDFObjectHandle resources = QPDFObjectHandle::newDictionary();
-  resources.replaceKey("/Font", MakeFonts(pdf, glyphs, font));
+  const PdfFonts fonts = MakeFonts(pdf, glyphs, font);
+  resources.replaceKey("/Font", fonts.Dictionary);
   QPDFObjectHandle forms = QPDFObjectHandle::newDictionary();
   std::vector<QPDFPageObjectHelper> pages = pictureFile.Pages();
+  std::set<QPDFObjGen> completed;
   for (std::size_t number = 0; number < pictures.All().size(); ++number) {
-    forms.replaceKey("/P" + std::to_string(number), TakeForm(pdf, pages.at(number + 1)));
+    QPDFObjectHandle form = TakeForm(pdf, pages.at(number + 1));
+    CompleteTexts(form.getDict().getKey("/Resources"), completed);
+    forms.replaceKey("/P" + std::to_string(number), form);
   }
   resources.replaceKey("/XObject", forms);
-  return pdf.makeIndirectObject(resources);
+  return {pdf.makeIndirectObject(resources), fonts.AreEmbedded};
 }
 
 }  // namespace tarvis

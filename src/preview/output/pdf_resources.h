@@ -9,8 +9,12 @@
 
 namespace tarvis {
 
-// The resource dictionary that all pages of `pdf` share: fonts "F" and pictures "P" with their numbers.
-QPDFObjectHandle MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPictures& pictures,
-                               ReportFont& font);
+// The resources of pages: fonts "F" and pictures "P" with their numbers.
+struct PdfResources {
+  QPDFObjectHandle Dictionary;   // all pages of a document share it
+  bool FontsAreEmbedded = true;  // see PdfFonts
+};
+
+PdfResources MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPictures& pictures, ReportFont& font);
 
 }  // namespace tarvis

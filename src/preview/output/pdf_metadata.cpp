@@ -1,0 +1,94 @@
+#include "preview/output/pdf_metadata.h"
+
+#include <QTimeZone>
+
+namespace tarvis {
+namespace {
+
+constexpr const char* Creator = "Tarvis";
+constexpr const char* Producer = "Tarvis " TARVIS_VERSION;
+
+// XML has no form for most control characters and for what is no character; a blank is shown in their place.
+QString Clean(const QString& text) {
+  std::u32string characters;
+  for (const char32_t character : text.toStdU32String()) {
+    const bool isControl = character < 0x20 || character == 0x7F;
+    const bool isNone = (character & 0xFFFEU) == 0xFFFE || (character >= 0xD800 && character <= 0xDFFF);
+    characters += isControl || isNone ? U' ' : character;
+  }
+  return QString::fromStdU32String(characters);
+}
+
+QPDFObjectHandle TextString(const QString& text) {
+  return QPDFObjectHandle::newUnicodeString(text.toStdString());
+}
+
+void AddDictionary(QPDF& pdf, const PdfInfo& info) {
+  QPDFObjectHandle data = pdf.makeIndirectObject(QPDFObjectHandle::newDictionary());
+  if (!info.Title.isEmpty()) data.replaceKey("/Title", TextString(info.Title));
+  if (!info.Author.isEmpty()) data.replaceKey("/Author", TextString(info.Author));
+  data.replaceKey("/Creator", TextString(QString::fromLatin1(Creator)));
+  data.replaceKey("/Producer", TextString(QString::fromLatin1(Producer)));
+  if (info.Created.isValid()) {
+    const QString date = info.Created.toUTC().toString(QStringLiteral("'D:'yyyyMMddHHmmss'Z'"));
+    data.replaceKey("/CreationDate", TextString(date));
+    data.replaceKey("/ModDate", TextString(date));
+  }
+  pdf.getTrailer().replaceKey("/Info", data);
+}
+
+QString Element(const char* name, const QString& content) {
+  return QStringLiteral("<%1>%2</%1>\n").arg(QString::fromLatin1(name), content);
+}
+
+QString Properties(const PdfInfo& info, std::optional<PdfConformance> conformance) {
+  QString xml;
+  if (conformance) {
+    xml += Element("pdfaid:part", QString::number(conformance->Part));
+    xml += Element("pdfaid:conformance", QString(QLatin1Char(conformance->Level)));
+  }
+  if (!info.Title.isEmpty())
+    xml += Element("dc:title", QStringLiteral("<rdf:Alt><rdf:li xml:lang=\"x-default\">%1</rdf:li></rdf:Alt>")
+                                   .arg(info.Title.toHtmlEscaped()));
+  if (!info.Author.isEmpty())
+    xml += Element("dc:creator",
+                   QStringLiteral("<rdf:Seq><rdf:li>%1</rdf:li></rdf:Seq>").arg(info.Author.toHtmlEscaped()));
+  xml += Element("xmp:CreatorTool", QString::fromLatin1(Creator));
+  xml += Element("pdf:Producer", QString::fromLatin1(Producer));
+  if (info.Created.isValid()) {
+    const QString date = info.Created.toUTC().toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss'Z'"));
+    xml += Element("xmp:CreateDate", date);
+    xml += Element("xmp:ModifyDate", date);
+  }
+  return xml;
+}
+
+// The first line holds a byte order mark, by which readers that know no PDF find the packet and its encoding.
+QString Packet(const QString& properties) {
+  return QStringLiteral(
+             "<?xpacket begin=\"\uFEFF\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?>\n"
+             "<x:xmpmeta xmlns:x=\"adobe:ns:meta/\">\n"
+             "<rdf:RDF xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\">\n"
+             "<rdf:Description rdf:about=\"\" xmlns:dc=\"http://purl.org/dc/elements/1.1/\" "
+             "xmlns:xmp=\"http://ns.adobe.com/xap/1.0/\" xmlns:pdf=\"http://ns.adobe.com/pdf/1.3/\" "
+             "xmlns:pdfaid=\"http://www.aiim.org/pdfa/ns/id/\">\n") +
+         properties + QStringLiteral("</rdf:Description>\n</rdf:RDF>\n</x:xmpmeta>\n<?xpacket end=\"r\"?>\n");
+}
+
+// The writer of PDFs leaves this stream uncompressed, as archives ask for.
+void AddXmp(QPDF& pdf, const PdfInfo& info, std::optional<PdfConformance> conformance) {
+  QPDFObjectHandle stream = pdf.newStream(Packet(Properties(info, conformance)).toStdString());
+  stream.getDict().replaceKey("/Type", QPDFObjectHandle::newName("/Metadata"));
+  stream.getDict().replaceKey("/Subtype", QPDFObjectHandle::newName("/XML"));
+  pdf.getRoot().replaceKey("/Metadata", stream);
+}
+
+}  // namespace
+
+void AddMetadata(QPDF& pdf, const PdfInfo& info, std::optional<PdfConformance> conformance) {
+  const PdfInfo clean{Clean(info.Title), Clean(info.Author), info.Created};
+  AddDictionary(pdf, clean);
+  AddXmp(pdf, clean, conformance);
+}
+
+}  // namespace tarvis

@@ -1,0 +1,18 @@
+// Which text is copied for each glyph of a font.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarvis {
+
+// The map for codes from `firstCode` on, each with its text.
+[[nodiscard]] std::string ToUnicodeMap(std::uint16_t firstCode, const std::vector<std::u32string>& texts);
+
+// The same map as the toolkit has written it for codes from 0 to `count` less one, where glyphs that have no
+// character of their own have no text. They get the replacement character.
+[[nodiscard]] std::string CompletedMap(std::string_view map, std::size_t count);
+
+}  // namespace tarvis
