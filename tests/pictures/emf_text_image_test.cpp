@@ -87,16 +87,32 @@ std::string ReasonOf(const std::string& bytes) {
   return "it loads";
 }
 
+constexpr const char* GlyphsOfArial = "its text consists of glyph numbers of the font \"Arial\"";
+
 TEST(EmfText, GlyphNumbersOfAnotherFontRefuseThePictureWithItsName) {
   EmfWriter emf;
   emf.Pen(0, 3).Rectangle(5, 5, 90, 90).Font(-20, "Frutiger Next");
-  const std::string reason = ReasonOf(emf.Text(5, 20, AsGlyphs("Time"), {}, GlyphIndexes).Bytes());
-  EXPECT_NE(reason.find("Frutiger Next"), std::string::npos) << reason;
+  EXPECT_EQ(ReasonOf(emf.Text(5, 20, AsGlyphs("Time"), {}, GlyphIndexes).Bytes()),
+            "its text consists of glyph numbers of the font \"Frutiger Next\", which isn't installed");
+}
+
+TEST(EmfText, AnUnknownGlyphNumberOfAKnownFontIsRefusedByNumber) {
+  const std::string unknown =
+      "; what number 200 shows isn't known from the installed font \"Liberation Sans\"";
+  EXPECT_EQ(ReasonOf(TextEmf(-20).Text(5, 20, AsGlyphs("Time") + '\xC8', {}, GlyphIndexes).Bytes()),
+            GlyphsOfArial + unknown);
+}
+
+TEST(EmfText, AGlyphNumberThatAnInstalledFontHasNotIsRefusedByNumber) {
+  EmfWriter emf = TextEmf().Font(-20, "Liberation Sans");
+  const std::string reason = ReasonOf(emf.Text(5, 20, std::string(1, '\0'), {}, GlyphIndexes).Bytes());
+  EXPECT_NE(reason.find("what number 0 shows isn't known"), std::string::npos) << reason;
 }
 
 TEST(EmfText, GlyphNumbersThatAreAsWideAsOtherLettersAreRefused) {
-  const auto reason = ReasonOf(TextEmf(-20).Text(5, 20, AsGlyphs("iii"), {14, 14, 14}, GlyphIndexes).Bytes());
-  EXPECT_NE(reason.find("Arial"), std::string::npos) << reason;
+  EXPECT_EQ(ReasonOf(TextEmf(-20).Text(5, 20, AsGlyphs("iii"), {14, 14, 14}, GlyphIndexes).Bytes()),
+            GlyphsOfArial +
+                std::string(", but is not as wide as the letters of the installed font \"Liberation Sans\""));
 }
 
 TEST(EmfText, AlignsLeftRightAndCentred) {

@@ -17,6 +17,21 @@ double Size(QPointF vector) {
   return std::hypot(vector.x(), vector.y());
 }
 
+std::string Quoted(const QString& name) {
+  return '"' + name.toStdString() + '"';
+}
+
+std::string GlyphNumbersOf(const TextLine& line) {
+  return "its text consists of glyph numbers of the font " + Quoted(line.Font.Family);
+}
+
+// Says whether the font or only this number of a glyph is unknown.
+[[noreturn]] void RefuseGlyphNumber(const TextLine& line, std::uint32_t number) {
+  if (!line.Face->KnowsGlyphNumbers()) throw BadMetafile(GlyphNumbersOf(line) + ", which isn't installed");
+  throw BadMetafile(GlyphNumbersOf(line) + "; what number " + std::to_string(number) +
+                    " shows isn't known from the installed font " + Quoted(line.Face->InstalledFamily()));
+}
+
 }  // namespace
 
 TextLine TextPlacer::Baseline(const TextRecord& text) {
@@ -87,15 +102,13 @@ TextLine TextPlacer::Place(const TextRecord& text) {
 }
 
 TextRecord TextPlacer::WithCharacters(const TextRecord& text) {
-  const std::string face = QString::fromStdU16String(context_.State().Font->Face).toStdString();
-  const BadMetafile refusal("its text consists of glyph numbers of the font \"" + face +
-                            "\", which isn't installed");
   TextRecord characters = text;
   characters.Options &= ~TextGlyphIndexes;
   TextLine line = Baseline(characters);
   for (TextCharacter& character : characters.Text) {
-    character.Code = line.Face->CharacterOf(static_cast<std::uint32_t>(character.Code));
-    if (character.Code == 0) throw refusal;
+    const auto number = static_cast<std::uint32_t>(character.Code);
+    character.Code = line.Face->CharacterOf(number);
+    if (character.Code == 0) RefuseGlyphNumber(line, number);
   }
   if (characters.Advances.empty()) return characters;
   constexpr double mostSpread = 0.25;  // writers space letters out, but not to other letters' widths
@@ -104,7 +117,9 @@ TextRecord TextPlacer::WithCharacters(const TextRecord& text) {
   natural.Advances.clear();
   TextLine own = line;
   PlaceGlyphs(natural, own);
-  if (std::abs(line.Width - own.Width) > mostSpread * std::abs(own.Width)) throw refusal;
+  if (std::abs(line.Width - own.Width) > mostSpread * std::abs(own.Width))
+    throw BadMetafile(GlyphNumbersOf(line) + ", but is not as wide as the letters of the installed font " +
+                      Quoted(line.Face->InstalledFamily()));
   return characters;
 }
 

@@ -54,17 +54,28 @@ const GlyphOutline& OutlineFace::Glyph(char32_t character) {
 }
 
 char32_t OutlineFace::CharacterOf(std::uint32_t glyph) {
-  if (!knowsGlyphNumbers_) ReadGlyphNumbers();
+  ReadGlyphNumbers();
   const auto found = characters_.find(glyph);
   return found == characters_.end() ? 0 : found->second;
 }
 
+bool OutlineFace::KnowsGlyphNumbers() {
+  ReadGlyphNumbers();
+  return !characters_.empty();
+}
+
+const QString& OutlineFace::InstalledFamily() {
+  ReadGlyphNumbers();
+  return installed_;
+}
+
 void OutlineFace::ReadGlyphNumbers() {
   constexpr char32_t lastOfFont = 0xFFFF, lastOfTwin = 0x7E;
-  knowsGlyphNumbers_ = true;
+  if (!installed_.isEmpty()) return;
   const QRawFont font = QRawFont::fromFont(font_);
-  const bool isItself = font.familyName().compare(wanted_, Qt::CaseInsensitive) == 0;
-  if (!isItself && !AreMetricTwins(wanted_, font.familyName())) return;
+  installed_ = font.familyName();
+  const bool isItself = installed_.compare(wanted_, Qt::CaseInsensitive) == 0;
+  if (!isItself && !AreMetricTwins(wanted_, installed_)) return;
   for (char32_t code = U' '; code <= (isItself ? lastOfFont : lastOfTwin); ++code) {
     if (code >= 0xD800 && code < 0xE000) continue;
     const QList<quint32> glyph = font.glyphIndexesForString(QString(QChar(static_cast<char16_t>(code))));

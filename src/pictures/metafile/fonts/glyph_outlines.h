@@ -32,6 +32,10 @@ class OutlineFace {
   // where the font itself is installed, and for the first characters of its metric twins, which have the same
   // numbers.
   char32_t CharacterOf(std::uint32_t glyph);
+  // Whether the font that a record names, or its metric twin, is installed.
+  bool KnowsGlyphNumbers();
+  // Of the font that is painted.
+  const QString& InstalledFamily();
 
  private:
   void ReadGlyphNumbers();
@@ -40,7 +44,7 @@ class OutlineFace {
   QString wanted_;
   std::unordered_map<char32_t, GlyphOutline> glyphs_;
   std::unordered_map<std::uint32_t, char32_t> characters_;  // by number of the glyph
-  bool knowsGlyphNumbers_ = false;
+  QString installed_;                                       // empty until the numbers are read
 };
 
 // Keeps the faces and glyphs of all metafiles that are loaded with it. To be used by one thread.
