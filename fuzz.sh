@@ -26,7 +26,7 @@ picture_options() {
 }
 picture_seeds() {
   case $1 in
-  emf | wmf | emf_plus) echo "build/fuzz/seeds/$1" ;;
+  pictures | emf | wmf | emf_plus) echo "build/fuzz/seeds/$1" ;;
   esac
   case $1 in
   pictures | emf | wmf) echo tests/pictures/data ;;

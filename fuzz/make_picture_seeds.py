@@ -2,10 +2,12 @@
 """Writes a seed for each kind of record of metafiles, and for each object of the extended ones.
 
 make_picture_seeds.py FOLDER fills FOLDER/emf, FOLDER/emf_plus and FOLDER/wmf. Each seed is a small metafile that
-holds its record once, with parameters that make sense, after the objects that it needs.
+holds its record once, with parameters that make sense, after the objects that it needs. FOLDER/pictures gets small files
+that hold far more than their size says.
 """
 import struct
 import sys
+import zlib
 from pathlib import Path
 
 BOX = struct.pack("<4i", 10, 10, 80, 80)
@@ -340,6 +342,23 @@ def plus_seeds():
     return seeds
 
 
+def png(side, *chunks):
+    """A black picture of so many pixels a side, with further chunks of (name, content)."""
+    rows = bytes((side + 7) // 8 + 1) * side  # a filter and one bit a pixel
+    parts = [(b"IHDR", struct.pack(">2I5B", side, side, 1, 0, 0, 0, 0)), *chunks, (b"IDAT", zlib.compress(rows, 9)),
+             (b"IEND", b"")]
+    return b"\x89PNG\r\n\x1a\n" + b"".join(
+        struct.pack(">I", len(data)) + name + data + struct.pack(">I", zlib.crc32(name + data)) for name, data in parts)
+
+
+def hiding_seeds():
+    text = b"Comment\0\0" + zlib.compress(b"a" * 7_900_000, 9)  # as long as readers take them
+    large = png(5700)
+    place = 6 + 16 * 64
+    entries = struct.pack("<3H", 0, 1, 64) + struct.pack("<4B2H2I", 0, 0, 0, 0, 1, 32, len(large), place) * 64
+    return {"packed_texts.png": png(8, *[(b"zTXt", text)] * 40), "icon_of_one_file.ico": entries + large}
+
+
 def write(folder, seeds):
     folder.mkdir(parents=True, exist_ok=True)
     for name, content in seeds.items():
@@ -351,6 +370,7 @@ def main():
     write(folder / "emf", {name: emf(records) for name, records in emf_seeds().items()})
     write(folder / "wmf", {f"{name:04X}": wmf(records) for name, records in wmf_seeds().items()})
     write(folder / "emf_plus", plus_seeds())
+    write(folder / "pictures", hiding_seeds())
 
 
 if __name__ == "__main__":

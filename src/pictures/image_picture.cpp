@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "pictures/dib.h"
+#include "pictures/picture_budget.h"
 #include "pictures/toolkit_image.h"
 #include "report/engine/units.h"
 
@@ -17,6 +18,10 @@ namespace {
 
 bool StartsWith(Bytes bytes, std::string_view start) {
   return bytes.size() >= start.size() && std::memcmp(bytes.data(), start.data(), start.size()) == 0;
+}
+
+Bytes View(const QByteArray& bytes) {
+  return {reinterpret_cast<const std::uint8_t*>(bytes.constData()), static_cast<std::size_t>(bytes.size())};
 }
 
 [[noreturn]] void Refuse(const QImageReader& reader) {
@@ -35,15 +40,40 @@ QByteArray CursorAsIcon(QByteArray bytes) {
   return bytes;
 }
 
+// The file of its own that an entry of an icon may be; empty if it is none, or lies outside of the icon.
+Bytes FileOfEntry(Bytes icon, int number) {
+  constexpr std::size_t headerSize = 6, entrySize = 16;
+  ByteReader reader(icon);
+  reader.Skip(headerSize + entrySize * static_cast<std::size_t>(number) + 8);
+  const std::size_t size = reader.U32();
+  const std::size_t offset = reader.U32();
+  if (offset > icon.size() || size > icon.size() - offset) return {};
+  const Bytes entry = Slice(icon, offset, size);
+  return StartsWith(entry, "\x89PNG") ? entry : Bytes();
+}
+
+// TooCostly if all of them are more than any picture may be: many entries can name one large file.
+QImage ReadEntryFile(Bytes file, PictureBudget& budget) {
+  budget.TakeDecodedBytes(ToolkitImageSize(file));
+  try {
+    return ReadToolkitImage(file);
+  } catch (const BadDib&) {
+    return {};
+  }
+}
+
 // The largest picture of an icon, and of several that large the last, which has most colours.
-QImage ReadIcon(QByteArray data) {
-  QBuffer buffer(&data);
+QImage ReadIcon(const QByteArray& data) {
+  QBuffer buffer;
+  buffer.setData(data);
   QImageReader reader(&buffer, "ico");
+  PictureBudget budget;
   QImage best;
   const int count = std::min(reader.imageCount(), 64);
   for (int i = 0; i < count; ++i) {
-    if (!reader.jumpToImage(i)) continue;
-    QImage image = reader.read();
+    const Bytes file = FileOfEntry(View(data), i);
+    if (file.empty() && !reader.jumpToImage(i)) continue;
+    QImage image = file.empty() ? reader.read() : ReadEntryFile(file, budget);
     if (!image.isNull() && image.width() >= best.width()) best = std::move(image);
   }
   if (best.isNull()) Refuse(reader);

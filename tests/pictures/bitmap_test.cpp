@@ -2,9 +2,11 @@
 #include <gtest/gtest.h>
 
 #include <QBuffer>
+#include <QImageWriter>
 #include <vector>
 
 #include "byte_writer.h"
+#include "pictures/toolkit_image.h"
 #include "pixel_colors.h"
 #include "text/run_time_failure.h"
 
@@ -238,6 +240,70 @@ TEST(ToolkitPicture, ACursorShowsAsTheIconThatItIs) {
 TEST(ToolkitPicture, AGifShows) {
   const std::string gif = "GIF89a\1\0\1\0\x80\0\0\xFF\0\0\0\0\0\x2C\0\0\0\0\1\0\1\0\0\2\2\x44\1\0\x3B"s;
   EXPECT_EQ(PaintedPicture(gif, {2, 2}).pixelColor(1, 1), Red);
+}
+
+std::string ReasonOf(const std::string& bytes) {
+  try {
+    PictureFileLoader().LoadBytes("logo", bytes);
+  } catch (const RunTimeFailure& failure) {
+    return failure.Place().Text.value_or("");
+  }
+  return "it loads";
+}
+
+// Packed texts of a PNG can take thousands of times their size, and nobody sees them.
+TEST(ToolkitPicture, TextsInsideAPngAreNotUnpacked) {
+  QImage image(16, 8, QImage::Format_ARGB32);
+  image.fill(Qt::red);
+  image.setText(QStringLiteral("Comment"), QString(100'000, QLatin1Char('a')));
+  QByteArray file;
+  QBuffer buffer(&file);
+  image.save(&buffer, "PNG");
+  const auto* const bytes = reinterpret_cast<const std::uint8_t*>(file.constData());
+  const QImage shown = ReadToolkitImage({bytes, static_cast<std::size_t>(file.size())});
+  EXPECT_EQ(shown.pixelColor(2, 2), Red);
+  EXPECT_TRUE(shown.text().isEmpty());
+}
+
+// Each scan passes over the whole picture, even one of a few bytes.
+TEST(ToolkitPicture, AJpegOfThousandsOfScansIsRefused) {
+  QImage image(64, 64, QImage::Format_RGB32);
+  image.fill(Qt::red);
+  QByteArray written;
+  QBuffer buffer(&written);
+  QImageWriter writer(&buffer, "jpeg");
+  writer.setProgressiveScanWrite(true);
+  ASSERT_TRUE(writer.write(image));
+  const std::string file = written.toStdString();
+  EXPECT_GT(PaintedPicture(file, {4, 4}).pixelColor(2, 2).red(), 240);
+  const std::size_t end = file.size() - 2;
+  const std::string lastScan = file.substr(file.rfind("\xFF\xDA"), end - file.rfind("\xFF\xDA"));
+  std::string many = file.substr(0, end);
+  for (int i = 0; i < 2000; ++i) many += lastScan;
+  EXPECT_EQ(ReasonOf(many + file.substr(end)), "it holds a JPEG of too many scans");
+}
+
+// An icon whose entries all name the same file.
+std::string Icon(std::uint16_t entries, const std::string& file) {
+  ByteWriter icon;
+  icon.U16(0).U16(1).U16(entries);
+  for (int i = 0; i < entries; ++i)
+    icon.U32(0).U16(1).U16(32).U32(static_cast<std::uint32_t>(file.size())).U32(6 + 16U * entries);
+  return icon.Text(file).Bytes();
+}
+
+TEST(ToolkitPicture, AnIconIsMeasuredByTheFilesThatItHolds) {
+  EXPECT_EQ(PaintedPicture(Icon(2, Saved("PNG")), {4, 4}).pixelColor(2, 2), Red);
+  const std::string large = Saved("PNG", {2000, 2000});
+  EXPECT_GT(PaintedPicture(Icon(1, large), {4, 4}).pixelColor(2, 2).red(), 240);
+  EXPECT_EQ(ReasonOf(Icon(64, large)), "its bitmaps are too large");
+}
+
+TEST(ToolkitPicture, AnIconShowsTheEntryThatIsWhole) {
+  std::string icon = Icon(2, Saved("PNG"));
+  icon[6 + 16 + 12] = '\x7F';  // where the second starts: past the end
+  icon[6 + 16 + 13] = '\x7F';
+  EXPECT_EQ(PaintedPicture(icon, {4, 4}).pixelColor(2, 2), Red);
 }
 
 TEST(ToolkitPicture, CutOrUnknownIsRefused) {

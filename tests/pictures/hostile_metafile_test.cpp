@@ -184,16 +184,21 @@ TEST(HostileMetafile, BitmapsThatUnpackWithoutEndAreRefused) {
   ExpectRefused(emf.Bytes(), "bitmaps");
 }
 
-// A header of one pixel before a PNG file of that many pixels a side.
-ByteWriter DibAroundPng(int side) {
-  QByteArray png;
-  QBuffer buffer(&png);
+// A header of one pixel before that file.
+ByteWriter DibAround(const std::string& file) {
+  ByteWriter dib;
+  dib.I32(40).I32(1).I32(1).U16(1).U16(0).U32(5).U32(static_cast<std::uint32_t>(file.size())).Zeros(16);
+  return dib.Text(file);
+}
+
+// The same before a file of that many pixels a side.
+ByteWriter DibAroundPng(int side, const char* format = "PNG") {
+  QByteArray file;
+  QBuffer buffer(&file);
   QImage image(side, side, QImage::Format_Mono);
   image.fill(1);
-  image.save(&buffer, "PNG");
-  ByteWriter dib;
-  dib.I32(40).I32(1).I32(1).U16(1).U16(0).U32(5).U32(static_cast<std::uint32_t>(png.size())).Zeros(16);
-  return dib.Text(png.toStdString());
+  image.save(&buffer, format);
+  return DibAround(file.toStdString());
 }
 
 ByteWriter StretchDib(const ByteWriter& dib) {
@@ -205,9 +210,25 @@ ByteWriter StretchDib(const ByteWriter& dib) {
 constexpr int SideTooLarge = 6000;
 
 TEST(HostileMetafile, APictureInsideABitmapIsMeasuredByWhatItHolds) {
-  ExpectRefused(EmfWriter().Add(81, StretchDib(DibAroundPng(SideTooLarge))).Bytes(), "bitmap");
+  // It is refused as a whole: without one of its pictures, a graph would be a wrong one.
+  ExpectRefused(EmfWriter().Rectangle(5, 5, 90, 90).Add(81, StretchDib(DibAroundPng(SideTooLarge))).Bytes(),
+                "bitmap", "too large");
   const ByteWriter file = ByteWriter().Text("BM").U32(0).U32(0).U32(54).Add(DibAroundPng(SideTooLarge));
   ExpectRefused(file.Bytes(), "bitmap file", "too large");
+}
+
+TEST(HostileMetafile, ABitmapHoldsFilesOfKnownFormatsOnly) {
+  const auto shown = [](const char* format) {
+    return EmfWriter()
+        .Pen(0, 1)
+        .Rectangle(90, 90, 95, 95)
+        .Add(81, StretchDib(DibAroundPng(8, format)))
+        .Show();
+  };
+  EXPECT_EQ(shown("PNG").pixelColor(50, 50), shown("BMP").pixelColor(50, 50));
+  const std::string drawing =
+      EmfWriter().Pen(0, 1).Rectangle(90, 90, 95, 95).Add(81, StretchDib(DibAroundPng(8, "XPM"))).Bytes();
+  EXPECT_EQ(Play(drawing)->SkippedRecords(), 1);
 }
 
 TEST(HostileMetafile, PicturesInsideBitmapsAreLimitedInAll) {
