@@ -40,9 +40,10 @@ void NameOverlappedSet(PrintRun& run, const PrintFunction& function, const std::
 std::int16_t CountMasterRows(const PrintRun& run, const PrintFunction* function) {
   const PrintSession& session = run.Session;
   const bool overlaps = function != nullptr && function->Overlap != nullptr && session.OverlapMode == 1;
-  int rows = run.Options.Cover == 1 ? 2 : 1;
-  if (overlaps && function->Overlap->PrintsDetail(run.Options)) rows += session.OverlapNum;
-  if (rows > std::numeric_limits<std::int16_t>::max()) {
+  const int sets = overlaps && function->Overlap->PrintsDetail(run.Options) ? session.OverlapNum : 0;
+  const int rows = (run.Options.Cover == 1 ? 2 : 1) + sets;
+  // A negative number would leave no row, not even that of the overlapping result.
+  if (sets < 0 || rows > std::numeric_limits<std::int16_t>::max()) {
     FailurePlace place = PlaceOf(run, "OverlapNum");
     place.Text = std::to_string(session.OverlapNum);
     throw RunTimeFailure("number out of range", place);

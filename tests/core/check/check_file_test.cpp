@@ -159,8 +159,14 @@ TEST_F(CheckedFile, StopsAtANumberOfDataSetsThatTheProgramCannotCount) {
   EXPECT_EQ(Wrong("Trace.tmp", "OverlapMode,1\r\nOverlapNum,32766\r\n"),
             "Trace.tmp:2: OverlapNum: number out of range: '32766'")
       << "with a cover letter";
+  EXPECT_EQ(Wrong("Trace.tmp", "OverlapMode,1\r\nOverlapNum,-1\r\n"),
+            "Trace.tmp:2: OverlapNum: number out of range: '-1'");
+  EXPECT_EQ(Wrong("Sim.tmp", "OverlapMode,1\r\nOverlapNum,-32768\r\n"),
+            "Sim.tmp:2: OverlapNum: number out of range: '-32768'");
+  EXPECT_TRUE(IsGood("Trace.tmp", "OverlapMode,1\r\nOverlapNum,0\r\n"));
   EXPECT_TRUE(IsGood("Trace.tmp", "OverlapMode,1\r\nOverlapNum,32765\r\n"));
   EXPECT_TRUE(IsGood("Trace.tmp", "OverlapMode,0\r\nOverlapNum,32767\r\n"));
+  EXPECT_TRUE(IsGood("Trace.tmp", "OverlapNum,-1\r\nOverlapMode,0\r\n"));
 }
 
 TEST_F(CheckedFile, TakesTheOverlapOfACompanionFromTheMainFileBesideIt) {

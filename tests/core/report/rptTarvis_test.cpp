@@ -282,10 +282,20 @@ TEST_F(OverlappedTrace, StopsAtANumberOfDataSetsThatCannotBeCounted) {
     return RunTimeFailureOf([this] { Compose(); });
   };
   EXPECT_EQ(failureOf("32767"), "Trace.tmp:2: OverlapNum: number out of range: '32767'");
+  EXPECT_EQ(failureOf("-1"), "Trace.tmp:2: OverlapNum: number out of range: '-1'");
   Options.Cover = 1;
+  EXPECT_EQ(failureOf("-1"), "Trace.tmp:2: OverlapNum: number out of range: '-1'") << "with a cover letter";
   EXPECT_EQ(failureOf("32766"), "Trace.tmp:2: OverlapNum: number out of range: '32766'");
   Options.Cover = 0;
   EXPECT_THROW(Compose(), RunEnded) << "the file of the third data set is missing";
+}
+
+TEST_F(OverlappedTrace, PrintsTheResultOnlyWhereNoDataSetsAreCounted) {
+  Session.OverlapNum = 0;
+  EXPECT_THAT(Compose(), ElementsAre("1: rptTraceGraph rptTraceObjrctOverlap"));
+  Session.OverlapNum = -1;
+  Options.TraceOption[8] = 0;
+  EXPECT_THAT(Compose(), ElementsAre("1: rptTraceGraph rptTraceObjrctOverlap")) << "without details";
 }
 
 TEST_F(OverlappedTrace, ModeTwoListsTheResultButNoDetails) {
