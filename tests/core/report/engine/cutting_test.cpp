@@ -92,6 +92,32 @@ TEST_F(TallRow, WhatIsBelowAShrunkenPictureFlowsOn) {
   EXPECT_EQ(document.Pages.size(), 2U);
 }
 
+TEST_F(TallRow, WhatIsBelowAShrunkenPictureInOneFrameWithItKeepsItsDistance) {
+  AddPicture({100, 0, 1000, 800});
+  Detail.AddField("legend", {0, 900, 2000, 190}, Plain, "a");
+  Detail.AddShape("frame", {0, 0, 1200, 1300});
+  const Document document = ComposeSample(Report, 500);
+  EXPECT_EQ(ItemsOf(document, "picture")[0].second.Box, (Rect{100, 0, 625, 500}));
+  const auto [page, legend] = ItemsOf(document, "legend")[0];
+  EXPECT_EQ(page, 2);
+  EXPECT_EQ(legend.Box.Top, 100);
+  const auto frame = ItemsOf(document, "frame");
+  ASSERT_EQ(frame.size(), 2U);
+  EXPECT_EQ(frame[1].second.Box, (Rect{0, 0, 1200, 500}));
+  EXPECT_EQ(document.Pages.size(), 2U);
+}
+
+TEST_F(TallRow, TheNextRowFollowsRightBelowTheLegendOfAShrunkenPicture) {
+  Control& picture = AddPicture({0, 0, 1000, 800});
+  Control& legend = Detail.AddField("legend", {0, 800, 1000, 190}, Plain, "legend");
+  Control& next = Detail.AddField("next", {0, 0, 1000, 190}, Plain, "next");
+  Report.Rows(2, [&](int row) {
+    picture.Visible = legend.Visible = row == 0;
+    next.Visible = row == 1;
+  });
+  EXPECT_THAT(Places(ComposeSample(Report, 500)), ElementsAre("1:picture@0", "2:legend@0", "2:next@190"));
+}
+
 TEST_F(TallRow, WhatLiesOnAPictureShrinksWithIt) {
   AddPicture({100, 200, 1000, 1000});
   Detail.AddShape("box", {300, 400, 200, 200}, true);
