@@ -145,6 +145,17 @@ TEST_F(ReplacedFile, TakesAwayWhatAProcessLeftThatWasEndedWhileItWrote) {
   EXPECT_FALSE(Folder.Has(kLeftover));
 }
 
+TEST_F(ReplacedFile, TakesAwayFilesWithTheNamesThatItGivesItself) {
+  std::string name;
+  ASSERT_TRUE(ReplaceFile(Folder.Path() / "options", "new", [&](const fs::path& fresh, const fs::path&) {
+    name = fresh.filename().string();
+    return true;
+  }));
+  Folder.Write(name, "cut");
+  EXPECT_TRUE(Replace());
+  EXPECT_FALSE(Folder.Has(name)) << name;
+}
+
 TEST_F(ReplacedFile, TakesAwayNothingElse) {
   const auto names = {"options.old", "options.new", "options.0123456789abcdeg.new",
                       "other.0123456789abcdef.new", "options.0123456789abcdef.new.old"};
