@@ -188,6 +188,14 @@ TEST(EngineSections, PrintWhatBeginsInsideWholeAndLeaveOutWhatBeginsBelow) {
   EXPECT_EQ(document.Items[0].Box.Height, 400);
 }
 
+TEST(EngineSections, OfNoHeightPrintOnlyWhatBeginsAtTheirTop) {
+  SampleReport report;
+  Section& header = report.Fixed(SectionKind::GroupHeader, "h", 0);
+  header.AddShape("top", {0, 0, 100, 400});
+  header.AddShape("leftover", {0, 1, 100, 400});
+  EXPECT_THAT(Places(ComposeSample(report, 5000)), ElementsAre("1:top@0"));
+}
+
 TEST(EngineSections, ReadControlStatesWhenTheyAreLaidOut) {
   SampleReport report;
   Section& first = report.Growing(SectionKind::GroupHeader, "t");

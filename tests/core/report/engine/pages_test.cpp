@@ -208,6 +208,16 @@ TEST(EnginePages, AFirstRowThatFitsAnEmptyPageOnlyBelowItsGuideLeavesTheTitleToo
   }
 }
 
+TEST(EnginePages, AHeaderThatFitsTheNextPageIsNotCutBelowOtherHeadersThoughItsRowIsOneFurther) {
+  SampleReport report;
+  AddBlock(report.Growing(SectionKind::GroupHeader, "h1"), "first", 450);
+  AddBlock(report.Growing(SectionKind::GroupHeader, "h2"), "second", 450);
+  AddBlock(report.Growing(SectionKind::GroupHeader, "h3"), "third", 300);
+  AddBlock(report.Growing(SectionKind::Detail, "d"), "row", 800);
+  EXPECT_THAT(Places(ComposeSample(report, 1000)),
+              ElementsAre("1:first@0", "1:second@450", "2:third@0", "3:row@0"));
+}
+
 TEST(EnginePages, AFirstRowThatFitsNoPageIsCutUnderTheHeaders) {
   const auto addRow = [](Section& detail) {
     detail.AddField("row", {0, 0, 1000, 283}, Plain, "a\r\nb\r\nc\r\nd\r\ne\r\nf");

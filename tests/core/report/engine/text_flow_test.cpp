@@ -19,7 +19,8 @@ TEST(TextFlow, IsPlainForScriptsOfOneGlyphACharacter) {
 }
 
 TEST(TextFlow, IsToBeShapedWithMarksAndComplexScripts) {
-  for (const char* text : {"ที่", "กำ", "e\xCC\xB2", "हिन्दी", "か\xE3\x82\x9A", "\xE1\x84\x92\xE1\x85\xA1"})
+  for (const char* text :
+       {"ที่", "กำ", "q\xCC\x80", "e\xCC\xB2", "हिन्दी", "か\xE3\x82\x9A", "\xE1\x84\x92\xE1\x85\xA1"})
     EXPECT_EQ(FlowOf(text), TextFlow::LeftToRight) << text;
 }
 
