@@ -24,7 +24,7 @@ class ImageMagick(unittest.TestCase):
         for name in names:
             (self.bin / name).write_text('#!/bin/sh\necho "${0##*/} $*"\n')
             (self.bin / name).chmod(0o755)
-        self.enterContext(mock.patch.dict(os.environ, {"PATH": f"{self.bin}:/bin"}))
+        self.enterContext(mock.patch.dict(os.environ, {"PATH": str(self.bin)}))
 
     def call(self, tool, *arguments):
         return subprocess.run([*image_magick.command(tool), *arguments], capture_output=True, text=True,
