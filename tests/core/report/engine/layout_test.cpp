@@ -188,7 +188,7 @@ TEST(EngineSections, PrintWhatBeginsInsideWholeAndLeaveOutWhatBeginsBelow) {
   EXPECT_EQ(document.Items[0].Box.Height, 400);
 }
 
-TEST(EngineSections, OfNoHeightPrintOnlyWhatBeginsAtTheirTop) {
+TEST(EngineSections, PrintOnlyWhatBeginsAtTheirTopIfTheyHaveNoHeight) {
   SampleReport report;
   Section& header = report.Fixed(SectionKind::GroupHeader, "h", 0);
   header.AddShape("top", {0, 0, 100, 400});
