@@ -8,6 +8,15 @@
 namespace tarvis {
 namespace {
 
+QImage Mirrored(const QImage& image, bool left, bool up) {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 9, 0)  // where the older function is deprecated
+  return image.flipped((left ? Qt::Horizontal : Qt::Orientations()) |
+                       (up ? Qt::Vertical : Qt::Orientations()));
+#else
+  return image.mirrored(left, up);
+#endif
+}
+
 bool Near(const QRectF& a, const QRectF& b) {
   return std::abs(a.left() - b.left()) + std::abs(a.top() - b.top()) + std::abs(a.right() - b.right()) +
              std::abs(a.bottom() - b.bottom()) <
@@ -52,7 +61,7 @@ void ImagePainter::Place(QImage image, QTransform place) {
   if (place.type() <= QTransform::TxScale && (place.m11() < 0 || place.m22() < 0)) {
     const bool left = place.m11() < 0;
     const bool up = place.m22() < 0;
-    image = image.mirrored(left, up);
+    image = Mirrored(image, left, up);
     const QTransform mirror(left ? -1 : 1, 0, 0, up ? -1 : 1, left ? image.width() : 0,
                             up ? image.height() : 0);
     place = mirror * place;
