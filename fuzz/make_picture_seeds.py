@@ -67,6 +67,7 @@ def polys(kind, small):
 
 
 def region():
+    """Of 64 bytes."""
     return words(32, 1, 2, 32) + BOX + BOX + words(20, 20, 40, 40)
 
 
@@ -164,9 +165,9 @@ def emf_text_and_bitmap_seeds():
     seeds[96], seeds[97] = [poly_text(96, False)], [poly_text(97, True)]
     seeds[108] = [emf_record(108, words(20, 40, 4, 0x300, 1) + floats(1, 1) + b"Time")]
     seeds[70] = [emf_record(70, words(4) + b"GDIC")]
-    for kind, head in ((71, words(48, 1)), (72, words(48, 1, 2, 2)), (73, words(48)), (74, words(48))):
+    for kind, head in ((71, words(64, 1)), (72, words(64, 1, 2, 2)), (73, words(64)), (74, words(64))):
         seeds[kind] = [emf_record(39, words(1, 0, 255, 0)), emf_record(kind, BOX + head + region())]
-    seeds[75] = [emf_record(75, words(48, 5) + region()), emf_record(75, words(48, 3) + region())]
+    seeds[75] = [emf_record(75, words(64, 5) + region()), emf_record(75, words(64, 3) + region())]
     seeds[76], seeds[77] = [block(76, b"")], [block(77, words(2, 2))]
     seeds[78] = [block(78, words(0, 0, 0, 0, 0, 0, 0))]
     seeds[114], seeds[116] = [block(114, words(2, 2))], [block(116, words(2, 2))]
@@ -367,7 +368,9 @@ def write(folder, seeds):
 
 def main():
     folder = Path(sys.argv[1])
-    write(folder / "emf", {name: emf(records) for name, records in emf_seeds().items()})
+    # A box and a text at the end show what a record did to the state.
+    shown = [emf_record(43, words(20, 20, 60, 60)), text_record(84, True)]
+    write(folder / "emf", {name: emf(records + shown) for name, records in emf_seeds().items()})
     write(folder / "wmf", {f"{name:04X}": wmf(records) for name, records in wmf_seeds().items()})
     write(folder / "emf_plus", plus_seeds())
     write(folder / "pictures", hiding_seeds())
