@@ -14,11 +14,11 @@ namespace tarvis {
 
 enum class FieldLines { One, Several };
 
-// Bounds in twips; labels are placed at LabelLeft, at the height of their box.
+// Labels are placed at LabelLeft, at the height of their box.
 struct EditCover::FieldPlan {
   int Index;
   const char* Caption;
-  Bounds Place;
+  Rect Place;
   FieldLines Lines;
   int ByteLimit;   // also the maximum length in characters
   int EnterLimit;  // line breaks from which on Enter is ignored, -1 for never
@@ -27,8 +27,8 @@ struct EditCover::FieldPlan {
 namespace {
 
 constexpr FittedDialog::Plan DialogPlan{.Width = 8505, .Height = 5400, .ButtonsTop = 4750};
-constexpr int LabelLeft = 120;
-constexpr int LabelWidth = 1350;
+constexpr float LabelLeft = 120;
+constexpr float LabelWidth = 1350;
 constexpr int AddressLines = 2;
 constexpr int AddressWidth = 50;  // bytes
 constexpr int GreetingLines = 11;

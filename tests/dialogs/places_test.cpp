@@ -7,7 +7,7 @@ namespace {
 // Places are relative to what contains a control.
 struct Designed {
   const char* Name;
-  Bounds Place;
+  Rect Place;
 };
 
 // clang-format off
@@ -195,7 +195,7 @@ bool IsCaption(const QWidget& control) {
 // Where a control belongs that is designed for this place. A caption that doesn't fit has what it needs: to
 // the right on one line, or, where two lines have room, downwards; a label of one line in height, above and
 // below.
-QRect Expected(const QWidget& control, const Bounds& place) {
+QRect Expected(const QWidget& control, const Rect& place) {
   QRect expected = PixelRect(place, control);
   if (!IsCaption(control)) return expected;
   const QSize hint = control.sizeHint();
@@ -215,7 +215,7 @@ class Places : public CoverEditor {
   void ExpectPlaces(const QWidget& container, const std::vector<Designed>& controls) {
     for (const Designed& control : controls) ExpectPlace(container, control.Name, control.Place);
   }
-  static void ExpectPlace(const QWidget& container, const std::string& name, const Bounds& place) {
+  static void ExpectPlace(const QWidget& container, const std::string& name, const Rect& place) {
     const auto* control = container.findChild<QWidget*>(QString::fromStdString(name));
     ASSERT_NE(control, nullptr) << name;
     EXPECT_EQ(control->geometry(), Expected(*control, place)) << name;

@@ -12,7 +12,7 @@ namespace {
 constexpr std::array RowNames{"Title", "Company Name", "Department Name", "Name"};
 constexpr int NameColumn = 0;
 constexpr int ValueColumn = 1;
-constexpr int NameColumnWidth = 1800;
+constexpr float NameColumnWidth = 1800;  // twips
 constexpr QColor NameBackground(0xC0, 0xC0, 0xC0);
 
 QTableWidgetItem* MakeCell(const QString& text) {
@@ -23,7 +23,7 @@ QTableWidgetItem* MakeCell(const QString& text) {
 
 }  // namespace
 
-AddresseeGrid::AddresseeGrid(const Bounds& bounds, QWidget* parent) : QTableWidget(4, 2, parent) {
+AddresseeGrid::AddresseeGrid(const Rect& bounds, QWidget* parent) : QTableWidget(4, 2, parent) {
   NameControl(*this, "Spread", NoFamily, QString::fromLatin1("Where to Submit"));
   Place(*this, bounds);
   setHorizontalHeaderLabels({QString::fromLatin1("Item Name"), QString::fromLatin1("Setting Value")});

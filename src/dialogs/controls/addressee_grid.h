@@ -12,7 +12,7 @@ class AddresseeGrid : public QTableWidget {
   Q_OBJECT
 
  public:
-  AddresseeGrid(const Bounds& bounds, QWidget* parent);
+  AddresseeGrid(const Rect& bounds, QWidget* parent);
 
   // Rows 1 to 4: title, company, department, name.
   void SetSettingValue(int row, const std::string& text);

@@ -14,8 +14,8 @@ namespace tarvis {
 namespace {
 
 constexpr int SmallestFontPixels = 8;  // smaller text can't be read
-constexpr int TitleInset = 135;        // twips, of the title of a group
-constexpr int RowTolerance = 120;      // twips by which controls of one row may be out of line
+constexpr float TitleInset = 135;      // twips, of the title of a group
+constexpr float RowTolerance = 120;    // twips by which controls of one row may be out of line
 
 // The parts of a check box or an option button, as the style draws them.
 struct ButtonParts {
@@ -45,7 +45,7 @@ void PaintWrapped(QAbstractButton& button, QStyleOptionButton option, const Butt
 }
 
 // Sets the geometry and returns whether the caption takes two lines.
-bool PlaceCaption(QAbstractButton& button, const Bounds& bounds) {
+bool PlaceCaption(QAbstractButton& button, const Rect& bounds) {
   QRect place = PixelRect(bounds, button);
   const int wanted = button.sizeHint().width();
   const int lineHeight = button.fontMetrics().height();
@@ -99,7 +99,7 @@ void SetReadingOrder(QWidget& container) {
   for (std::size_t i = 1; i < controls.size(); ++i) QWidget::setTabOrder(controls[i - 1], controls[i]);
 }
 
-TickBox::TickBox(const char* name, int index, const char* caption, const Bounds& bounds, QWidget* parent)
+TickBox::TickBox(const char* name, int index, const char* caption, const Rect& bounds, QWidget* parent)
     : QCheckBox(QString::fromLatin1(caption), parent) {
   NameControl(*this, name, index, PlainCaption(text()));
   wraps_ = PlaceCaption(*this, bounds);
@@ -148,7 +148,7 @@ void TickBox::paintEvent(QPaintEvent* event) {
   PaintWrapped(*this, option, CheckBoxParts);
 }
 
-OptionButton::OptionButton(const char* name, int index, const char* caption, const Bounds& bounds,
+OptionButton::OptionButton(const char* name, int index, const char* caption, const Rect& bounds,
                            QWidget* parent)
     : QRadioButton(QString::fromLatin1(caption), parent) {
   NameControl(*this, name, index, PlainCaption(text()));
@@ -162,7 +162,7 @@ void OptionButton::paintEvent(QPaintEvent* event) {
   PaintWrapped(*this, option, OptionButtonParts);
 }
 
-GroupFrame::GroupFrame(const char* name, const char* caption, const Bounds& bounds, QWidget* parent)
+GroupFrame::GroupFrame(const char* name, const char* caption, const Rect& bounds, QWidget* parent)
     : QGroupBox(QString::fromLatin1(caption), parent) {
   NameControl(*this, name, NoFamily, PlainCaption(title()));
   Place(*this, bounds);
@@ -189,7 +189,7 @@ void GroupFrame::paintEvent(QPaintEvent*) {
                        isEnabled(), title(), QPalette::WindowText);
 }
 
-QLabel* MakeLabel(const char* name, int index, const char* caption, const Bounds& bounds, QWidget* parent,
+QLabel* MakeLabel(const char* name, int index, const char* caption, const Rect& bounds, QWidget* parent,
                   LabelLines lines) {
   auto* label = new QLabel(QString::fromLatin1(caption), parent);
   label->setTextFormat(Qt::PlainText);
@@ -208,7 +208,7 @@ QLabel* MakeLabel(const char* name, int index, const char* caption, const Bounds
   return label;
 }
 
-QPushButton* MakeButton(const char* name, const char* caption, const Bounds& bounds, QWidget* parent) {
+QPushButton* MakeButton(const char* name, const char* caption, const Rect& bounds, QWidget* parent) {
   auto* button = new QPushButton(QString::fromLatin1(caption), parent);
   NameControl(*button, name, NoFamily, PlainCaption(button->text()));
   Place(*button, bounds);

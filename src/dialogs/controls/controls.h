@@ -35,7 +35,7 @@ class TickBox : public QCheckBox {
  public:
   // `caption` may hold a mnemonic mark. Where the caption doesn't fit into `bounds` it wraps if there is room
   // for two lines; otherwise the box grows to the right.
-  TickBox(const char* name, int index, const char* caption, const Bounds& bounds, QWidget* parent);
+  TickBox(const char* name, int index, const char* caption, const Rect& bounds, QWidget* parent);
 
   // 0 unchecked, 1 checked, 2 greyed: a value that only an options file can bring.
   std::int16_t Value() const;
@@ -60,7 +60,7 @@ class OptionButton : public QRadioButton {
   Q_OBJECT
 
  public:
-  OptionButton(const char* name, int index, const char* caption, const Bounds& bounds, QWidget* parent);
+  OptionButton(const char* name, int index, const char* caption, const Rect& bounds, QWidget* parent);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -74,7 +74,7 @@ class GroupFrame : public QGroupBox {
   Q_OBJECT
 
  public:
-  GroupFrame(const char* name, const char* caption, const Bounds& bounds, QWidget* parent);
+  GroupFrame(const char* name, const char* caption, const Rect& bounds, QWidget* parent);
 
   // The control inside that the mnemonic of the title gives the focus. The toolkit would give it to the one
   // that had it last.
@@ -91,9 +91,9 @@ class GroupFrame : public QGroupBox {
 enum class LabelLines { One, Wrapped };
 
 // A label of one line grows to the right and to the height of its font; one that wraps keeps its width.
-QLabel* MakeLabel(const char* name, int index, const char* caption, const Bounds& bounds, QWidget* parent,
+QLabel* MakeLabel(const char* name, int index, const char* caption, const Rect& bounds, QWidget* parent,
                   LabelLines lines = LabelLines::One);
 
-QPushButton* MakeButton(const char* name, const char* caption, const Bounds& bounds, QWidget* parent);
+QPushButton* MakeButton(const char* name, const char* caption, const Rect& bounds, QWidget* parent);
 
 }  // namespace tarvis

@@ -47,7 +47,7 @@ FittedDialog::~FittedDialog() {
   disconnect(qApp, nullptr, this, nullptr);
 }
 
-QPushButton* FittedDialog::AddButton(const char* name, const char* caption, const Bounds& bounds) {
+QPushButton* FittedDialog::AddButton(const char* name, const char* caption, const Rect& bounds) {
   QPushButton* button = MakeButton(name, caption, bounds, this);
   buttons_.push_back({button, button->pos()});
   Fit();

@@ -20,9 +20,9 @@ class FittedDialog : public QDialog {
   // In twips: the size of the client area, and where the part that scrolls ends and the one with the buttons
   // begins.
   struct Plan {
-    int Width;
-    int Height;
-    int ButtonsTop;
+    float Width;
+    float Height;
+    float ButtonsTop;
   };
 
   FittedDialog(const char* name, const char* caption, const Plan& plan, QWidget* parent);
@@ -32,7 +32,7 @@ class FittedDialog : public QDialog {
   // The container of all controls above the buttons. It has the coordinates of the dialog.
   QWidget* Upper() const { return scroll_->widget(); }
   // `bounds` are those in a dialog of full height.
-  QPushButton* AddButton(const char* name, const char* caption, const Bounds& bounds);
+  QPushButton* AddButton(const char* name, const char* caption, const Rect& bounds);
   // The tabs that Ctrl+Tab turns.
   virtual TabControl& FrontTabs() const = 0;
 

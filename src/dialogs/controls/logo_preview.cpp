@@ -60,7 +60,7 @@ std::shared_ptr<const PaintablePicture> ReadPicture(const std::string& path) {
   }
 }
 
-LogoPreview::LogoPreview(const Bounds& bounds, PictureReader read, QWidget* parent)
+LogoPreview::LogoPreview(const Rect& bounds, PictureReader read, QWidget* parent)
     : QFrame(parent), read_(std::move(read)) {
   NameControl(*this, "imgLogo", NoFamily, QString::fromLatin1("Logo"));
   setFrameShape(QFrame::StyledPanel);

@@ -24,7 +24,7 @@ class LogoPreview : public QFrame {
   Q_OBJECT
 
  public:
-  LogoPreview(const Bounds& bounds, PictureReader read, QWidget* parent);
+  LogoPreview(const Rect& bounds, PictureReader read, QWidget* parent);
   ~LogoPreview() override;
 
   // Returns at once and shows the picture when it has been read, unless another path has been named by then.

@@ -50,7 +50,7 @@ QString CutToRoom(const QString& text, qsizetype room) {
 }  // namespace
 
 MemoBox::MemoBox(const char* name, int index, const char* accessibleName, int maximumLength,
-                 const Bounds& bounds, QWidget* parent)
+                 const Rect& bounds, QWidget* parent)
     : QPlainTextEdit(parent), maximumLength_(maximumLength) {
   NameControl(*this, name, index, QString::fromLatin1(accessibleName));
   Place(*this, bounds);

@@ -13,7 +13,7 @@ class MemoBox : public QPlainTextEdit, public InputBox {
   Q_OBJECT
 
  public:
-  MemoBox(const char* name, int index, const char* accessibleName, int maximumLength, const Bounds& bounds,
+  MemoBox(const char* name, int index, const char* accessibleName, int maximumLength, const Rect& bounds,
           QWidget* parent);
 
   std::string Text() const override;

@@ -10,36 +10,29 @@
 
 namespace tarvis {
 
-// Twips, relative to the container.
-struct Bounds {
-  int Left;
-  int Top;
-  int Width;
-  int Height;
-};
-
 constexpr int DrawnFontPixels = 11;
 
-constexpr int Pixels(int twips, int fontPixels) {
-  constexpr int Divisor = static_cast<int>(TwipsPerPixel) * DrawnFontPixels;
-  return (twips * fontPixels + Divisor / 2) / Divisor;
+constexpr int Pixels(float twips, int fontPixels) {
+  constexpr double Divisor = TwipsPerPixel * DrawnFontPixels;
+  return static_cast<int>((double{twips} * fontPixels + Divisor / 2) / Divisor);
 }
 
 // The length of something in `widget`, which must have its font already, most often from its parent.
-inline int Pixels(int twips, const QWidget& widget) {
+inline int Pixels(float twips, const QWidget& widget) {
   return Pixels(twips, QFontInfo(widget.font()).pixelSize());
 }
 
-// Edges are rounded, not sizes, so that controls which meet in twips also meet on the screen.
-inline QRect PixelRect(const Bounds& bounds, const QWidget& widget) {
+// `bounds` are relative to the container. Edges are rounded, not sizes, so that controls which meet in twips
+// also meet on the screen.
+inline QRect PixelRect(const Rect& bounds, const QWidget& widget) {
   const int fontPixels = QFontInfo(widget.font()).pixelSize();
   const int left = Pixels(bounds.Left, fontPixels);
   const int top = Pixels(bounds.Top, fontPixels);
-  return QRect(left, top, Pixels(bounds.Left + bounds.Width, fontPixels) - left,
-               Pixels(bounds.Top + bounds.Height, fontPixels) - top);
+  return QRect(left, top, Pixels(bounds.Right(), fontPixels) - left,
+               Pixels(bounds.Bottom(), fontPixels) - top);
 }
 
-inline void Place(QWidget& widget, const Bounds& bounds) {
+inline void Place(QWidget& widget, const Rect& bounds) {
   widget.setGeometry(PixelRect(bounds, widget));
 }
 

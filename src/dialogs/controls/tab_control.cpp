@@ -13,8 +13,8 @@ namespace tarvis {
 namespace {
 
 // Twips.
-constexpr int BarHeight = 330;       // the topmost controls of the pages begin at 360
-constexpr int CaptionPadding = 150;  // both sides; narrower than the styles have it, so that five tabs fit
+constexpr float BarHeight = 330;       // the topmost controls of the pages begin at 360
+constexpr float CaptionPadding = 150;  // both sides; narrower than the styles have it, so that five tabs fit
 
 class LowTabBar : public QTabBar {
  public:
@@ -37,7 +37,7 @@ class NarrowTabs : public QProxyStyle {
 
 }  // namespace
 
-TabControl::TabControl(const Bounds& bounds, QWidget* parent) : QWidget(parent), bar_(new LowTabBar(this)) {
+TabControl::TabControl(const Rect& bounds, QWidget* parent) : QWidget(parent), bar_(new LowTabBar(this)) {
   NameControl(*this, "SSTab1", NoFamily, {});
   Place(*this, bounds);
   auto* narrow = new NarrowTabs;

@@ -15,7 +15,7 @@ class TabControl : public QWidget {
   Q_OBJECT
 
  public:
-  TabControl(const Bounds& bounds, QWidget* parent);
+  TabControl(const Rect& bounds, QWidget* parent);
 
   // `caption` may hold a mnemonic mark.
   QWidget* AddTab(const char* caption);

@@ -57,7 +57,7 @@ QClipboard::Mode PasteSource(const QKeyEvent& event) {
 }  // namespace
 
 LineBox::LineBox(const char* name, int index, const char* accessibleName, int maximumLength,
-                 const Bounds& bounds, QWidget* parent)
+                 const Rect& bounds, QWidget* parent)
     : QLineEdit(parent), maximumLength_(maximumLength) {
   NameControl(*this, name, index, QString::fromLatin1(accessibleName));
   Place(*this, bounds);

@@ -31,7 +31,7 @@ class LineBox : public QLineEdit, public InputBox {
   Q_OBJECT
 
  public:
-  LineBox(const char* name, int index, const char* accessibleName, int maximumLength, const Bounds& bounds,
+  LineBox(const char* name, int index, const char* accessibleName, int maximumLength, const Rect& bounds,
           QWidget* parent);
 
   std::string Text() const override { return text().toStdString(); }

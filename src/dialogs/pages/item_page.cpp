@@ -16,9 +16,9 @@ namespace tarvis {
 
 namespace {
 
-constexpr Bounds PageBounds{180, 840, 5055, 3050};
-constexpr Bounds TabBounds{0, 0, 4935, 3015};
-constexpr int RuleGap = 90;  // twips between a heading and its rule, and between rule and tab edge
+constexpr Rect PageBounds{180, 840, 5055, 3050};
+constexpr Rect TabBounds{0, 0, 4935, 3015};
+constexpr float RuleGap = 90;  // twips between a heading and its rule, and between rule and tab edge
 
 // Of the option keys of the tables.
 enum class OnlyElement { Comments = 1 };
@@ -26,7 +26,7 @@ enum class OnlyElement { Comments = 1 };
 struct HeaderBoxPlan {
   const char* Caption;
   HeaderElement Element;
-  Bounds Place;
+  Rect Place;
 };
 
 // The title's text box lies on the end of the first box.

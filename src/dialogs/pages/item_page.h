@@ -30,7 +30,7 @@ struct PageFrame {
 struct ItemLabel {
   const char* Name;
   const char* Caption;
-  Bounds Place;
+  Rect Place;
 };
 
 using HeaderElement = std::int16_t HeaderOptions::*;
@@ -49,7 +49,7 @@ struct ItemBox {
   int Index;  // NoFamily for a single box
   const char* Caption;
   ElementNumber Element;
-  Bounds Place;
+  Rect Place;
 };
 
 // A box on its tab with its element.
