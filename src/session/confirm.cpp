@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "printfiles/data_file_scan.h"
 #include "run/print_run.h"
 #include "session/choices.h"
 #include "session/page_options.h"
@@ -21,16 +20,18 @@ void LoadCover(PrintRun& run) {
     RequireChoice(run, options.SelectCover, 1, static_cast<int>(options.User.size()));
 }
 
+// As the page loads it: the text of the title comes right after its mark, so a message about the text comes
+// before a failure at a later mark.
 void LoadHeader(PrintRun& run, HeaderOptions& header) {
-  RequireMark(run, header.Title);
-  TakeTitle(run, header.TitleText);
-  for (const std::int16_t* mark : {&header.ModelsInfo, &header.PrintDate, &header.FileName, &header.Pages})
+  for (const std::int16_t* mark : MarksOf(header)) {
     RequireMark(run, *mark);
+    if (mark == &header.Title) TakeTitle(run, header.TitleText);
+  }
 }
 
 void LoadPage(PrintRun& run, PageId page) {
   LoadHeader(run, HeaderOf(run.Options, page));
-  if (const char* file = OverlapFileOf(page)) ScanOverlap(run, file);
+  LoadOverlap(run, page);
   if (page == PageId::InfIdxTbl) {
     LoadStepRange(run);
     ChooseStepRange(run, run.Options.IdxTblOption.Range);

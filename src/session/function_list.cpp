@@ -1,7 +1,5 @@
 #include "session/function_list.h"
 
-#include <array>
-
 namespace tarvis {
 
 namespace {

@@ -1,6 +1,7 @@
 // What the function list of the dialog offers, by edition and version of the host.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -21,6 +22,12 @@ enum class PageId {
   InfIdxTbl,
   InfZoneTbl,
   InfJogTbl,
+};
+
+// Those that a function list can show; none shows that of the parameter wizard.
+inline constexpr std::array ListedPages{
+    PageId::InfUser,       PageId::InfTrace,  PageId::InfRealTrace, PageId::InfMecha,  PageId::InfSim,
+    PageId::InfSimOverlap, PageId::InfIdxTbl, PageId::InfZoneTbl,   PageId::InfJogTbl,
 };
 
 struct FunctionEntry {

@@ -1,8 +1,10 @@
 #include "session/page_options.h"
 
 #include <algorithm>
-#include <array>
 #include <span>
+
+#include "printfiles/data_file_scan.h"
+#include "run/print_run.h"
 
 namespace tarvis {
 namespace {
@@ -60,12 +62,16 @@ HeaderOptions& HeaderOf(PrintOptions& options, PageId page) {
   return options.*EntryOf(page).Header;
 }
 
+std::array<const std::int16_t*, 5> MarksOf(const HeaderOptions& header) {
+  return {&header.Title, &header.ModelsInfo, &header.PrintDate, &header.FileName, &header.Pages};
+}
+
 std::vector<const std::int16_t*> MarksOf(const PrintOptions& options, PageId page) {
   return EntryOf(page).List(options);
 }
 
-const char* OverlapFileOf(PageId page) {
-  return EntryOf(page).OverlapFile;
+void LoadOverlap(PrintRun& run, PageId page) {
+  if (const char* file = EntryOf(page).OverlapFile) ScanOverlap(run, file);
 }
 
 }  // namespace tarvis

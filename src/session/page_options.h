@@ -1,6 +1,7 @@
 // What of the options each item page shows.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <vector>
 
@@ -9,13 +10,19 @@
 
 namespace tarvis {
 
+struct PrintRun;
+
 // The header options that the page edits.
 HeaderOptions& HeaderOf(PrintOptions& options, PageId page);
+
+// The five check boxes of the tab "Header && Footer", in the order of the page.
+std::array<const std::int16_t*, 5> MarksOf(const HeaderOptions& header);
 
 // The elements of the page's check boxes below "Printing Items", in the order of the options file.
 std::vector<const std::int16_t*> MarksOf(const PrintOptions& options, PageId page);
 
-// The data file that the page looks into for overlapped data; nullptr for none.
-const char* OverlapFileOf(PageId page);
+// Looks into the data file of a page that offers overlapped data for how many data sets overlap, which sets
+// `OverlapMode` and `OverlapNum` of the session. Does nothing for any other page.
+void LoadOverlap(PrintRun& run, PageId page);
 
 }  // namespace tarvis

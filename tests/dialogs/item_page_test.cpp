@@ -14,6 +14,8 @@ using ItemPages = DialogRun;
 const std::string FortyOne = "12345678901234567890123456789012345678901";
 const std::string Forty = FortyOne.substr(0, 40);
 
+using HeaderOfPage = HeaderOptions PrintOptions::*;
+
 struct KeyOfPage {
   const char* Page;
   std::int16_t Edition;

@@ -57,7 +57,7 @@ QString StepBox::Accepted(const QString& piece) const {
 }
 
 InfIdxTbl::InfIdxTbl(PrintRun& run, QWidget* parent)
-    : ItemPage(run, {"InfIdxTbl", &PrintOptions::IdxTblHeader, "Program Table", {PrintingItemsTab}}, parent),
+    : ItemPage(run, {"InfIdxTbl", PageId::InfIdxTbl, "Program Table", {PrintingItemsTab}}, parent),
       option_(run.Options.IdxTblOption) {
   QWidget* tab = Tabs().Page(ItemsTab);
   AddLabels(tab, {{"Label4", "Program Table Print Range", {150, 390, 1905, 210}},

@@ -5,8 +5,7 @@
 namespace tarvis {
 
 InfJogTbl::InfJogTbl(PrintRun& run, QWidget* parent)
-    : ItemPage(run, {"InfJogTbl", &PrintOptions::JogTblHeader, "Jog Speed Table", {PrintingItemsTab}},
-               parent),
+    : ItemPage(run, {"InfJogTbl", PageId::InfJogTbl, "Jog Speed Table", {PrintingItemsTab}}, parent),
       items_(AddComments(run.Options.JogTblOption)) {}
 
 void InfJogTbl::LoadItems() {

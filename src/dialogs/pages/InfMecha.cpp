@@ -5,8 +5,7 @@
 namespace tarvis {
 
 InfMecha::InfMecha(PrintRun& run, QWidget* parent)
-    : ItemPage(run, {"InfMecha", &PrintOptions::MechaHeader, "Mechanical Analysis", {PrintingItemsTab}},
-               parent) {
+    : ItemPage(run, {"InfMecha", PageId::InfMecha, "Mechanical Analysis", {PrintingItemsTab}}, parent) {
   QWidget* tab = Tabs().Page(1);
   AddLabels(tab, {{"Label4", "Graph Relations", {150, 390, 1155, 210}},
                   {"Label1", "Others", {150, 1800, 495, 210}}});

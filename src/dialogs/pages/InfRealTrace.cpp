@@ -6,8 +6,7 @@
 namespace tarvis {
 
 InfRealTrace::InfRealTrace(PrintRun& run, QWidget* parent)
-    : ItemPage(run, {"InfRealTrace", &PrintOptions::RealTraceHeader, "Real-Time Tracing", {PrintingItemsTab}},
-               parent) {
+    : ItemPage(run, {"InfRealTrace", PageId::InfRealTrace, "Real-Time Tracing", {PrintingItemsTab}}, parent) {
   QWidget* tab = Tabs().Page(1);
   AddLabels(tab, {{"Label4", "Graph Relations", {150, 390, 1155, 210}},
                   {"Label5", "Constant Number Relation of Users", {150, 1080, 2535, 210}},

@@ -6,7 +6,7 @@
 namespace tarvis {
 
 InfSim::InfSim(PrintRun& run, QWidget* parent)
-    : ItemPage(run, {"InfSim", &PrintOptions::SimHeader, "Dynamics Simulation", {PrintingItemsTab}}, parent) {
+    : ItemPage(run, {"InfSim", PageId::InfSim, "Dynamics Simulation", {PrintingItemsTab}}, parent) {
   QWidget* tab = Tabs().Page(1);
   AddLabels(tab, {{"Label4", "Graph Relations", {150, 390, 1155, 210}},
                   {"Label5", "Constant Number Relation of Users", {150, 1320, 2535, 210}},

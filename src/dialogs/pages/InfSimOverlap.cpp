@@ -1,16 +1,14 @@
 #include "dialogs/pages/InfSimOverlap.h"
 
 #include "dialogs/pages/graph_items.h"
-#include "printfiles/data_file_scan.h"
 #include "run/print_run.h"
 
 namespace tarvis {
 
 InfSimOverlap::InfSimOverlap(PrintRun& run, QWidget* parent)
-    : ItemPage(
-          run,
-          {"InfSimOverlap", &PrintOptions::SimHeader, "Dynamics Simulation", {"Overla&pping", "Detai&ls"}},
-          parent) {
+    : ItemPage(run,
+               {"InfSimOverlap", PageId::InfSimOverlap, "Dynamics Simulation", {"Overla&pping", "Detai&ls"}},
+               parent) {
   BuildOverlapTab();
   QWidget* tab = Tabs().Page(2);
   AddLabels(tab, {{"Label8", "Graph Relations", {120, 360, 1155, 210}},
@@ -65,7 +63,6 @@ void InfSimOverlap::DetailClicked() {
 }
 
 void InfSimOverlap::LoadItems() {
-  ScanOverlap(Run(), "Sim.tmp");
   LoadBoxes(overlap_);
   if (Run().Session.Mode == Mode::Sim && Run().Session.OverlapMode == 0) {
     for (const BoundBox& bound : overlap_) bound.Box->setEnabled(false);

@@ -1,13 +1,12 @@
 #include "dialogs/pages/InfTrace.h"
 
 #include "dialogs/pages/graph_items.h"
-#include "printfiles/data_file_scan.h"
 #include "run/print_run.h"
 
 namespace tarvis {
 
 InfTrace::InfTrace(PrintRun& run, QWidget* parent)
-    : ItemPage(run, {"InfTrace", &PrintOptions::TraceHeader, "Tracing", {PrintingItemsTab}}, parent) {
+    : ItemPage(run, {"InfTrace", PageId::InfTrace, "Tracing", {PrintingItemsTab}}, parent) {
   QWidget* tab = Tabs().Page(1);
   AddLabels(tab, {{"Label6", "Overlapping", {120, 360, 870, 210}},
                   {"Label4", "Graph Relations", {150, 870, 1155, 210}},
@@ -46,7 +45,6 @@ void InfTrace::OverlapClicked() {
 }
 
 void InfTrace::LoadItems() {
-  ScanOverlap(Run(), "Trace.tmp");
   LoadBoxes(overlap_);
   if (Run().Session.Mode == Mode::Trace && Run().Session.OverlapMode == 0) OverlapBox().setEnabled(false);
   LoadBoxes(details_);

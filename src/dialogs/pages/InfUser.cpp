@@ -5,7 +5,7 @@
 namespace tarvis {
 
 InfUser::InfUser(PrintRun& run, QWidget* parent)
-    : ItemPage(run, {"InfUser", &PrintOptions::UserHeader, "Parameters", {PrintingItemsTab}}, parent) {
+    : ItemPage(run, {"InfUser", PageId::InfUser, "Parameters", {PrintingItemsTab}}, parent) {
   QWidget* tab = Tabs().Page(1);
   AddLabels(tab, {{"Label4", "Constant Number Relation of Users", {150, 390, 2535, 210}},
                   {"Label1", "Others", {150, 1800, 495, 210}}});

@@ -5,7 +5,7 @@
 namespace tarvis {
 
 InfWizard::InfWizard(PrintRun& run, QWidget* parent)
-    : ItemPage(run, {"InfWizard", &PrintOptions::PrmWizHeader, "Parameter Wizard", {}}, parent) {
+    : ItemPage(run, {"InfWizard", PageId::InfWizard, "Parameter Wizard", {}}, parent) {
   const std::int16_t stored = Header().FileName;
   HeaderBox(&HeaderOptions::FileName).SetValue(0);
   Header().FileName = stored;  // building the page doesn't count as a click

@@ -5,7 +5,7 @@
 namespace tarvis {
 
 InfZoneTbl::InfZoneTbl(PrintRun& run, QWidget* parent)
-    : ItemPage(run, {"InfZoneTbl", &PrintOptions::ZoneTblHeader, "Zone Table", {PrintingItemsTab}}, parent),
+    : ItemPage(run, {"InfZoneTbl", PageId::InfZoneTbl, "Zone Table", {PrintingItemsTab}}, parent),
       items_(AddComments(run.Options.ZoneTblOption)) {}
 
 void InfZoneTbl::LoadItems() {

@@ -10,6 +10,7 @@
 #include "dialogs/controls/input_limits.h"
 #include "printfiles/print_options_file.h"
 #include "run/print_run.h"
+#include "session/page_options.h"
 #include "session/title_limit.h"
 
 namespace tarvis {
@@ -58,7 +59,7 @@ TickBox& BoxNamed(std::span<const BoundBox> boxes, const char* name, int index) 
 }
 
 ItemPage::ItemPage(PrintRun& run, const PageFrame& frame, QWidget* parent)
-    : QWidget(parent), run_(run), header_(run.Options.*frame.Header) {
+    : QWidget(parent), run_(run), page_(frame.Page), header_(HeaderOf(run.Options, frame.Page)) {
   NameControl(*this, frame.Name, NoFamily, QString::fromLatin1(frame.Title));
   Place(*this, PageBounds);
   hide();
@@ -114,6 +115,7 @@ void ItemPage::Load() {
     if (plan.Element == &HeaderOptions::Title) txtTitle_->SetText(header_.TitleText);
   }
   Show(*chkFooter_, header_.Pages);
+  LoadOverlap(run_, page_);
   LoadItems();
 }
 

@@ -12,17 +12,16 @@
 #include "dialogs/controls/tab_control.h"
 #include "dialogs/controls/text_box.h"
 #include "run/print_options.h"
+#include "session/function_list.h"
 
 namespace tarvis {
 
 struct PrintRun;
 
-using HeaderOfPage = HeaderOptions PrintOptions::*;
-
 // The first tab of a page, and the captions of the others.
 struct PageFrame {
   const char* Name;
-  HeaderOfPage Header;
+  PageId Page;
   const char* Title;  // initial text of the title box, and the accessible name of the page
   std::initializer_list<const char*> OtherTabs;
 };
@@ -117,6 +116,7 @@ class ItemPage : public QWidget {
   void TitleChanged();
 
   PrintRun& run_;
+  PageId page_;
   HeaderOptions& header_;
   TabControl* tabs_ = nullptr;
   std::vector<TickBox*> chkHeader_;

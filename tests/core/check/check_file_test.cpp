@@ -213,6 +213,21 @@ TEST_F(CheckedFile, FindsOptionsThatNothingCanShow) {
   EXPECT_TRUE(IsGood("PrintOption.ToT", "UserOption,2,2,2,2,2\r\n")) << "a grey mark";
 }
 
+TEST_F(CheckedFile, LooksAtTheMarksOfEveryPageThatTheDialogLists) {
+  const std::string place = "PrintOption.ToT:1: ";
+  for (const std::string function :
+       {"User", "Trace", "RealTrace", "Mecha", "Sim", "IdxTbl", "ZoneTbl", "JogTbl"}) {
+    EXPECT_EQ(Wrong("PrintOption.ToT", function + "Header,1,1,1,1,3,t\r\n"),
+              place + function + "Header: element 5: no such choice: '3'");
+  }
+  for (const std::string marks : {"User", "Trace", "RealTrace", "Mecha", "Sim", "ZoneTbl", "JogTbl"}) {
+    EXPECT_EQ(Wrong("PrintOption.ToT", marks + "Option,3,1,1,1,1,1,1,1,1,1,1,1,1\r\n"),
+              place + marks + "Option: element 1: no such choice: '3'");
+  }
+  EXPECT_EQ(Wrong("PrintOption.ToT", "IdxTblOption,0,,,3\r\n"),
+            place + "IdxTblOption: element 4: no such choice: '3'");
+}
+
 TEST_F(CheckedFile, LeavesTheFileAlone) {
   Wrong("User.tmp", "wrong\r\n");
   EXPECT_EQ(Folder.Read("User.tmp"), "wrong\r\n");
