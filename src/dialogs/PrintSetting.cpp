@@ -119,7 +119,7 @@ void PrintSetting::FillFunctionList() {
 void PrintSetting::SelectByMode() {
   const ModeChoice& choice = OpenMode(run_, entries_);
   SelectFunction(choice.Index);
-  cmbFunc_->setEnabled(choice.ListEnabled);
+  cmbFunc_->setEnabled(choice.Choice == FunctionChoice::Free);
   LoadStepLimit(run_);
 }
 

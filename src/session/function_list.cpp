@@ -35,17 +35,19 @@ std::span<const FunctionEntry> OfVersion(std::span<const FunctionEntry> entries,
   return {};
 }
 
+using enum FunctionChoice;
+
 constexpr std::array ModeChoices{
-    ModeChoice{2, Mode::User, 0, false},      ModeChoice{2, Mode::Trace, 1, false},
-    ModeChoice{2, Mode::IdxTbl, 2, false},    ModeChoice{2, Mode::ZoneTbl, 3, false},
-    ModeChoice{2, Mode::JogTbl, 4, false},    ModeChoice{2, Mode::PrnSetting, 0, true},
-    ModeChoice{4, Mode::User, 0, false},      ModeChoice{4, Mode::Trace, 1, false},
-    ModeChoice{4, Mode::RealTrace, 2, false}, ModeChoice{4, Mode::Mecha, 3, false},
-    ModeChoice{4, Mode::Sim, 4, false},       ModeChoice{4, Mode::SimEx, 4, false},
-    ModeChoice{4, Mode::PrnSetting, 0, true}, ModeChoice{1, Mode::User, 0, false},
-    ModeChoice{1, Mode::UPWizard, 1, false},  ModeChoice{1, Mode::Trace, 2, false},
-    ModeChoice{1, Mode::RealTrace, 3, false}, ModeChoice{1, Mode::Mecha, 4, false},
-    ModeChoice{1, Mode::Sim, 5, false},       ModeChoice{1, Mode::PrnSetting, 0, true},
+    ModeChoice{2, Mode::User, 0, Fixed},      ModeChoice{2, Mode::Trace, 1, Fixed},
+    ModeChoice{2, Mode::IdxTbl, 2, Fixed},    ModeChoice{2, Mode::ZoneTbl, 3, Fixed},
+    ModeChoice{2, Mode::JogTbl, 4, Fixed},    ModeChoice{2, Mode::PrnSetting, 0, Free},
+    ModeChoice{4, Mode::User, 0, Fixed},      ModeChoice{4, Mode::Trace, 1, Fixed},
+    ModeChoice{4, Mode::RealTrace, 2, Fixed}, ModeChoice{4, Mode::Mecha, 3, Fixed},
+    ModeChoice{4, Mode::Sim, 4, Fixed},       ModeChoice{4, Mode::SimEx, 4, Fixed},
+    ModeChoice{4, Mode::PrnSetting, 0, Free}, ModeChoice{1, Mode::User, 0, Fixed},
+    ModeChoice{1, Mode::UPWizard, 1, Fixed},  ModeChoice{1, Mode::Trace, 2, Fixed},
+    ModeChoice{1, Mode::RealTrace, 3, Fixed}, ModeChoice{1, Mode::Mecha, 4, Fixed},
+    ModeChoice{1, Mode::Sim, 5, Fixed},       ModeChoice{1, Mode::PrnSetting, 0, Free},
 };
 
 }  // namespace

@@ -38,12 +38,15 @@ struct FunctionEntry {
 // Empty for an edition or a version that the list doesn't know. Edition 2 comes in one version.
 std::span<const FunctionEntry> FunctionEntries(std::int16_t edition, std::string_view version);
 
+// Whether the user may choose another function than the one with which the dialog opens.
+enum class FunctionChoice { Fixed, Free };
+
 // The entry with which the dialog opens.
 struct ModeChoice {
   std::int16_t Edition;
   tarvis::Mode Mode;
   int Index;
-  bool ListEnabled;
+  FunctionChoice Choice;
 };
 
 // nullptr if the edition has no such mode.
