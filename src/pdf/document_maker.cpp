@@ -11,15 +11,12 @@
 namespace tarvis {
 
 const Document& DocumentMaker::Compose() {
-  ShowPrintPreview(run_, AllFunctions(), *this);
-  return document_;
-}
-
-void DocumentMaker::ShowMasterReport() {
+  SelectHeaderOptions(run_, AllFunctions());
   rptTarvis report(ReportContext{run_, pictures_}, AllFunctions(), CreateFunctionReport, *this);
   document_ = ComposeMasterReport(run_, report, SetupForPaper(paper_.Width, paper_.Height),
                                   QtTextMeasurer(run_.CodePage.Number()));
   run_.Session.MasterReport = nullptr;
+  return document_;
 }
 
 std::string DocumentMaker::MakePdf(std::time_t created, const Progress& progress) const {

@@ -26,11 +26,9 @@ class DocumentMaker : public ProgramWindows {
   // Empty if `progress` cancels.
   std::string MakePdf(std::time_t created, const Progress& progress) const;
 
-  void ShowMasterReport() override;
-  // No window, no tool to come back by, and no help.
+  // No window, and no tool to come back by.
   void ShowPrintSetting() override {}
   void UnloadMasterReport() override {}
-  void SetHelpFile(const std::string& /*path*/) override {}
 
  private:
   PrintRun& run_;

@@ -50,27 +50,24 @@ QtProgramWindows::QtProgramWindows(PrintRun& run)
 QtProgramWindows::~QtProgramWindows() = default;
 
 void QtProgramWindows::ShowPrintSetting() {
-  const PrintSettingServices services{
-      .ShowPrintPreview = [this] { ShowPrintPreview(run_, AllFunctions(), *this); },
-      .SetHelp =
-          [this](const std::string& helpFile, std::int32_t helpContextId) {
-            help_.SetHelpFile(helpFile);
-            help_.SetContext(helpContextId);
-          }};
-  new PrintSetting(run_, services);  // it shows and deletes itself
+  const auto setHelp = [this](const std::string& helpFile, std::int32_t helpContextId) {
+    help_.SetHelpFile(helpFile);
+    help_.SetContext(helpContextId);
+  };
+  // It shows and deletes itself.
+  new PrintSetting(run_, {.ShowPrintPreview = [this] { ShowPrintPreview(); }, .SetHelp = setHelp});
 }
 
-void QtProgramWindows::ShowMasterReport() {
+// The preview has no help, whatever the dialog had.
+void QtProgramWindows::ShowPrintPreview() {
+  help_.SetHelpFile({});
+  SelectHeaderOptions(run_, AllFunctions());
   pictures_.Forget();  // the host may have drawn them again
   report_ = std::make_unique<rptTarvis>(ReportContext{run_, pictures_}, AllFunctions(), CreateFunctionReport,
                                         *this);
   const std::shared_ptr<const Document> document =
       ComposeOnDefaultPaper(run_, *report_);  // fills caption and tools, too
   preview_ = std::make_unique<PreviewWindow>(document, SetupOf(*report_, run_.Header, memory_));
-  ShowPreview();
-}
-
-void QtProgramWindows::ShowPreview() {
   connect(preview_.get(), &PreviewWindow::toolUsed, this,
           [this](int id) { report_->ActiveReport_ToolbarClick(id); });
   connect(preview_.get(), &PreviewWindow::closedByUser, this,
@@ -82,10 +79,6 @@ void QtProgramWindows::UnloadMasterReport() {
   run_.Session.MasterReport = nullptr;
   preview_->hide();
   preview_.release()->deleteLater();  // its own event may have called this
-}
-
-void QtProgramWindows::SetHelpFile(const std::string& path) {
-  help_.SetHelpFile(path);
 }
 
 void QtProgramWindows::StopWork() {

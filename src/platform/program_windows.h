@@ -23,9 +23,7 @@ class QtProgramWindows : public QObject, public ProgramWindows {
   ~QtProgramWindows() override;
 
   void ShowPrintSetting() override;
-  void ShowMasterReport() override;
   void UnloadMasterReport() override;
-  void SetHelpFile(const std::string& path) override;
 
   // While the windows block the event loop for long, they call `answer` repeatedly.
   void AnswerEndRequestsWith(std::function<void()> answer) { answerEndRequest_ = std::move(answer); }
@@ -35,7 +33,8 @@ class QtProgramWindows : public QObject, public ProgramWindows {
   void StopWork();
 
  private:
-  void ShowPreview();
+  // Composes the master report and shows its document.
+  void ShowPrintPreview();
 
   PrintRun& run_;
   std::shared_ptr<PreviewMemory> memory_;

@@ -6,11 +6,9 @@
 
 namespace tarvis {
 
-void ShowPrintPreview(PrintRun& run, FunctionTable functions, ProgramWindows& windows) {
-  windows.SetHelpFile({});
+void SelectHeaderOptions(PrintRun& run, FunctionTable functions) {
   if (const PrintFunction* function = FindFunction(functions, run.Session.Mode))
     run.Session.ActiveHeader = run.Options.*function->Header;
-  windows.ShowMasterReport();
 }
 
 rptTarvis::rptTarvis(ReportContext context, FunctionTable functions, ReportFactory factory,

@@ -54,7 +54,8 @@ class rptTarvis : public ActiveReport {
   Field& txtPageCount = PageFooter.AddField("txtPageCount", {8505, 135, 420, 285});
 };
 
-// Picks the header options of the function in `Mode` and shows the master report.
-void ShowPrintPreview(PrintRun& run, FunctionTable functions, ProgramWindows& windows);
+// Makes the header options of the function in `Mode` those of the session. The first step of showing the
+// master report.
+void SelectHeaderOptions(PrintRun& run, FunctionTable functions);
 
 }  // namespace tarvis

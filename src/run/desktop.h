@@ -29,19 +29,16 @@ class Desktop {
   [[noreturn]] virtual void EndProcess(int exitStatus) = 0;
 };
 
-// The windows of the program, as far as the core opens and closes them.
+// The windows of the program, as far as the core opens and closes them: the start of a run opens the dialog,
+// and the preview's added tool changes from the preview to the dialog.
 class ProgramWindows {
  public:
   virtual ~ProgramWindows() = default;
 
   // Shows the dialog "Printing Item Setting", modeless, loaded again.
   virtual void ShowPrintSetting() = 0;
-  // Composes `rptTarvis` and shows it in the preview.
-  virtual void ShowMasterReport() = 0;
   // Takes the preview away without ending the run (close mode other than 0).
   virtual void UnloadMasterReport() = 0;
-  // Sets the application's help file; empty for none.
-  virtual void SetHelpFile(const std::string& path) = 0;
 };
 
 // Not part of the standard library: returns when the bytes of the closed file `fresh` are on the

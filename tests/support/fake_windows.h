@@ -11,9 +11,7 @@ namespace tarvis {
 class FakeWindows : public ProgramWindows {
  public:
   void ShowPrintSetting() override { Calls.emplace_back("dialog"); }
-  void ShowMasterReport() override { Calls.emplace_back("preview"); }
   void UnloadMasterReport() override { Calls.emplace_back("unload"); }
-  void SetHelpFile(const std::string& path) override { Calls.push_back("help:" + path); }
 
   std::vector<std::string> Calls;
 };

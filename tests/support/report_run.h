@@ -46,7 +46,7 @@ struct ReportRun : TestRun {
 
   // The whole document of the function in `Mode`, from the data files in the temporary folder.
   Document ComposeMaster(const PageSetup& setup = {}) {
-    ShowPrintPreview(Run, AllFunctions(), Windows);
+    SelectHeaderOptions(Run, AllFunctions());
     Master = std::make_unique<rptTarvis>(Context(), AllFunctions(), CreateFunctionReport, Windows);
     Run.Session.MasterReport = Master.get();
     return Compose(*Master, setup, ArialMeasurer());

@@ -61,9 +61,7 @@ class NotingServices : public HostRegistry, public Printers, public ProgramWindo
   int NDevices() override { return PrinterCount; }
   void PrintDialog() override { calls_.emplace_back("no printer"); }
   void ShowPrintSetting() override { calls_.emplace_back("dialog"); }
-  void ShowMasterReport() override { calls_.emplace_back("report"); }
   void UnloadMasterReport() override { calls_.emplace_back("unload"); }
-  void SetHelpFile(const std::string& path) override { calls_.push_back("help " + path); }
 
   LaunchServices Services() { return {*this, *this, *this}; }
 

@@ -247,7 +247,7 @@ struct OverlappedTrace : MasterReport {
     for (const char* file : {"Trace.tmp", "Trace1.tmp", "Trace2.tmp"}) Folder.Write(file, "");
   }
   std::vector<std::string> Compose() {
-    ShowPrintPreview(Report.Run, AllFunctions(), Report.Windows);
+    SelectHeaderOptions(Report.Run, AllFunctions());
     rptTarvis master(Report.Context(), AllFunctions(), BoxReport, Report.Windows);
     const Document document = tarvis::Compose(master, PageSetup{}, ArialMeasurer());
     std::vector<std::string> places;
@@ -343,7 +343,6 @@ TEST_F(MasterReport, OffersItsToolOncePerWindow) {
 TEST_F(MasterReport, ItsToolGoesBackToTheDialogWithoutEndingTheRun) {
   Folder.Write("User.tmp", UserFile(1));
   Report.ComposeMaster();
-  Report.Windows.Calls.clear();
   Report.Master->ActiveReport_ToolbarClick(999);
   EXPECT_THAT(Report.Windows.Calls, ElementsAre("unload", "dialog"));
   Report.Master->ActiveReport_QueryClose(1);
@@ -359,9 +358,8 @@ TEST_F(MasterReport, CloseToolAndClosingByTheUserEndTheRun) {
   EXPECT_NO_THROW(Report.Master->ActiveReport_ToolbarClick(1));
 }
 
-TEST_F(MasterReport, ShowingThePreviewClearsTheHelpFileAndPicksTheHeaderOptions) {
-  ShowPrintPreview(Report.Run, AllFunctions(), Report.Windows);
-  EXPECT_THAT(Report.Windows.Calls, ElementsAre("help:", "preview"));
+TEST_F(MasterReport, HasTheHeaderOptionsOfTheFunctionInTheMode) {
+  SelectHeaderOptions(Report.Run, AllFunctions());
   EXPECT_EQ(Session.ActiveHeader.TitleText, "Parameters");
 }
 
