@@ -23,8 +23,8 @@ std::string DocumentMaker::MakePdf(std::time_t created, const Progress& progress
   const PdfInfo info{QString::fromStdString(document_.Title), QString::fromStdString(run_.Header.MadeBy),
                      QDateTime::fromSecsSinceEpoch(created)};
   PdfSheets sheets = PdfSheets::AllOf(document_);
-  sheets.Scale = static_cast<double>(paper_.Width / document_.Setup.Width);
-  sheets.Paper = QSizeF(static_cast<double>(paper_.Width), static_cast<double>(paper_.Height));
+  sheets.Scale = paper_.Width / document_.Setup.Width;
+  sheets.Paper = QSizeF(paper_.Width, paper_.Height);
   return tarvis::MakePdf(document_, sheets, info, progress);
 }
 

@@ -3,12 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cmath>
 #include <optional>
 #include <string_view>
 
 #include "pdf/pdf_error.h"
-#include "report/engine/units.h"
 #include "text/excerpt.h"
 #include "text/text.h"
 
@@ -19,7 +17,6 @@ namespace {
 // largest.
 constexpr double LeastSize = 50;
 constexpr double LargestSize = 5000;
-constexpr double MillimetresPerInch = 25.4;
 
 struct NamedPaper {
   std::string_view Name;
@@ -29,14 +26,6 @@ struct NamedPaper {
 
 constexpr std::array Papers = {NamedPaper{"A4", 210, 297}, NamedPaper{"A5", 148, 210},
                                NamedPaper{"Letter", 215.9, 279.4}};
-
-PaperSize PaperOf(double width, double height) {
-  const auto twips = [](double millimetres) {
-    return static_cast<float>(
-        std::round(millimetres / MillimetresPerInch * static_cast<double>(TwipsPerInch)));
-  };
-  return {twips(width), twips(height)};
-}
 
 std::optional<double> Millimetres(std::string_view text) {
   double value = 0;
@@ -50,7 +39,7 @@ std::optional<double> Millimetres(std::string_view text) {
 
 PaperSize PaperNamed(const std::string& name) {
   for (const NamedPaper& paper : Papers) {
-    if (EqualIgnoringCase(paper.Name, name)) return PaperOf(paper.Width, paper.Height);
+    if (EqualIgnoringCase(paper.Name, name)) return PaperOfMillimetres(paper.Width, paper.Height);
   }
   const std::string_view text = name;
   const std::size_t cross = std::min(text.find('x'), text.size());
@@ -60,7 +49,7 @@ PaperSize PaperNamed(const std::string& name) {
     throw PdfError("--paper: neither A4, Letter, A5 nor WxH in millimetres, 50 to 5000 each: '" +
                    Excerpt(name) + "'");
   }
-  return PaperOf(*width, *height);
+  return PaperOfMillimetres(*width, *height);
 }
 
 }  // namespace tarvis

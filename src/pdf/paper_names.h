@@ -3,13 +3,9 @@
 
 #include <string>
 
-namespace tarvis {
+#include "platform/system/paper_size.h"
 
-// In twips.
-struct PaperSize {
-  float Width = 0;
-  float Height = 0;
-};
+namespace tarvis {
 
 // A4, A5 or Letter, upright, in any letter case, or width and height in millimetres: "210x297". Throws
 // PdfError for anything else, and for a size that leaves no room beside the margins.

@@ -38,9 +38,7 @@ void RequireOutput(const PdfOrder& order, const PdfProcess& process) {
 }
 
 PaperSize PaperOf(const PdfOrder& order) {
-  if (order.Paper) return *order.Paper;
-  const QSizeF usual = UprightTwips(UsualPaper());
-  return {static_cast<float>(usual.width()), static_cast<float>(usual.height())};
+  return order.Paper ? *order.Paper : UprightSize(UsualPaper());
 }
 
 void StopIfInterrupted() {

@@ -9,8 +9,8 @@ namespace tarvis {
 
 PageSetup DefaultPaper() {
   const QPageSize paper = QPrinterInfo::defaultPrinter().defaultPageSize();
-  const QSizeF size = UprightTwips(paper.isValid() ? paper : UsualPaper());
-  return SetupForPaper(static_cast<float>(size.width()), static_cast<float>(size.height()));
+  const PaperSize size = UprightSize(paper.isValid() ? paper : UsualPaper());
+  return SetupForPaper(size.Width, size.Height);
 }
 
 }  // namespace tarvis

@@ -2,14 +2,15 @@
 #pragma once
 
 #include <QPageSize>
-#include <QSizeF>
+
+#include "platform/system/paper_size.h"
 
 namespace tarvis {
 
 // A4 or Letter.
 QPageSize UsualPaper();
 
-// Width and height of that paper when it is upright, in whole twips.
-QSizeF UprightTwips(const QPageSize& paper);
+// The size of that paper when it is upright.
+PaperSize UprightSize(const QPageSize& paper);
 
 }  // namespace tarvis
