@@ -10,7 +10,7 @@ namespace {
 
 PageLayout A4Pages(int count) {
   PageLayout layout;
-  layout.SetPages(count, 11906, 16838);
+  layout.SetPages(count, {11906, 16838});
   layout.SetViewport({900, 600});
   layout.SetZoom(ZoomMode::Factor, 1);
   return layout;
@@ -95,7 +95,7 @@ TEST(PageLayout, ZoomStaysWithinItsBounds) {
 
 TEST(PageLayout, ThereIsNoPlaceWithoutPages) {
   PageLayout layout;
-  layout.SetPages(0, 11906, 16838);
+  layout.SetPages(0, {11906, 16838});
   layout.SetViewport({900, 600});
   EXPECT_EQ(layout.PageAt({450, 100}), -1);
   EXPECT_LT(layout.PagesBetween(0, 600).Last, layout.PagesBetween(0, 600).First);

@@ -8,13 +8,6 @@
 #include "report/engine/utf8.h"
 
 namespace tarvis {
-namespace {
-
-double D(float value) {
-  return static_cast<double>(value);
-}
-
-}  // namespace
 
 std::size_t PdfPictures::Number(const Picture& picture, float width, float height) {
   const auto [place, isNew] = numbers_.try_emplace({&picture, width, height}, pictures_.size());
@@ -26,14 +19,14 @@ PdfCanvas::PdfCanvas(double height, double scale, PdfGlyphs& glyphs, PdfPictures
     : glyphs_(glyphs), pictures_(pictures) {
   content_.reserve(std::size_t{32} * 1024);
   // With more decimals than other numbers: an error would grow over the whole page.
-  const std::string factor = QByteArray::number(scale / D(TwipsPerPoint), 'g', 7).toStdString();
+  const std::string factor = QByteArray::number(scale / TwipsPerPoint, 'g', 7).toStdString();
   Add(factor + " 0 0 -" + factor + " 0 ");
-  AppendNumber(content_, height / D(TwipsPerPoint));
+  AppendNumber(content_, height / TwipsPerPoint);
   Add("cm\n");
 }
 
 void PdfCanvas::AddRect(const Rect& box) {
-  for (const float value : {box.Left, box.Top, box.Width, box.Height}) AppendNumber(content_, D(value));
+  for (const float value : {box.Left, box.Top, box.Width, box.Height}) AppendNumber(content_, value);
   Add("re\n");
 }
 
@@ -47,7 +40,7 @@ void PdfCanvas::UseInk(Color color) {
 void PdfCanvas::UseLineWidth(float width) {
   if (width == lineWidth_) return;
   lineWidth_ = width;
-  AppendNumber(content_, D(width));
+  AppendNumber(content_, width);
   Add("w\n");
 }
 
@@ -69,11 +62,11 @@ void PdfCanvas::Strokes(const std::vector<Rect>& lines, float width) {
   EndText();
   UseLineWidth(width);
   for (const Rect& line : lines) {
-    AppendNumber(content_, D(line.Left));
-    AppendNumber(content_, D(line.Top));
+    AppendNumber(content_, line.Left);
+    AppendNumber(content_, line.Top);
     Add("m ");
-    AppendNumber(content_, D(line.Right()));
-    AppendNumber(content_, D(line.Bottom()));
+    AppendNumber(content_, line.Right());
+    AppendNumber(content_, line.Bottom());
     Add("l\n");
   }
   Add("S\n");
@@ -92,7 +85,7 @@ void PdfCanvas::Text(const TextPiece& piece, const TextStyle& style, const Rect&
   }
   UseInk(Black);
   BeginText();
-  ShowText(piece, style, D(box.Left), baseline, D(fit.Stretch));
+  ShowText(piece, style, box.Left, baseline, fit.Stretch);
   if (clip) {
     EndText();
     Add("Q\n");
@@ -122,7 +115,7 @@ void PdfCanvas::ShowText(const TextPiece& piece, const TextStyle& style, double 
 
 void PdfCanvas::ShowPlain(const TextPiece& piece, const TextStyle& style, double x, double y,
                           double stretch) {
-  const double em = D(style.Size * TwipsPerPoint) * stretch;
+  const double em = style.Size * TwipsPerPoint * stretch;
   bool open = false;
   for (std::size_t offset = 0; offset < piece.Text.size();) {
     const PdfGlyph& glyph = glyphs_.Use(NextCharacter(piece.Text, offset), style.Bold);
@@ -135,7 +128,7 @@ void PdfCanvas::ShowPlain(const TextPiece& piece, const TextStyle& style, double
       open = true;
     }
     AppendHex(content_, glyph.Code);
-    x += D(glyph.AdvanceEm) * em;
+    x += glyph.AdvanceEm * em;
   }
   if (open) Add(">Tj\n");
 }
@@ -157,12 +150,12 @@ void PdfCanvas::ShowShaped(const TextPiece& piece, const TextStyle& style, doubl
 
 void PdfCanvas::ShowCluster(const ShapedCluster& cluster, const TextStyle& style, double x, double y,
                             double stretch) {
-  const double em = D(style.Size * TwipsPerPoint);
+  const double em = style.Size * TwipsPerPoint;
   const PdfCluster used = glyphs_.Use(cluster);
   if (used.NeedsText) StartActualText(cluster.Text);
   for (std::size_t index = 0; index < used.Glyphs.size(); ++index) {
     UseFont(used.Glyphs[index].Font, style.Size);
-    MoveTo(x + D(cluster.Glyphs[index].X) * em * stretch, y + D(cluster.Glyphs[index].Y) * em);
+    MoveTo(x + cluster.Glyphs[index].X * em * stretch, y + cluster.Glyphs[index].Y * em);
     Add("<");
     AppendHex(content_, used.Glyphs[index].Code);
     Add(">Tj\n");
@@ -183,7 +176,7 @@ void PdfCanvas::UseFont(std::uint16_t font, float size) {
   size_ = size;
   Add("/F");
   AppendNumber(content_, font);
-  AppendNumber(content_, D(size * TwipsPerPoint));
+  AppendNumber(content_, size * TwipsPerPoint);
   Add("Tf ");
 }
 
@@ -217,9 +210,10 @@ void PdfCanvas::Picture(const tarvis::Picture& picture, const Rect& box) {
   Add("q ");
   AddRect(box);
   Add("W n 20 0 0 -20 ");
-  AppendNumber(content_, D(box.Left));
+  AppendNumber(content_, box.Left);
   // A form is placed by its lower edge; its height is rounded up to whole points.
-  AppendNumber(content_, D(box.Top) + D(TwipsPerPoint) * PdfPictureHeight(box.Height));
+  const double formHeight = PdfPictureHeight(box.Height);
+  AppendNumber(content_, box.Top + TwipsPerPoint * formHeight);
   Add("cm /P" + std::to_string(number) + " Do Q\n");
 }
 

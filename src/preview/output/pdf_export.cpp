@@ -18,6 +18,7 @@
 #include "preview/output/pdf_greys.h"
 #include "preview/output/pdf_resources.h"
 #include "preview/output/reading_order.h"
+#include "preview/paint/toolkit_geometry.h"
 
 namespace tarvis {
 namespace {
@@ -31,12 +32,12 @@ QPDFObjectHandle Name(const char* name) {
 }
 
 QPDFObjectHandle Points(double twips) {
-  return QPDFObjectHandle::newReal(twips / static_cast<double>(TwipsPerPoint), 2);
+  return QPDFObjectHandle::newReal(twips / TwipsPerPoint, 2);
 }
 
 // Height above the lower edge of the paper of a place `top` twips below the upper edge of a page.
 QPDFObjectHandle Height(const PdfSheets& sheets, float top) {
-  return Points(sheets.Paper.height() - static_cast<double>(top) * sheets.Scale);
+  return Points(sheets.Paper.height() - top * sheets.Scale);
 }
 
 QPDFObjectHandle MakePage(QPDF& pdf, const PdfSheets& sheets, const QPDFObjectHandle& content) {
@@ -220,8 +221,7 @@ PdfSheets PdfSheets::AllOf(const Document& document) {
   PdfSheets sheets;
   sheets.Pages.resize(document.Pages.size());
   std::iota(sheets.Pages.begin(), sheets.Pages.end(), 0);
-  sheets.Paper =
-      QSizeF(static_cast<double>(document.Setup.Width), static_cast<double>(document.Setup.Height));
+  sheets.Paper = PaperSizeOf(document);
   return sheets;
 }
 

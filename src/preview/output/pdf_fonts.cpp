@@ -88,7 +88,7 @@ Program ReadProgram(QPDFPageObjectHelper page, const QList<quint32>& glyphs) {
 QPDFObjectHandle Widths(const PdfFont& font) {
   QPDFObjectHandle widths = QPDFObjectHandle::newArray();
   for (const float advance : font.AdvancesEm) {
-    widths.appendItem(QPDFObjectHandle::newReal(static_cast<double>(advance) * 1000, 3));
+    widths.appendItem(QPDFObjectHandle::newReal(advance * 1000.0, 3));
   }
   QPDFObjectHandle table = QPDFObjectHandle::newArray();
   table.appendItem(QPDFObjectHandle::newInteger(1));

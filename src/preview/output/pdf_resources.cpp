@@ -16,15 +16,14 @@ namespace {
 // of the pages are recognized by glyphs and widths that pictures don't share.
 void PaintPictures(const PdfPictures& pictures, QPdfWriter& writer, QPainter& painter) {
   for (const PdfPicture& picture : pictures.All()) {
-    const QSizeF points(std::floor(static_cast<double>(picture.Width) / TwipsPerPoint) + 1,
-                        PdfPictureHeight(picture.Height));
+    const QRectF place(0, 0, picture.Width, picture.Height);
+    const QSizeF points(std::floor(place.width() / TwipsPerPoint) + 1, PdfPictureHeight(picture.Height));
     writer.setPageSize(QPageSize(points, QPageSize::Point, {}, QPageSize::ExactMatch));
     writer.newPage();
     const auto* paintable = dynamic_cast<const PaintablePicture*>(picture.Source);
     if (paintable == nullptr) continue;
     painter.save();
-    paintable->Paint(painter,
-                     QRectF(0, 0, static_cast<double>(picture.Width), static_cast<double>(picture.Height)));
+    paintable->Paint(painter, place);
     painter.restore();
   }
 }

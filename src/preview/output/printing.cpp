@@ -10,6 +10,7 @@
 #include "preview/output/print_system.h"
 #include "preview/output/reading_order.h"
 #include "preview/paint/painter_canvas.h"
+#include "preview/paint/toolkit_geometry.h"
 
 namespace tarvis {
 namespace {
@@ -22,21 +23,20 @@ QString Text(const char* text) {
 QSizeF PrintedSize(const Document& document) {
   QSizeF size;
   for (const Item& item : document.Items) {
-    size = size.expandedTo(
-        QSizeF(static_cast<double>(item.Box.Right()), static_cast<double>(item.Box.Bottom())));
+    size = size.expandedTo(QSizeF(item.Box.Right(), item.Box.Bottom()));
   }
   return size;
 }
 
 QSizeF PaperSize(const QPrinter& printer) {
-  return printer.pageLayout().fullRect(QPageLayout::Point).size() * static_cast<double>(TwipsPerPoint);
+  return printer.pageLayout().fullRect(QPageLayout::Point).size() * TwipsPerPoint;
 }
 
 double ScaleOf(const Document& document, const QPrinter& printer, PrintScale scale) {
   if (scale == PrintScale::AsComposed) return 1;
   const QSizeF paper = PaperSize(printer);
-  return std::min({1.0, paper.width() / static_cast<double>(document.Setup.Width),
-                   paper.height() / static_cast<double>(document.Setup.Height)});
+  const QSizeF page = PaperSizeOf(document);
+  return std::min({1.0, paper.width() / page.width(), paper.height() / page.height()});
 }
 
 QString Drop(QPrinter& printer) {
@@ -58,7 +58,7 @@ QString RefusalBy(const QPrinter& printer) {
 QSizeF MissingRoom(const Document& document, const QPrinter& printer) {
   QPageLayout layout = printer.pageLayout();
   layout.setUnits(QPageLayout::Point);
-  const QMarginsF margins = layout.minimumMargins() * static_cast<double>(TwipsPerPoint);
+  const QMarginsF margins = layout.minimumMargins() * TwipsPerPoint;
   const QSizeF end = PaperSize(printer) - QSizeF(margins.right(), margins.bottom());
   return (PrintedSize(document) - end).expandedTo(QSizeF(0, 0));
 }
@@ -86,7 +86,8 @@ QString PrintDocument(const Document& document, const std::vector<int>& pages, Q
   if (!painter.begin(&printer)) {
     return Text("The printer \"%1\" can't be used.").arg(printer.printerName());
   }
-  const double toDevice = printer.resolution() / static_cast<double>(TwipsPerInch);
+  const double dotsPerInch = printer.resolution();
+  const double toDevice = dotsPerInch / TwipsPerInch;
   const double shrink = ScaleOf(document, printer, scale);
   painter.scale(toDevice * shrink, toDevice * shrink);
   for (std::size_t index = 0; index < pages.size(); ++index) {

@@ -14,6 +14,7 @@
 
 #include "preview/pages/page_steps.h"
 #include "preview/pages/page_touch.h"
+#include "preview/paint/toolkit_geometry.h"
 
 namespace tarvis {
 namespace {
@@ -164,7 +165,7 @@ bool PageInput::IsThirdClick(const QMouseEvent& event) const {
 
 QPoint PageInput::PastEdge() const {
   const auto past = [](double at, int length) {
-    return static_cast<int>(at < 0 ? std::floor(at) : std::ceil(std::max(0.0, at - length)));
+    return at < 0 ? PixelBefore(at) : PixelAfter(std::max(0.0, at - length));
   };
   const QSize size = view_.viewport()->size();
   return {past(selectedTo_.x(), size.width()), past(selectedTo_.y(), size.height())};

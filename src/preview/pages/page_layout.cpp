@@ -6,10 +6,10 @@
 
 namespace tarvis {
 
-void PageLayout::SetPages(int count, double width, double height) {
+void PageLayout::SetPages(int count, QSizeF paper) {
   count_ = count;
-  width_ = std::max(width, 1.0);
-  height_ = std::max(height, 1.0);
+  width_ = std::max(paper.width(), 1.0);
+  height_ = std::max(paper.height(), 1.0);
   single_ = std::clamp(single_, 0, std::max(0, count - 1));
   Update();
 }

@@ -42,8 +42,8 @@ class PageLayout {
   static constexpr double LeastZoom = 0.1;
   static constexpr double GreatestZoom = 8;
 
-  // Paper size in twips.
-  void SetPages(int count, double width, double height);
+  // `paper` is in twips.
+  void SetPages(int count, QSizeF paper);
   void SetViewport(QSizeF size);
   void SetContinuous(bool continuous) { continuous_ = continuous; }
   void SetColumns(Columns columns);

@@ -3,10 +3,10 @@
 #include <QPainter>
 #include <algorithm>
 #include <chrono>
-#include <cmath>
 #include <utility>
 
 #include "preview/paint/painter_canvas.h"
+#include "preview/paint/toolkit_geometry.h"
 
 namespace tarvis {
 namespace {
@@ -21,8 +21,8 @@ QImage RenderStrip(const Document& document, const Strip& strip) {
 }  // namespace
 
 int PagePixelHeight(const Document& document, int pageWidth) {
-  return std::max(1, static_cast<int>(std::lround(static_cast<double>(document.Setup.Height) * pageWidth /
-                                                  static_cast<double>(document.Setup.Width))));
+  const QSizeF paper = PaperSizeOf(document);
+  return std::max(1, NearestPixel(paper.height() * pageWidth / paper.width()));
 }
 
 QImage RenderPage(const Document& document, int page, int pageWidth, int top, int height) {
@@ -31,7 +31,7 @@ QImage RenderPage(const Document& document, int page, int pageWidth, int top, in
   QPainter painter(&picture);
   painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
                          QPainter::SmoothPixmapTransform);
-  const double scale = pageWidth / static_cast<double>(document.Setup.Width);
+  const double scale = pageWidth / PaperSizeOf(document).width();
   painter.translate(0, -top);
   painter.scale(scale, scale);
   PixelCanvas canvas(painter, document.CodePage);

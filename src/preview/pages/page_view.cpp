@@ -4,9 +4,9 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
-#include <cmath>
 
 #include "preview/pages/strip_painter.h"
+#include "preview/paint/toolkit_geometry.h"
 
 namespace tarvis {
 namespace {
@@ -15,7 +15,7 @@ constexpr std::int64_t PictureBudget = 48LL * 1024 * 1024;  // bytes
 
 // The width of a page in device pixels, of which `ratio` make a logical one.
 int DeviceWidth(const PageLayout& layout, double ratio) {
-  return std::max(1, static_cast<int>(std::lround(layout.PageSize().width() * ratio)));
+  return std::max(1, NearestPixel(layout.PageSize().width() * ratio));
 }
 
 void PaintShadow(QPainter& painter, const QRectF& page, const QColor& edge) {
@@ -42,8 +42,7 @@ PageView::PageView(std::shared_ptr<const Document> document, QWidget* parent)
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::StrongFocus);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
-  layout_.SetPages(static_cast<int>(document_->Pages.size()), static_cast<double>(document_->Setup.Width),
-                   static_cast<double>(document_->Setup.Height));
+  layout_.SetPages(static_cast<int>(document_->Pages.size()), PaperSizeOf(*document_));
   connect(&pictures_, &PagePictures::PageReady, this, [this](int page) {
     viewport()->update(layout_.PageRect(page).translated(-Offset()).toAlignedRect());
   });
@@ -61,8 +60,7 @@ void PageView::scrollContentsBy(int dx, int dy) {
 }
 
 QPointF PageView::Offset() const {
-  return {static_cast<double>(horizontalScrollBar()->value()),
-          static_cast<double>(verticalScrollBar()->value())};
+  return QPoint(horizontalScrollBar()->value(), verticalScrollBar()->value());
 }
 
 int PageView::CurrentPage() const {
@@ -80,7 +78,7 @@ PagePlace PageView::CurrentPlace() const {
 void PageView::UpdateScrollBars() {
   const QSizeF content = layout_.ContentSize();
   const auto set = [](QScrollBar* bar, double length, int view) {
-    bar->setRange(0, std::max(0, static_cast<int>(std::ceil(length)) - view));
+    bar->setRange(0, std::max(0, PixelAfter(length) - view));
     bar->setPageStep(view);
     bar->setSingleStep(48);
   };
@@ -95,8 +93,8 @@ void PageView::ChangeLayout(const std::function<void()>& change, QPointF anchor)
   UpdateScrollBars();
   if (spot.Page >= 0) {
     const QPointF now = layout_.PageRect(spot.Page).topLeft() + spot.Point * layout_.PixelsPerTwip();
-    horizontalScrollBar()->setValue(static_cast<int>(std::lround(now.x() - anchor.x())));
-    verticalScrollBar()->setValue(static_cast<int>(std::lround(now.y() - anchor.y())));
+    horizontalScrollBar()->setValue(NearestPixel(now.x() - anchor.x()));
+    verticalScrollBar()->setValue(NearestPixel(now.y() - anchor.y()));
   }
   if (layout_.Zoom() != zoomBefore) emit ZoomChanged();
   Changed();
@@ -113,8 +111,7 @@ void PageView::GoTo(const PagePlace& place) {
   const int page = std::clamp(place.Page, 0, layout_.PageCount() - 1);
   layout_.SetSinglePage(page);
   UpdateScrollBars();
-  verticalScrollBar()->setValue(
-      static_cast<int>(std::lround(layout_.YOf({page, place.Top}) - PageLayout::Margin)));
+  verticalScrollBar()->setValue(NearestPixel(layout_.YOf({page, place.Top}) - PageLayout::Margin));
   Changed();
 }
 
@@ -126,7 +123,7 @@ void PageView::Reveal(int page, const QRectF& box) {
   const auto show = [](QScrollBar* bar, double first, double last, int view) {
     const double room = std::min(48.0, view / 4.0);
     if (first - room < bar->value() || last + room > bar->value() + view) {
-      bar->setValue(static_cast<int>(std::lround((first + last - view) / 2)));
+      bar->setValue(NearestPixel((first + last - view) / 2));
     }
   };
   show(horizontalScrollBar(), place.left(), place.right(), viewport()->width());
@@ -178,8 +175,7 @@ void PageView::WantShown() {
   std::vector<ShownPart> parts;
   for (int page = range.First; page <= range.Last; ++page) {
     const double pageTop = layout_.PageRect(page).top();
-    parts.push_back({page, static_cast<int>(std::floor((top - pageTop) * ratio)),
-                     static_cast<int>(std::ceil((bottom - pageTop) * ratio))});
+    parts.push_back({page, PixelBefore((top - pageTop) * ratio), PixelAfter((bottom - pageTop) * ratio)});
   }
   const int width = DeviceWidth(layout_, ratio);
   pictures_.Want(WantedStrips(parts, width, PagePixelHeight(*document_, width), layout_.PageCount()));

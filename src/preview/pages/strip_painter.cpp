@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "preview/paint/toolkit_geometry.h"
+
 namespace tarvis {
 namespace {
 
@@ -24,9 +26,8 @@ void StripPainter::Paint(int page, const QRectF& place, const QRect& exposed) {
   const double from = std::max(0.0, exposed.top() - place.top());
   const double to = exposed.bottom() + 1 - place.top();
   if (to <= 0) return;
-  const std::vector<Strip> sharp =
-      StripsOf({page, static_cast<int>(std::floor(from * ratio_)), static_cast<int>(std::ceil(to * ratio_))},
-               pageWidth_, PagePixelHeight(document_, pageWidth_));
+  const std::vector<Strip> sharp = StripsOf({page, PixelBefore(from * ratio_), PixelAfter(to * ratio_)},
+                                            pageWidth_, PagePixelHeight(document_, pageWidth_));
   const bool whole = std::all_of(sharp.begin(), sharp.end(),
                                  [this](const Strip& strip) { return pictures_.Find(strip) != nullptr; });
   if (!whole) {

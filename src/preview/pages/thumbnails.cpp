@@ -4,7 +4,8 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
-#include <cmath>
+
+#include "preview/paint/toolkit_geometry.h"
 
 namespace tarvis {
 namespace {
@@ -42,7 +43,7 @@ QRect Thumbnails::PlaceOf(int page) const {
 }
 
 Strip Thumbnails::StripOf(int page) const {
-  return {page, 0, static_cast<int>(std::lround(PictureSize().width() * devicePixelRatioF()))};
+  return {page, 0, NearestPixel(PictureSize().width() * devicePixelRatioF())};
 }
 
 void Thumbnails::Update() {

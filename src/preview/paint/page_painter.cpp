@@ -138,8 +138,7 @@ double BaselineOf(const TextPiece& piece, const TextStyle& style, const Rect& bo
   // line's pitch.
   constexpr double LoweringEm = 0.034;
   const double lowering = HasIdeographs(piece.Text) ? LoweringEm : 0;
-  return static_cast<double>(box.Top) +
-         (AscentEm + lowering) * static_cast<double>(style.Size * TwipsPerPoint);
+  return box.Top + (AscentEm + lowering) * (style.Size * TwipsPerPoint);
 }
 
 std::optional<Rect> ClipOfText(const TextFit& fit, const TextStyle& style, const Rect& box) {

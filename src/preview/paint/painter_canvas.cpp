@@ -7,27 +7,23 @@
 
 #include "pictures/paintable_picture.h"
 #include "preview/paint/text_run.h"
+#include "preview/paint/toolkit_geometry.h"
 #include "report/engine/text_measurer.h"
 
 namespace tarvis {
 namespace {
 
-QRectF ToRectF(const Rect& box) {
-  return QRectF(static_cast<double>(box.Left), static_cast<double>(box.Top), static_cast<double>(box.Width),
-                static_cast<double>(box.Height));
-}
-
 QLineF ToLine(const Rect& line) {
-  return QLineF(ToRectF(line).topLeft(),
-                ToRectF(line).topLeft() + QPointF(ToRectF(line).width(), ToRectF(line).height()));
+  const QRectF place = ToRectF(line);
+  return {place.topLeft(), place.bottomRight()};
 }
 
 QPen SolidPen(float width) {
-  return QPen(Qt::black, static_cast<double>(width), Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
+  return QPen(Qt::black, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
 }
 
 QPen LinePen(float width) {
-  return QPen(Qt::black, static_cast<double>(width), Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
+  return QPen(Qt::black, width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
 }
 
 QColor ToColor(Color color) {
@@ -58,7 +54,7 @@ void PainterCanvas::Strokes(const std::vector<Rect>& lines, float width) {
 
 void PainterCanvas::Text(const TextPiece& piece, const TextStyle& style, const Rect& box) {
   const double baseline = BaselineOf(piece, style, box);
-  const QPointF start(static_cast<double>(box.Left), baseline);
+  const QPointF start(box.Left, baseline);
   const TextFit fit = FitText(piece, box);
   const std::optional<Rect> clip = ClipOfText(fit, style, box);
   if (fit.Stretch >= 1 && !clip) {
@@ -68,14 +64,14 @@ void PainterCanvas::Text(const TextPiece& piece, const TextStyle& style, const R
   painter_.save();
   if (clip) painter_.setClipRect(ToRectF(*clip), Qt::IntersectClip);
   painter_.translate(start);
-  painter_.scale(static_cast<double>(fit.Stretch), 1);
+  painter_.scale(fit.Stretch, 1);
   Runs(piece, style, {});
   painter_.restore();
 }
 
 void PainterCanvas::Runs(const TextPiece& piece, const TextStyle& style, const QPointF& start) {
   painter_.setPen(ToColor(Black));
-  const auto em = static_cast<double>(style.Size * TwipsPerPoint);
+  const double em = style.Size * TwipsPerPoint;
   for (const TextRun& run : MakeRuns(piece, style, font_)) {
     QGlyphRun glyphs;
     glyphs.setRawFont(font_.FaceAt(run.Face, em));
@@ -95,9 +91,9 @@ void PainterCanvas::Picture(const tarvis::Picture& picture, const Rect& box) {
 }
 
 PixelCanvas::Pen PixelCanvas::PenFor(float width) const {
-  const double pixels = static_cast<double>(width) * toDevice_.m11();
+  const double pixels = width * toDevice_.m11();
   const int grey = 255 - static_cast<int>(std::lround(255 * std::clamp(pixels, 0.15, 1.0)));
-  return {std::max(1, static_cast<int>(std::lround(pixels))), QColor(grey, grey, grey)};
+  return {std::max(1, NearestPixel(pixels)), QColor(grey, grey, grey)};
 }
 
 void PixelCanvas::StartPixels(const Pen& pen) {
@@ -106,7 +102,7 @@ void PixelCanvas::StartPixels(const Pen& pen) {
 }
 
 int PixelCanvas::FirstPixel(double middle, int pixels) {
-  return static_cast<int>(std::lround(middle - pixels / 2.0));
+  return NearestPixel(middle - pixels / 2.0);
 }
 
 void PixelCanvas::Fill(const std::vector<Rect>& boxes, Color color) {
@@ -114,10 +110,8 @@ void PixelCanvas::Fill(const std::vector<Rect>& boxes, Color color) {
   painter_.setWorldMatrixEnabled(false);
   for (const Rect& box : boxes) {
     const QRectF place = toDevice_.mapRect(ToRectF(box));
-    const QPoint topLeft(static_cast<int>(std::lround(place.left())),
-                         static_cast<int>(std::lround(place.top())));
-    const QPoint end(static_cast<int>(std::lround(place.right())),
-                     static_cast<int>(std::lround(place.bottom())));
+    const QPoint topLeft(NearestPixel(place.left()), NearestPixel(place.top()));
+    const QPoint end(NearestPixel(place.right()), NearestPixel(place.bottom()));
     painter_.fillRect(QRect(topLeft, QSize(end.x() - topLeft.x(), end.y() - topLeft.y())), ToColor(color));
   }
   painter_.restore();
@@ -149,14 +143,14 @@ void PixelCanvas::Strokes(const std::vector<Rect>& lines, float width) {
   StartPixels(pen);
   for (const Rect& line : lines) {
     const QRectF place = toDevice_.mapRect(ToRectF(line).normalized());
-    const int left = static_cast<int>(std::lround(place.left()));
-    const int top = static_cast<int>(std::lround(place.top()));
+    const int left = NearestPixel(place.left());
+    const int top = NearestPixel(place.top());
     if (line.Height == 0) {
-      painter_.fillRect(left, FirstPixel(place.top(), pen.Pixels),
-                        static_cast<int>(std::lround(place.right())) - left, pen.Pixels, pen.Ink);
+      painter_.fillRect(left, FirstPixel(place.top(), pen.Pixels), NearestPixel(place.right()) - left,
+                        pen.Pixels, pen.Ink);
     } else if (line.Width == 0) {
       painter_.fillRect(FirstPixel(place.left(), pen.Pixels), top, pen.Pixels,
-                        static_cast<int>(std::lround(place.bottom())) - top, pen.Ink);
+                        NearestPixel(place.bottom()) - top, pen.Ink);
     } else {
       slanted.push_back(line);
     }

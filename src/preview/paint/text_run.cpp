@@ -20,7 +20,7 @@ class Runs {
       runs_.back().Places.reserve(size_);
     }
     runs_.back().Glyphs.append(glyph);
-    runs_.back().Places.append(QPointF(static_cast<double>(x), static_cast<double>(y)));
+    runs_.back().Places.append(QPointF(x, y));
   }
   std::vector<TextRun> Take() { return std::move(runs_); }
 

@@ -5,6 +5,7 @@
 
 #include "preview/paint/page_painter.h"
 #include "preview/paint/text_run.h"
+#include "preview/paint/toolkit_geometry.h"
 #include "report/engine/utf8.h"
 
 namespace tarvis {
@@ -30,9 +31,9 @@ std::vector<QRectF> BoxesOf(std::vector<CharacterPlace> places, const Rect& line
   std::ranges::sort(places, {}, &CharacterPlace::Left);
   std::vector<QRectF> boxes;
   for (const CharacterPlace& place : places) {
-    const auto left = static_cast<double>(place.Left), right = static_cast<double>(place.Right);
+    const double left = place.Left, right = place.Right;
     if (boxes.empty() || left > boxes.back().right() + Touching) {
-      boxes.emplace_back(left, static_cast<double>(line.Top), right - left, static_cast<double>(line.Height));
+      boxes.emplace_back(left, line.Top, right - left, line.Height);
     } else {
       boxes.back().setRight(std::max(boxes.back().right(), right));
     }
@@ -41,7 +42,7 @@ std::vector<QRectF> BoxesOf(std::vector<CharacterPlace> places, const Rect& line
 }
 
 double DistanceTo(const CharacterPlace& place, double x) {
-  return std::max({static_cast<double>(place.Left) - x, x - static_cast<double>(place.Right), 0.0});
+  return std::max({place.Left - x, x - place.Right, 0.0});
 }
 
 // Before the nearest character or after it, by its half.
@@ -50,18 +51,14 @@ std::size_t CharacterAt(const std::vector<CharacterPlace>& places, double x) {
   const auto nearest =
       std::ranges::min_element(places, {}, [x](const CharacterPlace& place) { return DistanceTo(place, x); });
   const auto index = static_cast<std::size_t>(nearest - places.begin());
-  const double middle = (static_cast<double>(nearest->Left) + static_cast<double>(nearest->Right)) / 2;
+  const double left = nearest->Left, right = nearest->Right;
+  const double middle = (left + right) / 2;
   if ((x > middle) == nearest->RunsToTheLeft) return index;
   // After its marks, which have the same place.
   std::size_t end = index + 1;
   while (end < places.size() && places[end].Left == nearest->Left && places[end].Right == nearest->Right)
     ++end;
   return end;
-}
-
-QRectF ToRectF(const Rect& box) {
-  return {static_cast<double>(box.Left), static_cast<double>(box.Top), static_cast<double>(box.Width),
-          static_cast<double>(box.Height)};
 }
 
 // A text inside a picture, on the paper. It may run in any direction.
@@ -74,7 +71,7 @@ struct PlacedText {
     const PictureText& text = PictureTextOf(document, piece);
     const QRectF box = ToRectF(item.Box);
     const auto scaled = [&box](PictureText::Place place) {
-      return QPointF(static_cast<double>(place.X) * box.width(), static_cast<double>(place.Y) * box.height());
+      return QPointF(place.X * box.width(), place.Y * box.height());
     };
     for (const PictureText::Place& edge : text.Edges) Edges.push_back(box.topLeft() + scaled(edge));
     Up = scaled(text.Up);

@@ -11,6 +11,7 @@
 #include <QRegularExpression>
 #include <QStandardPaths>
 
+#include "preview/paint/toolkit_geometry.h"
 #include "preview/window/pdf_file_dialog.h"
 #include "preview/window/print_dialog.h"
 
@@ -36,9 +37,7 @@ QString FileNameOf(const QString& title, const QString& dataFile) {
 
 // Without a printer the toolkit takes A4 everywhere.
 void UsePaperOf(const Document& document, QPrinter& printer) {
-  const QSizeF points(static_cast<double>(document.Setup.Width / TwipsPerPoint),
-                      static_cast<double>(document.Setup.Height / TwipsPerPoint));
-  printer.setPageSize(QPageSize(points, QPageSize::Point));
+  printer.setPageSize(QPageSize(PaperSizeOf(document) / TwipsPerPoint, QPageSize::Point));
 }
 
 }  // namespace

@@ -4,12 +4,14 @@
 #include <cmath>
 #include <optional>
 
+#include "preview/paint/toolkit_geometry.h"
+
 namespace tarvis {
 namespace {
 
 // Twips from the head of the first page, as if all pages were one long sheet.
 double Depth(const Document& document, int page, double top) {
-  return page * static_cast<double>(document.Setup.Height) + top;
+  return page * PaperSizeOf(document).height() + top;
 }
 
 // Calls `see` with each contents entry and its name; entries of the same name differ in their occurrence.
@@ -34,7 +36,7 @@ ReadingPlace Remember(const Document& document, const PagePlace& place) {
   const double depth = Depth(document, place.Page, place.Top);
   ReadingPlace found;
   ForEachEntry(document, [&](const ContentsEntry& entry, const ReadingPlace& name) {
-    const double below = depth - Depth(document, entry.Page, static_cast<double>(entry.Top));
+    const double below = depth - Depth(document, entry.Page, entry.Top);
     constexpr double OnePixel = 150;  // at the smallest zoom: a jump to an entry may stop so far above it
     if (below < -OnePixel) return;
     found = name;
@@ -48,11 +50,11 @@ PagePlace FindAgain(const Document& document, const ReadingPlace& place) {
   std::optional<double> depth;
   ForEachEntry(document, [&](const ContentsEntry& entry, const ReadingPlace& name) {
     if (name.Parent == place.Parent && name.Entry == place.Entry && name.Occurrence == place.Occurrence)
-      depth = Depth(document, entry.Page, static_cast<double>(entry.Top)) + place.Below;
+      depth = Depth(document, entry.Page, entry.Top) + place.Below;
   });
   const int last = std::max(0, static_cast<int>(document.Pages.size()) - 1);
   if (!depth || place.Entry.isEmpty()) return {std::min(place.Page.Page, last), place.Page.Top};
-  const double height = static_cast<double>(document.Setup.Height);
+  const double height = PaperSizeOf(document).height();
   const int page = std::clamp(static_cast<int>(std::floor(*depth / height)), 0, last);
   return {page, *depth - page * height};
 }

@@ -58,7 +58,7 @@ void SidePane::Choose(const QTreeWidgetItem* item) {
   if (item == nullptr) return;
   const ContentsEntry& entry =
       document_->Contents[static_cast<std::size_t>(item->data(0, EntryRole).toInt())];
-  emit PlaceChosen({entry.Page, static_cast<double>(entry.Top)});
+  emit PlaceChosen({entry.Page, entry.Top});
 }
 
 void SidePane::ShowPlace(const PagePlace& place) {
@@ -66,8 +66,7 @@ void SidePane::ShowPlace(const PagePlace& place) {
   QTreeWidgetItem* current = nullptr;
   for (std::size_t index = 0; index < items_.size(); ++index) {
     const ContentsEntry& entry = document_->Contents[index];
-    const bool above =
-        entry.Page < place.Page || (entry.Page == place.Page && static_cast<double>(entry.Top) <= place.Top);
+    const bool above = entry.Page < place.Page || (entry.Page == place.Page && entry.Top <= place.Top);
     if (above || current == nullptr) current = items_[index];
   }
   if (current != contents_->currentItem()) contents_->setCurrentItem(current);

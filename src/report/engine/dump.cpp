@@ -1,5 +1,6 @@
 // A document as text, as goldens hold it.
 #include <array>
+#include <cmath>
 #include <cstdio>
 #include <string>
 
@@ -11,8 +12,8 @@ namespace {
 // Whole twips as they are, fractions with one place.
 std::string Number(float value) {
   std::array<char, 32> text{};
-  const bool whole = value == static_cast<float>(static_cast<long>(value));
-  std::snprintf(text.data(), text.size(), whole ? "%.0f" : "%.1f", static_cast<double>(value));
+  const bool whole = value == std::trunc(value);
+  std::snprintf(text.data(), text.size(), whole ? "%.0f" : "%.1f", value);
   return text.data();
 }
 

@@ -47,7 +47,7 @@ std::optional<std::string> AsShown(std::string_view text) {
 }  // namespace
 
 float LinePitch(float size) {
-  return static_cast<float>(std::nearbyint(static_cast<double>(size * TwipsPerPoint) * LinePitchEm));
+  return static_cast<float>(std::nearbyint(size * TwipsPerPoint * LinePitchEm));
 }
 
 std::size_t TextCache::KeyHash::operator()(const Key& key) const {
