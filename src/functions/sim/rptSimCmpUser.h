@@ -12,7 +12,7 @@ class rptSimCmpUser : public SimCmpUserReport {
   explicit rptSimCmpUser(ReportContext context) : SimCmpUserReport("rptSimCmpUser", context, Columns) {}
 
  private:
-  static constexpr std::array<SimulationColumn, 7> Columns{{
+  static constexpr std::array<NamedColumn, 7> Columns{{
       {"txtTitleFile1", "Target", "txtValueVal1", 850, 1134},
       {"txtTitleFile2", "1", "txtValueVal2", 1984, 1134},
       {"txtTitleFile3", "2", "txtValueVal3", 3118, 1134},

@@ -29,7 +29,7 @@ class rptSimCmpUserEx : public SimCmpUserReport {
     txtValueNo.Height = height;
   }
 
-  static constexpr std::array<SimulationColumn, 11> Columns{{
+  static constexpr std::array<NamedColumn, 11> Columns{{
       {"txtTitleFile1", "Target", "txtValueVal1", 850, 709},
       {"txtTitleFile2", "1", "txtValueVal2", 1559, 709},
       {"txtTitleFile3", "2", "txtValueVal3", 2268, 708},

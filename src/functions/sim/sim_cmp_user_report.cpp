@@ -5,9 +5,9 @@
 namespace tarvis {
 
 SimCmpUserReport::SimCmpUserReport(const char* name, ReportContext context,
-                                   std::span<const SimulationColumn> columns)
+                                   std::span<const NamedColumn> columns)
     : SimCmpReport(name, context, "Parameter", Keep::FirstDetail) {
-  for (const SimulationColumn& column : columns) {
+  for (const NamedColumn& column : columns) {
     txtTitleFile.push_back(&ghGuide.AddField(column.TitleControl, {column.Left, 142, column.Width, 283},
                                              TitleCell, column.Title));
     txtValueVal.push_back(

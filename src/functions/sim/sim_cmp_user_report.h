@@ -5,23 +5,16 @@
 #include <vector>
 
 #include "functions/sim/sim_cmp_report.h"
+#include "report/named_column.h"
 
 namespace tarvis {
-
-struct SimulationColumn {
-  const char* TitleControl;
-  const char* Title;
-  const char* ValueControl;
-  float Left;
-  float Width;
-};
 
 class SimCmpUserReport : public SimCmpReport {
  public:
   void ActiveReport_FetchData(bool& endOfData) override;
 
  protected:
-  SimCmpUserReport(const char* name, ReportContext context, std::span<const SimulationColumn> columns);
+  SimCmpUserReport(const char* name, ReportContext context, std::span<const NamedColumn> columns);
 
   Field& txtTitleNo = ghGuide.AddField("txtTitleNo", {142, 142, 708, 283}, TitleCell, "No.");
   Field& txtValueNo = Detail.AddField("txtValueNo", {142, 0, 708, 283}, CentredCell);

@@ -20,8 +20,8 @@ BitTableReport::BitTableReport(const char* name, ReportContext context, const Bi
       txtUnit(AddUnit(layout)) {
   ghGuide.Repeat = true;
   id_ = &AddColumn(layout.Id, NineBold);
-  for (const BitTableColumn& column : layout.Bits) bits_.push_back(&AddColumn(column, BitCell));
-  for (const BitTableColumn& column : layout.Texts) texts_.push_back(&AddColumn(column, TextCell));
+  for (const NamedColumn& column : layout.Bits) bits_.push_back(&AddColumn(column, BitCell));
+  for (const NamedColumn& column : layout.Texts) texts_.push_back(&AddColumn(column, TextCell));
   GroupFooter2.AddLabel("Label3", {1276, 30, 4818, 283}, "X:Active    Blank:Non-Active", Nine);
 }
 
@@ -30,7 +30,7 @@ Field& BitTableReport::AddUnit(const BitTableLayout& layout) {
   return ghTitle.AddField("txtUnit", {layout.UnitLeft, 850, layout.UnitWidth, 284}, Nine);
 }
 
-Field& BitTableReport::AddColumn(const BitTableColumn& column, const CellStyle& style) {
+Field& BitTableReport::AddColumn(const NamedColumn& column, const CellStyle& style) {
   const Rect place{column.Left, 0, column.Width, CellHeight};
   ghGuide.AddField(column.TitleControl, place, NineBold, column.Title);
   return Detail.AddField(column.ValueControl, place, style);

@@ -7,26 +7,18 @@
 #include <vector>
 
 #include "report/function_report.h"
+#include "report/named_column.h"
 
 namespace tarvis {
-
-// A text column after the bit columns, or the ID column before them.
-struct BitTableColumn {
-  const char* TitleControl;
-  const char* Title;
-  const char* ValueControl;
-  float Left;
-  float Width;
-};
 
 struct BitTableLayout {
   const char* Caption;
   float UnitLabelLeft;
   float UnitLeft;
   float UnitWidth;
-  BitTableColumn Id;
-  std::span<const BitTableColumn> Bits;  // from the highest bit at the left to bit 0
-  std::span<const BitTableColumn> Texts;
+  NamedColumn Id;
+  std::span<const NamedColumn> Bits;  // from the highest bit at the left to bit 0
+  std::span<const NamedColumn> Texts;
 };
 
 class BitTableReport : public FunctionReport {
@@ -46,7 +38,7 @@ class BitTableReport : public FunctionReport {
 
  private:
   Field& AddUnit(const BitTableLayout& layout);
-  Field& AddColumn(const BitTableColumn& column, const CellStyle& style);
+  Field& AddColumn(const NamedColumn& column, const CellStyle& style);
 
   Section& ghGuide;
   Section& Detail;

@@ -25,13 +25,13 @@ class rptIdxJogTblTable : public BitTableReport {
   }
 
   // Bit 4 of an ID has no column here.
-  static constexpr std::array<BitTableColumn, 4> Bits{{
+  static constexpr std::array<NamedColumn, 4> Bits{{
       {"txtJ3", "J3", "txtJ3Val", 1140, 570},
       {"txtJ2", "J2", "txtJ2Val", 1710, 570},
       {"txtJ1", "J1", "txtJ1Val", 2280, 570},
       {"txtJ0", "J0", "txtJ0Val", 2850, 570},
   }};
-  static constexpr std::array<BitTableColumn, 1> Texts{{
+  static constexpr std::array<NamedColumn, 1> Texts{{
       {"txtJSPD", "JSPD", "txtJSPDVal", 3420, 3968},
   }};
   static constexpr BitTableLayout Layout{

@@ -26,14 +26,14 @@ class rptIdxZoneTblTable : public BitTableReport {
     ShowText(1, row.ZoneP);
   }
 
-  static constexpr std::array<BitTableColumn, 5> Bits{{
+  static constexpr std::array<NamedColumn, 5> Bits{{
       {"txtZ4", "Z4", "txtZ4Val", 1140, 570},
       {"txtZ3", "Z3", "txtZ3Val", 1710, 570},
       {"txtZ2", "Z2", "txtZ2Val", 2280, 570},
       {"txtZ1", "Z1", "txtZ1Val", 2850, 570},
       {"txtZ0", "Z0", "txtZ0Val", 3420, 570},
   }};
-  static constexpr std::array<BitTableColumn, 2> Texts{{
+  static constexpr std::array<NamedColumn, 2> Texts{{
       {"txtZONEN", "ZONEN", "txtZONENVal", 3990, 2415},
       {"txtZONEP", "ZONEP", "txtZONEPVal", 6405, 2415},
   }};
