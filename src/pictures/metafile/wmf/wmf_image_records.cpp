@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "pictures/metafile/context/raster_ops.h"
+#include "pictures/metafile/wmf/old_bitmap.h"
 #include "pictures/metafile/wmf/wmf_playback.h"
 
 namespace tarvis {
@@ -95,14 +96,9 @@ QImage ReadOldBitmap(ByteReader& reader, const DcState& state) {
                                                         {16, QImage::Format_RGB555},
                                                         {24, QImage::Format_BGR888},
                                                         {32, QImage::Format_RGB32}};
-  reader.Skip(2);
-  const int width = reader.I16();
-  const int height = reader.I16();
-  const std::size_t rowSize = reader.U16();
-  const int planes = reader.U8();
-  const int bits = reader.U8();
+  const auto [width, height, rowSize, bits] = ReadOldBitmapHead(reader);
   const auto format = std::ranges::find(formats, bits, &std::pair<int, QImage::Format>::first);
-  if (planes != 1 || format == std::end(formats) || width < 1 || height < 1) throw SkipRecord();
+  if (format == std::end(formats)) throw SkipRecord();
   const auto used = static_cast<std::size_t>((width * bits + 7) / 8);
   if (rowSize < used || reader.Left() < rowSize * static_cast<std::size_t>(height)) throw SkipRecord();
   QImage image(width, height, format->second);

@@ -1,6 +1,7 @@
 // Records of old-style metafiles that create and select objects, regions among them, and fill regions.
 #include <algorithm>
 
+#include "pictures/metafile/wmf/old_bitmap.h"
 #include "pictures/metafile/wmf/wmf_playback.h"
 
 namespace tarvis {
@@ -67,13 +68,8 @@ void CreateDibPattern(WmfPlayback& playback, ByteReader& reader) {
 
 // A bitmap of one bit a pixel in the oldest form, as pattern of 8 by 8.
 void CreatePattern(WmfPlayback& playback, ByteReader& reader) {
-  reader.Skip(2);
-  const int width = reader.I16();
-  const int height = reader.I16();
-  const std::size_t rowSize = reader.U16();
-  const int planes = reader.U8();
-  const int bits = reader.U8();
-  if (planes != 1 || bits != 1 || width < 1 || width > 256 || height < 1 || height > 256) throw SkipRecord();
+  const auto [width, height, rowSize, bits] = ReadOldBitmapHead(reader);
+  if (bits != 1 || width > 256 || height > 256) throw SkipRecord();
   reader.Skip(4 + 18);  // a pointer, and room that is not used
   auto brush = std::make_shared<MetaBrush>();
   brush->Is = MetaBrush::Kind::Pattern;
