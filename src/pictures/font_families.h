@@ -8,7 +8,7 @@
 namespace tarvis {
 
 // Families for what Arial doesn't have, best first; those that are not installed are passed over. None for a
-// code page whose scripts don't tell a language: there the desktop chooses by script.
+// code page whose script is that of many languages: there the desktop chooses by script.
 QStringList FamiliesOf(int codePage);
 
 }  // namespace tarvis

@@ -21,10 +21,10 @@ std::string FirstLine(const std::string& text) {
 void TakeTitle(PrintRun& run, std::string& title) {
   const std::string line = FirstLine(title);
   title = CutToBytes(run.CodePage, line, TitleLimit);
-  if (title != line) TellByteLimit(run, TitleLimit);
+  if (title != line) ShowByteLimit(run, TitleLimit);
 }
 
-void TellByteLimit(PrintRun& run, int limit) {
+void ShowByteLimit(PrintRun& run, int limit) {
   run.Desktop.ShowMessage(InputErrorTitle, "Try with  Less Characters.  Up to " + std::to_string(limit) +
                                                " Characters can be Inputted.");
 }

@@ -18,6 +18,6 @@ inline constexpr char InputErrorTitle[] = "Input Error";
 void TakeTitle(PrintRun& run, std::string& title);
 
 // Shows the message that a text has more than `limit` bytes.
-void TellByteLimit(PrintRun& run, int limit);
+void ShowByteLimit(PrintRun& run, int limit);
 
 }  // namespace tarvis

@@ -78,7 +78,7 @@ inline void ExpectTabsWhole(const QTabBar& bar) {
   }
 }
 // No two mnemonics that are alive at the same time are the same.
-inline void ExpectMnemonicsUnlike(const QWidget& window) {
+inline void ExpectMnemonicsDiffer(const QWidget& window) {
   std::map<QString, std::string> owners;
   const auto claim = [&owners](const QString& caption, const std::string& owner) {
     const QString key = QKeySequence::mnemonic(caption).toString();

@@ -22,7 +22,7 @@ class Layout : public DialogRun, public testing::WithParamInterface<int> {
       ExpectApart(*page.Tabs().Page(tab));
       ExpectCaptionsWhole(*Dialog);
       ExpectTabsWhole(*page.Tabs().Bar());
-      ExpectMnemonicsUnlike(*Dialog);
+      ExpectMnemonicsDiffer(*Dialog);
       Grab(*Dialog, name + std::to_string(tab) + "-" + std::to_string(GetParam()));
     }
   }
@@ -77,7 +77,7 @@ TEST_P(Layout, EveryTabOfTheCoverEditorIsLegible) {
     ExpectApart(*tabs->Page(tab));
     ExpectCaptionsWhole(editor);
     ExpectTabsWhole(*tabs->Bar());
-    ExpectMnemonicsUnlike(editor);
+    ExpectMnemonicsDiffer(editor);
     QApplication::processEvents();
     Grab(editor, "EditCover" + std::to_string(tab) + "-" + std::to_string(GetParam()));
   }

@@ -20,17 +20,17 @@ class Signals(ProgramCase):
         session.wait_for(DIALOG)
         return session
 
-    def end(self, session, wish=signal.SIGTERM, status=0, left=()):
+    def end(self, session, request=signal.SIGTERM, status=0, left=()):
         """Asks the program to end and expects it to, with no file left but these."""
-        session.process.send_signal(wish)
+        session.process.send_signal(request)
         self.expect_end(session.process, status)
         self.assertEqual(self.files_left(), [*left])
 
     def test_end_the_dialog_as_cancel_does(self):
-        for wish in (signal.SIGTERM, signal.SIGHUP, signal.SIGINT):
-            with self.subTest(wish=wish.name):
+        for request in (signal.SIGTERM, signal.SIGHUP, signal.SIGINT):
+            with self.subTest(request=request.name):
                 session = self.start_dialog()
-                self.end(session, wish)
+                self.end(session, request)
                 self.assertFalse(self.host.options_file.exists())
                 self.assertEqual(self.standard_error(), "")
 

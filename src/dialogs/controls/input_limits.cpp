@@ -23,14 +23,14 @@ bool TrimToByteLimit(PrintRun& run, int limit, InputBox& box) {
   const std::string cut = CutToBytes(run.CodePage, text, static_cast<std::size_t>(limit));
   box.SetText(cut);
   box.SetMaximumLength(static_cast<int>(CharacterCount(cut)));
-  TellByteLimit(run, limit);
+  ShowByteLimit(run, limit);
   box.GiveFocus();
   return false;
 }
 
 bool CheckByteLimit(PrintRun& run, int limit, InputBox& box) {
   if (Fits(run, limit, box.Text())) return true;
-  TellByteLimit(run, limit);
+  ShowByteLimit(run, limit);
   box.GiveFocus();
   return false;
 }

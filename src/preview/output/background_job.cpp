@@ -8,7 +8,7 @@ namespace tarvis {
 
 namespace {
 
-constexpr int LookInterval = 50;  // milliseconds
+constexpr int PollInterval = 50;  // milliseconds
 
 }  // namespace
 
@@ -51,12 +51,12 @@ void BackgroundJob::ShowProgress() {
   dialog_->setAutoClose(false);
   dialog_->setAutoReset(false);
   // Polled, so that quick steps don't flood the window's thread with events.
-  auto* look = new QTimer(dialog_);
-  connect(look, &QTimer::timeout, dialog_, [this] {
+  auto* poll = new QTimer(dialog_);
+  connect(poll, &QTimer::timeout, dialog_, [this] {
     dialog_->setMaximum(total_);
     dialog_->setValue(done_);
   });
-  look->start(LookInterval);
+  poll->start(PollInterval);
   connect(dialog_, &QProgressDialog::canceled, this, &BackgroundJob::Cancel);
   dialog_->show();
 }

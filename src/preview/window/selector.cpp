@@ -25,27 +25,27 @@ Selector::Selector(DocumentText& text, PageView& view, PageInput& input, QObject
 void Selector::Start(const PageView::Spot& spot) {
   selection_.Clear();
   if (spot.Page >= 0) selection_.Start(spot.Page, spot.Point);
-  TellChange();
+  NoticeChange();
 }
 
 void Selector::Extend(const PageView::Spot& spot) {
   if (spot.Page >= 0) selection_.ExtendTo(spot.Page, spot.Point);
-  TellChange();
+  NoticeChange();
 }
 
 void Selector::SelectWord(const PageView::Spot& spot) {
   if (spot.Page >= 0) selection_.SelectWord(spot.Page, spot.Point);
-  TellChange();
+  NoticeChange();
 }
 
 void Selector::SelectRow(const PageView::Spot& spot) {
   if (spot.Page >= 0) selection_.SelectRow(spot.Page, spot.Point);
-  TellChange();
+  NoticeChange();
 }
 
 void Selector::SelectAll() {
   selection_.SelectAll();
-  TellChange();
+  NoticeChange();
 }
 
 void Selector::Copy() const {
@@ -58,7 +58,7 @@ std::vector<Highlight> Selector::Marks(int page) const {
   return marks;
 }
 
-void Selector::TellChange() {
+void Selector::NoticeChange() {
   view_.viewport()->update();
   emit Changed();
 }

@@ -29,7 +29,7 @@ class Selector : public QObject {
   void Extend(const PageView::Spot& spot);
   void SelectWord(const PageView::Spot& spot);
   void SelectRow(const PageView::Spot& spot);
-  void TellChange();
+  void NoticeChange();
 
   PageView& view_;
   TextSelection selection_;

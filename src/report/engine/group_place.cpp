@@ -7,8 +7,8 @@ GroupPlace PlaceOf(const GroupRoom& room) {
   if (!room.IsComplete) return GroupPlace::CannotBeKept;
   const float height = room.Headers + room.Group;
   if (!room.StartsNewPage && room.Used + height <= room.Page + RoundingRoom) return GroupPlace::ThisPage;
-  const bool fresherThanThis = room.HasRows || room.StartsNewPage;
-  if (fresherThanThis && height <= room.FreshPage + RoundingRoom) return GroupPlace::FreshPage;
+  const bool freshPageHasMoreRoom = room.HasRows || room.StartsNewPage;
+  if (freshPageHasMoreRoom && height <= room.FreshPage + RoundingRoom) return GroupPlace::FreshPage;
   return GroupPlace::CannotBeKept;
 }
 

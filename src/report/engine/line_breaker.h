@@ -1,4 +1,4 @@
-// Where running text may break, as Unicode's line breaking and grapheme clusters tell.
+// Where running text may break, by Unicode's rules for line breaks and for clusters of letter and marks.
 #pragma once
 
 #include <memory>

@@ -39,7 +39,7 @@ TEST(Folded, KeepsCaseWhereItMatters) {
   EXPECT_EQ(Fold("ＰＮ", true).Units, u"PN");
 }
 
-TEST(Folded, TellsWhichCharactersEachUnitComesFrom) {
+TEST(Folded, ReturnsTheCharactersThatEachUnitComesFrom) {
   const FoldedText marks = Fold("ﾊﾟx㎜", false);
   EXPECT_EQ(marks.Units, u"パxmm");
   EXPECT_THAT(marks.Firsts, ElementsAre(0, 2, 3, 3));
@@ -49,7 +49,7 @@ TEST(Folded, TellsWhichCharactersEachUnitComesFrom) {
   EXPECT_THAT(beyond.Ends, ElementsAre(1, 1, 2));
 }
 
-TEST(Folded, TellsNoCharactersWhereEachIsOneUnit) {
+TEST(Folded, ReturnsNoCharactersWhereEachIsOneUnit) {
   for (const char* text : {"Pn100", "日本語"}) {
     const FoldedText folded = Fold(text, false);
     EXPECT_TRUE(folded.Firsts.empty()) << text;

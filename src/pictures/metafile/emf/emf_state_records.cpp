@@ -113,12 +113,12 @@ constexpr EmfRecord Records[] = {
        const double value = limit > 0xFFFF ? static_cast<double>(std::bit_cast<float>(limit)) : limit;
        if (std::isfinite(value) && value >= 1) playback.Draw.State().MiterLimit = value;
      }},
-    {Emr::SetIcmMode, nullptr},  // colour management, to 101
+    {Emr::SetIcmMode, nullptr},  // colour management, as the next three
     {Emr::CreateColorSpace, nullptr},
     {Emr::SetColorSpace, nullptr},
     {Emr::DeleteColorSpace, nullptr},
-    {Emr::PixelFormat, nullptr},  // pixel format
-    {Emr::DrawEscape, nullptr},   // escapes to a driver
+    {Emr::PixelFormat, nullptr},
+    {Emr::DrawEscape, nullptr},  // escapes to a driver
     {Emr::ExtEscape, nullptr},
     {Emr::ForceUfiMapping, nullptr},  // font links
     {Emr::NamedEscape, nullptr},

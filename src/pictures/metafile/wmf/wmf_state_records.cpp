@@ -4,16 +4,14 @@
 namespace tarvis {
 namespace {
 
+// By the record's two fractions: the denominator comes before the numerator, and y before x.
 QPointF Scaled(QPointF extent, ByteReader& reader) {
-  const QPointF divide = [&reader] {
-    const double y = reader.I16();
-    const double yMultiply = reader.I16();
-    return QPointF(y, yMultiply);
-  }();
+  const double yDivide = reader.I16();
+  const double yMultiply = reader.I16();
   const double xDivide = reader.I16();
   const double xMultiply = reader.I16();
-  if (divide.x() == 0 || xDivide == 0) throw SkipRecord();
-  return {extent.x() * xMultiply / xDivide, extent.y() * divide.y() / divide.x()};
+  if (yDivide == 0 || xDivide == 0) throw SkipRecord();
+  return {extent.x() * xMultiply / xDivide, extent.y() * yMultiply / yDivide};
 }
 
 QColor Color(WmfPlayback& playback, ByteReader& reader) {
