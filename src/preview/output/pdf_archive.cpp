@@ -18,7 +18,8 @@ constexpr CodePageLanguage Languages[] = {{874, "th"},    {932, "ja"},  {936, "z
                                           {1255, "he"},   {1256, "ar"}, {1258, "vi"},   {54936, "zh-CN"}};
 
 std::string LanguageOf(int codePage) {
-  const auto* const row = std::ranges::find(Languages, codePage, &CodePageLanguage::CodePage);
+  const auto* const row = std::find_if(std::begin(Languages), std::end(Languages),
+                                       [codePage](const auto& other) { return other.CodePage == codePage; });
   return row == std::end(Languages) ? "en" : row->Language;
 }
 

@@ -16,6 +16,7 @@
 #include "preview/output/content_compressor.h"
 #include "preview/output/pdf_archive.h"
 #include "preview/output/pdf_greys.h"
+#include "preview/output/pdf_metadata.h"
 #include "preview/output/pdf_resources.h"
 #include "preview/output/reading_order.h"
 #include "preview/paint/toolkit_geometry.h"

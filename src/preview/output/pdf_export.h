@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "preview/output/pdf_metadata.h"
+#include "preview/output/pdf_info.h"
 #include "preview/output/progress.h"
 #include "report/engine/document.h"
 

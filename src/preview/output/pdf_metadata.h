@@ -1,18 +1,13 @@
-// What a PDF says about itself: its title, author, makers and dates, and which kind of archive it is.
+// What a PDF says about itself, written into it: title, author, makers, dates, and which kind of archive it
+// is.
 #pragma once
 
-#include <QDateTime>
-#include <QString>
 #include <optional>
 #include <qpdf/QPDF.hh>
 
-namespace tarvis {
+#include "preview/output/pdf_info.h"
 
-struct PdfInfo {
-  QString Title;
-  QString Author;     // empty for none
-  QDateTime Created;  // invalid: no dates, so that the same document gives the same bytes
-};
+namespace tarvis {
 
 // The part of ISO 19005 that a document keeps to, with the level within it.
 struct PdfConformance {
