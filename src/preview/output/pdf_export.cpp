@@ -4,7 +4,6 @@
 #include <QFileInfo>
 #include <QSaveFile>
 #include <algorithm>
-#include <deque>
 #include <map>
 #include <numeric>
 #include <optional>
@@ -13,7 +12,6 @@
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFWriter.hh>
 
-#include "preview/output/content_compressor.h"
 #include "preview/output/pdf_archive.h"
 #include "preview/output/pdf_greys.h"
 #include "preview/output/pdf_metadata.h"
@@ -51,37 +49,29 @@ QPDFObjectHandle MakePage(QPDF& pdf, const PdfSheets& sheets, const QPDFObjectHa
   return pdf.makeIndirectObject(page);
 }
 
-void FillStreams(std::vector<QPDFObjectHandle>& streams, const std::deque<std::string>& contents) {
-  const QPDFObjectHandle filter = Name("/FlateDecode");
-  for (std::size_t index = 0; index < streams.size(); ++index)
-    streams[index].replaceStreamData(contents[index], filter, QPDFObjectHandle::newNull());
-}
-
 // Whether the fonts of the pages are embedded; nothing if cancelled.
 std::optional<bool> AddPages(QPDF& pdf, const Document& document, const PdfSheets& sheets,
                              const Progress& progress) {
   ReportFont& font = ReportFont::OfThisThread(document.CodePage);
   PdfGlyphs glyphs(font);
   PdfPictures pictures;
-  ContentCompressor compressor;
+  PdfContents contents;
   std::vector<QPDFObjectHandle> pages;
-  std::vector<QPDFObjectHandle> streams;     // of the contents that were added
-  std::map<int, QPDFObjectHandle> contents;  // further copies of a page share its content
+  std::map<int, QPDFObjectHandle> streams;  // further copies of a page share its content
   const int count = static_cast<int>(sheets.Pages.size());
   for (const int page : sheets.Pages) {
     if (!progress(static_cast<int>(pages.size()), count)) return {};
-    const auto [content, isNew] = contents.try_emplace(page);
+    const auto [stream, isNew] = streams.try_emplace(page);
     if (isNew) {
       PdfCanvas canvas(sheets.Paper.height(), sheets.Scale, glyphs, pictures);
       PaintInReadingOrder(document, static_cast<std::size_t>(page), canvas);
-      content->second = pdf.newStream();
-      streams.push_back(content->second);
-      compressor.Add(canvas.Finish());
+      stream->second = pdf.newStream();
+      contents.Add(stream->second, canvas.Finish());
     }
-    pages.push_back(MakePage(pdf, sheets, content->second));
+    pages.push_back(MakePage(pdf, sheets, stream->second));
   }
-  const PdfResources resources = MakeResources(pdf, glyphs, pictures, font);
-  FillStreams(streams, compressor.Finish());
+  const PdfResources resources = MakeResources(pdf, glyphs, pictures, font, contents);
+  contents.Finish();
   QPDFPageDocumentHelper helper(pdf);
   for (QPDFObjectHandle& page : pages) {
     page.replaceKey("/Resources", resources.Dictionary);

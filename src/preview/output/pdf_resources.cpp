@@ -7,6 +7,7 @@
 #include "pictures/paintable_picture.h"
 #include "preview/output/pdf_fonts.h"
 #include "preview/output/pdf_helper_file.h"
+#include "preview/output/pdf_rounding.h"
 #include "preview/output/pdf_to_unicode.h"
 
 namespace tarvis {
@@ -28,14 +29,23 @@ void PaintPictures(const PdfPictures& pictures, QPdfWriter& writer, QPainter& pa
   }
 }
 
-// A helper page as a form. Its content is taken as it is compressed.
-QPDFObjectHandle TakeForm(QPDF& pdf, QPDFPageObjectHelper& page) {
-  QPDFObjectHandle form = pdf.copyForeignObject(page.getObjectHandle().getKey("/Contents"));
+std::string TextOf(QPDFObjectHandle stream) {
+  const std::shared_ptr<Buffer> bytes = stream.getStreamData();
+  return {reinterpret_cast<const char*>(bytes->getBuffer()), bytes->getSize()};
+}
+
+// A helper page as a form, with no more digits than can be seen. Content that can't be rounded is taken as it
+// is compressed.
+QPDFObjectHandle TakeForm(QPDF& pdf, QPDFPageObjectHelper& page, PdfContents& contents) {
+  QPDFObjectHandle content = page.getObjectHandle().getKey("/Contents");
+  const std::optional<std::string> rounded = RoundedContent(TextOf(content));
+  QPDFObjectHandle form = rounded ? pdf.newStream() : pdf.copyForeignObject(content);
   QPDFObjectHandle dictionary = form.getDict();
   dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/XObject"));
   dictionary.replaceKey("/Subtype", QPDFObjectHandle::newName("/Form"));
   dictionary.replaceKey("/BBox", page.getMediaBox().shallowCopy());
   dictionary.replaceKey("/Resources", pdf.copyForeignObject(page.getAttribute("/Resources", false)));
+  if (rounded) contents.Add(form, *rounded);
   return form;
 }
 
@@ -50,9 +60,7 @@ std::size_t GlyphCount(QPDFObjectHandle font) {
 void CompleteTexts(QPDFObjectHandle font) {
   QPDFObjectHandle map = font.getKey("/ToUnicode");
   if (!map.isStream()) return;
-  const std::shared_ptr<Buffer> bytes = map.getStreamData();
-  const std::string_view text(reinterpret_cast<const char*>(bytes->getBuffer()), bytes->getSize());
-  map.replaceStreamData(CompletedMap(text, GlyphCount(font)), QPDFObjectHandle::newNull(),
+  map.replaceStreamData(CompletedMap(TextOf(map), GlyphCount(font)), QPDFObjectHandle::newNull(),
                         QPDFObjectHandle::newNull());
 }
 
@@ -64,8 +72,8 @@ void CompleteTexts(QPDFObjectHandle resources, std::set<QPDFObjGen>& done) {
 
 }  // namespace
 
-PdfResources MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPictures& pictures,
-                           ReportFont& font) {
+PdfResources MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPictures& pictures, ReportFont& font,
+                           PdfContents& contents) {
   HelperFile pictureFile(PaintHelperFile(
       [&](QPdfWriter& writer, QPainter& painter) { PaintPictures(pictures, writer, painter); }));
   QPDFObjectHandle resources = QPDFObjectHandle::newDictionary();
@@ -75,7 +83,7 @@ PdfResources MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPictures
   std::vector<QPDFPageObjectHelper> pages = pictureFile.Pages();
   std::set<QPDFObjGen> completed;
   for (std::size_t number = 0; number < pictures.All().size(); ++number) {
-    QPDFObjectHandle form = TakeForm(pdf, pages.at(number + 1));
+    QPDFObjectHandle form = TakeForm(pdf, pages.at(number + 1), contents);
     CompleteTexts(form.getDict().getKey("/Resources"), completed);
     forms.replaceKey("/P" + std::to_string(number), form);
   }

@@ -5,6 +5,7 @@
 #include <qpdf/QPDF.hh>
 
 #include "preview/output/pdf_canvas.h"
+#include "preview/output/pdf_contents.h"
 #include "preview/output/pdf_glyphs.h"
 
 namespace tarvis {
@@ -15,6 +16,8 @@ struct PdfResources {
   bool FontsAreEmbedded = true;  // see PdfFonts
 };
 
-PdfResources MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPictures& pictures, ReportFont& font);
+// The contents of pictures are added to `contents`.
+PdfResources MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPictures& pictures, ReportFont& font,
+                           PdfContents& contents);
 
 }  // namespace tarvis
