@@ -16,12 +16,14 @@ const Document& DocumentMaker::Compose() {
   document_ = ComposeMasterReport(run_, report, SetupForPaper(paper_.Width, paper_.Height),
                                   QtTextMeasurer(run_.CodePage.Number()));
   run_.Session.MasterReport = nullptr;
+  files_.emplace(run_, AllFunctions());
   return document_;
 }
 
-std::string DocumentMaker::MakePdf(std::time_t created, const Progress& progress) const {
-  const PdfInfo info{QString::fromStdString(document_.Title), QString::fromStdString(run_.Header.MadeBy),
-                     QDateTime::fromSecsSinceEpoch(created)};
+std::string DocumentMaker::MakePdf(std::time_t created, DataInPdf data, const Progress& progress) const {
+  PdfInfo info{QString::fromStdString(document_.Title), QString::fromStdString(run_.Header.MadeBy),
+               QDateTime::fromSecsSinceEpoch(created)};
+  if (data == DataInPdf::Attached && files_) info.Data = files_->Read();
   PdfSheets sheets = PdfSheets::AllOf(document_);
   sheets.Scale = paper_.Width / document_.Setup.Width;
   sheets.Paper = QSizeF(paper_.Width, paper_.Height);

@@ -35,6 +35,7 @@ constexpr const char* Usage =
     "  --code-page NUMBER  code page of the files\n"
     "  --paper SIZE        A4, Letter, A5, or WxH in millimetres\n"
     "  --date DATE         a fixed date, so that the same input gives the same bytes\n"
+    "  --attach            puts the data files into the PDF, too\n"
     "  --check             composes the document and writes nothing; OUT.pdf may be left out\n"
     "  --progress          shows on standard error how far the work is\n"
     "  --help              shows this\n"

@@ -31,6 +31,7 @@ constexpr std::array Options = {
     Option{"--date", true,
            [](PdfOrder& order, const std::string& value) { order.Date = MomentNamed(value); }},
     Option{"--set", true, [](PdfOrder& order, const std::string& value) { order.Settings.push_back(value); }},
+    Option{"--attach", false, [](PdfOrder& order, const std::string&) { order.AttachesData = true; }},
     Option{"--check", false,
            [](PdfOrder& order, const std::string&) { order.Task = PdfTask::CheckDocument; }},
     Option{"--progress", false, [](PdfOrder& order, const std::string&) { order.ShowsProgress = true; }},

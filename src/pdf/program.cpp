@@ -46,7 +46,8 @@ void StopIfInterrupted() {
 }
 
 std::string MakePdfOf(const DocumentMaker& maker, const PdfOrder& order, ProgressLine& line) {
-  return maker.MakePdf(order.Date.value_or(std::time(nullptr)), [&line](int done, int total) {
+  const DataInPdf data = order.AttachesData ? DataInPdf::Attached : DataInPdf::None;
+  return maker.MakePdf(order.Date.value_or(std::time(nullptr)), data, [&line](int done, int total) {
     line.ShowStep("making page", done, total);
     return !IsInterrupted();
   });

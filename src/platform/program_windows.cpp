@@ -7,6 +7,7 @@
 #include "platform/paper.h"
 #include "platform/system/text_measurer.h"
 #include "preview/window/preview_window.h"
+#include "report/data_files.h"
 #include "report/master_document.h"
 #include "report/rptTarvis.h"
 #include "run/print_run.h"
@@ -27,14 +28,15 @@ std::shared_ptr<const Document> ComposeOnDefaultPaper(PrintRun& run, rptTarvis& 
       ComposeMasterReport(run, report, DefaultPaper(), QtTextMeasurer(run.CodePage.Number())));
 }
 
-PreviewSetup SetupOf(const ActiveReport& report, const FileHeader& data,
+PreviewSetup SetupOf(const ActiveReport& report, const PrintRun& run,
                      const std::shared_ptr<PreviewMemory>& memory) {
   return {.Caption = QString::fromStdString(report.Caption),
           .Tools = report.Tools,
           .ContentsVisible = report.TOCVisible,
           .ContentsWidth = report.TOCWidth,
-          .Origin = {.Author = QString::fromStdString(data.MadeBy),
-                     .DataFile = QString::fromStdString(data.File)},
+          .Origin = {.Author = QString::fromStdString(run.Header.MadeBy),
+                     .DataFile = QString::fromStdString(run.Header.File),
+                     .ReadData = [files = DataFiles(run, AllFunctions())] { return files.Read(); }},
           .Memory = memory};
 }
 
@@ -67,7 +69,7 @@ void QtProgramWindows::ShowPrintPreview() {
                                         *this);
   const std::shared_ptr<const Document> document =
       ComposeOnDefaultPaper(run_, *report_);  // fills caption and tools, too
-  preview_ = std::make_unique<PreviewWindow>(document, SetupOf(*report_, run_.Header, memory_));
+  preview_ = std::make_unique<PreviewWindow>(document, SetupOf(*report_, run_, memory_));
   connect(preview_.get(), &PreviewWindow::toolUsed, this,
           [this](int id) { report_->ActiveReport_ToolbarClick(id); });
   connect(preview_.get(), &PreviewWindow::closedByUser, this,

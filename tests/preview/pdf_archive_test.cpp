@@ -60,6 +60,22 @@ TEST_F(PdfArchive, SaysWhichPartOfTheStandardItKeepsTo) {
   EXPECT_EQ(bytes_.substr(0, 8), "%PDF-1.7");
 }
 
+TEST_F(PdfArchive, HoldsTheDataIfTheyAreGiven) {
+  const std::string data("File-Spec,3\r\nName,\x82\r\n");
+  Make({QStringLiteral("Title"), {}, {}, {{"Sim.tmp", data}, {"Sim1.tmp", "b"}}});
+  EXPECT_EQ(Property("pdfaid:part"), QStringLiteral("3"));
+  EXPECT_EQ(Property("pdfaid:conformance"), QStringLiteral("U"));
+  QPDFObjectHandle associated = pdf_.getRoot().getKey("/AF");
+  ASSERT_EQ(associated.getArrayNItems(), 2);
+  QPDFObjectHandle file = associated.getArrayItem(0);
+  EXPECT_EQ(file.getKey("/UF").getUTF8Value(), "Sim.tmp");
+  EXPECT_EQ(file.getKey("/AFRelationship").getName(), "/Data");
+  QPDFObjectHandle stream = file.getKey("/EF").getKey("/F");
+  EXPECT_EQ(stream.getDict().getKey("/Subtype").getName(), "/text/plain");
+  const std::shared_ptr<Buffer> bytes = stream.getStreamData();
+  EXPECT_EQ(std::string(reinterpret_cast<const char*>(bytes->getBuffer()), bytes->getSize()), data);
+}
+
 TEST_F(PdfArchive, SaysTheSameInBothFormsOfItsMetadata) {
   Make({QStringLiteral("Gains <1> & \"2\" 漢字"), QStringLiteral("Korvane & Co"),
         QDateTime({2026, 3, 5}, {10, 20, 30}, QTimeZone(3600))});

@@ -1,6 +1,7 @@
 // Saving as PDF from the preview.
 #include <sys/stat.h>
 
+#include <QCheckBox>
 #include <QDate>
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -13,6 +14,7 @@
 #include "preview/pdf_file.h"
 #include "preview/window_fixture.h"
 #include "support/full_disk.h"
+#include "text/run_time_failure.h"
 
 namespace tarvis {
 namespace {
@@ -108,6 +110,53 @@ TEST_F(SavePdf, StartsInTheFolderWhereTheLastDocumentOfTheRunWasSaved) {
   });
   Press(Qt::Key_S, Qt::ControlModifier);
   EXPECT_EQ(folder, folder_.path());
+}
+
+TEST_F(SavePdf, TheDataAreAttachedIfTheirBoxIsTickedWhichIsKeptForTheRun) {
+  readData_ = [] { return std::vector<NamedBytes>{{"User.tmp", "File-Spec,3\r\n"}}; };
+  const auto box = [](QFileDialog& dialog) {
+    return dialog.findChild<QCheckBox*>(QStringLiteral("attachData"));
+  };
+  OpenTable(1);
+  OnDialog<QFileDialog>([&](QFileDialog& dialog) {
+    EXPECT_FALSE(box(dialog)->isChecked());
+    QTest::mouseClick(box(dialog), Qt::LeftButton, {}, {5, box(dialog)->height() / 2});
+    EnterPath(dialog, Path("with.pdf"));
+  });
+  Press(Qt::Key_S, Qt::ControlModifier);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !window_->IsBusy() && QFile::exists(Path("with.pdf")); }));
+  EXPECT_TRUE(
+      RunTool("pdfdetach", {QStringLiteral("-list"), Path("with.pdf")}).contains(QStringLiteral("User.tmp")));
+  OpenTable(1);
+  bool isKept = false;
+  OnDialog<QFileDialog>([&](QFileDialog& dialog) {
+    isKept = box(dialog)->isChecked();
+    dialog.reject();
+  });
+  Press(Qt::Key_S, Qt::ControlModifier);
+  EXPECT_TRUE(isKept);
+}
+
+TEST_F(SavePdf, DataThatHaveChangedAreReportedAndNothingIsSaved) {
+  readData_ = []() -> std::vector<NamedBytes> {
+    throw RunTimeFailure("changed", {.File = "User.tmp", .Line = 0, .Key = {}, .Text = {}});
+  };
+  memory_->AttachesData = true;
+  OpenTable(1);
+  SaveTo(Path("with.pdf"));
+  EXPECT_TRUE(WaitForFailure().contains(QStringLiteral("User.tmp")));
+  EXPECT_FALSE(QFile::exists(Path("with.pdf")));
+}
+
+TEST_F(SavePdf, NoBoxOffersDataThatAreNotThere) {
+  OpenTable(1);
+  bool hasBox = true;
+  OnDialog<QFileDialog>([&](QFileDialog& dialog) {
+    hasBox = dialog.findChild<QCheckBox*>(QStringLiteral("attachData")) != nullptr;
+    dialog.reject();
+  });
+  Press(Qt::Key_S, Qt::ControlModifier);
+  EXPECT_FALSE(hasBox);
 }
 
 TEST_F(SavePdf, ALineSaysWhereTheFileIsUntilItIsClosed) {

@@ -24,7 +24,8 @@ class WindowTest : public testing::Test {
   void Open(std::shared_ptr<const Document> document) {
     PreviewSetup setup;
     setup.Tools = {{"Editing of the Printing Items", 999}};
-    setup.Origin = {.Author = QStringLiteral("Korvane"), .DataFile = QStringLiteral("axis1.prm")};
+    setup.Origin = {
+        .Author = QStringLiteral("Korvane"), .DataFile = QStringLiteral("axis1.prm"), .ReadData = readData_};
     setup.Memory = memory_;
     window_ = std::make_unique<PreviewWindow>(std::move(document), setup);
     window_->show();
@@ -82,6 +83,7 @@ class WindowTest : public testing::Test {
   }
 
   std::shared_ptr<PreviewMemory> memory_ = std::make_shared<PreviewMemory>();
+  std::function<std::vector<NamedBytes>()> readData_;  // none: the host's files can't be had
   std::unique_ptr<PreviewWindow> window_;
   bool answered_ = false;
 };

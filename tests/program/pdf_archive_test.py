@@ -20,7 +20,7 @@ COMMENTS = {874: "ความเร็ว", 932: "速度ループゲイン 表�
 READERS = (("qpdf", "--check"),
            ("gs", "-q", "-dNOPAUSE", "-dBATCH", "-dPDFSTOPONERROR", "-sDEVICE=nullpage"),
            ("mutool", "draw", "-q", "-F", "trace", "-o", "/dev/null"),
-           ("pdfinfo", "-struct-text"),
+           ("pdfinfo",),
            ("pdftotext",))
 HOW_IT_WAS_BUILT = "warning: ICC support is not available"  # of mutool, on some releases
 
@@ -97,6 +97,18 @@ class Archive(PdfCase):
         self.keep_with_logo("fading", fades=True)
         self.keep_with_logo("opaque", fades=False)  # has a channel for transparency, too, and doesn't use it
         self.expect_archives({"fading": r"(?i)soft ?mask|transparen|SMask"})
+
+    def test_attached_data_are_all_that_the_first_part_does_not_allow(self):
+        self.host.write_data("SimEx", 3)
+        self.keep("attached", "SimEx", "--attach")
+        taken = self.folder / "taken"
+        taken.mkdir()
+        subprocess.run(["pdfdetach", "-saveall", "-o", taken, self.kept / "attached.pdf"], check=True)
+        names = ["Sim.tmp", "Sim1.tmp", "Sim2.tmp", "Sim3.tmp"]
+        self.assertEqual(sorted(path.name for path in taken.iterdir()), names)
+        for name in names:
+            self.assertEqual((taken / name).read_bytes(), (self.host.temp_folder / name).read_bytes())
+        self.expect_archives({"attached": r"(?i)embedded ?file|/EF\b"})
 
     def test_the_validator_does_complain(self):
         """Of a document whose colours mean nothing."""

@@ -13,6 +13,7 @@
 #include <qpdf/QPDFWriter.hh>
 
 #include "preview/output/pdf_archive.h"
+#include "preview/output/pdf_attachments.h"
 #include "preview/output/pdf_greys.h"
 #include "preview/output/pdf_metadata.h"
 #include "preview/output/pdf_resources.h"
@@ -189,6 +190,11 @@ bool WriteAll(QSaveFile& file, const char* bytes, qint64 size) {
   return file.commit();
 }
 
+// Part 3 is part 2 with files of any kind in it.
+PdfConformance ConformanceOf(const PdfInfo& info) {
+  return {info.Data.empty() ? 2 : 3, 'U'};
+}
+
 std::string Written(QPDF& pdf) {
   std::string bytes;
   Pl_String sink("pdf", nullptr, bytes);
@@ -230,7 +236,8 @@ std::string MakePdf(const Document& document, const PdfSheets& sheets, const Pdf
   AddOutline(pdf, document, sheets);
   AddOpening(pdf, sheets);
   MakeArchive(pdf, document.CodePage);
-  AddMetadata(pdf, info, *fontsAreEmbedded ? std::optional(PdfConformance()) : std::nullopt);
+  AttachData(pdf, info.Data, info.Created);
+  AddMetadata(pdf, info, *fontsAreEmbedded ? std::optional(ConformanceOf(info)) : std::nullopt);
   if (sheets.Greys) TurnIntoGreys(pdf);
   const int count = static_cast<int>(sheets.Pages.size());
   std::string bytes = Written(pdf);

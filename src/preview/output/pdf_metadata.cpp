@@ -30,7 +30,7 @@ void AddDictionary(QPDF& pdf, const PdfInfo& info) {
   data.replaceKey("/Creator", TextString(QString::fromLatin1(Creator)));
   data.replaceKey("/Producer", TextString(QString::fromLatin1(Producer)));
   if (info.Created.isValid()) {
-    const QString date = info.Created.toUTC().toString(QStringLiteral("'D:'yyyyMMddHHmmss'Z'"));
+    const QString date = PdfDate(info.Created);
     data.replaceKey("/CreationDate", TextString(date));
     data.replaceKey("/ModDate", TextString(date));
   }
@@ -85,8 +85,12 @@ void AddXmp(QPDF& pdf, const PdfInfo& info, std::optional<PdfConformance> confor
 
 }  // namespace
 
+QString PdfDate(const QDateTime& date) {
+  return date.toUTC().toString(QStringLiteral("'D:'yyyyMMddHHmmss'Z'"));
+}
+
 void AddMetadata(QPDF& pdf, const PdfInfo& info, std::optional<PdfConformance> conformance) {
-  const PdfInfo clean{Clean(info.Title), Clean(info.Author), info.Created};
+  const PdfInfo clean{Clean(info.Title), Clean(info.Author), info.Created, {}};
   AddDictionary(pdf, clean);
   AddXmp(pdf, clean, conformance);
 }

@@ -2,6 +2,7 @@
 // is.
 #pragma once
 
+#include <QString>
 #include <optional>
 #include <qpdf/QPDF.hh>
 
@@ -14,6 +15,9 @@ struct PdfConformance {
   int Part = 2;
   char Level = 'U';
 };
+
+// As the format writes dates.
+[[nodiscard]] QString PdfDate(const QDateTime& date);
 
 // Writes both forms that the format knows, the dictionary and XMP; they say the same. Without `conformance`
 // the document doesn't say that it is an archive.

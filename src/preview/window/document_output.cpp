@@ -14,6 +14,7 @@
 #include "preview/paint/toolkit_geometry.h"
 #include "preview/window/pdf_file_dialog.h"
 #include "preview/window/print_dialog.h"
+#include "text/run_time_failure.h"
 
 namespace tarvis {
 namespace {
@@ -63,12 +64,23 @@ QString DocumentOutput::ProposedPath() const {
 
 void DocumentOutput::SavePdf() {
   PdfFileDialog dialog(window_, ProposedPath());
+  if (origin_.ReadData) dialog.OfferData(memory_->AttachesData);
   if (dialog.exec() != QDialog::Accepted) return;
-  WritePdf(PdfSheets::AllOf(*document_), dialog.Path());
+  memory_->AttachesData = dialog.AttachesData();
+  PdfInfo info = Info();
+  try {
+    if (memory_->AttachesData) info.Data = origin_.ReadData();
+  } catch (const RunTimeFailure& failure) {
+    return ShowFailure(tr("The PDF was not saved."), QString::fromStdString(failure.what()));
+  }
+  WritePdf(PdfSheets::AllOf(*document_), dialog.Path(), info);
 }
 
-void DocumentOutput::WritePdf(PdfSheets sheets, const QString& path) {
-  const PdfInfo info{QString::fromStdString(document_->Title), origin_.Author, QDateTime::currentDateTime()};
+PdfInfo DocumentOutput::Info() const {
+  return {QString::fromStdString(document_->Title), origin_.Author, QDateTime::currentDateTime()};
+}
+
+void DocumentOutput::WritePdf(PdfSheets sheets, const QString& path, const PdfInfo& info) {
   StartJob(
       tr("Saving as PDF…"), tr("The PDF was not saved."),
       [document = document_, sheets = std::move(sheets), path, info](const Progress& progress) {
@@ -95,7 +107,7 @@ void DocumentOutput::Print() {
   const QSizeF missing = MissingRoom(*document_, *printer);
   if (!missing.isNull() && !AskForScale(missing, scale)) return;
   if (dialog.IntoPdf())
-    return WritePdf(SheetsLike(*document_, *printer, pages, scale), printer->outputFileName());
+    return WritePdf(SheetsLike(*document_, *printer, pages, scale), printer->outputFileName(), Info());
   StartJob(tr("Printing…"), tr("The document was not printed."),
            [document = document_, pages, printer, scale](const Progress& progress) {
              return PrintDocument(*document, pages, *printer, scale, progress);

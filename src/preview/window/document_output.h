@@ -18,6 +18,9 @@ namespace tarvis {
 struct DocumentOrigin {
   QString Author;    // of a PDF
   QString DataFile;  // the file that the host's data come from, as the host names it; may be empty
+  // The files that the document is made of, where they can be had; throws RunTimeFailure if they have
+  // changed.
+  std::function<std::vector<NamedBytes>()> ReadData = {};
 };
 
 class DocumentOutput : public QObject {
@@ -43,7 +46,8 @@ class DocumentOutput : public QObject {
 
  private:
   QString ProposedPath() const;
-  void WritePdf(PdfSheets sheets, const QString& path);
+  PdfInfo Info() const;
+  void WritePdf(PdfSheets sheets, const QString& path, const PdfInfo& info);
   bool AskForScale(const QSizeF& missing, PrintScale& scale);
   // `failure` is shown with the error text if `work` fails; `done` is called if it comes to its end.
   void StartJob(

@@ -1,8 +1,10 @@
 #include "preview/window/pdf_file_dialog.h"
 
+#include <QCheckBox>
 #include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -40,6 +42,20 @@ PdfFileDialog::PdfFileDialog(QWidget* parent, const QString& path)
     if (!text.contains(Quote)) return;
     findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->setEnabled(true);
   });
+}
+
+void PdfFileDialog::OfferData(bool isOn) {
+  auto* grid = qobject_cast<QGridLayout*>(layout());
+  if (NameBox(*this) == nullptr || grid == nullptr) return;
+  attachData_ = new QCheckBox(Text("Attach the &data"), this);
+  attachData_->setObjectName(QStringLiteral("attachData"));
+  attachData_->setToolTip(Text("Puts the data files that the pages are made of into the PDF."));
+  attachData_->setChecked(isOn);
+  grid->addWidget(attachData_, grid->rowCount(), 0, 1, grid->columnCount());
+}
+
+bool PdfFileDialog::AttachesData() const {
+  return attachData_ != nullptr && attachData_->isChecked();
 }
 
 // The toolkit takes quotes for marks around each of several names. One file is saved here, and quotes are

@@ -3,6 +3,8 @@
 
 #include <QFileDialog>
 
+class QCheckBox;
+
 namespace tarvis {
 
 // The toolkit shows the system's own dialog instead of this one where there is one. It recognizes its own
@@ -11,6 +13,11 @@ class PdfFileDialog : public QFileDialog {
  public:
   // `path` is proposed.
   PdfFileDialog(QWidget* parent, const QString& path);
+
+  // Adds the box "Attach the data", which is on or off. The system's own dialog has no room for it.
+  void OfferData(bool isOn);
+  // Whether that box is there and on.
+  bool AttachesData() const;
 
   // What was chosen, exactly as it was typed.
   QString Path() const;
@@ -22,6 +29,7 @@ class PdfFileDialog : public QFileDialog {
   QString TypedPath() const;
 
   QString path_;
+  QCheckBox* attachData_ = nullptr;
 };
 
 }  // namespace tarvis

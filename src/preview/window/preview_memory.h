@@ -35,6 +35,7 @@ struct WindowState {
 
 struct PreviewMemory {
   QString Folder;  // where the last PDF was saved; empty before that
+  bool AttachesData = false;
   std::optional<WindowState> Window;
 };
 
