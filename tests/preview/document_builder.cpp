@@ -143,6 +143,7 @@ DocumentBuilder& DocumentBuilder::Line(const Rect& line, std::uint8_t weight) {
 }
 
 DocumentBuilder& DocumentBuilder::Tick(const Rect& box, bool ticked) {
+  ++control_;
   Add(ItemKind::Tick, box).Ticked = ticked;
   return *this;
 }

@@ -36,6 +36,24 @@ TEST_F(Selection, ATableCopiesAsLinesWithTabsBetweenCells) {
   EXPECT_EQ(Copied(), QStringLiteral("Pn100\tGain\t40.0\nPn101\t\t8"));
 }
 
+TEST_F(Selection, ATickCopiesAsAWordInItsCell) {
+  Open(DocumentBuilder()
+           .Page()
+           .Row({"", "Speed"}, 720)
+           .Tick({2000, 720, 283, 283}, true)
+           .Row({"", "Torque"}, 1003)
+           .Tick({2000, 1003, 283, 283}, false)
+           .Build());
+  Press(Qt::Key_A, Qt::ControlModifier);
+  EXPECT_EQ(Copied(), QStringLiteral("selected\tSpeed\nnot selected\tTorque"));
+}
+
+TEST_F(Selection, DraggingOverHalfOfATickSelectsIt) {
+  Open(DocumentBuilder().Page().Row({"", "Speed"}, 720).Tick({2000, 720, 283, 283}, true).Build());
+  Drag(At(0, 2010, 860), At(0, 2270, 860));
+  EXPECT_EQ(Copied(), QStringLiteral("selected"));
+}
+
 TEST_F(Selection, DraggingSelectsFromLetterToLetter) {
   Open(DocumentBuilder()
            .Page()

@@ -12,7 +12,7 @@ constexpr float RowTolerance = 100;
 struct Cell {
   std::uint16_t Control = 0;
   Rect Place;
-  std::vector<std::uint32_t> Lines;  // text items
+  std::vector<std::uint32_t> Lines;  // items that are read: texts, and ticks, which are read as a word
 };
 
 Cell& CellOf(std::vector<Cell>& cells, const Item& item) {
@@ -25,7 +25,8 @@ Cell& CellOf(std::vector<Cell>& cells, const Item& item) {
 }
 
 void AddItem(std::vector<Cell>& cells, const Item& item, std::uint32_t index) {
-  if (item.Kind == ItemKind::Text) CellOf(cells, item).Lines.push_back(index);
+  const bool isRead = item.Kind == ItemKind::Text || item.Kind == ItemKind::Tick;
+  if (isRead) CellOf(cells, item).Lines.push_back(index);
   if (item.Kind == ItemKind::Box && item.Weight > 0) CellOf(cells, item).Place = item.Box;
 }
 

@@ -20,7 +20,7 @@ enum class Join : std::uint8_t {
 };
 
 struct ReadPiece {
-  std::uint32_t Item = 0;  // index of Document::Items
+  std::uint32_t Item = 0;  // index of Document::Items: a text, a tick, or a picture with texts
   std::uint16_t EmptyCells =
       0;  // cells without text between the piece before and this one, or before it in its row
   Join Before = Join::Line;

@@ -98,6 +98,10 @@ struct PlacedText {
   }
 };
 
+bool IsTick(const Document& document, const ReadPiece& piece) {
+  return document.Items[piece.Item].Kind == ItemKind::Tick;
+}
+
 bool IsInPicture(const ReadPiece& piece) {
   return piece.PictureText >= 0;
 }
@@ -106,7 +110,9 @@ bool IsInPicture(const ReadPiece& piece) {
 
 std::string_view TextOf(const Document& document, const ReadPiece& piece) {
   if (IsInPicture(piece)) return PlacedText::PictureTextOf(document, piece).Text;
-  return document.Texts[document.Items[piece.Item].Source].Text;
+  const Item& item = document.Items[piece.Item];
+  if (IsTick(document, piece)) return item.Ticked ? "selected" : "not selected";
+  return document.Texts[item.Source].Text;
 }
 
 QRectF BoxOfLine(const Document& document, const ReadPiece& piece) {
@@ -118,6 +124,8 @@ QRectF BoxOfLine(const Document& document, const ReadPiece& piece) {
 std::vector<QRectF> BoxesOfCharacters(const Document& document, const ReadPiece& piece, std::size_t first,
                                       std::size_t end) {
   if (IsInPicture(piece)) return {PlacedText(document, piece).Box(first, end)};
+  if (IsTick(document, piece))
+    return {BoxOfLine(document, piece)};  // of its word there is only all or nothing
   const std::vector<CharacterPlace> places = PrintedPlaces(document, piece.Item);
   const std::size_t last = std::min(end, places.size());
   if (first >= last) return {};
@@ -127,6 +135,8 @@ std::vector<QRectF> BoxesOfCharacters(const Document& document, const ReadPiece&
 
 std::size_t CharacterAt(const Document& document, const ReadPiece& piece, QPointF point) {
   if (IsInPicture(piece)) return PlacedText(document, piece).CharacterAt(point);
+  if (IsTick(document, piece))
+    return point.x() < BoxOfLine(document, piece).center().x() ? 0 : CharacterCount(document, piece);
   return CharacterAt(PrintedPlaces(document, piece.Item), point.x());
 }
 
