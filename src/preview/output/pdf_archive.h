@@ -5,7 +5,7 @@
 
 namespace tarvis {
 
-// `codePage`: that of the texts, which tells their language; 0 if it isn't known.
+// `codePage`: that of the texts, which shows their language; 0 if it isn't known.
 void MakeArchive(QPDF& pdf, int codePage);
 
 }  // namespace tarvis

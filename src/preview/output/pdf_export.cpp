@@ -50,7 +50,7 @@ QPDFObjectHandle MakePage(QPDF& pdf, const PdfSheets& sheets, const QPDFObjectHa
   return pdf.makeIndirectObject(page);
 }
 
-// Whether the fonts of the pages are embedded; nothing if cancelled.
+// Whether the document has a glyph for each character; nothing if cancelled.
 std::optional<bool> AddPages(QPDF& pdf, const Document& document, const PdfSheets& sheets,
                              const Progress& progress) {
   ReportFont& font = ReportFont::OfThisThread(document.CodePage);
@@ -78,7 +78,7 @@ std::optional<bool> AddPages(QPDF& pdf, const Document& document, const PdfSheet
     page.replaceKey("/Resources", resources.Dictionary);
     helper.addPage(page, false);
   }
-  return resources.FontsAreEmbedded;
+  return resources.HasAllGlyphs;
 }
 
 // The first sheet with a page; none if there is no such sheet.
@@ -231,13 +231,13 @@ std::string MakePdf(const Document& document, const PdfSheets& sheets, const Pdf
                     const Progress& progress) {
   QPDF pdf;
   pdf.emptyPDF();
-  const std::optional<bool> fontsAreEmbedded = AddPages(pdf, document, sheets, progress);
-  if (!fontsAreEmbedded) return {};
+  const std::optional<bool> hasAllGlyphs = AddPages(pdf, document, sheets, progress);
+  if (!hasAllGlyphs) return {};
   AddOutline(pdf, document, sheets);
   AddOpening(pdf, sheets);
   MakeArchive(pdf, document.CodePage);
   AttachData(pdf, info.Data, info.Created);
-  AddMetadata(pdf, info, *fontsAreEmbedded ? std::optional(ConformanceOf(info)) : std::nullopt);
+  AddMetadata(pdf, info, *hasAllGlyphs ? std::optional(ConformanceOf(info)) : std::nullopt);
   if (sheets.Greys) TurnIntoGreys(pdf);
   const int count = static_cast<int>(sheets.Pages.size());
   std::string bytes = Written(pdf);

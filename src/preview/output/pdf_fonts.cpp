@@ -159,6 +159,10 @@ Program NamedFont() {
   return program;
 }
 
+bool ShowsBoxes(const PdfFont& font) {
+  return std::find(font.Glyphs.begin(), font.Glyphs.end(), 0U) != font.Glyphs.end();
+}
+
 }  // namespace
 
 PdfFonts MakeFonts(QPDF& pdf, const PdfGlyphs& glyphs, ReportFont& font) {
@@ -172,7 +176,7 @@ PdfFonts MakeFonts(QPDF& pdf, const PdfGlyphs& glyphs, ReportFont& font) {
     const PdfFont& used = glyphs.Fonts()[number];
     const Program program = ReadProgram(pages.at(number + 1), DistinctGlyphs(used));
     const bool isEmbedded = program.Font.isInitialized();
-    fonts.AreEmbedded = fonts.AreEmbedded && isEmbedded;
+    fonts.HaveAllGlyphs = fonts.HaveAllGlyphs && isEmbedded && !ShowsBoxes(used);
     fonts.Dictionary.replaceKey("/F" + std::to_string(number),
                                 MakeFont(pdf, used, isEmbedded ? program : boxes, number));
   }

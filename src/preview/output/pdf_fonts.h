@@ -9,7 +9,8 @@ namespace tarvis {
 
 struct PdfFonts {
   QPDFObjectHandle Dictionary;
-  bool AreEmbedded = true;  // false: boxes are used for a face, whose widths are not theirs
+  // False where boxes are shown in place of glyphs: archives take no character that no font has.
+  bool HaveAllGlyphs = true;
 };
 
 // The fonts of all `glyphs` by the names that page content gives them, "F" and their number.

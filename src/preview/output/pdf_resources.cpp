@@ -34,11 +34,21 @@ std::string TextOf(QPDFObjectHandle stream) {
   return {reinterpret_cast<const char*>(bytes->getBuffer()), bytes->getSize()};
 }
 
+// How the toolkit shows a character that no font has: it writes each glyph by itself, in a text in
+// hexadecimal digits.
+constexpr std::string_view BoxOfToolkit = "<0000>";
+
+struct TakenForm {
+  QPDFObjectHandle Stream;
+  bool HasAllGlyphs = true;
+};
+
 // A helper page as a form, with no more digits than can be seen. Content that can't be rounded is taken as it
 // is compressed.
-QPDFObjectHandle TakeForm(QPDF& pdf, QPDFPageObjectHelper& page, PdfContents& contents) {
+TakenForm TakeForm(QPDF& pdf, QPDFPageObjectHelper& page, PdfContents& contents) {
   QPDFObjectHandle content = page.getObjectHandle().getKey("/Contents");
-  const std::optional<std::string> rounded = RoundedContent(TextOf(content));
+  const std::string text = TextOf(content);
+  const std::optional<std::string> rounded = RoundedContent(text);
   QPDFObjectHandle form = rounded ? pdf.newStream() : pdf.copyForeignObject(content);
   QPDFObjectHandle dictionary = form.getDict();
   dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/XObject"));
@@ -46,7 +56,7 @@ QPDFObjectHandle TakeForm(QPDF& pdf, QPDFPageObjectHelper& page, PdfContents& co
   dictionary.replaceKey("/BBox", page.getMediaBox().shallowCopy());
   dictionary.replaceKey("/Resources", pdf.copyForeignObject(page.getAttribute("/Resources", false)));
   if (rounded) contents.Add(form, *rounded);
-  return form;
+  return {form, text.find(BoxOfToolkit) == text.npos};
 }
 
 // How many glyphs the toolkit has put into a font: it writes the widths of all, in one list.
@@ -56,7 +66,7 @@ std::size_t GlyphCount(QPDFObjectHandle font) {
   return static_cast<std::size_t>(widths.getArrayItem(1).getArrayNItems());
 }
 
-// Glyphs of a font that stand for no single character get a text, too: archives ask for it.
+// Glyphs of a font that represent no single character get a text, too: archives ask for it.
 void CompleteTexts(QPDFObjectHandle font) {
   QPDFObjectHandle map = font.getKey("/ToUnicode");
   if (!map.isStream()) return;
@@ -82,13 +92,15 @@ PdfResources MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPictures
   QPDFObjectHandle forms = QPDFObjectHandle::newDictionary();
   std::vector<QPDFPageObjectHelper> pages = pictureFile.Pages();
   std::set<QPDFObjGen> completed;
+  bool hasAllGlyphs = fonts.HaveAllGlyphs;
   for (std::size_t number = 0; number < pictures.All().size(); ++number) {
-    QPDFObjectHandle form = TakeForm(pdf, pages.at(number + 1), contents);
-    CompleteTexts(form.getDict().getKey("/Resources"), completed);
-    forms.replaceKey("/P" + std::to_string(number), form);
+    TakenForm form = TakeForm(pdf, pages.at(number + 1), contents);
+    hasAllGlyphs = hasAllGlyphs && form.HasAllGlyphs;
+    CompleteTexts(form.Stream.getDict().getKey("/Resources"), completed);
+    forms.replaceKey("/P" + std::to_string(number), form.Stream);
   }
   resources.replaceKey("/XObject", forms);
-  return {pdf.makeIndirectObject(resources), fonts.AreEmbedded};
+  return {pdf.makeIndirectObject(resources), hasAllGlyphs};
 }
 
 }  // namespace tarvis

@@ -12,8 +12,8 @@ namespace tarvis {
 
 // The resources of pages: fonts "F" and pictures "P" with their numbers.
 struct PdfResources {
-  QPDFObjectHandle Dictionary;   // all pages of a document share it
-  bool FontsAreEmbedded = true;  // see PdfFonts
+  QPDFObjectHandle Dictionary;  // all pages of a document share it
+  bool HasAllGlyphs = true;     // of pages and pictures; see PdfFonts
 };
 
 // The contents of pictures are added to `contents`.
