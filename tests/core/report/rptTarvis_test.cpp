@@ -6,6 +6,7 @@
 
 #include "printfiles/data_file_scan.h"
 #include "report/data_set.h"
+#include "report/master_document.h"
 #include "support/host_run.h"
 #include "support/sample_report.h"
 #include "support/test_run.h"
@@ -268,6 +269,13 @@ TEST_F(OverlappedTrace, PrintsResultTargetAndDataEachOnPagesOfTheirOwn) {
   EXPECT_THAT(Compose(), ElementsAre("1: rptTraceGraph rptTraceObjrctOverlap",
                                      "2: rptTraceGraph rptTraceObject", "3: rptTraceGraph rptTraceObject"));
   EXPECT_EQ(Session.FinishedReports, 3);
+}
+
+TEST_F(OverlappedTrace, GivesTheDocumentTheTitleWithoutWhatEachDataSetAddsToIt) {
+  Session.ActiveHeader = Options.TraceHeader;
+  rptTarvis master(Report.Context(), AllFunctions(), BoxReport, Report.Windows);
+  EXPECT_EQ(ComposeMasterReport(Report.Run, master, PageSetup{}, ArialMeasurer()).Title, "Tracing");
+  EXPECT_EQ(Session.ActiveHeader.TitleText, "Tracing-Overlapping data");
 }
 
 TEST_F(OverlappedTrace, PrintsTheResultOnlyWithoutDetails) {

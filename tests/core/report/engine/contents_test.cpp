@@ -43,6 +43,16 @@ TEST(EngineContents, ABandWithoutHeightTakesThePlaceOfTheNext) {
   EXPECT_EQ(document.Contents[0].Height, 350);
 }
 
+TEST(EngineContents, ABandWithoutHeightAtTheEndTakesThePlaceThereWhateverEmptyBandFollows) {
+  SampleReport report;
+  report.Growing(SectionKind::Detail, "d").AddShape("a", {0, 0, 100, 300});
+  report.Growing(SectionKind::GroupFooter, "last");
+  report.Growing(SectionKind::GroupFooter, "sum").Format = [&] { report.TOC.Add("Sum"); };
+  report.Growing(SectionKind::GroupHeader, "h1");
+  report.Growing(SectionKind::GroupHeader, "h2");
+  EXPECT_THAT(Entries(ComposeSample(report, 1000)), ElementsAre("Sum 1@300"));
+}
+
 TEST(EngineContents, EntriesMoveWithAKeptGroup) {
   SampleReport outer;
   SubReport& region = outer.Fixed(SectionKind::Detail, "d", 0).AddSubReport("region", {0, 0, 10, 10});

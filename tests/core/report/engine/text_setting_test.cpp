@@ -141,6 +141,8 @@ TEST(EngineOneLine, RunsOnUpToTheNextControlOnlyAndIsThenCondensed) {
   EXPECT_EQ(OneLine(frame).Placed.Width, 1500 - 60);
   const auto touching = [](Section& detail) { detail.AddField("next", {3000, 0, 500, 283}, Plain, "x"); };
   EXPECT_EQ(OneLine(touching).Placed.Width, 1000);
+  const auto ending = [](Section& detail) { detail.AddField("before", {1500, 0, 500, 283}, Plain, "x"); };
+  EXPECT_NEAR(OneLine(ending).Placed.Width, 20 * Letter, 0.1);
 }
 
 TEST(EngineOneLine, RunsOnOverWhatPrintsNothing) {
@@ -162,6 +164,8 @@ TEST(EngineOneLine, RightAlignedTextRunsOnToTheLeft) {
   const Rect line = OneLine(before, Align::Right).Placed;
   EXPECT_NEAR(line.Left, 100 + 15 * Letter + 60, 0.1);
   EXPECT_NEAR(line.Right(), 3000, 0.1);
+  const auto touching = [](Section& detail) { detail.AddField("next", {3000, 0, 500, 283}, Plain, "x"); };
+  EXPECT_NEAR(OneLine(touching, Align::Right).Placed.Width, 20 * Letter, 0.1);
 }
 
 TEST(EngineOneLine, CentredTextIsCondensedToItsBox) {
