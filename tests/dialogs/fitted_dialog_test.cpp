@@ -78,6 +78,14 @@ TEST_F(FittedDialogs, KeepTheirButtonsInSightOnALowScreen) {
   EXPECT_TRUE(IsWhollySeen(In("cmdOK")));
 }
 
+TEST_F(FittedDialogs, ScrollInOneDirectionOnlyWhereTheScreenIsWideEnough) {
+  SetUserFont(HugeFont);
+  Open(2, "", "User");
+  const auto* upper = Dialog->findChild<QScrollArea*>("upperPart");
+  EXPECT_TRUE(upper->verticalScrollBar()->isVisible());
+  EXPECT_FALSE(upper->horizontalScrollBar()->isVisible());
+}
+
 TEST_F(FittedDialogs, ScrollToWhatHasTheFocus) {
   SetUserFont(HugeFont);
   Run.Options.Cover = 1;

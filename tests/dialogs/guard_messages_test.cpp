@@ -52,11 +52,15 @@ TEST_F(RangeGuard, HoldsAgainstTheWheelWhileAnotherWindowIsActive) {
   QWidget other;
   other.show();
   other.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
-  TurnWheel(Find("cmbFunc"));
-  EXPECT_THAT(Desktop.Messages, testing::ElementsAre(WrongStep));
-  EXPECT_EQ(Find<QComboBox>("cmbFunc").currentIndex(), 2);
-  EXPECT_EQ(ShownPages(), "InfIdxTbl");
+  for (int notch = 0; notch < 2; ++notch) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    QApplication::processEvents();
+    TurnWheel(Find("cmbFunc"));
+    EXPECT_THAT(Desktop.Messages, testing::ElementsAre(WrongStep));
+    EXPECT_EQ(Find<QComboBox>("cmbFunc").currentIndex(), 2);
+    EXPECT_EQ(ShownPages(), "InfIdxTbl");
+    Desktop.Messages.clear();
+  }
 }
 
 TEST_F(RangeGuard, HoldsAgainstOkAfterTheWheel) {
