@@ -2,7 +2,9 @@
 #include <QDropEvent>
 #include <QMimeData>
 #include <QUrl>
+#include <chrono>
 #include <condition_variable>
+#include <future>
 #include <mutex>
 #include <thread>
 
@@ -245,6 +247,16 @@ TEST_F(LogoPicture, IsChosenFromTheFolderOfThePresentOne) {
   EXPECT_EQ(FolderOf(Folder() + "/missing/logo.bmp"), QString());
   EXPECT_EQ(FolderOf("logo.bmp"), QString());
   EXPECT_EQ(FolderOf(""), QString());
+}
+
+TEST_F(LogoPicture, IsChosenWithoutWaitingForAFolderThatDoesNotAnswer) {
+  std::promise<void> released;
+  const auto answersLate = [release = released.get_future().share()](const std::filesystem::path&) {
+    release.wait_for(std::chrono::seconds(20));
+    return true;
+  };
+  EXPECT_EQ(FolderOf(Folder() + "/logo.bmp", answersLate), QString());
+  released.set_value();
 }
 
 }  // namespace

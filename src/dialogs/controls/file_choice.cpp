@@ -17,14 +17,11 @@ namespace {
 constexpr std::chrono::milliseconds LongestAnswer{300};
 
 // False also if the answer takes long.
-bool IsFolder(const std::filesystem::path& folder) {
+bool IsSoonKnownAsFolder(const std::filesystem::path& path, const FolderQuestion& isFolder) {
   const auto answer = std::make_shared<std::promise<bool>>();
-  std::future<bool> isFolder = answer->get_future();
-  const bool asked = RunDetached([answer, folder] {
-    std::error_code unreadable;
-    answer->set_value(std::filesystem::is_directory(folder, unreadable));
-  });
-  return asked && isFolder.wait_for(LongestAnswer) == std::future_status::ready && isFolder.get();
+  std::future<bool> known = answer->get_future();
+  const bool asked = RunDetached([answer, path, isFolder] { answer->set_value(isFolder(path)); });
+  return asked && known.wait_for(LongestAnswer) == std::future_status::ready && known.get();
 }
 
 }  // namespace
@@ -34,9 +31,15 @@ QString ChooseFile(QWidget* parent, const QString& filter, const std::string& pr
       QFileDialog::getOpenFileName(parent, {}, FolderOf(present), ToolkitFilter(filter)));
 }
 
-QString FolderOf(const std::string& path) {
+bool IsFolder(const std::filesystem::path& path) {
+  std::error_code unreadable;
+  return std::filesystem::is_directory(path, unreadable);
+}
+
+QString FolderOf(const std::string& path, const FolderQuestion& isFolder) {
   const std::filesystem::path folder = NativePath(path).parent_path();
-  return folder.is_absolute() && IsFolder(folder) ? QString::fromStdU16String(folder.u16string()) : QString();
+  if (!folder.is_absolute() || !IsSoonKnownAsFolder(folder, isFolder)) return {};
+  return QString::fromStdU16String(folder.u16string());
 }
 
 QString ToolkitFilter(const QString& filter) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <filesystem>
 #include <functional>
 #include <string>
 
@@ -20,7 +21,13 @@ QString ChooseFile(QWidget* parent, const QString& filter, const std::string& pr
 // lower case.
 QString ToolkitFilter(const QString& filter);
 
+// Whether a path is a folder. It is called in a thread of its own, which may live longer than the program's
+// windows, and must not throw.
+using FolderQuestion = std::function<bool(const std::filesystem::path& path)>;
+
+bool IsFolder(const std::filesystem::path& path);
+
 // The folder of a path; empty if there is none, or if its file system doesn't answer at once.
-QString FolderOf(const std::string& path);
+QString FolderOf(const std::string& path, const FolderQuestion& isFolder = IsFolder);
 
 }  // namespace tarvis
