@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <charconv>
+#include <optional>
 
+#include "text/encodable_form.h"
 #include "text/excerpt.h"
 #include "text/run_time_failure.h"
 
@@ -45,6 +47,20 @@ std::string UnitsToUtf8(std::u16string_view units) {
   Expect(error);
   text.resize(static_cast<std::size_t>(length));
   return text;
+}
+
+// Nothing if the code page doesn't have all of the characters.
+std::optional<std::string> Encode(UConverter& converter, std::u16string_view units) {
+  std::string bytes(
+      static_cast<std::size_t>(UCNV_GET_MAX_BYTES_FOR_STRING(units.size(), ucnv_getMaxCharSize(&converter))),
+      '\0');
+  UErrorCode error = U_ZERO_ERROR;
+  const std::int32_t length = ucnv_fromUChars(&converter, bytes.data(), Length(bytes.size()), units.data(),
+                                              Length(units.size()), &error);
+  if (error == U_INVALID_CHAR_FOUND) return {};
+  Expect(error);
+  bytes.resize(static_cast<std::size_t>(length));
+  return bytes;
 }
 
 [[noreturn]] void Refuse(const char* reason, std::string_view number) {
@@ -89,7 +105,10 @@ CodePage::CodePage(int number) : converter_(std::make_unique<Converter>()) {
   converter_->Handle.reset(ucnv_open(("windows-" + std::to_string(number)).c_str(), &error));
   if (U_FAILURE(error)) Refuse("no such code page", std::to_string(number));
   if (!KeepsAscii(*converter_->Handle)) Refuse("not a code page that holds ASCII", std::to_string(number));
+  // It also makes half a character the usual replacement, where some converters have a control character.
   ucnv_setSubstChars(converter_->Handle.get(), "?", 1, &error);
+  ucnv_setFromUCallBack(converter_->Handle.get(), UCNV_FROM_U_CALLBACK_STOP, nullptr, nullptr, nullptr,
+                        &error);
   Expect(error);
 }
 
@@ -114,16 +133,10 @@ std::string CodePage::ToUtf8(std::string_view bytes) const {
 std::string CodePage::FromUtf8(std::string_view text) const {
   if (IsAscii(text)) return std::string(text);
   const std::u16string units = Utf8ToUnits(text);
-  UConverter* handle = converter_->Handle.get();
-  std::string bytes(
-      static_cast<std::size_t>(UCNV_GET_MAX_BYTES_FOR_STRING(units.size(), ucnv_getMaxCharSize(handle))),
-      '\0');
-  UErrorCode error = U_ZERO_ERROR;
-  const std::int32_t length =
-      ucnv_fromUChars(handle, bytes.data(), Length(bytes.size()), units.data(), Length(units.size()), &error);
-  Expect(error);
-  bytes.resize(static_cast<std::size_t>(length));
-  return bytes;
+  UConverter& converter = *converter_->Handle;
+  if (auto bytes = Encode(converter, units)) return *std::move(bytes);
+  const auto isEncodable = [&](std::u16string_view part) { return Encode(converter, part).has_value(); };
+  return Encode(converter, EncodableForm(units, isEncodable)).value_or(std::string());
 }
 
 std::size_t CodePage::ByteLength(std::string_view text) const {

@@ -134,6 +134,41 @@ TEST_F(CoverEditor, JapaneseTextIsCountedInBytes) {
   ExpectHeldIn("txtDrow_1", TooLong(100));
 }
 
+// An input method gives letter and tone as one character, the code page has them as two bytes.
+TEST_F(CoverEditor, VietnameseTextIsCountedInBytesOfLettersAndTones) {
+  Run.CodePage = CodePage(1258);
+  OpenEditor();
+  Enter("txtDrow_0", 0);
+  QInputMethodEvent typed;
+  typed.setCommitString(QString(26, QChar(0x1EBF)));
+  QApplication::sendEvent(&In("txtDrow_0"), &typed);
+  Key(Qt::Key_Tab);
+  ExpectHeldIn("txtDrow_0", TooLong(50));
+  Key(Qt::Key_Backspace);
+  Click(In("cmdOK"));
+  EXPECT_TRUE(Desktop.Messages.empty());
+  EXPECT_EQ(Run.Options.DrowCorp, QString(25, QChar(0x1EBF)).toStdString());
+}
+
+TEST_F(CoverEditor, TextsOfAllScriptsAreKeptAsTyped) {
+  const struct {
+    int Page;
+    const char* Text;
+  } typed[] = {{1255, "דוד כהן Pn100"}, {1256, "أحمد السالم لا"}, {874, "น้ำหนักที่กำหนด"}, {1258, "Nguyễn Thị"}};
+  for (const auto& each : typed) {
+    DefaultPrintOptions(Run);
+    Run.CodePage = CodePage(each.Page);
+    OpenEditor();
+    Enter("txtDrow_0", 0);
+    QTest::keyClicks(&In("txtDrow_0"), QString::fromUtf8(each.Text));
+    Enter("txtGreeting", 4);
+    QTest::keyClicks(&In("txtGreeting"), QString::fromUtf8(each.Text));
+    Click(In("cmdOK"));
+    EXPECT_EQ(Run.Options.DrowCorp, each.Text);
+    EXPECT_EQ(Run.Options.Greeting, each.Text);
+  }
+}
+
 TEST_F(CoverEditor, ABadFieldLetsTheUserCancelInEveryWay) {
   for (int way = 0; way < 4; ++way) {
     Run.Options.DrowCorp = Repeat("a", 51);

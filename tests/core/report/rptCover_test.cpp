@@ -211,6 +211,25 @@ TEST_F(Cover, AnOverlongGreetingLineGoesOnInTheNextRows) {
   EXPECT_EQ(rows[3].Texts[0], "last");
 }
 
+// 84 bytes are as many Hebrew or Thai letters, and half as many Vietnamese ones with a tone.
+TEST_F(Cover, GreetingRowsAreBrokenByTheBytesOfTheCodePage) {
+  const auto rowsOf = [this](int codePage, const std::string& letter, int count) {
+    Run.CodePage = CodePage(codePage);
+    Options.Greeting.clear();
+    for (int number = 0; number < count; ++number) Options.Greeting += letter;
+    Lines rows;
+    for (const auto& row : PrintedOf(Compose(), "txtGreeting"))
+      rows.insert(rows.end(), row.Texts.begin(), row.Texts.end());
+    std::vector<std::size_t> letters;
+    for (const std::string& row : rows) letters.push_back(row.size() / letter.size());
+    return letters;
+  };
+  EXPECT_THAT(rowsOf(1255, "א", 100), ElementsAre(84U, 16U));
+  EXPECT_THAT(rowsOf(874, "ก", 100), ElementsAre(84U, 16U));
+  EXPECT_THAT(rowsOf(932, "あ", 100), ElementsAre(42U, 42U, 16U));
+  EXPECT_THAT(rowsOf(1258, "\u1EBF", 100), ElementsAre(42U, 42U, 16U));
+}
+
 TEST_F(Cover, WhatIsLeftAfterTwelveRowsIsLost) {
   for (int line = 1; line <= 14; ++line) Options.Greeting += "line " + std::to_string(line) + "\r\n";
   const auto rows = PrintedOf(Compose(), "txtGreeting");

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "support/test_run.h"
+#include "text/normal_form.h"
 
 namespace tarvis {
 namespace {
@@ -44,6 +45,39 @@ TEST(CodePage, GivesAQuestionMarkForACharacterThatItDoesNotHave) {
   EXPECT_EQ(CodePage(1252).FromUtf8("a\u8868b"), "a?b");
   EXPECT_EQ(CodePage(932).FromUtf8("a\uAC00b"), "a?b");
   EXPECT_EQ(CodePage(1252).ByteLength("a\u8868b"), 3U);
+}
+
+// Vietnamese input methods write a letter and its marks as one character, the code page has the tone apart.
+TEST(CodePage, WritesLettersWithTheirMarksApartWhereItHasThemOnlySo) {
+  const CodePage page(1258);
+  EXPECT_EQ(page.FromUtf8("khu\u1EBFch \u0111\u1EA1i"),
+            "khu\xEA\xEC"
+            "ch \xF0"
+            "a\xF2"
+            "i");
+  EXPECT_EQ(page.FromUtf8("\u1EAD \u1EE3 \u1EB5 \u00FD \u1EA6"), "\xE2\xF2 \xF5\xF2 \xE3\xDE y\xEC \xC2\xCC");
+  EXPECT_EQ(page.ByteLength("khu\u1EBFch"), 7U);
+  EXPECT_EQ(CodePage(1255).FromUtf8("\uFB2A"), "\xF9\xD1");
+}
+
+TEST(CodePage, EveryVietnameseLetterComesBackFromItsBytes) {
+  const CodePage page(1258);
+  const auto composed = [](const std::string& text) { return ToComposed(text).value_or(text); };
+  const std::string letters =
+      "ăâđêôơưĂÂĐÊÔƠƯáàãéèíìóòõúùýÁÀÃÉÈÍÌÓÒÕÚÙÝẠạẢảẤấẦầẨẩẪẫẬậẮắẰằẲẳẴẵẶặẸẹẺẻẼẽẾếỀềỂểỄễỆệỈỉỊịỌọỎỏỐốỒồỔổỖỗỘộ"
+      "ỚớỜờỞởỠỡỢợỤụỦủỨứỪừỬửỮữỰựỲỳỴỵỶỷỸỹ";
+  EXPECT_EQ(composed(page.ToUtf8(page.FromUtf8(letters))), letters);
+}
+
+TEST(CodePage, WritesLettersAndMarksTogetherWhereItHasThemOnlySo) {
+  EXPECT_EQ(CodePage(1252).FromUtf8("Cafe\u0301 xe\u0323"), "Caf\xE9 xe?");
+  EXPECT_EQ(CodePage(932).FromUtf8("\u304B\u3099"), "\x82\xAA");
+}
+
+TEST(CodePage, KeepsBytesOfLettersThatItHasInTwoWays) {
+  const CodePage page(1258);
+  for (const std::string bytes : {"a\xCC \xE0", "e\xEC \xE9", "\xEA\xEC"})
+    EXPECT_EQ(page.FromUtf8(page.ToUtf8(bytes)), bytes);
 }
 
 TEST(CodePage, KeepsNulBytes) {
