@@ -184,6 +184,24 @@ TEST_F(Navigation, ContentsHaveTwoLevels) {
   EXPECT_EQ(tree.topLevelItem(1)->childCount(), 0);
 }
 
+// The picture of the first entry.
+QImage EntryPicture(QTreeWidget& tree) {
+  return tree.viewport()->grab(tree.visualItemRect(tree.topLevelItem(0))).toImage();
+}
+
+TEST_F(Navigation, ContentsThatRunToTheLeftAreSetInTheirOwnDirectionAtTheLeft) {
+  const auto shown = [this](const char* text) {
+    Open(DocumentBuilder().Page().Entry(text, 0, 0, 0).Page().Build());
+    auto& tree = Find<QTreeWidget>("contents");
+    tree.setCurrentItem(nullptr);
+    return EntryPicture(tree);
+  };
+  // An invisible sign of direction at the end leaves the sign before it to the left of the letters.
+  EXPECT_EQ(shown("\u05E9\u05DC!"), shown("\u05E9\u05DC!\u200F"));
+  EXPECT_NE(shown("\u05E9\u05DC!"), shown("\u05E9\u05DC!\u200E"));
+  EXPECT_EQ(Find<QTreeWidget>("contents").topLevelItem(0)->text(0), QString::fromUtf8("\u05E9\u05DC!\u200E"));
+}
+
 TEST_F(Navigation, EnterInTheContentsGoesThereToo) {
   Open(WithContents());
   auto& tree = Find<QTreeWidget>("contents");

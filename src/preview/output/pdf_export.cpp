@@ -23,8 +23,9 @@
 namespace tarvis {
 namespace {
 
+// Letters and marks are written as on the pages, so that a search finds them in the same way.
 QPDFObjectHandle TextString(const QString& text) {
-  return QPDFObjectHandle::newUnicodeString(text.toStdString());
+  return QPDFObjectHandle::newUnicodeString(text.normalized(QString::NormalizationForm_C).toStdString());
 }
 
 QPDFObjectHandle Name(const char* name) {

@@ -16,7 +16,7 @@ QString Clean(const QString& text) {
     const bool isNone = (character & 0xFFFEU) == 0xFFFE || (character >= 0xD800 && character <= 0xDFFF);
     characters += isControl || isNone ? U' ' : character;
   }
-  return QString::fromStdU32String(characters);
+  return QString::fromStdU32String(characters).normalized(QString::NormalizationForm_C);
 }
 
 QPDFObjectHandle TextString(const QString& text) {

@@ -1,6 +1,7 @@
 #include "preview/window/side_pane.h"
 
 #include <QHeaderView>
+#include <QStyledItemDelegate>
 #include <QTreeWidget>
 
 #include "preview/pages/thumbnails.h"
@@ -10,6 +11,21 @@ namespace {
 
 constexpr int Indentation = 14;  // pixels; the pane is narrow
 constexpr int EntryRole = Qt::UserRole;
+
+// Sets each entry in its own direction, where the toolkit would take that of the window; all stay at the
+// left.
+class EntryDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (!option->text.isRightToLeft()) return;
+    option->direction = Qt::RightToLeft;
+    option->displayAlignment = Qt::AlignRight | Qt::AlignVCenter;  // which the direction mirrors
+  }
+};
 
 }  // namespace
 
@@ -27,6 +43,7 @@ SidePane::SidePane(std::shared_ptr<const Document> document, QWidget* parent)
   contents_->setUniformRowHeights(true);
   contents_->setIndentation(Indentation);
   contents_->setTextElideMode(Qt::ElideMiddle);  // numbered entries differ in their ends
+  contents_->setItemDelegate(new EntryDelegate(contents_));
   FillContents();
   addTab(contents_, tr("Contents"));
   addTab(thumbnails_, tr("Pages"));

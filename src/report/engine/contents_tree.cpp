@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cassert>
 
+#include "text/normal_form.h"
+
 namespace tarvis {
 namespace {
 
@@ -51,7 +53,7 @@ void ContentsTree::Drop(int landing) {
 }
 
 void ContentsTree::Add(const std::string& path, int landing) {
-  added_.push_back({path, landing});
+  added_.push_back({ToComposed(path).value_or(path), landing});
 }
 
 std::vector<ContentsEntry> ContentsTree::Finish() {

@@ -53,6 +53,17 @@ TEST(EngineContents, ABandWithoutHeightAtTheEndTakesThePlaceThereWhateverEmptyBa
   EXPECT_THAT(Entries(ComposeSample(report, 1000)), ElementsAre("Sum 1@300"));
 }
 
+TEST(EngineContents, EntriesAreWrittenAsTheTextOfPagesIs) {
+  SampleReport report;
+  report.Growing(SectionKind::GroupHeader, "h").Format = [&] {
+    report.TOC.Add("\u00EA\u0301\\e\u0301");
+    report.TOC.Add("\u1EBF\\\u05E9\u05DC");
+  };
+  report.Growing(SectionKind::Detail, "d").AddShape("c", {0, 0, 100, 100});
+  EXPECT_THAT(Entries(ComposeSample(report, 1000)),
+              ElementsAre("\u1EBF 1@0", "  \u00E9 1@0", "  \u05E9\u05DC 1@0"));
+}
+
 TEST(EngineContents, EntriesMoveWithAKeptGroup) {
   SampleReport outer;
   SubReport& region = outer.Fixed(SectionKind::Detail, "d", 0).AddSubReport("region", {0, 0, 10, 10});
