@@ -54,10 +54,11 @@ TEST(EmfText, KnowsItsCharactersAndTheirPlaces) {
   ASSERT_EQ(picture->Texts().size(), 1u);
   const PictureText& text = picture->Texts()[0];
   EXPECT_EQ(text.Text, "Ab c");
-  ASSERT_EQ(text.Edges.size(), 5u);
+  ASSERT_EQ(text.Edges.size(), 8u);
   EXPECT_NEAR(text.Edges[0].X, 0.10F, 1e-3);
   EXPECT_NEAR(text.Edges[1].X, 0.24F, 1e-3);
-  EXPECT_NEAR(text.Edges[4].X, 0.52F, 1e-3);
+  EXPECT_NEAR(text.Edges[2].X, 0.24F, 1e-3);
+  EXPECT_NEAR(text.Edges[7].X, 0.52F, 1e-3);
   EXPECT_NEAR(text.Edges[0].Y, 0.60F, 1e-3);
   EXPECT_NEAR(text.Up.Y, -0.181F, 5e-3);
   EXPECT_NEAR(text.Down.Y, 0.042F, 5e-3);

@@ -82,11 +82,17 @@ class EmfWriter {
   EmfWriter& Pair(std::uint32_t type, int x, int y) { return Add(type, ByteWriter().I32(x).I32(y)); }
   EmfWriter& Text(int x, int y, const std::string& text, const std::vector<int>& advances = {},
                   std::uint32_t options = 0, const ByteWriter& box = Box32(0, 0, 0, 0)) {
+    std::u16string units;
+    for (const char c : text) units += static_cast<unsigned char>(c);
+    return Units(x, y, units, advances, options, box);
+  }
+  EmfWriter& Units(int x, int y, const std::u16string& text, const std::vector<int>& advances = {},
+                   std::uint32_t options = 0, const ByteWriter& box = Box32(0, 0, 0, 0)) {
     const std::size_t textSize = (text.size() * 2 + 3) / 4 * 4;
     ByteWriter out = Box32(0, 0, 0, 0).U32(1).F32(1).F32(1).I32(x).I32(y);
     out.U32(static_cast<std::uint32_t>(text.size())).U32(76).U32(options).Add(box);
     out.U32(advances.empty() ? 0 : static_cast<std::uint32_t>(76 + textSize));
-    for (const char c : text) out.U16(static_cast<unsigned char>(c));
+    for (const char16_t unit : text) out.U16(unit);
     out.Align(4);
     for (const int advance : advances) out.I32(advance);
     return Add(84, out);

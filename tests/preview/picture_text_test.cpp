@@ -81,5 +81,48 @@ TEST_F(PictureText, IsTextInAPdf) {
   EXPECT_TRUE(text.contains(QStringLiteral("Torque"))) << text.toStdString();
 }
 
+// A picture with one line, at 10, 20 of it.
+std::shared_ptr<const Document> GraphWith(const std::u16string& text) {
+  EmfWriter emf;
+  emf.Set(18, 1).Font(-10, "DejaVu Sans").Units(10, 20, text, std::vector<int>(text.size(), 8));
+  PictureFileLoader loader;
+  DocumentBuilder builder;
+  builder.Page().Picture(loader.LoadBytes("graph", emf.Bytes()), Place);
+  return builder.Build();
+}
+
+TEST_F(PictureText, HebrewIsFoundAtItsLetters) {
+  const auto document = GraphWith(u"ab \u05D0\u05D1\u05D2 cd");
+  DocumentText words(*document);
+  const auto hits = Search(words, QString::fromUtf8("\u05D0\u05D1"), {});
+  ASSERT_EQ(hits.size(), 1U);
+  ASSERT_EQ(hits[0].Boxes.size(), 1U);
+  EXPECT_NEAR(hits[0].Boxes[0].left(), 1440 + (10 + 4 * 8) * Unit, 20);
+  EXPECT_NEAR(hits[0].Boxes[0].right(), 1440 + (10 + 6 * 8) * Unit, 20);
+  const auto across = Search(words, QString::fromUtf8("b \u05D0"), {});
+  ASSERT_EQ(across.size(), 1U);
+  EXPECT_EQ(across[0].Boxes.size(), 2U) << "the letter is at the other end of its word";
+}
+
+TEST_F(PictureText, HebrewIsSelectedByWordsAndCopiedInTheOrderOfReading) {
+  Open(GraphWith(u"ab \u05D0\u05D1\u05D2 cd"));
+  QTest::mouseDClick(
+      View().viewport(), Qt::LeftButton, Qt::NoModifier,
+      At(0, static_cast<int>(1440 + (10 + 4.5 * 8) * Unit), static_cast<int>(2000 + 25 * Unit)));
+  Press(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), QString::fromUtf8("\u05D0\u05D1\u05D2"));
+}
+
+TEST_F(PictureText, ComesOutOfAPdfInTheOrderOfReadingInAllScripts) {
+  for (const char16_t* text :
+       {u"\u05DE\u05D4\u05D9\u05E8\u05D5\u05EA", u"\u0633\u0631\u0639\u0629", u"\u0E04\u0E27\u0E32\u0E21"}) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("out.pdf"));
+    ASSERT_EQ(ExportPdf(*GraphWith(text), path, {}, [](int, int) { return true; }), QString());
+    const QString found = RunTool("pdftotext", {path, QStringLiteral("-")});
+    EXPECT_TRUE(found.contains(QString::fromUtf16(text))) << found.toStdString();
+  }
+}
+
 }  // namespace
 }  // namespace tarvis

@@ -1,12 +1,13 @@
-// A line whose characters must be shaped: joined, set in the order in which it is read, marks placed on
-// letters. The toolkit shapes; measures are in em and don't depend on any device.
+// A shaped line in the fonts of the reports. Measures are in em and don't depend on any device.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "pictures/shaped_text.h"
 #include "preview/paint/report_font.h"
 #include "report/engine/text_flow.h"
 
@@ -25,13 +26,9 @@ struct ShapedCluster {
   std::u32string Text;
   bool RunsToTheLeft = false;
   std::vector<ShapedGlyph> Glyphs;
-};
-
-// From the left edge of the line. Characters of one cluster share it.
-struct CharacterPlace {
   float Left = 0;
   float Right = 0;
-  bool RunsToTheLeft = false;
+  std::size_t FirstCharacter = 0;
 };
 
 struct ShapedLine {

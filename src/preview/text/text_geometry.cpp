@@ -46,7 +46,7 @@ double DistanceTo(const CharacterPlace& place, double x) {
 }
 
 // Before the nearest character or after it, by its half.
-std::size_t CharacterAt(const std::vector<CharacterPlace>& places, double x) {
+std::size_t CharacterIn(const std::vector<CharacterPlace>& places, double x) {
   if (places.empty()) return 0;
   const auto nearest =
       std::ranges::min_element(places, {}, [x](const CharacterPlace& place) { return DistanceTo(place, x); });
@@ -82,19 +82,50 @@ struct PlacedText {
     return document.Pictures[document.Items[piece.Item].Source]
         ->Texts()[static_cast<std::size_t>(piece.PictureText)];
   }
-  QRectF Box(std::size_t first, std::size_t end) const {
-    const QPointF from = Edges[std::min(first, Edges.size() - 1)];
-    const QPointF to = Edges[std::min(end, Edges.size() - 1)];
-    return QPolygonF({from + Up, from + Down, to + Down, to + Up}).boundingRect();
+  std::size_t CharacterCount() const { return Edges.size() / 2; }
+  // Neighbours become one box.
+  std::vector<QRectF> Boxes(std::size_t first, std::size_t end) const {
+    constexpr double Touching = 0.5;  // twips, for rounding
+    std::vector<QRectF> boxes;
+    QPointF last;
+    for (std::size_t index = first; index < std::min(end, CharacterCount()); ++index) {
+      const QPointF from = Edges[2 * index], to = Edges[2 * index + 1];
+      const QRectF box = QPolygonF({from + Up, from + Down, to + Down, to + Up}).boundingRect();
+      const bool goesOn = !boxes.empty() && (from - last).manhattanLength() < Touching;
+      if (goesOn) {
+        boxes.back() |= box;
+      } else {
+        boxes.push_back(box);
+      }
+      last = to;
+    }
+    return boxes;
+  }
+  QRectF Box() const {
+    QRectF all;
+    for (const QRectF& box : Boxes(0, CharacterCount())) all |= box;
+    return all;
+  }
+  // The widest character shows the way of the line: one that turns back may end where it starts.
+  QPointF Way() const {
+    QPointF way;
+    for (std::size_t index = 0; index + 1 < Edges.size(); index += 2) {
+      const QPointF step = Edges[index + 1] - Edges[index];
+      if (QPointF::dotProduct(step, step) > QPointF::dotProduct(way, way)) way = step;
+    }
+    return way;
   }
   std::size_t CharacterAt(QPointF point) const {
-    const QPointF way = Edges.back() - Edges.front();
-    const auto along = [&](QPointF place) { return QPointF::dotProduct(place - Edges.front(), way); };
-    std::size_t character = 0;
-    while (character + 1 < Edges.size() &&
-           along(point) > (along(Edges[character]) + along(Edges[character + 1])) / 2)
-      ++character;
-    return character;
+    const QPointF way = Way();
+    const auto along = [&](QPointF place) {
+      return static_cast<float>(QPointF::dotProduct(place - Edges.front(), way));
+    };
+    std::vector<CharacterPlace> places;
+    for (std::size_t index = 0; index + 1 < Edges.size(); index += 2) {
+      const float from = along(Edges[index]), to = along(Edges[index + 1]);
+      places.push_back({std::min(from, to), std::max(from, to), to < from});
+    }
+    return CharacterIn(places, static_cast<double>(along(point)));
   }
 };
 
@@ -117,13 +148,12 @@ std::string_view TextOf(const Document& document, const ReadPiece& piece) {
 
 QRectF BoxOfLine(const Document& document, const ReadPiece& piece) {
   if (!IsInPicture(piece)) return ToRectF(document.Items[piece.Item].Box);
-  const PlacedText text(document, piece);
-  return text.Box(0, text.Edges.size() - 1);
+  return PlacedText(document, piece).Box();
 }
 
 std::vector<QRectF> BoxesOfCharacters(const Document& document, const ReadPiece& piece, std::size_t first,
                                       std::size_t end) {
-  if (IsInPicture(piece)) return {PlacedText(document, piece).Box(first, end)};
+  if (IsInPicture(piece)) return PlacedText(document, piece).Boxes(first, end);
   if (IsTick(document, piece))
     return {BoxOfLine(document, piece)};  // of its word there is only all or nothing
   const std::vector<CharacterPlace> places = PrintedPlaces(document, piece.Item);
@@ -137,7 +167,7 @@ std::size_t CharacterAt(const Document& document, const ReadPiece& piece, QPoint
   if (IsInPicture(piece)) return PlacedText(document, piece).CharacterAt(point);
   if (IsTick(document, piece))
     return point.x() < BoxOfLine(document, piece).center().x() ? 0 : CharacterCount(document, piece);
-  return CharacterAt(PrintedPlaces(document, piece.Item), point.x());
+  return CharacterIn(PrintedPlaces(document, piece.Item), point.x());
 }
 
 std::size_t CharacterCount(const Document& document, const ReadPiece& piece) {

@@ -16,7 +16,7 @@ struct PictureText {
     float Y = 0;
   };
   std::string Text;          // UTF-8
-  std::vector<Place> Edges;  // on the baseline, before each character and after the last
+  std::vector<Place> Edges;  // on the baseline, two of each character: where it begins and where it ends
   Place Up, Down;            // from the baseline to the top of the line, and to its bottom
 };
 

@@ -1,7 +1,9 @@
 #include "pictures/metafile/context/text_line.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <string>
 
 namespace tarvis {
 namespace {
@@ -30,6 +32,39 @@ std::string GlyphNumbersOf(const TextLine& line) {
   if (!line.Face->KnowsGlyphNumbers()) throw BadMetafile(GlyphNumbersOf(line) + ", which isn't installed");
   throw BadMetafile(GlyphNumbersOf(line) + "; what number " + std::to_string(number) +
                     " shows isn't known from the installed font " + Quoted(line.Face->InstalledFamily()));
+}
+
+std::string Utf8Of(const TextRecord& text) {
+  std::u32string codes;
+  for (const TextCharacter& character : text.Text) codes += character.Code;
+  return QString::fromUcs4(codes.data(), static_cast<qsizetype>(codes.size())).toStdString();
+}
+
+// What a record says of the widths and rises of its characters.
+class RoomsOfRecord {
+ public:
+  explicit RoomsOfRecord(const TextRecord& text) : text_(text) {
+    for (const TextCharacter& character : text.Text)
+      firstUnits_.push_back(firstUnits_.back() + character.Units);
+  }
+  double Width(std::size_t first, std::size_t end) const { return Sum(text_.Advances, first, end); }
+  double Rise(std::size_t first, std::size_t end) const { return Sum(text_.Rises, first, end); }
+
+ private:
+  double Sum(const std::vector<double>& values, std::size_t first, std::size_t end) const {
+    double sum = 0;
+    for (std::size_t unit = firstUnits_[first]; unit < std::min(firstUnits_[end], values.size()); ++unit)
+      sum += values[unit];
+    return sum;
+  }
+
+  const TextRecord& text_;
+  std::vector<std::size_t> firstUnits_{0};
+};
+
+double RightOf(const ShapedText& text, std::size_t cluster) {
+  const bool isLast = cluster + 1 == text.Clusters.size();
+  return static_cast<double>(isLast ? text.Advance : text.Clusters[cluster + 1].Left);
 }
 
 }  // namespace
@@ -72,15 +107,32 @@ TextLine TextPlacer::Baseline(const TextRecord& text) {
   return line;
 }
 
+// The characters of shaped lines come from the file, and each is looked up in all of its line.
+constexpr std::size_t LongestShaped = 2000;
+
+// A record has the direction that it names, whatever its first letter is.
+TextFlow TextPlacer::FlowOfRecord(const TextRecord& text) const {
+  const DcState& state = context_.State();
+  const bool isAsItIs = (text.Options & TextAsItIs) != 0 || text.Text.size() > LongestShaped ||
+                        FindSymbolSet(state.Font->Face, state.Font->Charset) != SymbolSet::None;
+  if (isAsItIs || FlowOf(Utf8Of(text)) == TextFlow::Plain) return TextFlow::Plain;
+  const bool isToTheLeft = (text.Options & TextToTheLeft) != 0 || (state.TextAlign & AlignTextToTheLeft) != 0;
+  return isToTheLeft ? TextFlow::RightToLeft : TextFlow::LeftToRight;
+}
+
 // Sets the places, the width and the rise of the line.
 void TextPlacer::PlaceGlyphs(const TextRecord& text, TextLine& line) {
   const DcState& state = context_.State();
   line.Places.clear();
+  line.Ends.clear();
+  line.Flow = FlowOfRecord(text);
+  if (line.Flow != TextFlow::Plain) return PlaceShaped(text, line);
   line.Places.reserve(text.Text.size());
   const SymbolSet symbols = FindSymbolSet(state.Font->Face, state.Font->Charset);
   std::size_t unit = 0;
   double along = 0, rise = 0;
   for (const TextCharacter& character : text.Text) {
+    if (!line.Places.empty()) line.Ends.emplace_back(along, rise);
     line.Places.emplace_back(along, rise);
     for (std::size_t i = 0; i < character.Units; ++i, ++unit) {
       if (unit < text.Advances.size()) along += text.Advances[unit];
@@ -90,6 +142,38 @@ void TextPlacer::PlaceGlyphs(const TextRecord& text, TextLine& line) {
     along += line.Face->Glyph(SymbolCharacter(symbols, character.Code)).Advance * line.NaturalUnit +
              state.CharacterExtra;
     if (character.Code == U' ') along += state.BreakExtra;
+  }
+  if (!line.Places.empty()) line.Ends.emplace_back(along, rise);
+  line.Width = along;
+  line.Rise = rise;
+}
+
+// Widths that the record gives belong to characters in the order of the text; those of a cluster add up, and
+// clusters follow each other from left to right.
+void TextPlacer::PlaceShaped(const TextRecord& text, TextLine& line) {
+  const DcState& state = context_.State();
+  line.Shaped = ShapeText(QString::fromStdString(Utf8Of(text)), line.Flow, line.Face->Font());
+  const RoomsOfRecord rooms(text);
+  std::vector<CharacterPlace> places(text.Text.size());
+  std::vector<double> rises(text.Text.size());
+  double along = 0, rise = 0;
+  for (std::size_t index = 0; index < line.Shaped.Clusters.size(); ++index) {
+    const TextCluster& cluster = line.Shaped.Clusters[index];
+    double width = (RightOf(line.Shaped, index) - static_cast<double>(cluster.Left)) * line.NaturalUnit +
+                   state.CharacterExtra * static_cast<double>(cluster.Sizes.size()) +
+                   (cluster.Text == U" " ? state.BreakExtra : 0);
+    const std::size_t end = cluster.FirstCharacter + cluster.Text.size();
+    if (!text.Advances.empty()) width = rooms.Width(cluster.FirstCharacter, end);
+    PlaceCharacters(cluster, static_cast<float>(along), static_cast<float>(along + width), places);
+    std::fill(rises.begin() + static_cast<std::ptrdiff_t>(cluster.FirstCharacter),
+              rises.begin() + static_cast<std::ptrdiff_t>(end), rise);
+    along += width;
+    rise += rooms.Rise(cluster.FirstCharacter, end);
+  }
+  for (std::size_t index = 0; index < places.size(); ++index) {
+    const CharacterPlace& place = places[index];
+    line.Places.emplace_back(place.RunsToTheLeft ? place.Right : place.Left, rises[index]);
+    line.Ends.emplace_back(place.RunsToTheLeft ? place.Left : place.Right, rises[index]);
   }
   line.Width = along;
   line.Rise = rise;
@@ -104,6 +188,7 @@ TextLine TextPlacer::Place(const TextRecord& text) {
 TextRecord TextPlacer::WithCharacters(const TextRecord& text) {
   TextRecord characters = text;
   characters.Options &= ~TextGlyphIndexes;
+  characters.Options |= TextAsItIs;  // glyphs come from left to right, in their final forms
   TextLine line = Baseline(characters);
   for (TextCharacter& character : characters.Text) {
     const auto number = static_cast<std::uint32_t>(character.Code);

@@ -4,6 +4,7 @@
 #include "pictures/metafile/context/device_context.h"
 #include "pictures/metafile/fonts/charset.h"
 #include "pictures/metafile/fonts/glyph_outlines.h"
+#include "pictures/shaped_text.h"
 
 namespace tarvis {
 
@@ -17,12 +18,12 @@ struct TextRecord {
 };
 
 // Options of text records.
-inline constexpr std::uint32_t TextOpaque = 2, TextClipped = 4, TextGlyphIndexes = 0x10, TextPairs = 0x2000,
-                               TextNoBox = 0x100, TextSmall = 0x200;
+inline constexpr std::uint32_t TextOpaque = 2, TextClipped = 4, TextGlyphIndexes = 0x10, TextToTheLeft = 0x80,
+                               TextNoBox = 0x100, TextSmall = 0x200, TextAsItIs = 0x1000, TextPairs = 0x2000;
 
 // Bits of the text alignment of a context.
 inline constexpr std::uint32_t AlignUpdatesPosition = 1, AlignRight = 2, AlignCenter = 6, AlignBottom = 8,
-                               AlignBaseline = 24;
+                               AlignBaseline = 24, AlignTextToTheLeft = 0x100;
 
 // A line of text. `Along` and `Down` are one logical unit along the baseline and down from it, both in device
 // units; a glyph's own axes differ where the mapping stretches, for glyphs keep their proportions.
@@ -37,6 +38,9 @@ struct TextLine {
   double Width = 0;                // in units of Along
   double Rise = 0;                 // of the end above the start, in units of Down
   std::vector<QPointF> Places;     // of the characters from the start, along and upwards
+  std::vector<QPointF> Ends;       // the same, where each character ends
+  TextFlow Flow = TextFlow::Plain;
+  ShapedText Shaped;  // unless its flow is plain
 };
 
 class TextPlacer {
@@ -52,6 +56,8 @@ class TextPlacer {
  private:
   TextLine Baseline(const TextRecord& text);
   void PlaceGlyphs(const TextRecord& text, TextLine& line);
+  void PlaceShaped(const TextRecord& text, TextLine& line);
+  TextFlow FlowOfRecord(const TextRecord& text) const;
 
   const DeviceContext& context_;
   GlyphOutlines& glyphs_;

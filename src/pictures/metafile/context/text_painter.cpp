@@ -13,39 +13,79 @@ double AlignedBaseline(std::uint32_t align, double ascent, double descent) {
   return (align & AlignBottom) != 0 ? -descent : ascent;
 }
 
+// A place on a line, in device units.
+QPointF Mapped(const TextLine& line, QPointF place) {
+  return line.Start + line.Along * place.x() - line.Down * place.y();
+}
+
 }  // namespace
+
+ListText TextPainter::Empty(const TextLine& line) {
+  return ListText{.Characters = {},
+                  .Flow = TextFlow::Plain,
+                  .Font = line.Font,
+                  .Origins = {},
+                  .Ends = {},
+                  .Em = QTransform(line.GlyphAlong.x(), line.GlyphAlong.y(), line.GlyphDown.x(),
+                                   line.GlyphDown.y(), 0, 0),
+                  .Up = -line.Down * line.Ascent,
+                  .Down = line.Down * line.Descent,
+                  .Color = State().TextColor};
+}
 
 void TextPainter::DrawGlyphs(const TextRecord& text, const TextLine& line) {
   QPainterPath path;
   path.setFillRule(Qt::WindingFill);
   bool unknown = false;
-  ListText shown{.Characters = {},
-                 .Font = line.Font,
-                 .Origins = {},
-                 .Em = QTransform(line.GlyphAlong.x(), line.GlyphAlong.y(), line.GlyphDown.x(),
-                                  line.GlyphDown.y(), 0, 0),
-                 .Up = -line.Down * line.Ascent,
-                 .Down = line.Down * line.Descent,
-                 .Color = State().TextColor};
+  ListText shown = Empty(line);
   const SymbolSet symbols = FindSymbolSet(State().Font->Face, State().Font->Charset);
   for (std::size_t i = 0; i < line.Places.size(); ++i) {
     const char32_t code = SymbolCharacter(symbols, text.Text[i].Code);
     unknown = unknown || (code == 0 && text.Text[i].Code != 0);
     if (code < U' ') continue;
-    const QPointF origin = line.Start + line.Along * line.Places[i].x() - line.Down * line.Places[i].y();
+    const QPointF origin = Mapped(line, line.Places[i]);
     shown.Characters += code;
     shown.Origins.push_back(origin);
+    shown.Ends.push_back(Mapped(line, line.Ends[i]));
     if (code != U' ')
       path.addPath(
           (shown.Em * QTransform::fromTranslate(origin.x(), origin.y())).map(line.Face->Glyph(code).Path));
   }
+  Add(path, std::move(shown));
+  if (unknown) throw SkipRecord();
+}
+
+void TextPainter::DrawShaped(const TextRecord& text, const TextLine& line) {
+  ListText shown = Empty(line);
+  shown.Flow = line.Flow;
+  for (std::size_t i = 0; i < text.Text.size(); ++i) {
+    if (text.Text[i].Code < U' ') continue;
+    shown.Characters += text.Text[i].Code;
+    shown.Origins.push_back(Mapped(line, line.Places[i]));
+    shown.Ends.push_back(Mapped(line, line.Ends[i]));
+  }
+  QPainterPath path;
+  path.setFillRule(Qt::WindingFill);
+  for (const TextCluster& cluster : line.Shaped.Clusters) {
+    const QPointF left = Mapped(line, LeftOf(cluster, line.Places, line.Ends));
+    for (const TextGlyph& glyph : cluster.Glyphs) {
+      const QRawFont& font = line.Shaped.Fonts[glyph.Font];
+      const QTransform place =
+          QTransform::fromScale(1 / font.pixelSize(), 1 / font.pixelSize()) *
+          QTransform::fromTranslate(glyph.X - static_cast<double>(cluster.Left), glyph.Y) * shown.Em *
+          QTransform::fromTranslate(left.x(), left.y());
+      path.addPath(place.map(font.pathForGlyph(glyph.Number)));
+    }
+  }
+  Add(path, std::move(shown));
+}
+
+void TextPainter::Add(const QPainterPath& path, ListText shown) {
   if (parts_.Path.IsOpen()) {
     parts_.Path.Add(path);
   } else {
-    shown.Origins.push_back(line.Start + line.Along * line.Width - line.Down * line.Rise);
     parts_.Target.ClippedList().AddText(path, std::move(shown));
   }
-  if (unknown) throw SkipRecord();
 }
 
 // The background, and lines under and through the text.
@@ -96,7 +136,11 @@ void TextPainter::Text(const TextRecord& text) {
   Align(line);
   DrawBars(line);
   try {
-    DrawGlyphs(text, line);
+    if (line.Flow == TextFlow::Plain) {
+      DrawGlyphs(text, line);
+    } else {
+      DrawShaped(text, line);
+    }
   } catch (const SkipRecord&) {
     State().Clip = clip;
     throw;

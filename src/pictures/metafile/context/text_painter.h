@@ -28,7 +28,10 @@ class TextPainter {
   DcState& State() { return parts_.Target.State(); }
   void Align(TextLine& line);
   void DrawBars(const TextLine& line);
+  ListText Empty(const TextLine& line);
   void DrawGlyphs(const TextRecord& text, const TextLine& line);
+  void DrawShaped(const TextRecord& text, const TextLine& line);
+  void Add(const QPainterPath& path, ListText shown);
 
   Parts parts_;
   TextPlacer placer_;

@@ -29,10 +29,12 @@ PlusFont ReadFont(ByteReader& reader) {
 }
 
 PlusFormat ReadFormat(ByteReader& reader) {
-  enum : std::uint32_t { NoWrap = 0x1000 };
+  enum : std::uint32_t { ToTheLeft = 1, NoWrap = 0x1000 };
   reader.Skip(4);
   PlusFormat format;
-  format.Wraps = (reader.U32() & NoWrap) == 0;
+  const std::uint32_t flags = reader.U32();
+  format.RunsToTheLeft = (flags & ToTheLeft) != 0;
+  format.Wraps = (flags & NoWrap) == 0;
   reader.Skip(4);
   format.Align = reader.U32();
   format.LineAlign = reader.U32();

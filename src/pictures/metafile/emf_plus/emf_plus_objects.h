@@ -42,6 +42,7 @@ struct PlusFont {
 
 struct PlusFormat {
   std::uint32_t Align = 0, LineAlign = 0;  // 0 near, 1 centred, 2 far
+  bool RunsToTheLeft = false;              // near is then the right side
   bool Wraps = true;
 };
 

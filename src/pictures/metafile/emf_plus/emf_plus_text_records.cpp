@@ -58,13 +58,14 @@ void DrawString(PlusPlayback& playback, std::uint32_t flags, ByteReader& reader)
   const double pitch = em * 1.15;
   const double spare = box.height() - pitch * static_cast<double>(lines.size());
   double y = box.top() + (format.LineAlign == 1 ? spare / 2 : format.LineAlign == 2 ? spare : 0);
-  playback.Draw.State().TextAlign = format.Align == 1 ? AlignCenter : format.Align == 2 ? AlignRight : 0;
-  const double x = format.Align == 1   ? box.center().x()
-                   : format.Align == 2 ? box.right() - em * paddingEms
-                                       : box.left() + em * paddingEms;
+  const bool isAtTheRight = format.Align == (format.RunsToTheLeft ? 0 : 2);
+  playback.Draw.State().TextAlign = format.Align == 1 ? AlignCenter : isAtTheRight ? AlignRight : 0;
+  const double x = format.Align == 1 ? box.center().x()
+                   : isAtTheRight    ? box.right() - em * paddingEms
+                                     : box.left() + em * paddingEms;
   for (TextRecord& line : lines) {
     line.Reference = {x, y};
-    line.Options = TextNoBox;
+    line.Options = TextNoBox | (format.RunsToTheLeft ? TextToTheLeft : 0);
     playback.Draw.Text().Text(line);
     y += pitch;
   }
@@ -86,7 +87,7 @@ void DrawDriverString(PlusPlayback& playback, std::uint32_t flags, ByteReader& r
     TextRecord text;
     text.Text = DecodeUnits(codes.subspan(i * 2, piece * 2));
     text.Reference = ReadPointF(reader);
-    text.Options = (options & Characters) != 0 ? TextNoBox : TextNoBox | TextGlyphIndexes;
+    text.Options = TextNoBox | ((options & Characters) != 0 ? TextAsItIs : TextGlyphIndexes);
     playback.Draw.Text().Text(text);
   }
 }

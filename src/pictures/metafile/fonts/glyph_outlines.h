@@ -28,6 +28,8 @@ class OutlineFace {
   double AverageWidth = 0;  // of Latin text, as letters and blanks are frequent in it
 
   const GlyphOutline& Glyph(char32_t character);
+  // For lines whose characters must be shaped.
+  const QFont& Font() const { return font_; }
   // The character that a record means by a number of a glyph in its font; 0 if that isn't known. It is known
   // where the font itself is installed, and for the first characters of its metric twins, which have the same
   // numbers.

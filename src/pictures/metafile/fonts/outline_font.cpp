@@ -61,8 +61,9 @@ bool AreMetricTwins(const QString& family, const QString& other) {
 
 QFont InstalledFont(const OutlineFont& font, int emPixels) {
   // A name after @ is that of the same font for upright text.
-  QFont installed(Replacement(KnownFamily(font.Family.startsWith('@') ? font.Family.mid(1) : font.Family),
-                              font.CodePage));
+  const QString named = KnownFamily(font.Family.startsWith('@') ? font.Family.mid(1) : font.Family);
+  QFont installed;
+  installed.setFamilies(QStringList(Replacement(named, font.CodePage)) + FamiliesOf(font.CodePage));
   installed.setBold(font.Bold);
   installed.setItalic(font.Italic);
   installed.setPixelSize(emPixels);

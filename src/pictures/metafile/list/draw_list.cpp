@@ -57,7 +57,8 @@ void DrawList::AddText(const QPainterPath& outline, ListText text) {
   const ListBrush brush{QBrush(text.Color)};
   if (outline.isEmpty()) return;  // nothing but blanks
   AddShape(outline, nullptr, &brush);
-  budget_->TakeKeptBytes(sizeof(ListText) + text.Characters.size() * (sizeof(char32_t) + sizeof(QPointF)));
+  budget_->TakeKeptBytes(sizeof(ListText) +
+                         text.Characters.size() * (sizeof(char32_t) + 2 * sizeof(QPointF)));
   commands_.back().Text = static_cast<std::int32_t>(texts_.size());
   texts_.push_back(std::move(text));
 }

@@ -14,6 +14,7 @@
 #include "pictures/metafile/fonts/outline_font.h"
 #include "pictures/metafile/list/list_inks.h"
 #include "pictures/metafile/list/outlines.h"
+#include "pictures/shaped_text.h"
 
 namespace tarvis {
 
@@ -39,12 +40,21 @@ struct ListImage {
 // A line of text in one font. All places are those of the picture.
 struct ListText {
   std::u32string Characters;
+  TextFlow Flow = TextFlow::Plain;
   OutlineFont Font;
-  std::vector<QPointF> Origins;  // of each character on the baseline, and where the line ends
+  std::vector<QPointF> Origins;  // of each character on the baseline
+  std::vector<QPointF> Ends;     // where each character ends; left of its origin if it runs to the left
   QTransform Em;                 // from ems along the baseline and down from it; without a translation
   QPointF Up, Down;              // from the baseline to the top of the line, and to its bottom
   QColor Color;
 };
+
+// The left edge of a cluster of a shaped line, by the places of its characters.
+inline QPointF LeftOf(const TextCluster& cluster, const std::vector<QPointF>& origins,
+                      const std::vector<QPointF>& ends) {
+  if (!cluster.RunsToTheLeft) return origins[cluster.FirstCharacter];
+  return ends[cluster.FirstCharacter + cluster.Text.size() - 1];
+}
 
 class DrawList;
 

@@ -1,6 +1,5 @@
 #include "pictures/metafile/list/draw_list_painter.h"
 
-#include <QGlyphRun>
 #include <QPaintDevice>
 #include <QPaintEngine>
 #include <algorithm>
@@ -35,6 +34,14 @@ double Length(const QPolygonF& line) {
 bool IsHatch(const ListBrush& brush) {
   const Qt::BrushStyle style = brush.Brush.style();
   return HasDots(brush.Dots) || (style >= Qt::HorPattern && style <= Qt::DiagCrossPattern);
+}
+
+QGlyphRun RunOf(const QRawFont& font, const QList<quint32>& glyphs, const QList<QPointF>& places) {
+  QGlyphRun run;
+  run.setRawFont(font);
+  run.setGlyphIndexes(glyphs);
+  run.setPositions(places);
+  return run;
 }
 
 // The box that `path` is, if it is one; else an empty one.
@@ -174,35 +181,61 @@ void DrawListPainter::Shape(const ListCommand& command) {
 // On paper and in files text is text, which can be searched there and weighs little. On a screen its outline
 // looks the same and may be painted on any thread.
 bool DrawListPainter::Text(const ListText& text) {
-  const auto known = fonts_.find(text.Font);
-  const QRawFont& font =
-      known != fonts_.end()
-          ? known->second
-          : fonts_.emplace(text.Font, QRawFont::fromFont(InstalledFont(text.Font, FontPixels))).first->second;
   const QTransform toPaper(toTarget_.m11(), 0, 0, toTarget_.m22(), 0, 0);
   const QTransform fontToPaper =
       QTransform::fromScale(1.0 / FontPixels, 1.0 / FontPixels) * text.Em * toPaper;
   if (!fontToPaper.isInvertible() || text.Characters.empty()) return false;
   const QTransform paperToFont = fontToPaper.inverted();
   const QPointF start = toTarget_.map(text.Origins[0]);
+  const PlaceInFont place = [&](QPointF point) { return paperToFont.map(toTarget_.map(point) - start); };
+  const std::vector<QGlyphRun> runs =
+      text.Flow == TextFlow::Plain ? PlainRuns(text, place) : ShapedRuns(text, place);
+  if (runs.empty()) return false;
+  painter_.save();
+  painter_.setTransform(fontToPaper * QTransform::fromTranslate(start.x(), start.y()), true);
+  painter_.setPen(text.Color);
+  for (const QGlyphRun& run : runs) painter_.drawGlyphRun({}, run);
+  painter_.restore();
+  return true;
+}
+
+// None if the font doesn't have one of the characters.
+std::vector<QGlyphRun> DrawListPainter::PlainRuns(const ListText& text, const PlaceInFont& place) {
+  const auto known = fonts_.find(text.Font);
+  const QRawFont& font =
+      known != fonts_.end()
+          ? known->second
+          : fonts_.emplace(text.Font, QRawFont::fromFont(InstalledFont(text.Font, FontPixels))).first->second;
   QList<quint32> glyphs;
   QList<QPointF> places;
   for (std::size_t i = 0; i < text.Characters.size(); ++i) {
     const QList<quint32> glyph = font.glyphIndexesForString(QString::fromUcs4(&text.Characters[i], 1));
-    if (glyph.size() != 1 || glyph[0] == 0) return false;
+    if (glyph.size() != 1 || glyph[0] == 0) return {};
     glyphs += glyph;
-    places << paperToFont.map(toTarget_.map(text.Origins[i]) - start).toPoint().toPointF();
+    places << place(text.Origins[i]).toPoint().toPointF();
   }
-  QGlyphRun run;
-  run.setRawFont(font);
-  run.setGlyphIndexes(glyphs);
-  run.setPositions(places);
-  painter_.save();
-  painter_.setTransform(fontToPaper * QTransform::fromTranslate(start.x(), start.y()), true);
-  painter_.setPen(text.Color);
-  painter_.drawGlyphRun({}, run);
-  painter_.restore();
-  return true;
+  return {RunOf(font, glyphs, places)};
+}
+
+// None if no font has one of the characters. Letters that run to the left come in the order in which they are
+// read, as in the texts of pages.
+std::vector<QGlyphRun> DrawListPainter::ShapedRuns(const ListText& text, const PlaceInFont& place) {
+  const QString units =
+      QString::fromUcs4(text.Characters.data(), static_cast<qsizetype>(text.Characters.size()));
+  ShapedText shaped = ShapeText(units, text.Flow, InstalledFont(text.Font, FontPixels));
+  if (shaped.CharacterCount != text.Origins.size()) return {};
+  std::ranges::sort(shaped.Clusters, {}, &TextCluster::FirstCharacter);
+  std::vector<QGlyphRun> runs;
+  for (const TextCluster& cluster : shaped.Clusters) {
+    const QPointF left = place(LeftOf(cluster, text.Origins, text.Ends));
+    for (const TextGlyph& glyph : cluster.Glyphs) {
+      if (glyph.Number == 0) return {};
+      const QPointF offset(glyph.X - static_cast<double>(cluster.Left), glyph.Y);
+      const QPointF origin = (left + offset * FontPixels).toPoint().toPointF();
+      runs.push_back(RunOf(shaped.Fonts[glyph.Font], {glyph.Number}, {origin}));
+    }
+  }
+  return runs;
 }
 
 void DrawListPainter::Fill(const QPainterPath& path, const ListBrush& listBrush) {

@@ -1,9 +1,12 @@
 // Paints a draw list with the toolkit's painter: vectors stay vectors on every device.
 #pragma once
 
+#include <QGlyphRun>
 #include <QPainter>
 #include <QRawFont>
+#include <functional>
 #include <map>
+#include <vector>
 
 #include "pictures/metafile/list/draw_list.h"
 #include "pictures/metafile/list/hatch_painter.h"
@@ -25,6 +28,10 @@ class DrawListPainter {
   void Shape(const ListCommand& command);
   // False if no installed font has all its characters.
   bool Text(const ListText& text);
+  // From a place of the picture to one in units of the font, from where the line starts.
+  using PlaceInFont = std::function<QPointF(QPointF)>;
+  std::vector<QGlyphRun> PlainRuns(const ListText& text, const PlaceInFont& place);
+  static std::vector<QGlyphRun> ShapedRuns(const ListText& text, const PlaceInFont& place);
   void Fill(const QPainterPath& path, const ListBrush& brush);
   // False if it is left to the toolkit.
   bool FillDense(const QPainterPath& path, const QBrush& brush);

@@ -28,8 +28,10 @@ void MetafilePicture::AddTexts(const DrawList& list, const QTransform& place) {
     PictureText line;
     line.Text = QString::fromUcs4(text.Characters.data(), static_cast<qsizetype>(text.Characters.size()))
                     .toStdString();
-    for (const QPointF& origin : text.Origins)
-      line.Edges.push_back(part(place.map(origin) - frame_.topLeft()));
+    for (std::size_t index = 0; index < text.Origins.size(); ++index) {
+      for (const QPointF edge : {text.Origins[index], text.Ends[index]})
+        line.Edges.push_back(part(place.map(edge) - frame_.topLeft()));
+    }
     line.Up = part(size(text.Up));
     line.Down = part(size(text.Down));
     texts_.push_back(std::move(line));
