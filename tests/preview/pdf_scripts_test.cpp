@@ -16,10 +16,16 @@ struct Sample {
   const char* Text;
 };
 
-const Sample Samples[] = {
-    {"Hebrew", "מהירות המנוע"},          {"HebrewAmongLatin", "Pn100 Speed Loop Gain מהירות"},
-    {"Arabic", "سرعة المحرك"},           {"Thai", "ความเร็วที่กำหนด"},
-    {"Vietnamese", "Tốc độ khuếch đại"}, {"MarksWithoutLetter", "x\xCC\xB2y\xCC\xB2"}};
+const Sample Samples[] = {{"Hebrew", "מהירות המנוע"},
+                          {"HebrewAmongLatin", "Pn100 Speed Loop Gain מהירות"},
+                          {"HebrewWithNumbers", "ערך 3000 (min) של Pn100."},
+                          {"Arabic", "سرعة المحرك"},
+                          {"ArabicSignsOfTwoLetters", "الأوامر سلام لإعادة"},
+                          {"ArabicAmongLatin", "Pn100 سرعة 3000 rpm"},
+                          {"Thai", "ความเร็วที่กำหนด ตั้งค่า"},
+                          {"ThaiWithLatin", "น้ำ Pn100 ค่าเริ่มต้น"},
+                          {"Vietnamese", "Tốc độ khuếch đại"},
+                          {"MarksWithoutLetter", "x\xCC\xB2y\xCC\xB2"}};
 
 class PdfScripts : public testing::TestWithParam<Sample> {
  protected:
@@ -59,14 +65,30 @@ TEST_P(PdfScripts, AreExtractedInTheOrderOfReadingByMupdf) {
 INSTANTIATE_TEST_SUITE_P(Scripts, PdfScripts, testing::ValuesIn(Samples),
                          [](const auto& sample) { return sample.param.Name; });
 
-// Poppler turns round the letters that share a glyph, after it has turned round the line.
-class PdfLigatures : public PdfScripts {};
-
-TEST_P(PdfLigatures, AreExtractedInTheOrderOfReadingByMupdf) {
-  EXPECT_EQ(Words(ByMupdf()), wanted_);
+TEST_P(PdfScripts, HaveBookmarksInTheOrderOfReading) {
+  const auto document = DocumentBuilder()
+                            .Page()
+                            .Text("x", 1440, 720)
+                            .Entry(GetParam().Text, 0, 0, 720)
+                            .Entry(wanted_.normalized(QString::NormalizationForm_D).toStdString(), 1, 0, 720)
+                            .Build();
+  PdfInfo info;
+  info.Title = wanted_;
+  ASSERT_EQ(ExportPdf(*document, path_, info, [](int, int) { return true; }), QString());
+  const QString outline = RunTool("mutool", {QStringLiteral("show"), path_, QStringLiteral("outline")});
+  EXPECT_EQ(outline.count(wanted_), 2) << outline.toStdString();
+  EXPECT_EQ(PdfFact(path_, "Title"), wanted_);
 }
 
-INSTANTIATE_TEST_SUITE_P(Arabic, PdfLigatures, testing::Values(Sample{"LamAndAlef", "الأوامر سلام"}),
+// Poppler takes their marks for lines above and below.
+class PdfPoints : public PdfScripts {};
+
+TEST_P(PdfPoints, AreExtractedInTheOrderOfReadingByMupdf) {
+  EXPECT_EQ(Words(ByMupdf()), wanted_.normalized(QString::NormalizationForm_C));
+}
+
+INSTANTIATE_TEST_SUITE_P(Scripts, PdfPoints,
+                         testing::Values(Sample{"Hebrew", "שָׁלוֹם עוֹלָם"}, Sample{"Arabic", "مُحَرِّك لَا"}),
                          [](const auto& sample) { return sample.param.Name; });
 
 }  // namespace

@@ -133,19 +133,16 @@ void PdfCanvas::ShowPlain(const TextPiece& piece, const TextStyle& style, double
   if (open) Add(">Tj\n");
 }
 
-// Letters that run to the left come in the order in which they are read: some viewers sort them by their
-// places, others take them as they come.
+// Clusters come in the order in which they are read: some viewers sort them by their places, others take them
+// as they come.
 void PdfCanvas::ShowShaped(const TextPiece& piece, const TextStyle& style, double x, double y,
                            double stretch) {
   const std::vector<ShapedCluster>& clusters =
       KnownLine(piece.Text, style.Bold, piece.Flow, glyphs_.Font()).Clusters;
-  const auto runsToTheRight = [](const ShapedCluster& cluster) { return !cluster.RunsToTheLeft; };
-  for (auto first = clusters.begin(); first != clusters.end();) {
-    const auto end = std::find_if(first, clusters.end(), runsToTheRight);
-    for (auto cluster = end; cluster != first;) ShowCluster(*--cluster, style, x, y, stretch);
-    first = end;
-    if (first != clusters.end()) ShowCluster(*first++, style, x, y, stretch);
-  }
+  std::vector<const ShapedCluster*> inOrder;
+  for (const ShapedCluster& cluster : clusters) inOrder.push_back(&cluster);
+  std::ranges::sort(inOrder, {}, &ShapedCluster::FirstCharacter);
+  for (const ShapedCluster* cluster : inOrder) ShowCluster(*cluster, style, x, y, stretch);
 }
 
 void PdfCanvas::ShowCluster(const ShapedCluster& cluster, const TextStyle& style, double x, double y,
@@ -153,11 +150,11 @@ void PdfCanvas::ShowCluster(const ShapedCluster& cluster, const TextStyle& style
   const double em = style.Size * TwipsPerPoint;
   const PdfCluster used = glyphs_.Use(cluster);
   if (used.NeedsText) StartActualText(cluster.Text);
-  for (std::size_t index = 0; index < used.Glyphs.size(); ++index) {
-    UseFont(used.Glyphs[index].Font, style.Size);
-    MoveTo(x + cluster.Glyphs[index].X * em * stretch, y + cluster.Glyphs[index].Y * em);
+  for (const PdfPlacedGlyph& placed : used.Glyphs) {
+    UseFont(placed.Glyph.Font, style.Size);
+    MoveTo(x + placed.X * em * stretch, y + placed.Y * em);
     Add("<");
-    AppendHex(content_, used.Glyphs[index].Code);
+    AppendHex(content_, placed.Glyph.Code);
     Add(">Tj\n");
   }
   if (used.NeedsText) Add("EMC\n");

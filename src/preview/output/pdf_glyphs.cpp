@@ -1,5 +1,7 @@
 #include "preview/output/pdf_glyphs.h"
 
+#include <algorithm>
+
 namespace tarvis {
 namespace {
 
@@ -47,16 +49,53 @@ PdfGlyph PdfGlyphs::Register(char32_t character, bool bold) {
   return Known(found, std::u32string(1, character));
 }
 
+// The blank of a face, which shows nothing and can stand for a character that shares the glyph of another
+// one.
+FontGlyph PdfGlyphs::Blank(std::uint16_t face) {
+  const QList<quint32> blank = font_.Face(face).glyphIndexesForString(QStringLiteral(" "));
+  if (blank.size() != 1 || blank.front() == 0) return font_.Find(U' ', false);
+  return font_.Drawn(face, blank.front());
+}
+
+// Tools that take text out of a PDF disagree on the order of several characters of one glyph where the line
+// runs to the left. So each character has a glyph of its own there: the first ones are blanks in their parts
+// of the sign.
+PdfCluster PdfGlyphs::UseSharedGlyphs(const ShapedCluster& cluster) {
+  const std::size_t count = cluster.Text.size();
+  const std::size_t blanks = count - cluster.Glyphs.size();
+  const float part = (cluster.Right - cluster.Left) / static_cast<float>(count);
+  PdfCluster used;
+  for (std::size_t index = 0; index < count; ++index) {
+    const std::u32string text(1, cluster.Text[index]);
+    if (index < blanks) {
+      const float left = cluster.Left + part * static_cast<float>(count - 1 - index);
+      used.Glyphs.push_back({Known(Blank(cluster.Glyphs.front().Face), text), left, 0});
+    } else {
+      const ShapedGlyph& glyph = cluster.Glyphs[index - blanks];
+      used.Glyphs.push_back({Known(font_.Drawn(glyph.Face, glyph.Glyph), text), glyph.X, glyph.Y});
+    }
+  }
+  return used;
+}
+
 PdfCluster PdfGlyphs::Use(const ShapedCluster& cluster) {
+  if (cluster.RunsToTheLeft && !cluster.Glyphs.empty() && cluster.Glyphs.size() < cluster.Text.size())
+    return UseSharedGlyphs(cluster);
   const std::vector<std::u32string> texts = TextsOfGlyphs(cluster.Text, cluster.Glyphs.size());
   PdfCluster used;
   std::u32string all;
   for (std::size_t index = 0; index < texts.size(); ++index) {
     const ShapedGlyph& glyph = cluster.Glyphs[index];
-    used.Glyphs.push_back(Known(font_.Drawn(glyph.Face, glyph.Glyph), texts[index]));
+    used.Glyphs.push_back({Known(font_.Drawn(glyph.Face, glyph.Glyph), texts[index]), glyph.X, glyph.Y});
     all += texts[index];
   }
-  used.NeedsText = all != cluster.Text;
+  // Some tools take a mark at another height for another line, and one beyond its letter for one of the next.
+  constexpr float Rounding = 0.001F;
+  const auto isBeyond = [&](const ShapedGlyph& glyph) {
+    return glyph.Y != 0 || glyph.X > cluster.Right + Rounding;
+  };
+  const bool hasMarksBeyond = !cluster.RunsToTheLeft && std::ranges::any_of(cluster.Glyphs, isBeyond);
+  used.NeedsText = all != cluster.Text || hasMarksBeyond;
   return used;
 }
 

@@ -31,10 +31,9 @@ struct PdfFont {
   std::vector<float> AdvancesEm;
 };
 
-// The glyphs of a shaped cluster, as many as it has.
 struct PdfCluster {
-  std::vector<PdfGlyph> Glyphs;
-  bool NeedsText = false;  // the texts of its glyphs, one after the other, are not its text
+  std::vector<PdfPlacedGlyph> Glyphs;
+  bool NeedsText = false;  // tools wouldn't take its text from its glyphs, one after the other
 };
 
 class PdfGlyphs {
@@ -56,6 +55,8 @@ class PdfGlyphs {
   std::map<std::uint16_t, std::uint16_t> fontOfFace_;  // the one that still has free codes
   std::map<std::tuple<std::uint16_t, std::uint32_t, std::u32string>, PdfGlyph> known_;
   std::array<std::array<PdfGlyph, 128>, 2> ascii_{};
+  PdfCluster UseSharedGlyphs(const ShapedCluster& cluster);
+  FontGlyph Blank(std::uint16_t face);
   std::array<std::array<bool, 128>, 2> asciiKnown_{};
   std::array<std::unordered_map<char32_t, PdfGlyph>, 2> others_;
 };
