@@ -98,6 +98,8 @@ void PdfCanvas::ForgetTextState() {
   ink_ = 0x1000000;  // no colour
   font_ = -1;
   stretch_ = 0;
+  lineWidth_ = -1;
+  isThick_ = std::nullopt;
 }
 
 void PdfCanvas::ShowText(const TextPiece& piece, const TextStyle& style, double x, double y, double stretch) {
@@ -168,13 +170,25 @@ void PdfCanvas::StartActualText(const std::u32string& text) {
 }
 
 void PdfCanvas::UseFont(std::uint16_t font, float size) {
-  if (font == font_ && size == size_) return;
-  font_ = font;
-  size_ = size;
-  Add("/F");
-  AppendNumber(content_, font);
-  AppendNumber(content_, size * TwipsPerPoint);
-  Add("Tf ");
+  if (font != font_ || size != size_) {
+    font_ = font;
+    size_ = size;
+    Add("/F");
+    AppendNumber(content_, font);
+    AppendNumber(content_, size * TwipsPerPoint);
+    Add("Tf ");
+  }
+  UseThickness(glyphs_.Fonts()[font].IsThickened, size);
+}
+
+// Where there is no bold font, an outline in the colour of the letters makes them bold, as wide as the
+// toolkit makes it.
+void PdfCanvas::UseThickness(bool isThick, float size) {
+  constexpr float OutlineEm = 1.0F / 24;
+  if (isThick) UseLineWidth(size * TwipsPerPoint * OutlineEm);
+  if (isThick == isThick_) return;
+  isThick_ = isThick;
+  Add(isThick ? "2 Tr " : "0 Tr ");
 }
 
 // Places are written relative to the last one: shorter, and small numbers compress well.

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -62,6 +63,7 @@ class PdfCanvas : public Canvas {
   void StartActualText(const std::u32string& text);
   void MoveTo(double x, double y);
   void UseFont(std::uint16_t font, float size);
+  void UseThickness(bool isThick, float size);
   void ForgetTextState();
 
   PdfGlyphs& glyphs_;
@@ -75,6 +77,7 @@ class PdfCanvas : public Canvas {
   int font_ = -1;
   float size_ = 0;
   double stretch_ = 1;
+  std::optional<bool> isThick_ = false;
 };
 
 }  // namespace tarvis

@@ -33,10 +33,10 @@ void DrawGlyphs(QPainter& painter, const QRawFont& face, const QList<quint32>& g
 
 // The first page shows the box of a missing character, each further one a font's glyphs.
 void DrawFonts(QPdfWriter& writer, QPainter& painter, const PdfGlyphs& glyphs, ReportFont& font) {
-  DrawGlyphs(painter, font.FaceAt(0, FontPixels), {0});
+  DrawGlyphs(painter, font.AsInItsFile(0, FontPixels), {0});
   for (const PdfFont& used : glyphs.Fonts()) {
     writer.newPage();
-    DrawGlyphs(painter, font.FaceAt(used.Face, FontPixels), DistinctGlyphs(used));
+    DrawGlyphs(painter, font.AsInItsFile(used.Face, FontPixels), DistinctGlyphs(used));
   }
 }
 

@@ -29,6 +29,14 @@ struct PdfFont {
   std::vector<std::uint32_t> Glyphs;
   std::vector<std::u32string> Texts;  // what is copied for the glyph
   std::vector<float> AdvancesEm;
+  bool IsThickened = false;  // by the content, since no bold font can be embedded
+};
+
+// A glyph of a shaped line, at its place in em from the line's left edge and below its baseline.
+struct PdfPlacedGlyph {
+  PdfGlyph Glyph;
+  float X = 0;
+  float Y = 0;
 };
 
 struct PdfCluster {
@@ -47,6 +55,8 @@ class PdfGlyphs {
 
  private:
   PdfGlyph Register(char32_t character, bool bold);
+  PdfCluster UseSharedGlyphs(const ShapedCluster& cluster);
+  FontGlyph Blank(std::uint16_t face);
   const PdfGlyph& Known(const FontGlyph& glyph, const std::u32string& text);
   PdfGlyph NewCode(const FontGlyph& glyph, const std::u32string& text);
 
@@ -55,8 +65,6 @@ class PdfGlyphs {
   std::map<std::uint16_t, std::uint16_t> fontOfFace_;  // the one that still has free codes
   std::map<std::tuple<std::uint16_t, std::uint32_t, std::u32string>, PdfGlyph> known_;
   std::array<std::array<PdfGlyph, 128>, 2> ascii_{};
-  PdfCluster UseSharedGlyphs(const ShapedCluster& cluster);
-  FontGlyph Blank(std::uint16_t face);
   std::array<std::array<bool, 128>, 2> asciiKnown_{};
   std::array<std::unordered_map<char32_t, PdfGlyph>, 2> others_;
 };

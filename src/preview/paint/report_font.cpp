@@ -38,10 +38,18 @@ bool IsInvisible(char32_t character) {
   return category == QChar::Other_Control || category == QChar::Other_Format;
 }
 
-// False for glyphs that are pictures, such as those of fonts with coloured signs: they can't be painted in
-// every size on every device. A blank has nothing to outline.
+// Whether a font has no outlines at all, as fonts of coloured signs: it says that it has TrueType outlines,
+// but not where.
+bool ConsistsOfPictures(const QRawFont& face) {
+  const QByteArray profile = face.fontTable("maxp");
+  return profile.startsWith(QByteArray("\0\1\0\0", 4)) && face.fontTable("loca").isEmpty();
+}
+
+// False for glyphs that are pictures: they can't be painted in every size on every device. A blank has
+// nothing to outline.
 bool HasOutline(const QRawFont& face, std::uint32_t glyph) {
-  return !face.pathForGlyph(glyph).isEmpty() || face.boundingRect(glyph).isEmpty();
+  if (!face.pathForGlyph(glyph).isEmpty()) return true;
+  return face.boundingRect(glyph).isEmpty() && !ConsistsOfPictures(face);
 }
 
 QRawFont AtDesignUnits(QRawFont font) {
@@ -143,6 +151,22 @@ const FontGlyph& ReportFont::Drawn(std::uint16_t face, std::uint32_t glyph) {
   drawn.Face = isBox ? std::uint16_t{0} : face;
   drawn.AdvanceEm = DesignAdvance(drawn.Face, drawn.Glyph);
   return drawn;
+}
+
+bool ReportFont::IsThickened(std::uint16_t face) {
+  const auto [place, isNew] = thickened_.try_emplace(face, false);
+  if (!isNew || faces_[face].weight() <= QFont::Normal) return place->second;
+  const QRawFont plain = QRawFont::fromFont(AtFullSize({faces_[face].familyName()}, false));
+  place->second =
+      faces_[face].weight() > plain.weight() && faces_[face].fontTable("head") == plain.fontTable("head");
+  return place->second;
+}
+
+QRawFont ReportFont::AsInItsFile(std::uint16_t face, double pixels) {
+  if (!IsThickened(face)) return FaceAt(face, pixels);
+  QRawFont plain = QRawFont::fromFont(AtFullSize({faces_[face].familyName()}, false));
+  plain.setPixelSize(pixels);
+  return plain;
 }
 
 std::uint16_t ReportFont::NumberOf(const QRawFont& font) {

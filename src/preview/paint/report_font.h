@@ -35,6 +35,10 @@ class ReportFont {
   const QRawFont& Face(std::uint16_t face) const { return faces_[face]; }
   // The same at `pixels` to the em.
   const QRawFont& FaceAt(std::uint16_t face, double pixels);
+  // Whether the toolkit thickens the glyphs of a bold face, because its family has none.
+  bool IsThickened(std::uint16_t face);
+  // A face at `pixels` to the em, not thickened.
+  QRawFont AsInItsFile(std::uint16_t face, double pixels);
   std::size_t FaceCount() const { return faces_.size(); }
 
   // For the toolkit to lay out lines, in a size in which its measures are design metrics.
@@ -56,6 +60,7 @@ class ReportFont {
   std::array<std::unordered_map<char32_t, FontGlyph>, 2> others_;
   std::map<std::pair<std::uint16_t, std::uint32_t>, FontGlyph> drawn_;
   std::map<std::pair<std::uint16_t, double>, QRawFont> sized_;
+  std::map<std::uint16_t, bool> thickened_;  // by face
 };
 
 }  // namespace tarvis
