@@ -50,6 +50,16 @@ TEST(LineHeight, KeepsIdeographsClearOfTheBordersOfATightCell) {
   }
 }
 
+// As the composer sets one line in a cell of a table: 46 twips below its top.
+TEST(LineHeight, KeepsThaiMarksInsideACellOfOneLine) {
+  constexpr double Top = 600, Cell = 283, Lowered = 46, HalfBorder = 7.5;
+  for (const char* text : {"ที่นี่น้ำ", "ปิ่น ญี่ปุ่น", "ฏู ฐี่"}) {
+    const Ink ink(*DocumentBuilder().CodePage(874).Page().Text(text, 1440, Top + Lowered).Build());
+    EXPECT_GT(ink.Top, Top + HalfBorder) << text;
+    EXPECT_LT(ink.Bottom, Top + Cell - HalfBorder) << text;
+  }
+}
+
 TEST(LineHeight, LeavesTheBaselineOfOtherScriptsWhereItIs) {
   const auto document = DocumentBuilder().Page().Text("x", 1440, 600).Build();
   const TextPiece& piece = document->Texts[0];

@@ -3,6 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <QImage>
+#include <QPainter>
+
+#include "preview/document_builder.h"
+#include "preview/paint/painter_canvas.h"
 #include "preview/paint/text_run.h"
 
 namespace tarvis {
@@ -86,6 +91,32 @@ TEST(ShapedLine, IsPaintedAsWideAsItIsMeasured) {
     }
     EXPECT_NEAR(left, 0, 0.01F) << text;
     EXPECT_NEAR(right, measured, 0.01F) << text;
+  }
+}
+
+// The ink of a line that ends at 4000 twips, painted as on the screen.
+TEST(ShapedLine, EndsWhereTheComposerPutsItsEnd) {
+  for (const char* text : {"מהירות המנוע", "سرعة المحرك", "ความเร็วที่กำหนด"}) {
+    DocumentBuilder builder;
+    builder.Page().Text(text, 0, 400, 20);
+    const float width = builder.Peek().Texts[0].Advance;
+    QImage page(1000, 200, QImage::Format_RGB32);
+    page.fill(Qt::white);
+    QPainter painter(&page);
+    painter.scale(0.2, 0.2);
+    PainterCanvas canvas(painter);
+    canvas.Text(builder.Peek().Texts[0], builder.Peek().Styles[0], {4000 - width, 400, width, 447});
+    painter.end();
+    int last = 0, first = page.width();
+    for (int x = 0; x < page.width(); ++x) {
+      for (int y = 0; y < page.height(); ++y) {
+        if (qGray(page.pixel(x, y)) > 128) continue;
+        last = std::max(last, x);
+        first = std::min(first, x);
+      }
+    }
+    EXPECT_NEAR(last * 5, 4000, 40) << text;
+    EXPECT_NEAR(first * 5, 4000 - width, 40) << text;
   }
 }
 

@@ -92,6 +92,21 @@ TEST_F(ShapedText, NeverBreaksInsideACluster) {
   EXPECT_THAT(Lines("ที่ที่ที่", Em), ElementsAre("ที่", "ที่", "ที่"));
 }
 
+TEST_F(ShapedText, BreaksThaiBetweenItsWordsWhichNoBlankParts) {
+  EXPECT_THAT(Lines("ความเร็วที่กำหนด", 5 * Em), ElementsAre("ความเร็ว", "ที่กำหนด"));
+  EXPECT_THAT(Lines("น้ำหนักที่กำหนด", 4 * Em), ElementsAre("น้ำหนัก", "ที่กำหนด"));
+}
+
+TEST_F(ShapedText, BreaksBesideBlanksAndNeverBeforeSignsThatEndASentence) {
+  EXPECT_THAT(Lines("הגבלת 300%, (Pn100)!", 5 * Em), ElementsAre("הגבלת", "300%,", "(Pn100)!"));
+  EXPECT_THAT(Lines("السرعة، الوضع.", 4 * Em), ElementsAre("السرعة،", "الوضع."));
+}
+
+TEST_F(ShapedText, NeverPartsSignsThatAreSeveralCharacters) {
+  EXPECT_THAT(Lines("👨‍👩‍👧👍🏽", 2.5F * Em), ElementsAre("👨‍👩‍👧", "👍🏽"));
+  EXPECT_THAT(Lines("שָׁלוֹם", 1.5F * Em), ElementsAre("שָׁ", "לוֹ", "ם"));
+}
+
 TEST_F(ShapedText, BreaksALongWordThatIsWiderThanItsBoxInGoodTime) {
   std::string word;
   for (int letter = 0; letter < 20'000; ++letter) word += "ש";

@@ -63,6 +63,23 @@ TEST(EngineBlanks, ARightAlignedValueWithATabEndsInItsCell) {
   EXPECT_FLOAT_EQ(line.Box.Width, 2 * Letter + Blank);
 }
 
+TEST(EngineAlignment, LinesOfBothDirectionsEndAtTheRightWhereTheLayoutSaysSo) {
+  constexpr CellStyle right{.Alignment = Align::Right, .Border = true};
+  const Document document = SetInField("ab\r\nמהירות המנוע 300\r\nقيمة\r\nที่", {100, 0, 3000, 283}, right);
+  const std::vector<Item> lines = TextsOf(document, "text");
+  ASSERT_EQ(lines.size(), 4U);
+  for (const Item& line : lines) EXPECT_FLOAT_EQ(line.Box.Right(), 3100 - 30);
+  EXPECT_EQ(document.Texts[lines[1].Source].Flow, TextFlow::RightToLeft);
+}
+
+TEST(EngineAlignment, LinesThatRunToTheLeftStayAtTheLeftWhereTheLayoutSaysNothing) {
+  constexpr CellStyle cell{.Border = true};
+  const Document document = SetInField("ab\r\nמהירות המנוע 300\r\nقيمة", {100, 0, 3000, 283}, cell);
+  const std::vector<Item> lines = TextsOf(document, "text");
+  ASSERT_EQ(lines.size(), 3U);
+  for (const Item& line : lines) EXPECT_FLOAT_EQ(line.Box.Left, 130);
+}
+
 TEST(EngineBlanks, OneLineBoxesTakeThemAsBlanksToo) {
   SampleReport report;
   report.Fixed(SectionKind::Detail, "d", 300).AddLabel("text", {0, 0, 2000, 283}, "a\nb\tc\r\nd");
