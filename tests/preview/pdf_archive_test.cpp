@@ -220,5 +220,10 @@ TEST(CompletedMap, GivesGlyphsWithoutATextTheReplacementCharacter) {
       << map;
 }
 
+TEST(CompletedMap, LosesNoTextWhereMoreGlyphsAreThereThanCounted) {
+  const std::string map = CompletedMap("1 beginbfrange\n<0000> <0002> <0041>\nendbfrange\n", 0);
+  EXPECT_NE(map.find("<0000> <0041>\n<0001> <0042>\n<0002> <0043>\n"), std::string::npos) << map;
+}
+
 }  // namespace
 }  // namespace tarvis

@@ -1,5 +1,6 @@
 // Text inside pictures is text: it is found, selected and copied, and is text in a PDF.
 #include <QClipboard>
+#include <QDir>
 #include <QLabel>
 #include <QTemporaryDir>
 
@@ -8,6 +9,7 @@
 #include "preview/pdf_file.h"
 #include "preview/text/text_search.h"
 #include "preview/window_fixture.h"
+#include "support/source_folder.h"
 
 namespace tarvis {
 namespace {
@@ -122,6 +124,39 @@ TEST_F(PictureText, ComesOutOfAPdfInTheOrderOfReadingInAllScripts) {
     const QString found = RunTool("pdftotext", {path, QStringLiteral("-")});
     EXPECT_TRUE(found.contains(QString::fromUtf16(text))) << found.toStdString();
   }
+}
+
+// In the order of their codes, without blanks.
+QString Letters(const QString& text) {
+  QString letters;
+  for (const QChar letter : text)
+    if (!letter.isSpace()) letters += letter;
+  std::sort(letters.begin(), letters.end());
+  return letters;
+}
+
+// The samples have fonts of letters as wide as each other, and of different widths.
+TEST_F(PictureText, IsCopiedFromEverySampleAsItIsInAPdf) {
+  const QDir samples(QString::fromStdString(SourceFolder()) + QStringLiteral("/tests/pictures/data"));
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("out.pdf"));
+  int withText = 0;
+  for (const QFileInfo& sample : samples.entryInfoList({QStringLiteral("*.emf"), QStringLiteral("*.wmf")})) {
+    PictureFileLoader loader;
+    DocumentBuilder builder;
+    builder.Page().Text("Graph", 1440, 1000);
+    builder.Picture(loader.Load(sample.filePath().toStdString()), {1440, 2000, 8000, 6000});
+    const auto document = builder.Build();
+    ASSERT_EQ(ExportPdf(*document, path, {}, [](int, int) { return true; }), QString());
+    const QString inPdf = RunTool("pdftotext", {QStringLiteral("-raw"), path, QStringLiteral("-")});
+    Open(document);
+    Press(Qt::Key_A, Qt::ControlModifier);
+    Press(Qt::Key_C, Qt::ControlModifier);
+    const QString copied = QApplication::clipboard()->text();
+    EXPECT_EQ(Letters(copied).toStdString(), Letters(inPdf).toStdString()) << sample.fileName().toStdString();
+    if (copied != QStringLiteral("Graph")) ++withText;
+  }
+  EXPECT_EQ(withText, 13);  // the other six hold their letters as outlines
 }
 
 }  // namespace

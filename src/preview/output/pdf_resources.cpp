@@ -1,5 +1,6 @@
 #include "preview/output/pdf_resources.h"
 
+#include <bit>
 #include <cmath>
 #include <qpdf/Buffer.hh>
 #include <set>
@@ -59,11 +60,17 @@ TakenForm TakeForm(QPDF& pdf, QPDFPageObjectHelper& page, PdfContents& contents)
   return {form, text.find(BoxOfToolkit) == text.npos};
 }
 
-// How many glyphs the toolkit has put into a font: it writes the widths of all, in one list.
+// How many glyphs the toolkit has put into a font: it writes a bit for each, the highest first.
 std::size_t GlyphCount(QPDFObjectHandle font) {
-  QPDFObjectHandle widths = font.getKey("/DescendantFonts").getArrayItem(0).getKey("/W");
-  if (!widths.isArray() || widths.getArrayNItems() != 2 || !widths.getArrayItem(1).isArray()) return 0;
-  return static_cast<std::size_t>(widths.getArrayItem(1).getArrayNItems());
+  QPDFObjectHandle descriptor = font.getKey("/DescendantFonts").getArrayItem(0).getKey("/FontDescriptor");
+  QPDFObjectHandle set = descriptor.getKey("/CIDSet");
+  if (!set.isStream()) return 0;
+  const std::shared_ptr<Buffer> bytes = set.getStreamData();
+  for (std::size_t end = bytes->getSize(); end > 0; --end) {
+    const unsigned bits = bytes->getBuffer()[end - 1];
+    if (bits != 0) return end * 8 - static_cast<std::size_t>(std::countr_zero(bits));
+  }
+  return 0;
 }
 
 // Glyphs of a font that represent no single character get a text, too: archives ask for it.

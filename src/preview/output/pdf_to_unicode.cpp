@@ -39,7 +39,8 @@ const QRegularExpression& RangePattern() {
 
 void ReadRange(const QRegularExpressionMatch& range, std::vector<std::u32string>& texts) {
   const std::size_t first = range.captured(1).toUShort(nullptr, 16);
-  const std::size_t end = std::min<std::size_t>(range.captured(2).toUShort(nullptr, 16) + 1U, texts.size());
+  const std::size_t end = range.captured(2).toUShort(nullptr, 16) + 1U;
+  if (end > texts.size()) texts.resize(end, std::u32string(1, Replacement));
   std::u32string inARow = TextOf(range.captured(3));
   const QStringList listed = range.captured(4).split(QLatin1Char('>'));
   for (std::size_t code = first; code < end; ++code) {

@@ -12,7 +12,8 @@ namespace tarvis {
 [[nodiscard]] std::string ToUnicodeMap(std::uint16_t firstCode, const std::vector<std::u32string>& texts);
 
 // The same map as the toolkit has written it for codes from 0 to `count` less one, where glyphs that have no
-// character of their own have no text. They get the replacement character.
+// character of their own have no text. They get the replacement character. No text of the map is lost,
+// whatever the count.
 [[nodiscard]] std::string CompletedMap(std::string_view map, std::size_t count);
 
 }  // namespace tarvis
