@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <ctime>
 #include <map>
 #include <string>
@@ -186,8 +187,10 @@ TEST_F(LaunchedRun, IsFailure10WithARefusedOptionsFile) {
 TEST_F(LaunchedRun, HasZerosAndNotTheDefaultsWithAnEmptyOptionsFile) {
   Folder.Write("bin/PrintOption.ToT", "");
   EXPECT_THAT(CallsOf("User help.html 7 1"), ElementsAre("dialog"));
-  EXPECT_EQ(Run.Options.UserHeader.Title, 0);
-  EXPECT_EQ(Run.Options.UserHeader.TitleText, "");
+  const HeaderOptions& header = Run.Options.UserHeader;
+  EXPECT_THAT((std::array{header.Title, header.ModelsInfo, header.PrintDate, header.FileName, header.Pages}),
+              testing::Each(0));
+  EXPECT_EQ(header.TitleText, "");
 }
 
 TEST_F(LaunchedRun, GoesOnWithTheRootFolderWithoutRegistryValues) {

@@ -35,6 +35,10 @@ TEST(Folded, MakesCaseAndWidthAlike) {
   EXPECT_EQ(Fold("Straße", false).Units, u"strasse");
 }
 
+TEST(Folded, MakesPlainLettersSmall) {
+  EXPECT_EQ(Fold("Pn100 AZaz@[", false).Units, u"pn100 azaz@[");
+}
+
 TEST(Folded, KeepsCaseWhereItMatters) {
   EXPECT_EQ(Fold("ＰＮ", true).Units, u"PN");
 }
@@ -47,6 +51,12 @@ TEST(Folded, ReturnsTheCharactersThatEachUnitComesFrom) {
   const FoldedText beyond = Fold("𠮷x", false);
   EXPECT_THAT(beyond.Firsts, ElementsAre(0, 0, 1));
   EXPECT_THAT(beyond.Ends, ElementsAre(1, 1, 2));
+}
+
+TEST(Folded, CountsAMarkAtTheBeginningAsACharacter) {
+  const FoldedText folded = Fold("\xCC\x81ﾊﾟ", false);
+  EXPECT_THAT(folded.Firsts, ElementsAre(0, 1));
+  EXPECT_THAT(folded.Ends, ElementsAre(1, 3));
 }
 
 TEST(Folded, ReturnsNoCharactersWhereEachIsOneUnit) {

@@ -46,10 +46,10 @@ TEST(EngineContents, ABandWithoutHeightTakesThePlaceOfTheNext) {
 TEST(EngineContents, ABandWithoutHeightAtTheEndTakesThePlaceThereWhateverEmptyBandFollows) {
   SampleReport report;
   report.Growing(SectionKind::Detail, "d").AddShape("a", {0, 0, 100, 300});
-  report.Growing(SectionKind::GroupFooter, "last");
+  report.Growing(SectionKind::GroupFooter, "f1");
   report.Growing(SectionKind::GroupFooter, "sum").Format = [&] { report.TOC.Add("Sum"); };
-  report.Growing(SectionKind::GroupHeader, "h1");
-  report.Growing(SectionKind::GroupHeader, "h2");
+  report.Growing(SectionKind::GroupFooter, "f3");
+  for (const char* header : {"h1", "h2", "h3"}) report.Growing(SectionKind::GroupHeader, header);
   EXPECT_THAT(Entries(ComposeSample(report, 1000)), ElementsAre("Sum 1@300"));
 }
 

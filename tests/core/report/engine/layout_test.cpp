@@ -338,6 +338,20 @@ TEST(EnginePaint, PicturesFillTheirBoxOrKeepTheirProportion) {
   EXPECT_EQ(placeOf(Fit::KeepTopRight), (Rect{100, 50, 1000, 500}));
 }
 
+TEST(EnginePaint, APictureIsInTheDocumentOnceHoweverOftenItIsShown) {
+  SampleReport report;
+  Section& detail = report.Growing(SectionKind::Detail, "d");
+  const PicturePtr logo = std::make_shared<FakePicture>(400.0F, 200.0F);
+  const PicturePtr graph = std::make_shared<FakePicture>(400.0F, 200.0F);
+  for (const PicturePtr& picture : {logo, graph, logo})
+    detail.AddImage("image", {0, 0, 100, 100}).Picture = picture;
+  const Document document = ComposeSample(report, 5000);
+  EXPECT_THAT(document.Pictures, ElementsAre(logo, graph));
+  std::vector<std::uint32_t> sources;
+  for (const Item& item : document.Items) sources.push_back(item.Source);
+  EXPECT_THAT(sources, ElementsAre(0U, 1U, 0U));
+}
+
 TEST(EnginePaint, AnEmptyImagePaintsNothingButTakesItsRoom) {
   SampleReport report;
   report.Growing(SectionKind::GroupHeader, "h").AddImage("image", {0, 0, 100, 700});

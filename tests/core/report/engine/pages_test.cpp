@@ -210,12 +210,12 @@ TEST(EnginePages, AFirstRowThatFitsAnEmptyPageOnlyBelowItsGuideLeavesTheTitleToo
 
 TEST(EnginePages, AHeaderThatFitsTheNextPageIsNotCutBelowOtherHeadersThoughItsRowIsOneFurther) {
   SampleReport report;
-  AddBlock(report.Growing(SectionKind::GroupHeader, "h1"), "first", 450);
-  AddBlock(report.Growing(SectionKind::GroupHeader, "h2"), "second", 450);
-  AddBlock(report.Growing(SectionKind::GroupHeader, "h3"), "third", 300);
+  AddBlock(report.Growing(SectionKind::GroupHeader, "h1"), "first", 400);
+  AddBlock(report.Growing(SectionKind::GroupHeader, "h2"), "second", 400);
+  report.Growing(SectionKind::GroupHeader, "h3").AddField("third", {0, 0, 1000, 380}, Plain, "a\r\nb");
   AddBlock(report.Growing(SectionKind::Detail, "d"), "row", 800);
   EXPECT_THAT(Places(ComposeSample(report, 1000)),
-              ElementsAre("1:first@0", "1:second@450", "2:third@0", "3:row@0"));
+              ElementsAre("1:first@0", "1:second@400", "2:a@0", "2:b@190", "3:row@0"));
 }
 
 TEST(EnginePages, AFirstRowThatFitsNoPageIsCutUnderTheHeaders) {

@@ -86,6 +86,11 @@ TEST(EngineBlanks, OneLineBoxesTakeThemAsBlanksToo) {
   EXPECT_THAT(LinesOf(ComposeSample(report, 1000), "text"), ElementsAre("a b c d"));
 }
 
+TEST(EngineLines, EndAfterWholeCharactersAlsoAfterThoseOfFourBytes) {
+  EXPECT_THAT(LinesOf(SetInField("𠮷𠮷", {0, 0, 10, 283}), "text"), ElementsAre("𠮷", "𠮷"));
+  EXPECT_FLOAT_EQ(TextsOf(SetInField("𠮷𠮷", {0, 0, 2000, 283}), "text")[0].Box.Width, 2 * 170);
+}
+
 TEST(EngineInset, IsThatOfTheWidestLineForAllLinesOfACell) {
   constexpr CellStyle left{.Border = true};
   constexpr CellStyle right{.Alignment = Align::Right, .Border = true};
