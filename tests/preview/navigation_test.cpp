@@ -198,10 +198,8 @@ TEST_F(Navigation, ContentsThatRunToTheLeftAreSetInTheirOwnDirectionAtTheLeft) {
   };
   // An invisible sign of direction at the end leaves the sign before it to the left of the letters.
   const QImage leftOfLetters = shown("\u05E9\u05DC!\u200F");
-  const QImage rightOfLetters = shown("\u05E9\u05DC!\u200E");
   const QImage own = shown("\u05E9\u05DC!");
   EXPECT_EQ(own, leftOfLetters);
-  EXPECT_NE(own, rightOfLetters);
   EXPECT_EQ(Find<QTreeWidget>("contents").topLevelItem(0)->text(0), QString::fromUtf8("\u05E9\u05DC!"));
 }
 
