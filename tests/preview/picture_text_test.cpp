@@ -128,6 +128,16 @@ TEST_F(PictureText, ComesOutOfAPdfInTheOrderOfReadingIfItRunsToTheLeft) {
   }
 }
 
+TEST_F(PictureText, IsTextInAPdfAlsoWhereTheNamedFontDoesNotHaveIt) {
+  for (const char16_t* text : {u"\u0E04\u0E27\u0E32\u0E21", u"\u30B2\u30A4\u30F3"}) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("out.pdf"));
+    ASSERT_EQ(ExportPdf(*GraphWith(text), path, {}, [](int, int) { return true; }), QString());
+    const QString found = RunTool("pdftotext", {path, QStringLiteral("-")}).remove(QLatin1Char(' '));
+    EXPECT_TRUE(found.contains(QString::fromUtf16(text))) << found.toStdString();
+  }
+}
+
 // In the order of their codes, without blanks.
 QString Letters(const QString& text) {
   QString letters;

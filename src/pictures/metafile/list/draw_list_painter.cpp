@@ -188,8 +188,9 @@ bool DrawListPainter::Text(const ListText& text) {
   const QTransform paperToFont = fontToPaper.inverted();
   const QPointF start = toTarget_.map(text.Origins[0]);
   const PlaceInFont place = [&](QPointF point) { return paperToFont.map(toTarget_.map(point) - start); };
-  const std::vector<QGlyphRun> runs =
-      text.Flow == TextFlow::Plain ? PlainRuns(text, place) : ShapedRuns(text, place);
+  std::vector<QGlyphRun> runs;
+  if (text.Flow == TextFlow::Plain) runs = PlainRuns(text, place);
+  if (runs.empty()) runs = ShapedRuns(text, place);  // which also finds other fonts for characters
   if (runs.empty()) return false;
   painter_.save();
   painter_.setTransform(fontToPaper * QTransform::fromTranslate(start.x(), start.y()), true);
@@ -199,7 +200,7 @@ bool DrawListPainter::Text(const ListText& text) {
   return true;
 }
 
-// None if the font doesn't have one of the characters.
+// None if the named font doesn't have one of the characters.
 std::vector<QGlyphRun> DrawListPainter::PlainRuns(const ListText& text, const PlaceInFont& place) {
   const auto known = fonts_.find(text.Font);
   const QRawFont& font =
