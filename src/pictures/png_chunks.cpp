@@ -1,7 +1,6 @@
 #include "pictures/png_chunks.h"
 
 #include <algorithm>
-#include <cstring>
 #include <string_view>
 
 namespace tarvis {

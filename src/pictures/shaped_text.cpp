@@ -4,6 +4,7 @@
 #include <QTextBoundaryFinder>
 #include <QTextLayout>
 #include <algorithm>
+#include <utility>
 
 namespace tarvis {
 namespace {
@@ -32,36 +33,36 @@ class Layout {
   }
 
   const QString& Text() const { return text_; }
-  float Advance() const { return static_cast<float>(InEm(line_.naturalTextWidth())); }
+  float Advance() const { return InEm(line_.naturalTextWidth()); }
   // The glyphs of a part of the text; `runsToTheLeft` stays as it is where there are none.
-  std::vector<TextGlyph> Glyphs(int from, int end, std::vector<QRawFont>& fonts, bool& runsToTheLeft) const;
+  std::vector<TextGlyph> Glyphs(int from, int end, std::vector<QRawFont>& faces, bool& runsToTheLeft) const;
 
  private:
-  double InEm(double pixels) const { return pixels / layout_.font().pixelSize(); }
+  float InEm(double pixels) const { return static_cast<float>(pixels / layout_.font().pixelSize()); }
 
   QString text_;
   QTextLayout layout_;
   QTextLine line_;
 };
 
-std::size_t NumberOf(const QRawFont& font, std::vector<QRawFont>& fonts) {
-  const auto known = std::ranges::find(fonts, font);
-  if (known != fonts.end()) return static_cast<std::size_t>(known - fonts.begin());
-  fonts.push_back(font);
-  return fonts.size() - 1;
+std::uint16_t NumberOf(const QRawFont& face, std::vector<QRawFont>& faces) {
+  const auto known = std::ranges::find(faces, face);
+  const auto number = static_cast<std::uint16_t>(known - faces.begin());
+  if (known == faces.end()) faces.push_back(face);
+  return number;
 }
 
-std::vector<TextGlyph> Layout::Glyphs(int from, int end, std::vector<QRawFont>& fonts,
+std::vector<TextGlyph> Layout::Glyphs(int from, int end, std::vector<QRawFont>& faces,
                                       bool& runsToTheLeft) const {
   std::vector<TextGlyph> glyphs;
   const double baseline = line_.y() + line_.ascent();
   for (const QGlyphRun& run : line_.glyphRuns(from, end - from)) {
     const QList<quint32> numbers = run.glyphIndexes();
     const QList<QPointF> places = run.positions();
-    const std::size_t font = NumberOf(run.rawFont(), fonts);
+    const std::uint16_t face = NumberOf(run.rawFont(), faces);
     runsToTheLeft = run.isRightToLeft();
     for (qsizetype index = 0; index < numbers.size(); ++index)
-      glyphs.push_back({font, numbers[index], InEm(places[index].x()), InEm(places[index].y() - baseline)});
+      glyphs.push_back({face, numbers[index], InEm(places[index].x()), InEm(places[index].y() - baseline)});
   }
   return glyphs;
 }
@@ -70,7 +71,7 @@ bool IsSameSign(const std::vector<TextGlyph>& one, const std::vector<TextGlyph>&
   if (one.empty() || other.empty()) return false;
   const TextGlyph& a = one.back();
   const TextGlyph& b = other.back();
-  return a.Font == b.Font && a.Number == b.Number && a.X == b.X && a.Y == b.Y;
+  return a.Face == b.Face && a.Glyph == b.Glyph && a.X == b.X && a.Y == b.Y;
 }
 
 // In the order of the text. What shows nothing has the place of what comes before it.
@@ -84,12 +85,12 @@ void AddClusters(const Layout& layout, ShapedText& shaped) {
     const auto end = static_cast<int>(finder.position());
     const QList<uint> codes = QStringView(layout.Text()).mid(from, end - from).toUcs4();
     const std::u32string text(codes.begin(), codes.end());
-    std::vector<TextGlyph> glyphs = layout.Glyphs(from, end, shaped.Fonts, runsToTheLeft);
-    if (!glyphs.empty()) left = static_cast<float>(glyphs.front().X);
+    std::vector<TextGlyph> glyphs = layout.Glyphs(from, end, shaped.Faces, runsToTheLeft);
+    if (!glyphs.empty()) left = glyphs.front().X;
     if (!clusters.empty() && IsSameSign(clusters.back().Glyphs, glyphs)) {
       clusters.back().Text += text;
     } else {
-      clusters.push_back({text, runsToTheLeft, std::move(glyphs), left, shaped.CharacterCount, {}});
+      clusters.push_back({text, runsToTheLeft, std::move(glyphs), left, left, shaped.CharacterCount, {}});
     }
     clusters.back().Sizes.push_back(text.size());
     shaped.CharacterCount += text.size();
@@ -105,6 +106,9 @@ ShapedText ShapeText(const QString& text, TextFlow flow, const QFont& font) {
   shaped.Advance = layout.Advance();
   AddClusters(layout, shaped);
   std::ranges::stable_sort(shaped.Clusters, {}, &TextCluster::Left);
+  float right = shaped.Advance;
+  for (auto cluster = shaped.Clusters.rbegin(); cluster != shaped.Clusters.rend(); ++cluster)
+    cluster->Right = std::exchange(right, cluster->Left);
   return shaped;
 }
 

@@ -16,10 +16,10 @@ namespace tarvis {
 
 // Its place is that of its origin: from the left edge of the line, and below the baseline.
 struct TextGlyph {
-  std::size_t Font = 0;  // index of ShapedText::Fonts
-  std::uint32_t Number = 0;
-  double X = 0;
-  double Y = 0;
+  std::uint16_t Face = 0;  // index of the faces of whoever keeps the line, such as ShapedText::Faces
+  std::uint32_t Glyph = 0;
+  float X = 0;
+  float Y = 0;
 };
 
 // Characters that share their glyphs: a letter with its marks, or letters that are one sign.
@@ -27,7 +27,8 @@ struct TextCluster {
   std::u32string Text;
   bool RunsToTheLeft = false;
   std::vector<TextGlyph> Glyphs;
-  float Left = 0;  // from the left edge of the line
+  float Left = 0;  // both from the left edge of the line
+  float Right = 0;
   std::size_t FirstCharacter = 0;
   std::vector<std::size_t> Sizes;  // in characters, of its parts that are selected by themselves
 };
@@ -41,7 +42,7 @@ struct CharacterPlace {
 
 struct ShapedText {
   std::vector<TextCluster> Clusters;  // from left to right
-  std::vector<QRawFont> Fonts;
+  std::vector<QRawFont> Faces;
   float Advance = 0;
   std::size_t CharacterCount = 0;
 };

@@ -72,10 +72,7 @@ class ToolkitReader {
   QImageReader reader_;
 };
 
-}  // namespace
-
-std::size_t ToolkitImageSize(Bytes bytes) {
-  ToolkitReader reader(bytes);
+std::size_t DecodedSize(ToolkitReader& reader) {
   const QSize size = reader->size();
   if (!size.isValid()) return 0;
   if (size.width() > LargestSide || size.height() > LargestSide) throw TooCostly("it is too large");
@@ -86,11 +83,18 @@ std::size_t ToolkitImageSize(Bytes bytes) {
   return taken;
 }
 
+}  // namespace
+
+std::size_t ToolkitImageSize(Bytes bytes) {
+  ToolkitReader reader(bytes);
+  return DecodedSize(reader);
+}
+
 QImage ReadToolkitImage(Bytes bytes) {
   if (IsCutJpeg(bytes)) throw OutOfBytes();
   if (HasTooManyScans(bytes)) throw TooCostly("it holds a JPEG of too many scans");
-  ToolkitImageSize(bytes);
   ToolkitReader reader(bytes);
+  DecodedSize(reader);
   QImage image = reader->read();
   if (image.isNull()) throw BadDib(reader->errorString().toStdString());
   return image;

@@ -11,10 +11,10 @@
 namespace tarvis {
 namespace {
 
-// The empty one is the data file itself; the others are those of the data sets that are printed after it.
+// The empty one is that of the data file itself; those of the data sets that are printed follow.
 std::vector<std::string> Suffixes(const PrintRun& run, const PrintFunction& function) {
   std::vector<std::string> suffixes{{}};
-  const int sets = CountMasterRows(run, &function) - (run.Options.Cover == 1 ? 2 : 1);
+  const int sets = CountPrintedSets(run, function);
   for (int set = 1; set <= sets; ++set) suffixes.push_back(std::to_string(set));
   return suffixes;
 }
@@ -38,7 +38,7 @@ DataFiles::DataFiles(const PrintRun& run, FunctionTable functions) {
   const PrintFunction* const function = FindFunction(functions, run.Session.Mode);
   if (function == nullptr) return;
   for (const std::string& suffix : Suffixes(run, *function)) {
-    const std::string name = std::string(function->File) + suffix + ".tmp";
+    const std::string name = DataFileName(*function, suffix);
     const std::filesystem::path path = NativePath(run.Session.TempFolder + name);
     files_.push_back({name, path, StateOf(path)});
   }

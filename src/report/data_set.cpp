@@ -13,7 +13,7 @@ namespace {
 constexpr const char* FirstSuffix = "1";
 
 void ReadDataFile(PrintRun& run, const PrintFunction& function, const std::string& suffix) {
-  const std::string path = run.Session.TempFolder + std::string(function.File) + suffix + ".tmp";
+  const std::string path = run.Session.TempFolder + DataFileName(function, suffix);
   if (LoadLines(run, path) < 0 || !function.Read(run)) ReportFailure(run, function.WrongFile);
 }
 
@@ -37,15 +37,22 @@ void NameOverlappedSet(PrintRun& run, const PrintFunction& function, const std::
 
 }  // namespace
 
+std::string DataFileName(const PrintFunction& function, const std::string& suffix) {
+  return std::string(function.File) + suffix + ".tmp";
+}
+
+int CountPrintedSets(const PrintRun& run, const PrintFunction& function) {
+  const bool overlaps = function.Overlap != nullptr && run.Session.OverlapMode == 1;
+  return overlaps && function.Overlap->PrintsDetail(run.Options) ? run.Session.OverlapNum : 0;
+}
+
 std::int16_t CountMasterRows(const PrintRun& run, const PrintFunction* function) {
-  const PrintSession& session = run.Session;
-  const bool overlaps = function != nullptr && function->Overlap != nullptr && session.OverlapMode == 1;
-  const int sets = overlaps && function->Overlap->PrintsDetail(run.Options) ? session.OverlapNum : 0;
+  const int sets = function == nullptr ? 0 : CountPrintedSets(run, *function);
   const int rows = (run.Options.Cover == 1 ? 2 : 1) + sets;
   // A negative number would leave no row, not even that of the overlapping result.
   if (sets < 0 || rows > std::numeric_limits<std::int16_t>::max()) {
     FailurePlace place = PlaceOf(run, "OverlapNum");
-    place.Text = std::to_string(session.OverlapNum);
+    place.Text = std::to_string(run.Session.OverlapNum);
     throw RunTimeFailure("number out of range", place);
   }
   return static_cast<std::int16_t>(rows);

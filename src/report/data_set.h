@@ -12,6 +12,13 @@ namespace tarvis {
 // each other.
 enum class DataSetKind { Data, OverlapResult };
 
+// The file of a data set in the temporary folder. `suffix` is empty or the number of an overlapped data set.
+[[nodiscard]] std::string DataFileName(const PrintFunction& function, const std::string& suffix);
+
+// How many overlapped data sets are printed one by one, from number 1 on, as the data file that was loaded
+// last has it; not checked.
+[[nodiscard]] int CountPrintedSets(const PrintRun& run, const PrintFunction& function);
+
 // How many rows the master report has: the cover letter, the data set, and each of the overlapped data sets
 // if their details are printed. A number that 16 bits can't hold throws RunTimeFailure; the data file without
 // a suffix must be the one that was loaded last.

@@ -1,21 +1,17 @@
 #include "text/encodable_form.h"
 
-#include <unicode/normalizer2.h>
 #include <unicode/unistr.h>
 #include <unicode/utf16.h>
 
 #include <optional>
 
-#include "text/run_time_failure.h"
+#include "text/normalizer.h"
 
 namespace tarvis {
 namespace {
 
 const icu::Normalizer2& Composition() {
-  UErrorCode error = U_ZERO_ERROR;
-  const icu::Normalizer2* form = icu::Normalizer2::getNFCInstance(error);
-  if (U_FAILURE(error)) throw RunTimeFailure("no rules for the normal forms of text");
-  return *form;
+  return NormalizerOf(icu::Normalizer2::getNFCInstance);
 }
 
 UChar32 First(std::u16string_view text) {

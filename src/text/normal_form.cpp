@@ -1,26 +1,18 @@
 #include "text/normal_form.h"
 
 #include <unicode/bytestream.h>
-#include <unicode/normalizer2.h>
 #include <unicode/unistr.h>
 
 #include <algorithm>
 
 #include "text/code_page.h"
-#include "text/run_time_failure.h"
+#include "text/normalizer.h"
 
 namespace tarvis {
 namespace {
 
 // All characters below U+0300 are composed.
 constexpr unsigned char FirstByteAbove = 0xCC;
-
-const icu::Normalizer2& Form(const icu::Normalizer2* (*instance)(UErrorCode&)) {
-  UErrorCode error = U_ZERO_ERROR;
-  const icu::Normalizer2* form = instance(error);
-  if (U_FAILURE(error)) throw RunTimeFailure("no rules for the normal forms of text");
-  return *form;
-}
 
 icu::UnicodeString InForm(const icu::Normalizer2& form, const icu::UnicodeString& text) {
   UErrorCode error = U_ZERO_ERROR;
@@ -64,7 +56,7 @@ std::u16string AsciiUnits(std::string_view text, bool withCase) {
 std::optional<std::string> ToComposed(std::string_view text) {
   const auto isHigh = [](char byte) { return static_cast<unsigned char>(byte) >= FirstByteAbove; };
   if (std::ranges::none_of(text, isHigh)) return {};
-  const icu::Normalizer2& form = Form(icu::Normalizer2::getNFCInstance);
+  const icu::Normalizer2& form = NormalizerOf(icu::Normalizer2::getNFCInstance);
   const icu::StringPiece piece(text.data(), static_cast<std::int32_t>(text.size()));
   UErrorCode error = U_ZERO_ERROR;
   if (form.isNormalizedUTF8(piece, error) != 0 || U_FAILURE(error)) return {};
@@ -77,7 +69,7 @@ std::optional<std::string> ToComposed(std::string_view text) {
 FoldedText Fold(std::string_view text, bool withCase) {
   if (IsAscii(text)) return {AsciiUnits(text, withCase), {}, {}};
   const icu::Normalizer2& form =
-      Form(withCase ? icu::Normalizer2::getNFKCInstance : icu::Normalizer2::getNFKCCasefoldInstance);
+      NormalizerOf(withCase ? icu::Normalizer2::getNFKCInstance : icu::Normalizer2::getNFKCCasefoldInstance);
   const auto units = icu::UnicodeString::fromUTF8({text.data(), static_cast<std::int32_t>(text.size())});
   UErrorCode error = U_ZERO_ERROR;
   FoldedText folded;

@@ -19,7 +19,7 @@ ShapedLine Shape(std::string_view line) {
 
 std::u32string FromLeft(const ShapedLine& line) {
   std::u32string text;
-  for (const ShapedCluster& cluster : line.Clusters) text += cluster.Text;
+  for (const TextCluster& cluster : line.Clusters) text += cluster.Text;
   return text;
 }
 
@@ -69,7 +69,7 @@ TEST(ShapedLine, ThaiToneMarksDoNotCollideWithVowels) {
   const auto& glyphs = line.Clusters[0].Glyphs;
   ASSERT_EQ(glyphs.size(), 3U);
   ReportFont& font = ReportFont::OfThisThread();
-  const auto box = [&](const ShapedGlyph& glyph) {
+  const auto box = [&](const TextGlyph& glyph) {
     const QRawFont& face = font.Face(glyph.Face);
     return face.boundingRect(glyph.Glyph)
         .translated(static_cast<double>(glyph.X) * face.unitsPerEm(),

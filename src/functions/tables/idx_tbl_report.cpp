@@ -63,9 +63,9 @@ void IdxTblReport::AddColumns() {
   CellStyle style = ValueCell;
   style.Size = layout_.ValueSize;
   for (const IdxColumn& column : layout_.Columns) {
-    ghGuide.AddField(column.TitleControl, {column.Left, 15, column.Width, CellHeight}, NineBold,
-                     column.Title);
-    values_.push_back(&Detail.AddField(column.ValueControl, {column.Left, 0, column.Width, CellHeight},
+    const NamedColumn& cell = column.Cell;
+    ghGuide.AddField(cell.TitleControl, {cell.Left, 15, cell.Width, CellHeight}, NineBold, cell.Title);
+    values_.push_back(&Detail.AddField(cell.ValueControl, {cell.Left, 0, cell.Width, CellHeight},
                                        values_.empty() ? NineBold : style));
   }
 }

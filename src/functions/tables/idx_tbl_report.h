@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "report/function_report.h"
+#include "report/named_column.h"
 #include "run/table_data.h"
 
 namespace tarvis {
@@ -26,12 +27,8 @@ struct IdxUnitLine {
 
 // One column: title, value, and the text of the step that it shows.
 struct IdxColumn {
-  const char* TitleControl;
-  const char* Title;
-  const char* ValueControl;
+  NamedColumn Cell;
   TextOfStep Text;
-  float Left;
-  float Width;
 };
 
 struct IdxLayout {

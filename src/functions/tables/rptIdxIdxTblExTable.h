@@ -22,17 +22,17 @@ class rptIdxIdxTblExTable : public IdxTblReport {
   }};
   // The value control of ACC is spelled with a small v.
   static constexpr std::array<IdxColumn, 11> Columns{{
-      {"Field1", "STEP", "txtIdNum", &IdxRow::Step, 20, 480},
-      {"Field2", "POS", "txtPOSVal", &IdxRow::Pos, 500, 1100},
-      {"Field3", "SPD", "txtSPDVal", &IdxRow::Spd, 1600, 935},
-      {"Field4", "RDST", "txtRDSTVal", &IdxRow::Rdst, 2535, 935},
-      {"Field5", "RSPD", "txtRSPDVal", &IdxRow::Rspd, 3470, 935},
-      {"Field10", "ACC", "txtACCval", &IdxRow::Acc, 4405, 935},
-      {"Field11", "DEC", "txtDECVal", &IdxRow::Dec, 5340, 935},
-      {"Field6", "POUT", "txtPOUTVal", &IdxRow::Pout, 6275, 567},
-      {"Field7", "EVENT", "txtEVENTVal", &IdxRow::Event, 6842, 992},
-      {"Field8", "LOOP", "txtLOOPVal", &IdxRow::Loop, 7834, 567},
-      {"Field9", "NEXT", "txtNEXTVal", &IdxRow::Next, 8401, 567},
+      {{"Field1", "STEP", "txtIdNum", 20, 480}, &IdxRow::Step},
+      {{"Field2", "POS", "txtPOSVal", 500, 1100}, &IdxRow::Pos},
+      {{"Field3", "SPD", "txtSPDVal", 1600, 935}, &IdxRow::Spd},
+      {{"Field4", "RDST", "txtRDSTVal", 2535, 935}, &IdxRow::Rdst},
+      {{"Field5", "RSPD", "txtRSPDVal", 3470, 935}, &IdxRow::Rspd},
+      {{"Field10", "ACC", "txtACCval", 4405, 935}, &IdxRow::Acc},
+      {{"Field11", "DEC", "txtDECVal", 5340, 935}, &IdxRow::Dec},
+      {{"Field6", "POUT", "txtPOUTVal", 6275, 567}, &IdxRow::Pout},
+      {{"Field7", "EVENT", "txtEVENTVal", 6842, 992}, &IdxRow::Event},
+      {{"Field8", "LOOP", "txtLOOPVal", 7834, 567}, &IdxRow::Loop},
+      {{"Field9", "NEXT", "txtNEXTVal", 8401, 567}, &IdxRow::Next},
   }};
   static constexpr IdxLayout Layout{2385, 300, 900, 6002, 8.5F, Units, Columns};
 };

@@ -19,15 +19,15 @@ class rptIdxIdxTblTable : public IdxTblReport {
       {"LblRSPD", "RSPD", "txtRspdUnit", &IdxTblData::Rspd_Unit, 1701, 283},
   }};
   static constexpr std::array<IdxColumn, 9> Columns{{
-      {"Field1", "STEP", "txtIdNum", &IdxRow::Step, 20, 547},
-      {"Field2", "POS", "txtPOSVal", &IdxRow::Pos, 567, 1559},
-      {"Field3", "SPD", "txtSPDVal", &IdxRow::Spd, 2126, 1276},
-      {"Field4", "RDST", "txtRDSTVal", &IdxRow::Rdst, 3402, 1275},
-      {"Field5", "RSPD", "txtRSPDVal", &IdxRow::Rspd, 4677, 1276},
-      {"Field6", "POUT", "txtPOUTVal", &IdxRow::Pout, 5953, 708},
-      {"Field7", "EVENT", "txtEVENTVal", &IdxRow::Event, 6661, 1134},
-      {"Field8", "LOOP", "txtLOOPVal", &IdxRow::Loop, 7795, 567},
-      {"Field9", "NEXT", "txtNEXTVal", &IdxRow::Next, 8362, 567},
+      {{"Field1", "STEP", "txtIdNum", 20, 547}, &IdxRow::Step},
+      {{"Field2", "POS", "txtPOSVal", 567, 1559}, &IdxRow::Pos},
+      {{"Field3", "SPD", "txtSPDVal", 2126, 1276}, &IdxRow::Spd},
+      {{"Field4", "RDST", "txtRDSTVal", 3402, 1275}, &IdxRow::Rdst},
+      {{"Field5", "RSPD", "txtRSPDVal", 4677, 1276}, &IdxRow::Rspd},
+      {{"Field6", "POUT", "txtPOUTVal", 5953, 708}, &IdxRow::Pout},
+      {{"Field7", "EVENT", "txtEVENTVal", 6661, 1134}, &IdxRow::Event},
+      {{"Field8", "LOOP", "txtLOOPVal", 7795, 567}, &IdxRow::Loop},
+      {{"Field9", "NEXT", "txtNEXTVal", 8362, 567}, &IdxRow::Next},
   }};
   static constexpr IdxLayout Layout{2025, 285, 567, 5669, 9, Units, Columns};
 };

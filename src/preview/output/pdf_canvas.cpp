@@ -139,15 +139,15 @@ void PdfCanvas::ShowPlain(const TextPiece& piece, const TextStyle& style, double
 // as they come.
 void PdfCanvas::ShowShaped(const TextPiece& piece, const TextStyle& style, double x, double y,
                            double stretch) {
-  const std::vector<ShapedCluster>& clusters =
+  const std::vector<TextCluster>& clusters =
       KnownLine(piece.Text, style.Bold, piece.Flow, glyphs_.Font()).Clusters;
-  std::vector<const ShapedCluster*> inOrder;
-  for (const ShapedCluster& cluster : clusters) inOrder.push_back(&cluster);
-  std::ranges::sort(inOrder, {}, &ShapedCluster::FirstCharacter);
-  for (const ShapedCluster* cluster : inOrder) ShowCluster(*cluster, style, x, y, stretch);
+  std::vector<const TextCluster*> inOrder;
+  for (const TextCluster& cluster : clusters) inOrder.push_back(&cluster);
+  std::ranges::sort(inOrder, {}, &TextCluster::FirstCharacter);
+  for (const TextCluster* cluster : inOrder) ShowCluster(*cluster, style, x, y, stretch);
 }
 
-void PdfCanvas::ShowCluster(const ShapedCluster& cluster, const TextStyle& style, double x, double y,
+void PdfCanvas::ShowCluster(const TextCluster& cluster, const TextStyle& style, double x, double y,
                             double stretch) {
   const double em = style.Size * TwipsPerPoint;
   const PdfCluster used = glyphs_.Use(cluster);

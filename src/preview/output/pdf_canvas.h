@@ -59,7 +59,7 @@ class PdfCanvas : public Canvas {
   void ShowText(const TextPiece& piece, const TextStyle& style, double x, double y, double stretch);
   void ShowPlain(const TextPiece& piece, const TextStyle& style, double x, double y, double stretch);
   void ShowShaped(const TextPiece& piece, const TextStyle& style, double x, double y, double stretch);
-  void ShowCluster(const ShapedCluster& cluster, const TextStyle& style, double x, double y, double stretch);
+  void ShowCluster(const TextCluster& cluster, const TextStyle& style, double x, double y, double stretch);
   void StartActualText(const std::u32string& text);
   void MoveTo(double x, double y);
   void UseFont(std::uint16_t font, float size);

@@ -60,7 +60,7 @@ FontGlyph PdfGlyphs::Blank(std::uint16_t face) {
 // Tools that take text out of a PDF disagree on the order of several characters of one glyph where the line
 // runs to the left. So each character has a glyph of its own there: the first ones are blanks in their parts
 // of the sign.
-PdfCluster PdfGlyphs::UseSharedGlyphs(const ShapedCluster& cluster) {
+PdfCluster PdfGlyphs::UseSharedGlyphs(const TextCluster& cluster) {
   const std::size_t count = cluster.Text.size();
   const std::size_t blanks = count - cluster.Glyphs.size();
   const float part = (cluster.Right - cluster.Left) / static_cast<float>(count);
@@ -71,27 +71,27 @@ PdfCluster PdfGlyphs::UseSharedGlyphs(const ShapedCluster& cluster) {
       const float left = cluster.Left + part * static_cast<float>(count - 1 - index);
       used.Glyphs.push_back({Known(Blank(cluster.Glyphs.front().Face), text), left, 0});
     } else {
-      const ShapedGlyph& glyph = cluster.Glyphs[index - blanks];
+      const TextGlyph& glyph = cluster.Glyphs[index - blanks];
       used.Glyphs.push_back({Known(font_.Drawn(glyph.Face, glyph.Glyph), text), glyph.X, glyph.Y});
     }
   }
   return used;
 }
 
-PdfCluster PdfGlyphs::Use(const ShapedCluster& cluster) {
+PdfCluster PdfGlyphs::Use(const TextCluster& cluster) {
   if (cluster.RunsToTheLeft && !cluster.Glyphs.empty() && cluster.Glyphs.size() < cluster.Text.size())
     return UseSharedGlyphs(cluster);
   const std::vector<std::u32string> texts = TextsOfGlyphs(cluster.Text, cluster.Glyphs.size());
   PdfCluster used;
   std::u32string all;
   for (std::size_t index = 0; index < texts.size(); ++index) {
-    const ShapedGlyph& glyph = cluster.Glyphs[index];
+    const TextGlyph& glyph = cluster.Glyphs[index];
     used.Glyphs.push_back({Known(font_.Drawn(glyph.Face, glyph.Glyph), texts[index]), glyph.X, glyph.Y});
     all += texts[index];
   }
   // Some tools take a mark at another height for another line, and one beyond its letter for one of the next.
   constexpr float Rounding = 0.001F;
-  const auto isBeyond = [&](const ShapedGlyph& glyph) {
+  const auto isBeyond = [&](const TextGlyph& glyph) {
     return glyph.Y != 0 || glyph.X > cluster.Right + Rounding;
   };
   const bool hasMarksBeyond = !cluster.RunsToTheLeft && std::ranges::any_of(cluster.Glyphs, isBeyond);

@@ -49,13 +49,13 @@ class PdfGlyphs {
   explicit PdfGlyphs(ReportFont& font) : font_(font) {}
 
   const PdfGlyph& Use(char32_t character, bool bold);
-  PdfCluster Use(const ShapedCluster& cluster);
+  PdfCluster Use(const TextCluster& cluster);
   const std::vector<PdfFont>& Fonts() const { return fonts_; }
   ReportFont& Font() { return font_; }
 
  private:
   PdfGlyph Register(char32_t character, bool bold);
-  PdfCluster UseSharedGlyphs(const ShapedCluster& cluster);
+  PdfCluster UseSharedGlyphs(const TextCluster& cluster);
   FontGlyph Blank(std::uint16_t face);
   const PdfGlyph& Known(const FontGlyph& glyph, const std::u32string& text);
   PdfGlyph NewCode(const FontGlyph& glyph, const std::u32string& text);

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <qpdf/Buffer.hh>
 #include <set>
+#include <utility>
 
 #include "pictures/paintable_picture.h"
 #include "preview/output/pdf_fonts.h"
@@ -49,14 +50,14 @@ struct TakenForm {
 TakenForm TakeForm(QPDF& pdf, QPDFPageObjectHelper& page, PdfContents& contents) {
   QPDFObjectHandle content = page.getObjectHandle().getKey("/Contents");
   const std::string text = TextOf(content);
-  const std::optional<std::string> rounded = RoundedContent(text);
+  std::optional<std::string> rounded = RoundedContent(text);
   QPDFObjectHandle form = rounded ? pdf.newStream() : pdf.copyForeignObject(content);
   QPDFObjectHandle dictionary = form.getDict();
   dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/XObject"));
   dictionary.replaceKey("/Subtype", QPDFObjectHandle::newName("/Form"));
   dictionary.replaceKey("/BBox", page.getMediaBox().shallowCopy());
   dictionary.replaceKey("/Resources", pdf.copyForeignObject(page.getAttribute("/Resources", false)));
-  if (rounded) contents.Add(form, *rounded);
+  if (rounded) contents.Add(form, std::move(*rounded));
   return {form, text.find(BoxOfToolkit) == text.npos};
 }
 

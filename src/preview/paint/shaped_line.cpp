@@ -2,7 +2,10 @@
 
 #include <algorithm>
 #include <map>
+#include <optional>
+#include <string>
 #include <tuple>
+#include <utility>
 
 namespace tarvis {
 namespace {
@@ -23,42 +26,35 @@ QFont FontFor(qsizetype length, bool bold, const ReportFont& font) {
   return sized;
 }
 
-// The face of each font that a line was shaped in; none where the toolkit drew boxes of its own, which belong
-// to no file of a font.
-std::vector<int> FacesOf(const std::vector<QRawFont>& fonts, ReportFont& font) {
-  std::vector<int> faces;
-  for (const QRawFont& used : fonts) {
-    const bool hasFace = !used.fontTable("head").isEmpty();
-    faces.push_back(hasFace ? font.NumberOf(used) : -1);
+// The number of each face that a line was shaped in; none where the toolkit drew boxes of its own, which
+// belong to no file of a font.
+std::vector<std::optional<std::uint16_t>> NumbersOf(const std::vector<QRawFont>& faces, ReportFont& font) {
+  std::vector<std::optional<std::uint16_t>> numbers;
+  for (const QRawFont& face : faces) {
+    const bool hasFile = !face.fontTable("head").isEmpty();
+    numbers.push_back(hasFile ? std::optional(font.NumberOf(face)) : std::nullopt);
   }
-  return faces;
+  return numbers;
 }
 
-ShapedGlyph Drawn(const TextGlyph& glyph, int face, ReportFont& font) {
-  const FontGlyph drawn =
-      face < 0 ? font.Drawn(0, 0) : font.Drawn(static_cast<std::uint16_t>(face), glyph.Number);
-  return {drawn.Face, drawn.Glyph, static_cast<float>(glyph.X), static_cast<float>(glyph.Y)};
+void UseDrawn(TextGlyph& glyph, std::optional<std::uint16_t> face, ReportFont& font) {
+  const FontGlyph drawn = face ? font.Drawn(*face, glyph.Glyph) : font.Drawn(0, 0);
+  glyph.Face = drawn.Face;
+  glyph.Glyph = drawn.Glyph;
 }
 
 }  // namespace
 
 ShapedLine ShapeLine(std::string_view line, bool bold, TextFlow flow, ReportFont& font) {
   const QString units = UnitsOf(line);
-  const ShapedText text = ShapeText(units, flow, FontFor(units.size(), bold, font));
-  const std::vector<int> faces = FacesOf(text.Fonts, font);
-  ShapedLine shaped;
-  shaped.Advance = text.Advance;
-  shaped.Characters.resize(text.CharacterCount);
-  for (std::size_t index = 0; index < text.Clusters.size(); ++index) {
-    const TextCluster& cluster = text.Clusters[index];
-    const float right = index + 1 < text.Clusters.size() ? text.Clusters[index + 1].Left : text.Advance;
-    PlaceCharacters(cluster, cluster.Left, right, shaped.Characters);
-    shaped.Clusters.push_back(
-        {cluster.Text, cluster.RunsToTheLeft, {}, cluster.Left, right, cluster.FirstCharacter});
-    for (const TextGlyph& glyph : cluster.Glyphs)
-      shaped.Clusters.back().Glyphs.push_back(Drawn(glyph, faces[glyph.Font], font));
+  ShapedText text = ShapeText(units, flow, FontFor(units.size(), bold, font));
+  const auto faces = NumbersOf(text.Faces, font);
+  std::vector<CharacterPlace> characters(text.CharacterCount);
+  for (TextCluster& cluster : text.Clusters) {
+    PlaceCharacters(cluster, cluster.Left, cluster.Right, characters);
+    for (TextGlyph& glyph : cluster.Glyphs) UseDrawn(glyph, faces[glyph.Face], font);
   }
-  return shaped;
+  return {std::move(text.Clusters), std::move(characters), text.Advance};
 }
 
 const ShapedLine& KnownLine(std::string_view line, bool bold, TextFlow flow, ReportFont& font) {

@@ -47,8 +47,8 @@ std::vector<TextRun> MakeRuns(const TextPiece& piece, const TextStyle& style, Re
   const float em = style.Size * TwipsPerPoint;
   if (piece.Flow == TextFlow::Plain) return PlainRuns(piece.Text, em, style.Bold, font);
   Runs runs(piece.Text.size());
-  for (const ShapedCluster& cluster : KnownLine(piece.Text, style.Bold, piece.Flow, font).Clusters) {
-    for (const ShapedGlyph& glyph : cluster.Glyphs)
+  for (const TextCluster& cluster : KnownLine(piece.Text, style.Bold, piece.Flow, font).Clusters) {
+    for (const TextGlyph& glyph : cluster.Glyphs)
       runs.Add(glyph.Face, glyph.Glyph, glyph.X * em, glyph.Y * em);
   }
   return runs.Take();

@@ -62,11 +62,6 @@ class RoomsOfRecord {
   std::vector<std::size_t> firstUnits_{0};
 };
 
-double RightOf(const ShapedText& text, std::size_t cluster) {
-  const bool isLast = cluster + 1 == text.Clusters.size();
-  return static_cast<double>(isLast ? text.Advance : text.Clusters[cluster + 1].Left);
-}
-
 }  // namespace
 
 TextLine TextPlacer::Baseline(const TextRecord& text) {
@@ -157,9 +152,8 @@ void TextPlacer::PlaceShaped(const TextRecord& text, TextLine& line) {
   std::vector<CharacterPlace> places(text.Text.size());
   std::vector<double> rises(text.Text.size());
   double along = 0, rise = 0;
-  for (std::size_t index = 0; index < line.Shaped.Clusters.size(); ++index) {
-    const TextCluster& cluster = line.Shaped.Clusters[index];
-    double width = (RightOf(line.Shaped, index) - static_cast<double>(cluster.Left)) * line.NaturalUnit +
+  for (const TextCluster& cluster : line.Shaped.Clusters) {
+    double width = (cluster.Right - cluster.Left) * line.NaturalUnit +
                    state.CharacterExtra * static_cast<double>(cluster.Sizes.size()) +
                    (cluster.Text == U" " ? state.BreakExtra : 0);
     const std::size_t end = cluster.FirstCharacter + cluster.Text.size();

@@ -69,12 +69,11 @@ void TextPainter::DrawShaped(const TextRecord& text, const TextLine& line) {
   for (const TextCluster& cluster : line.Shaped.Clusters) {
     const QPointF left = Mapped(line, LeftOf(cluster, line.Places, line.Ends));
     for (const TextGlyph& glyph : cluster.Glyphs) {
-      const QRawFont& font = line.Shaped.Fonts[glyph.Font];
-      const QTransform place =
-          QTransform::fromScale(1 / font.pixelSize(), 1 / font.pixelSize()) *
-          QTransform::fromTranslate(glyph.X - static_cast<double>(cluster.Left), glyph.Y) * shown.Em *
-          QTransform::fromTranslate(left.x(), left.y());
-      path.addPath(place.map(font.pathForGlyph(glyph.Number)));
+      const QRawFont& font = line.Shaped.Faces[glyph.Face];
+      const QTransform place = QTransform::fromScale(1 / font.pixelSize(), 1 / font.pixelSize()) *
+                               QTransform::fromTranslate(glyph.X - cluster.Left, glyph.Y) * shown.Em *
+                               QTransform::fromTranslate(left.x(), left.y());
+      path.addPath(place.map(font.pathForGlyph(glyph.Glyph)));
     }
   }
   Add(path, std::move(shown));

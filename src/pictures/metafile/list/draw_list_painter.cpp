@@ -230,10 +230,10 @@ std::vector<QGlyphRun> DrawListPainter::ShapedRuns(const ListText& text, const P
   for (const TextCluster& cluster : shaped.Clusters) {
     const QPointF left = place(LeftOf(cluster, text.Origins, text.Ends));
     for (const TextGlyph& glyph : cluster.Glyphs) {
-      if (glyph.Number == 0) return {};
-      const QPointF offset(glyph.X - static_cast<double>(cluster.Left), glyph.Y);
+      if (glyph.Glyph == 0) return {};
+      const QPointF offset(glyph.X - cluster.Left, glyph.Y);
       const QPointF origin = (left + offset * FontPixels).toPoint().toPointF();
-      runs.push_back(RunOf(shaped.Fonts[glyph.Font], {glyph.Number}, {origin}));
+      runs.push_back(RunOf(shaped.Faces[glyph.Face], {glyph.Glyph}, {origin}));
     }
   }
   return runs;
