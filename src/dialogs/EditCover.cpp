@@ -26,7 +26,7 @@ struct EditCover::FieldPlan {
 
 namespace {
 
-constexpr FittedDialog::Plan DialogPlan{.Width = 8505, .Height = 5400, .ButtonsTop = 4750};
+constexpr FittedDialog::Plan CoverPlan{.Width = 8505, .Height = 5400, .ButtonsTop = 4750};
 constexpr float LabelLeft = 120;
 constexpr float LabelWidth = 1350;
 constexpr int AddressLines = 2;
@@ -53,7 +53,7 @@ constexpr const char* GreetingHint =
 }  // namespace
 
 EditCover::EditCover(PrintRun& run, QWidget* parent, EditCoverServices services)
-    : FittedDialog("EditCover", "Cover", DialogPlan, parent), run_(run), services_(std::move(services)) {
+    : FittedDialog("EditCover", "Cover", CoverPlan, parent), run_(run), services_(std::move(services)) {
   setModal(true);
   tabs_ = new TabControl({120, 120, 8265, 4590}, Upper());
   BuildSubmitterTab();

@@ -21,13 +21,13 @@ namespace tarvis {
 
 namespace {
 
-constexpr FittedDialog::Plan DialogPlan{.Width = 5535, .Height = 8130, .ButtonsTop = 7510};
+constexpr FittedDialog::Plan SettingPlan{.Width = 5535, .Height = 8130, .ButtonsTop = 7510};
 constexpr int PageCount = 10;
 
 }  // namespace
 
 PrintSetting::PrintSetting(PrintRun& run, PrintSettingServices services)
-    : FittedDialog("PrintSetting", "Printing Item Setting", DialogPlan, nullptr),
+    : FittedDialog("PrintSetting", "Printing Item Setting", SettingPlan, nullptr),
       run_(run),
       services_(std::move(services)),
       cover_(new CoverGroup(run, Upper())) {

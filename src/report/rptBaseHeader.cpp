@@ -6,7 +6,7 @@
 namespace tarvis {
 namespace {
 
-constexpr int TitleBytes = 58;
+constexpr int HeaderTitleBytes = 58;
 
 }  // namespace
 
@@ -16,7 +16,7 @@ rptBaseHeader::rptBaseHeader(ReportContext context, ReportFactory factory)
 void rptBaseHeader::ActiveReport_ReportStart() {
   const HeaderOptions& header = Run.Session.ActiveHeader;
   ModuleIndex = 0;
-  if (header.Title == 1) txtTitle.Text = LeftBytes(Run.CodePage, header.TitleText, TitleBytes);
+  if (header.Title == 1) txtTitle.Text = LeftBytes(Run.CodePage, header.TitleText, HeaderTitleBytes);
   if (header.ModelsInfo == 1) txtMechaInfo.Text = Run.Header.MechaInfo;
   if (header.PrintDate == 1) txtPrnDate.Text = "Printing Date : " + LongDateText(Run.Now());
   if (header.FileName == 1 && !Run.Header.File.empty()) txtFileName.Text = "File Name : " + Run.Header.File;

@@ -15,7 +15,7 @@ constexpr std::int16_t GreetingRows = 12;
 constexpr std::size_t GreetingBytes = 84;
 constexpr std::size_t NameBytes = 50;
 constexpr std::size_t BlockBytes = 100;  // section and address of the addressee
-constexpr std::size_t TitleBytes = 56;
+constexpr std::size_t UserTitleBytes = 56;
 // So many bytes fill the width of the sender block.
 constexpr int FullLineBytes = 27;
 constexpr const char* LineEnd = "\r\n";
@@ -85,7 +85,7 @@ void rptCover::FillAddressee() {
   txtUserAria.Text = text;
   txtDrowName.Text = left(Run.Options.DrowName, NameBytes);
   txtUserDear.Text = left(block.Name, NameBytes);
-  txtUserTitle.Text = left(block.Title, TitleBytes);
+  txtUserTitle.Text = left(block.Title, UserTitleBytes);
 }
 
 // Nothing of it is cut, and the zip code is not printed. Unlike the addressee's, the sender's address begins

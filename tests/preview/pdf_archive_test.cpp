@@ -16,7 +16,7 @@
 namespace tarvis {
 namespace {
 
-bool GoOn(int, int) {
+bool GoOnToTheEnd(int, int) {
   return true;
 }
 
@@ -37,7 +37,7 @@ class WordsPicture : public SamplePicture {
 class PdfArchive : public testing::Test {
  protected:
   void Make(const Document& document, const PdfInfo& info = {}) {
-    bytes_ = MakePdf(document, PdfSheets::AllOf(document), info, GoOn);
+    bytes_ = MakePdf(document, PdfSheets::AllOf(document), info, GoOnToTheEnd);
     pdf_.processMemoryFile("test", bytes_.data(), bytes_.size());
   }
   void Make(const PdfInfo& info = {}) { Make(*DocumentBuilder().TablePages(1).Build(), info); }
@@ -172,7 +172,7 @@ class LanguageOfPdf : public testing::TestWithParam<Language> {};
 
 TEST_P(LanguageOfPdf, IsThatOfTheCodePage) {
   const auto document = DocumentBuilder().CodePage(GetParam().CodePage).Page().Text("A", 1440, 720).Build();
-  const std::string bytes = MakePdf(*document, PdfSheets::AllOf(*document), {}, GoOn);
+  const std::string bytes = MakePdf(*document, PdfSheets::AllOf(*document), {}, GoOnToTheEnd);
   QPDF pdf;
   pdf.processMemoryFile("test", bytes.data(), bytes.size());
   EXPECT_EQ(pdf.getRoot().getKey("/Lang").getUTF8Value(), GetParam().Tag);

@@ -11,6 +11,23 @@
 
 namespace tarvis {
 
+constexpr CellStyle Plain{.Size = 8.5F};  // line pitch 190
+
+// The lines of all printings of a control, as items and as texts.
+inline std::vector<Item> TextsOf(const Document& document, const std::string& control) {
+  std::vector<Item> items;
+  for (const Item& item : document.Items) {
+    if (item.Kind == ItemKind::Text && document.Names[item.Control] == control) items.push_back(item);
+  }
+  return items;
+}
+
+inline std::vector<std::string> LinesOf(const Document& document, const std::string& control) {
+  std::vector<std::string> lines;
+  for (const Item& item : TextsOf(document, control)) lines.emplace_back(document.Texts[item.Source].Text);
+  return lines;
+}
+
 // Sections are added by the test; the rows come from `Fetch`, or one row if that is empty.
 class SampleReport : public ActiveReport {
  public:

@@ -7,7 +7,7 @@ namespace {
 
 constexpr CellStyle BitCell{.Size = 9, .Alignment = Align::Centre, .Border = true, .Filled = true};
 constexpr CellStyle TextCell{.Size = 9, .Border = true, .Filled = true};
-constexpr float CellHeight = 300;
+constexpr float BitCellHeight = 300;
 
 }  // namespace
 
@@ -31,7 +31,7 @@ Field& BitTableReport::AddUnit(const BitTableLayout& layout) {
 }
 
 Field& BitTableReport::AddColumn(const NamedColumn& column, const CellStyle& style) {
-  const Rect place{column.Left, 0, column.Width, CellHeight};
+  const Rect place{column.Left, 0, column.Width, BitCellHeight};
   ghGuide.AddField(column.TitleControl, place, NineBold, column.Title);
   return Detail.AddField(column.ValueControl, place, style);
 }

@@ -12,7 +12,7 @@
 namespace tarvis {
 namespace {
 
-constexpr float CellHeight = 283;
+constexpr float IdxCellHeight = 283;
 // Rows are this high from the first text on that is longer than its column; they stay so.
 constexpr float HighRow = 400;
 constexpr std::size_t LongPos = 17;
@@ -64,8 +64,8 @@ void IdxTblReport::AddColumns() {
   style.Size = layout_.ValueSize;
   for (const IdxColumn& column : layout_.Columns) {
     const NamedColumn& cell = column.Cell;
-    ghGuide.AddField(cell.TitleControl, {cell.Left, 15, cell.Width, CellHeight}, NineBold, cell.Title);
-    values_.push_back(&Detail.AddField(cell.ValueControl, {cell.Left, 0, cell.Width, CellHeight},
+    ghGuide.AddField(cell.TitleControl, {cell.Left, 15, cell.Width, IdxCellHeight}, NineBold, cell.Title);
+    values_.push_back(&Detail.AddField(cell.ValueControl, {cell.Left, 0, cell.Width, IdxCellHeight},
                                        values_.empty() ? NineBold : style));
   }
 }

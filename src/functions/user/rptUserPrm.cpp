@@ -9,7 +9,7 @@
 namespace tarvis {
 namespace {
 
-constexpr float RowTop = 10;
+constexpr float ParameterTop = 10;
 
 // Geometry enters the running x and y as whole twips, halves to the even one.
 float Whole(float twips) {
@@ -35,7 +35,7 @@ void rptUserPrm::ActiveReport_ReportStart() {
                            static_cast<Control*>(&txtValueNoReal), static_cast<Control*>(&txtValueName),
                            static_cast<Control*>(&txtValueVal), static_cast<Control*>(&txtValueUnit),
                            static_cast<Control*>(&txtValueDefault)}) {
-    control->Top = RowTop;
+    control->Top = ParameterTop;
   }
   float x = Whole(txtTitleNo.Left + txtTitleNo.Width);
   PlaceNameColumns(x);

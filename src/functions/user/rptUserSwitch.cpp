@@ -5,7 +5,7 @@
 namespace tarvis {
 namespace {
 
-constexpr float RowTop = 8;
+constexpr float SwitchTop = 8;
 
 }  // namespace
 
@@ -18,7 +18,7 @@ rptUserSwitch::rptUserSwitch(ReportContext context)
 }
 
 void rptUserSwitch::ActiveReport_ReportStart() {
-  txtValueNo.Top = RowTop;
+  txtValueNo.Top = SwitchTop;
   Row = 0;
   float x = txtTitlePos.Left + txtTitlePos.Width;
   if (Run.Session.ShowPrmName != 0) {

@@ -11,7 +11,7 @@
 namespace tarvis {
 namespace {
 
-constexpr std::int64_t PictureBudget = 48LL * 1024 * 1024;  // bytes
+constexpr std::int64_t KeptPageBytes = 48LL * 1024 * 1024;
 
 // The width of a page in device pixels, of which `ratio` make a logical one.
 int DeviceWidth(const PageLayout& layout, double ratio) {
@@ -36,7 +36,7 @@ void PaintHighlights(QPainter& painter, const std::vector<Highlight>& marks, QPo
 }  // namespace
 
 PageView::PageView(std::shared_ptr<const Document> document, QWidget* parent)
-    : QAbstractScrollArea(parent), document_(std::move(document)), pictures_(document_, PictureBudget) {
+    : QAbstractScrollArea(parent), document_(std::move(document)), pictures_(document_, KeptPageBytes) {
   setObjectName(QStringLiteral("pageView"));
   setAccessibleName(tr("Pages"));
   setFrameShape(QFrame::NoFrame);

@@ -12,12 +12,12 @@ namespace {
 
 constexpr int Gap = 10;  // logical pixels
 constexpr int GreatestWidth = 140;
-constexpr std::int64_t PictureBudget = std::int64_t{16} * 1024 * 1024;  // bytes
+constexpr std::int64_t KeptThumbnailBytes = std::int64_t{16} * 1024 * 1024;
 
 }  // namespace
 
 Thumbnails::Thumbnails(std::shared_ptr<const Document> document, QWidget* parent)
-    : QAbstractScrollArea(parent), document_(std::move(document)), pictures_(document_, PictureBudget) {
+    : QAbstractScrollArea(parent), document_(std::move(document)), pictures_(document_, KeptThumbnailBytes) {
   setObjectName(QStringLiteral("thumbnails"));
   setAccessibleName(tr("Thumbnails"));
   setFrameShape(QFrame::NoFrame);

@@ -10,7 +10,7 @@
 namespace tarvis {
 namespace {
 
-QString Text(const char* text) {
+QString Translated(const char* text) {
   return QCoreApplication::translate("OverwriteQuestion", text);
 }
 
@@ -28,12 +28,14 @@ bool MayWriteTo(const QString& path, QWidget* parent) {
   const QString shown = QDir::toNativeSeparators(path);
   if (!CanBeReplaced(path)) {
     Ask(parent, "noFile",
-        Text("\"%1\" is not an ordinary file and is not replaced.\nPlease choose another name.").arg(shown),
+        Translated("\"%1\" is not an ordinary file and is not replaced.\nPlease choose another name.")
+            .arg(shown),
         QMessageBox::Ok);
     return false;
   }
   if (!QFileInfo::exists(path)) return true;
-  return Ask(parent, "replaceFile", Text("\"%1\" already exists.\nDo you want to replace it?").arg(shown),
+  return Ask(parent, "replaceFile",
+             Translated("\"%1\" already exists.\nDo you want to replace it?").arg(shown),
              QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 

@@ -16,7 +16,7 @@ const std::map<std::string, float> Bodies{
     {"half Letter", 10320}, {"A4 across", 9986},  {"A3 upright", 21891}};
 
 // Each text of each control, and how many pictures each has.
-std::multiset<std::string> Inventory(const Document& document) {
+std::multiset<std::string> CountedInventory(const Document& document) {
   std::set<std::string> texts;
   std::multiset<std::string> inventory;
   for (const Item& item : document.Items) {
@@ -61,9 +61,9 @@ struct PaperSizes : HostRun, testing::WithParamInterface<const char*> {
 };
 
 TEST_P(PaperSizes, LoseNothing) {
-  const auto whole = Inventory(Report.ComposeUnderHeader(GetParam(), A4));
+  const auto whole = CountedInventory(Report.ComposeUnderHeader(GetParam(), A4));
   for (const auto& [paper, body] : Bodies) {
-    EXPECT_EQ(Inventory(Report.ComposeUnderHeader(GetParam(), body)), whole) << paper;
+    EXPECT_EQ(CountedInventory(Report.ComposeUnderHeader(GetParam(), body)), whole) << paper;
   }
 }
 

@@ -4,8 +4,6 @@
 namespace tarvis {
 namespace {
 
-constexpr std::size_t BoundsSize = 16;
-
 ClipMode ReadMode(ByteReader& reader) {
   const std::uint32_t mode = reader.U32();
   if (mode < 1 || mode > 5) throw SkipRecord();

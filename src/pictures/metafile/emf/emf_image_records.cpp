@@ -7,7 +7,6 @@
 namespace tarvis {
 namespace {
 
-constexpr std::size_t BoundsSize = 16;
 constexpr std::size_t TransformSize = 24;
 
 struct SourceBitmap {

@@ -20,6 +20,8 @@ struct EmfPlayback {
   MetaObject Object(std::uint32_t index) const;
 };
 
+constexpr std::size_t BoundsSize = 16;  // of the rectangle that many records begin with, in bytes
+
 // Plays one record. The reader holds the whole record and is positioned after its type and size. OutOfBytes
 // if the record is broken, SkipRecord if it can't be played.
 using EmfRecordFunction = void (*)(EmfPlayback& playback, ByteReader& reader);

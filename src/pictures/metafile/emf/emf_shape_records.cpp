@@ -6,8 +6,6 @@
 namespace tarvis {
 namespace {
 
-constexpr std::size_t BoundsSize = 16;
-
 Points ReadPolyPoints(ByteReader& reader, bool small) {
   reader.Skip(BoundsSize);
   const std::size_t count = reader.U32();

@@ -4,8 +4,6 @@
 namespace tarvis {
 namespace {
 
-constexpr std::size_t BoundsSize = 16;
-
 // Widths of characters; a place past the record means none.
 void ReadAdvances(const ByteReader& record, std::size_t offset, std::size_t count, TextRecord& text) {
   const bool pairs = (text.Options & TextPairs) != 0;

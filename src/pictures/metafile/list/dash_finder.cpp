@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "pictures/metafile/list/outlines.h"
+
 namespace tarvis {
 namespace {
 
@@ -11,12 +13,6 @@ constexpr std::size_t LongestPattern = 4;  // dashes before it repeats
 
 double Distance(QPointF a, QPointF b) {
   return std::hypot(b.x() - a.x(), b.y() - a.y());
-}
-
-double Length(const QPolygonF& line) {
-  double length = 0;
-  for (qsizetype i = 1; i < line.size(); ++i) length += Distance(line[i - 1], line[i]);
-  return length;
 }
 
 // Lengths of the lines and of the gaps that follow them.
@@ -29,7 +25,7 @@ std::vector<Measure> MeasureDashes(std::span<const QPolygonF> lines) {
   std::vector<Measure> measures;
   for (std::size_t i = 0; i < lines.size(); ++i) {
     const double gap = i + 1 < lines.size() ? Distance(lines[i].last(), lines[i + 1].first()) : 0;
-    measures.push_back({Length(lines[i]), gap});
+    measures.push_back({LengthOf(lines[i]), gap});
   }
   return measures;
 }

@@ -24,13 +24,6 @@ double ScaleOf(const QTransform& transform) {
   return std::sqrt(std::abs(transform.determinant()));
 }
 
-double Length(const QPolygonF& line) {
-  double length = 0;
-  for (qsizetype i = 1; i < line.size(); ++i)
-    length += std::hypot(line[i].x() - line[i - 1].x(), line[i].y() - line[i - 1].y());
-  return length;
-}
-
 bool IsHatch(const ListBrush& brush) {
   const Qt::BrushStyle style = brush.Brush.style();
   return HasDots(brush.Dots) || (style >= Qt::HorPattern && style <= Qt::DiagCrossPattern);
@@ -167,7 +160,7 @@ void DrawListPainter::Shape(const ListCommand& command) {
   const Outline& outline = list_.AllOutlines().At(command.Index);
   if (outline.VerbCount == 0) {
     const QPolygonF line = MakeLine(outline);
-    painter_.setPen(MakePen(list_.Inks().Pen(command.Pen), Length(line)));
+    painter_.setPen(MakePen(list_.Inks().Pen(command.Pen), LengthOf(line)));
     painter_.drawPolyline(line);
     return;
   }

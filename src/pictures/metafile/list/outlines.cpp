@@ -12,6 +12,13 @@ std::uint32_t Count(std::size_t size) {
 
 }  // namespace
 
+double LengthOf(const QPolygonF& line) {
+  double length = 0;
+  for (qsizetype i = 1; i < line.size(); ++i)
+    length += std::hypot(line[i].x() - line[i - 1].x(), line[i].y() - line[i - 1].y());
+  return length;
+}
+
 std::size_t Outlines::BytesOf(const QPainterPath& path) {
   return sizeof(Outline) + static_cast<std::size_t>(path.elementCount()) * (sizeof(ListPoint) + sizeof(Verb));
 }

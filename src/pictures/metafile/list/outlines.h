@@ -24,6 +24,9 @@ struct Outline {
   std::uint32_t VerbCount = 0;
 };
 
+// The way along the corners of an open line.
+double LengthOf(const QPolygonF& line);
+
 class Outlines {
  public:
   // Coordinates are cut off as far from the origin.

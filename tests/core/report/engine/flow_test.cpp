@@ -9,8 +9,6 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr CellStyle Plain{.Size = 8.5F};
-
 TEST(EngineFlow, RunsEventsInTheOrderOfTheContract) {
   SampleReport report;
   report.Watch(report.Growing(SectionKind::GroupHeader, "h1"));

@@ -11,7 +11,6 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr CellStyle Plain{.Size = 8.5F};
 constexpr CellStyle Cell{.Size = 8.5F, .Border = true, .Filled = true};
 
 // The only item of that control and kind.
@@ -20,16 +19,6 @@ const Item& Find(const Document& document, const std::string& control, ItemKind 
     if (item.Kind == kind && document.Names[item.Control] == control) return item;
   }
   throw std::runtime_error("no item of " + control);
-}
-
-std::vector<std::string> LinesOf(const Document& document, const std::string& control) {
-  std::vector<std::string> lines;
-  for (const Item& item : document.Items) {
-    if (item.Kind == ItemKind::Text && document.Names[item.Control] == control) {
-      lines.emplace_back(document.Texts[item.Source].Text);
-    }
-  }
-  return lines;
 }
 
 // One growing detail with one field.

@@ -11,8 +11,6 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr CellStyle Plain{.Size = 8.5F};
-
 TEST(EnginePages, FlowsAnInnerReportOverPagesAndEndsTheRowAtItsOwnHeight) {
   SampleReport outer;
   Section& detail = outer.Fixed(SectionKind::Detail, "d", 300);

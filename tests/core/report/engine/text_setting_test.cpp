@@ -11,23 +11,8 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr CellStyle Plain{.Size = 8.5F};
 constexpr float Blank = 0.278F * 170;  // twips at 8.5 points
 constexpr float Letter = 0.556F * 170;
-
-std::vector<Item> TextsOf(const Document& document, const std::string& control) {
-  std::vector<Item> items;
-  for (const Item& item : document.Items) {
-    if (item.Kind == ItemKind::Text && document.Names[item.Control] == control) items.push_back(item);
-  }
-  return items;
-}
-
-std::vector<std::string> LinesOf(const Document& document, const std::string& control) {
-  std::vector<std::string> lines;
-  for (const Item& item : TextsOf(document, control)) lines.emplace_back(document.Texts[item.Source].Text);
-  return lines;
-}
 
 // One growing row with one field.
 Document SetInField(const std::string& text, const Rect& place, const CellStyle& style = Plain) {
