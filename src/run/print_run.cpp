@@ -16,4 +16,6 @@ bool TakeAsSettled(const std::filesystem::path& /*fresh*/, const std::filesystem
 
 PrintRun::PrintRun(tarvis::Desktop& desktop) : Desktop(desktop), Now(LocalTime), SettleFile(TakeAsSettled) {}
 
+PrintRun::~PrintRun() = default;
+
 }  // namespace tarvis

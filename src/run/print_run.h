@@ -23,6 +23,9 @@ namespace tarvis {
 struct PrintRun {
   // `desktop` must outlive the run.
   explicit PrintRun(tarvis::Desktop& desktop);
+  ~PrintRun();  // with all records, so that only one file compiles it
+  PrintRun(const PrintRun&) = delete;
+  PrintRun& operator=(const PrintRun&) = delete;
 
   tarvis::Desktop& Desktop;
   tarvis::CodePage CodePage;  // the system's code page, 1252 unless the configuration names another
