@@ -238,14 +238,26 @@ def operand_counts(tokens):
     return counts
 
 
+def without_result(tokens):
+    """(begin, end) of what no test can notice: assertions, which hold, and the room that is reserved for elements."""
+    for index, token in enumerate(tokens[:-1]):
+        if token.text in ("assert", "reserve") and tokens[index + 1].text == "(":
+            first = index
+            while first > 0 and tokens[first - 1].text not in (";", "{", "}", ")"):
+                first -= 1
+            yield tokens[first].start, tokens[closing(tokens, index + 1)].end
+
+
 def mutants_of(file, code):
     """All mutants of the code of one file, in the order of the file."""
     tokens = tokens_of(code)
     operands = operand_counts(tokens)
+    idle = list(without_result(tokens))
     found = [Mutant(file, code.count("\n", 0, token.start) + 1, kind, token.start, token.text, new,
                     operands.get(token.start, 0) if token.kind == "sign" else 0)
              for changes in (token_changes(code, tokens), negations(code, tokens), omissions(code, tokens))
-             for kind, token, new in changes]
+             for kind, token, new in changes
+             if not any(begin <= token.start < end for begin, end in idle)]
     return sorted(found, key=lambda mutant: (mutant.start, mutant.kind, mutant.new))
 
 

@@ -68,6 +68,11 @@ class Changes(unittest.TestCase):
                      "virtual void A() = 0;", 'R"(1 + 2)";', "\n#define ONE 1\n"):
             self.assertEqual(changes(code) - {"statement: without R\"(1 + 2)\";"}, set(), code)
 
+    def test_assertions_and_room_for_elements_stay(self):
+        self.assertEqual(changes("assert(a >= 0 && a < 255);"), set())
+        self.assertEqual(changes("line.reserve(size + 2);"), set())
+        self.assertEqual(changes("if (a) line.reserve(2);"), {"condition: a -> !(a)"})
+
     def test_declarations_of_a_class_are_no_statements(self):
         self.assertEqual(mutants_of("a.h", "class A {\n  A();\n  void B(int c);\n  int d_;\n};\n"), [])
 
