@@ -1,6 +1,6 @@
 # Precompiled headers: the toolkit's, the standard library's and the test library's headers take most of the compiler's
 # time. Each set of them is compiled once and serves all targets with the same options. Files must still include what
-# they use: the tests compile each header alone, without these.
+# they use: lint.sh has each header compiled alone, without these.
 
 # Adds the target `name`, which precompiles `header` of this folder for others to reuse.
 function(tarvis_precompiled name header)

@@ -8,7 +8,7 @@ namespace tarvis {
 namespace {
 
 const QColor Red(255, 0, 0), Green(0, 255, 0), White(255, 255, 255);
-constexpr std::uint32_t RedInk = 0xFFFF0000;
+constexpr std::uint32_t OpaqueRed = 0xFFFF0000;
 
 ByteWriter MetafileObject(const std::string& metafile, std::uint32_t type = 3) {
   return ByteWriter()
@@ -83,7 +83,7 @@ TEST(MetafileInMetafile, KeepsItsText) {
 TEST(MetafileInMetafile, IsCountedWhenBroken) {
   const ByteWriter drawn = DrawFrom(0, 0, 100, 100).F32(50).F32(50).F32(50).F32(50);
   PlusWriter plus;
-  plus.FillRect(RedInk, 0, 0, 9, 9).Object(5, 0, MetafileObject("no metafile at all")).Add(0x401A, 0, drawn);
+  plus.FillRect(OpaqueRed, 0, 0, 9, 9).Object(5, 0, MetafileObject("no metafile at all")).Add(0x401A, 0, drawn);
   EXPECT_EQ(Play(plus.Emf().Bytes())->SkippedRecords(), 2);
 }
 
@@ -142,7 +142,7 @@ QImage ShowRunLengths(std::uint32_t flags, const ByteWriter& types) {
     path.I16(20).I16(20).I16(80).I16(20).I16(80).I16(80).I16(20).I16(80);
   }
   PlusWriter plus;
-  plus.Object(3, 2, path.Add(types)).Add(0x4014, 0x8002, ByteWriter().U32(RedInk));
+  plus.Object(3, 2, path.Add(types)).Add(0x4014, 0x8002, ByteWriter().U32(OpaqueRed));
   return plus.Show();
 }
 
