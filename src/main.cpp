@@ -10,7 +10,7 @@
 #include "platform/system/fonts.h"
 #include "platform/system/host_settings.h"
 #include "platform/system/process_guard.h"
-#include "platform/system/settle_file.h"
+#include "platform/files/settle_file.h"
 #include "platform/system_printers.h"
 #include "run/failures.h"
 #include "run/print_run.h"

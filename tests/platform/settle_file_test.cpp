@@ -1,5 +1,5 @@
 // A file's bytes reach the disk before it takes its place.
-#include "platform/system/settle_file.h"
+#include "platform/files/settle_file.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>

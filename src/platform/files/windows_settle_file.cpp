@@ -1,7 +1,7 @@
 // Safe writing of files on Windows.
 #include <windows.h>
 
-#include "platform/system/settle_file.h"
+#include "platform/files/settle_file.h"
 
 namespace tarvis {
 

@@ -5,7 +5,7 @@
 
 #include <cerrno>
 
-#include "platform/system/settle_file.h"
+#include "platform/files/settle_file.h"
 
 namespace tarvis {
 
