@@ -23,7 +23,7 @@ constexpr const char* StandardOutput = "-";
 
 void WriteOutput(const std::string& pdf, const std::string& output) {
   if (output != StandardOutput) {
-    const QString failure = WritePdf(pdf, QString::fromStdString(output));
+    const QString failure = WritePdf(pdf, output);
     if (!failure.isEmpty()) throw PdfError(failure.toStdString());
     return;
   }

@@ -2,8 +2,8 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <algorithm>
+#include <filesystem>
 #include <map>
 #include <numeric>
 #include <optional>
@@ -11,7 +11,9 @@
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFWriter.hh>
+#include <system_error>
 
+#include "platform/files/settle_file.h"
 #include "preview/output/pdf_archive.h"
 #include "preview/output/pdf_attachments.h"
 #include "preview/output/pdf_greys.h"
@@ -19,6 +21,7 @@
 #include "preview/output/pdf_resources.h"
 #include "preview/output/reading_order.h"
 #include "preview/paint/toolkit_geometry.h"
+#include "printfiles/replace_file.h"
 
 namespace tarvis {
 namespace {
@@ -178,19 +181,6 @@ void AddOpening(QPDF& pdf, const PdfSheets& sheets) {
   pdf.getRoot().replaceKey("/PageLabels", PageLabels(sheets));
 }
 
-// Unbuffered, and piece by piece: a full disk accepts a part first and refuses the rest, and a buffer would
-// hide that.
-bool WriteAll(QSaveFile& file, const char* bytes, qint64 size) {
-  if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) return false;
-  while (size > 0) {
-    const qint64 written = file.write(bytes, size);
-    if (written <= 0) return false;
-    bytes += written;
-    size -= written;
-  }
-  return file.commit();
-}
-
 // Part 3 is part 2 with files of any kind in it.
 PdfConformance ConformanceOf(const PdfInfo& info) {
   return {info.Data.empty() ? 2 : 3, 'U'};
@@ -209,6 +199,12 @@ std::string Written(QPDF& pdf) {
   return bytes;
 }
 
+// A file that this user may not write is not replaced either, though its folder would allow it.
+bool IsProtected(const std::filesystem::path& path) {
+  const QFileInfo old(path);
+  return old.exists() && !old.isWritable();
+}
+
 QString Text(const char* text) {
   return QCoreApplication::translate("PdfExport", text);
 }
@@ -223,9 +219,12 @@ PdfSheets PdfSheets::AllOf(const Document& document) {
   return sheets;
 }
 
-bool CanBeReplaced(const QString& path) {
-  const QFileInfo old(path);
-  return old.exists() ? old.isFile() : !old.isSymLink();
+bool CanBeReplaced(const std::filesystem::path& path) {
+  std::error_code ignored;  // what can't be looked at can't be replaced
+  const bool isLink = std::filesystem::is_symlink(path, ignored);
+  const std::filesystem::file_type type = std::filesystem::status(path, ignored).type();
+  return type == std::filesystem::file_type::regular ||
+         (type == std::filesystem::file_type::not_found && !isLink);
 }
 
 std::string MakePdf(const Document& document, const PdfSheets& sheets, const PdfInfo& info,
@@ -245,17 +244,18 @@ std::string MakePdf(const Document& document, const PdfSheets& sheets, const Pdf
   return progress(count, count) ? bytes : std::string();
 }
 
-QString WritePdf(std::string_view pdf, const QString& path) {
-  if (!CanBeReplaced(path)) return Text("\"%1\" is not an ordinary file and is not replaced.").arg(path);
-  QSaveFile file(path);
-  if (WriteAll(file, pdf.data(), static_cast<qint64>(pdf.size()))) return {};
-  return Text("\"%1\" can't be written: %2").arg(path, file.errorString());
+QString WritePdf(std::string_view pdf, const std::filesystem::path& path) {
+  const QString name = QString::fromStdString(path.string());
+  if (!CanBeReplaced(path)) return Text("\"%1\" is not an ordinary file and is not replaced.").arg(name);
+  std::error_code error = std::make_error_code(std::errc::permission_denied);
+  if (!IsProtected(path) && ReplaceFile(path, pdf, SettleFile, error)) return {};
+  return Text("\"%1\" can't be written: %2").arg(name, QString::fromStdString(error.message()));
 }
 
 QString ExportPdf(const Document& document, const PdfSheets& sheets, const QString& path, const PdfInfo& info,
                   const Progress& progress) {
   const std::string pdf = MakePdf(document, sheets, info, progress);
-  return pdf.empty() ? QString() : WritePdf(pdf, path);
+  return pdf.empty() ? QString() : WritePdf(pdf, QFileInfo(path).filesystemFilePath());
 }
 
 QString ExportPdf(const Document& document, const QString& path, const PdfInfo& info,

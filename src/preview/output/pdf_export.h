@@ -4,6 +4,7 @@
 
 #include <QSizeF>
 #include <QString>
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,7 +27,7 @@ struct PdfSheets {
 };
 
 // Whether a file may replace what is at `path`: only nothing, or an ordinary file, also through a link.
-[[nodiscard]] bool CanBeReplaced(const QString& path);
+[[nodiscard]] bool CanBeReplaced(const std::filesystem::path& path);
 
 // The bytes of the PDF; empty if `progress` cancels.
 [[nodiscard]] std::string MakePdf(const Document& document, const PdfSheets& sheets, const PdfInfo& info,
@@ -38,7 +39,7 @@ struct PdfSheets {
 [[nodiscard]] QString ExportPdf(const Document& document, const PdfSheets& sheets, const QString& path,
                                 const PdfInfo& info, const Progress& progress);
 // Its last step, for bytes that are there already.
-[[nodiscard]] QString WritePdf(std::string_view pdf, const QString& path);
+[[nodiscard]] QString WritePdf(std::string_view pdf, const std::filesystem::path& path);
 // The same with all pages.
 [[nodiscard]] QString ExportPdf(const Document& document, const QString& path, const PdfInfo& info,
                                 const Progress& progress);

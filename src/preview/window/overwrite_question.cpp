@@ -26,7 +26,7 @@ QMessageBox::StandardButton Ask(QWidget* parent, const char* name, const QString
 
 bool MayWriteTo(const QString& path, QWidget* parent) {
   const QString shown = QDir::toNativeSeparators(path);
-  if (!CanBeReplaced(path)) {
+  if (!CanBeReplaced(QFileInfo(path).filesystemFilePath())) {
     Ask(parent, "noFile",
         Translated("\"%1\" is not an ordinary file and is not replaced.\nPlease choose another name.")
             .arg(shown),

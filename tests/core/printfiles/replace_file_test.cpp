@@ -6,6 +6,7 @@
 
 #include <chrono>
 #include <string>
+#include <system_error>
 
 #include "support/full_disk.h"
 #include "support/temp_folder.h"
@@ -21,7 +22,15 @@ class ReplacedFile : public testing::Test {
  protected:
   // Writes "new" into the file of this name.
   bool Replace(const std::string& name = "options") {
-    return ReplaceFile(Folder.Path() / name, "new", [](const fs::path&, const fs::path&) { return true; });
+    return ReplaceFile(Folder.Path() / name, "new", [](const fs::path& fresh, const fs::path& old) {
+      if (fs::exists(old)) fs::permissions(fresh, fs::perms::group_all, fs::perm_options::add);
+      return true;
+    });
+  }
+  // A file that was last written so long ago that nobody writes it any more.
+  void Leave(const std::string& name) {
+    Folder.Write(name, "cut");
+    fs::last_write_time(Folder.Path() / name, fs::file_time_type::clock::now() - std::chrono::minutes(2));
   }
   int FileCount() const {
     return static_cast<int>(std::distance(fs::directory_iterator(Folder.Path()), fs::directory_iterator()));
@@ -87,6 +96,39 @@ TEST_F(ReplacedFile, KeepsItsMode) {
   }
 }
 
+TEST_F(ReplacedFile, GivesItsGroupNoRightsThatSettlingHasNotGiven) {
+  Folder.Write("options", "old");
+  fs::permissions(Folder.Path() / "options", fs::perms(0664));
+  EXPECT_TRUE(ReplaceFile(Folder.Path() / "options", "new", [](const fs::path& fresh, const fs::path&) {
+    fs::permissions(fresh, fs::perms::group_read, fs::perm_options::add);
+    return true;
+  }));
+  EXPECT_EQ(ModeOf("options"), fs::perms(0644));
+}
+
+TEST_F(ReplacedFile, SaysWhyItIsTheOldOne) {
+  Folder.Write("options", "old");
+  std::error_code error;
+  const auto settle = [](const fs::path&, const fs::path&) { return true; };
+  {
+    const FullDisk disk;
+    EXPECT_FALSE(ReplaceFile(Folder.Path() / "options", std::string(100000, 'x'), settle, error));
+  }
+  EXPECT_EQ(error, std::errc::file_too_large);
+  EXPECT_FALSE(ReplaceFile(Folder.Path() / "none/options", "new", settle, error));
+  EXPECT_EQ(error, std::errc::no_such_file_or_directory);
+  EXPECT_TRUE(ReplaceFile(Folder.Path() / "options", "new", settle, error));
+  EXPECT_FALSE(error);
+}
+
+TEST_F(ReplacedFile, MayHaveTheLongestName) {
+  const std::string name(255, 'n');
+  Folder.Write(name, "old");
+  EXPECT_TRUE(Replace(name));
+  EXPECT_EQ(Folder.Read(name), "new");
+  EXPECT_EQ(FileCount(), 1);
+}
+
 TEST_F(ReplacedFile, IsClosedToOthersWhileItIsWritten) {
   Folder.Write("options", "old");
   fs::permissions(Folder.Path() / "options", fs::perms(0600));
@@ -140,26 +182,34 @@ TEST_F(ReplacedFile, IsRefusedWhereADeviceOrAFolderIs) {
 }
 
 TEST_F(ReplacedFile, TakesAwayWhatAProcessLeftThatWasEndedWhileItWrote) {
-  Folder.Write(kLeftover, "cut");
+  Leave(kLeftover);
   EXPECT_TRUE(Replace());
   EXPECT_FALSE(Folder.Has(kLeftover));
 }
 
-TEST_F(ReplacedFile, TakesAwayFilesWithTheNamesThatItGivesItself) {
-  std::string name;
-  ASSERT_TRUE(ReplaceFile(Folder.Path() / "options", "new", [&](const fs::path& fresh, const fs::path&) {
-    name = fresh.filename().string();
-    return true;
-  }));
-  Folder.Write(name, "cut");
+TEST_F(ReplacedFile, LeavesToAnotherProcessWhatThatIsWriting) {
+  Folder.Write(kLeftover, "half of it");
   EXPECT_TRUE(Replace());
-  EXPECT_FALSE(Folder.Has(name)) << name;
+  EXPECT_TRUE(Folder.Has(kLeftover));
+}
+
+TEST_F(ReplacedFile, TakesAwayFilesWithTheNamesThatItGivesItself) {
+  for (const std::string& name : {std::string("options"), std::string(255, 'n')}) {
+    std::string given;
+    ASSERT_TRUE(ReplaceFile(Folder.Path() / name, "new", [&](const fs::path& fresh, const fs::path&) {
+      given = fresh.filename().string();
+      return true;
+    }));
+    Leave(given);
+    EXPECT_TRUE(Replace(name));
+    EXPECT_FALSE(Folder.Has(given)) << given;
+  }
 }
 
 TEST_F(ReplacedFile, TakesAwayNothingElse) {
   const auto names = {"options.old", "options.new", "options.0123456789abcdeg.new",
                       "other.0123456789abcdef.new", "options.0123456789abcdef.new.old"};
-  for (const char* name : names) Folder.Write(name, "x");
+  for (const char* name : names) Leave(name);
   EXPECT_TRUE(Replace());
   for (const char* name : names) EXPECT_TRUE(Folder.Has(name)) << name;
 }
