@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 #include <chrono>
+#include <exception>
 #include <utility>
 
 #include "preview/paint/painter_canvas.h"
@@ -103,21 +104,32 @@ void PagePictures::StartNext() {
   if (next == wanted_.end()) return;
   busy_ = true;
   worker_.start([this, document = document_, strip = *next] {
-    Rendered rendered{strip, RenderStrip(*document, strip)};
-    {
-      const std::scoped_lock lock(mutex_);
-      rendered_ = std::move(rendered);
+    try {
+      Render(*document, strip);
+    } catch (...) {  // such as a font that can't be loaded: it ends the run where exceptions are reported
+      QMetaObject::invokeMethod(
+          this, [failure = std::current_exception()] { std::rethrow_exception(failure); },
+          Qt::QueuedConnection);
     }
-    arrived_.notify_one();
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-          const std::optional<int> page = TakeRendered();
-          StartNext();
-          if (page) emit PageReady(*page);
-        },
-        Qt::QueuedConnection);
   });
+}
+
+// Runs in the thread of the worker.
+void PagePictures::Render(const Document& document, const Strip& strip) {
+  Rendered rendered{strip, RenderStrip(document, strip)};
+  {
+    const std::scoped_lock lock(mutex_);
+    rendered_ = std::move(rendered);
+  }
+  arrived_.notify_one();
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        const std::optional<int> page = TakeRendered();
+        StartNext();
+        if (page) emit PageReady(*page);
+      },
+      Qt::QueuedConnection);
 }
 
 std::optional<int> PagePictures::TakeRendered() {

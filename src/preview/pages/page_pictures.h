@@ -56,6 +56,7 @@ class PagePictures : public QObject {
   };
 
   void StartNext();
+  void Render(const Document& document, const Strip& strip);
   // Takes over what the worker has rendered; returns the page of it.
   std::optional<int> TakeRendered();
   void Keep(const Strip& strip, QImage picture);

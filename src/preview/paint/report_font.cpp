@@ -8,6 +8,7 @@
 
 #include "pictures/font_families.h"
 #include "report/engine/text_measurer.h"
+#include "text/run_time_failure.h"
 
 namespace tarvis {
 namespace {
@@ -26,6 +27,17 @@ QString BaseFamily() {
   static const bool isInstalled = QFontDatabase::families().contains(QLatin1String(FontFamily));
   static const QString family = QLatin1String(isInstalled ? FontFamily : SubstituteFamily);
   return family;
+}
+
+// The toolkit silently takes any other font for one whose file can't be read, and the pages would look
+// different on every try.
+QRawFont BaseFace(bool bold) {
+  const QString family = BaseFamily();
+  const QRawFont face = QRawFont::fromFont(AtFullSize({family}, bold));
+  if (face.familyName() != family && QFontDatabase::families().contains(family)) {
+    throw RunTimeFailure("a font can't be loaded", {.File = family.toStdString(), .Line = 0, .Key = {}});
+  }
+  return face;
 }
 
 bool IsCombining(char32_t character) {
@@ -65,8 +77,7 @@ ReportFont& ReportFont::OfThisThread(int codePage) {
 }
 
 ReportFont::ReportFont(int codePage) : codePage_(codePage) {
-  for (const bool bold : {false, true})
-    faces_.push_back(AtDesignUnits(QRawFont::fromFont(AtFullSize({BaseFamily()}, bold))));
+  for (const bool bold : {false, true}) faces_.push_back(AtDesignUnits(BaseFace(bold)));
   for (const bool bold : {false, true}) {
     for (char32_t character = 0; character < 128; ++character)
       ascii_[bold][character] = Look(character, bold);
