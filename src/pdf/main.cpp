@@ -2,6 +2,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -70,6 +71,8 @@ Outcome Serve(const std::vector<std::string>& arguments, const PdfProcess& proce
     return {end.ExitStatus, "no document was made"};
   } catch (const RunTimeFailure& failure) {
     return {ExitAfterRunTimeFailure, std::string("run-time error: ") + failure.what()};
+  } catch (const std::bad_alloc&) {
+    return {ExitAfterRunTimeFailure, "there is not enough memory"};
   } catch (const std::exception& failure) {
     return {ExitAfterRunTimeFailure, failure.what()};
   }

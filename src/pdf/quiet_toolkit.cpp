@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <new>
 #include <string>
 
 #include "run/failures.h"
@@ -21,11 +22,29 @@ void Listen(QtMsgType type, const QMessageLogContext& /*context*/, const QString
   std::_Exit(ExitAfterRunTimeFailure);
 }
 
+// The libraries that look for fonts end the process without a word where memory is short, so there must be
+// enough for them before they start. It is only asked for, not used.
+void RequireMemory() {
+  constexpr std::size_t Enough = std::size_t{64} << 20;
+  void* volatile room = std::malloc(Enough);  // volatile, or the compiler would leave it out
+  if (room == nullptr) throw std::bad_alloc();
+  std::free(room);
+}
+
+// At its start the toolkit looks into the folder of the user's session, and makes one below the temporary
+// folder where there is none. Below a device no folder can be made. This program needs neither of them.
+void KeepFromMakingFolders() {
+  qunsetenv("XDG_RUNTIME_DIR");
+  qputenv("TMPDIR", "/dev/null");
+}
+
 }  // namespace
 
 std::unique_ptr<QGuiApplication> StartQuietToolkit(const char* programName) {
   qInstallMessageHandler(Listen);
   qunsetenv("QT_QPA_PLATFORMTHEME");  // a desktop's look may need its display
+  KeepFromMakingFolders();
+  RequireMemory();
   static std::string name = programName;
   static std::string platform = "-platform";
   static std::string offscreen = "offscreen";

@@ -3,6 +3,7 @@
 #include <QSettings>
 #include <cstdlib>
 #include <exception>
+#include <new>
 #include <string>
 
 #include "platform/start_watch.h"
@@ -15,6 +16,8 @@ namespace {
 std::string Description() {
   try {
     throw;
+  } catch (const std::bad_alloc&) {
+    return "there is not enough memory";
   } catch (const std::exception& failure) {
     return failure.what();
   } catch (...) {
