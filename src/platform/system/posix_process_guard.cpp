@@ -1,6 +1,7 @@
 // What the process sets up for itself on POSIX systems.
 #include <fcntl.h>
 #include <langinfo.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -25,6 +26,14 @@ void AskForUtf8() {
   setenv("LC_CTYPE", "C.UTF-8", 1);
 }
 
+// A dump of the memory would hold the document and its addresses.
+void KeepFromDumping() {
+  rlimit core = {};
+  if (getrlimit(RLIMIT_CORE, &core) != 0) return;
+  core.rlim_cur = 0;
+  static_cast<void>(setrlimit(RLIMIT_CORE, &core));
+}
+
 }  // namespace
 
 void GuardProcess() {
@@ -34,6 +43,7 @@ void GuardProcess() {
   }
   std::signal(SIGPIPE, SIG_IGN);
   std::signal(SIGXFSZ, SIG_IGN);
+  KeepFromDumping();
   AskForUtf8();
 }
 
