@@ -44,8 +44,8 @@ class PdfCase(unittest.TestCase):
 
     def run_program(self, *arguments, through=(), environment=None, **run):
         """`through` is a command that becomes the program; a variable that is None is not set."""
-        return subprocess.run([*through, PROGRAM, *(str(word) for word in arguments)], check=False, timeout=300,
-                              env=self.environment(**(environment or {})), **{"capture_output": True, **run})
+        return subprocess.run([*through, PROGRAM, *(str(word) for word in arguments)], check=False,
+                              env=self.environment(**(environment or {})), **{"timeout": 300, "capture_output": True, **run})
 
     def make(self, mode, *options, edition=None, **run):
         """Expects a PDF without a word, and nothing else touched."""

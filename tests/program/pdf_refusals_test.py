@@ -1,5 +1,6 @@
 """What tarvis-pdf can't do it reports in one clear line, and it leaves no file."""
 import os
+import shutil
 import subprocess
 import unittest
 
@@ -95,6 +96,17 @@ class Files(PdfCase):
         self.addCleanup(self.host.temp_folder.chmod, 0o700)
         done = self.run_program("User", "1", self.pdf, through=AS_A_USER)
         self.assertEqual(done.stderr, b"tarvis-pdf: failure 3: Parameter File is wrong. User.tmp: can't be read\n")
+        self.assertEqual(done.returncode, 2)
+
+    def test_options_that_can_not_be_looked_for_are_not_taken_as_missing(self):
+        self.host.write_data("JogTbl")
+        copied = self.folder / "copied"
+        shutil.copytree(self.host.temp_folder, copied)
+        self.host.system_folder.chmod(0)
+        self.addCleanup(self.host.system_folder.chmod, 0o700)
+        done = self.run_program("--data", copied, "JogTbl", "2", self.pdf, through=AS_A_USER)
+        self.assertEqual(done.stderr.decode(), "tarvis-pdf: failure 10: Printing Items Setting File is wrong. "
+                                               "PrintOption.ToT: can't be read\n")
         self.assertEqual(done.returncode, 2)
 
     def test_missing_configuration_is_named_with_its_effect(self):

@@ -33,6 +33,8 @@ RUN_BY = {
     "tools/try_on trixie": ("tests/CMakeLists.txt", "tools/try_on ${release}"),
     "tools/try_on testing ./bench.sh": ("tests/CMakeLists.txt", "tools/try_on ${release}"),
     "./lint.sh --changed": (".ci/run", "./lint.sh --changed"),
+    **{f"tools/reliability {part}": ("tests/CMakeLists.txt", "/tools/reliability ${part}")
+       for part in ("calls", "calls JogTbl", "limits", "kills", "windows")},
     "tools/check_walls": ("tests/CMakeLists.txt", "tools/check_${rule}"),
     "tools/check_sizes": ("tests/CMakeLists.txt", "tools/check_${rule}"),
     "tools/check_names": ("tests/CMakeLists.txt", "tools/check_${rule}"),

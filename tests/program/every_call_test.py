@@ -1,0 +1,45 @@
+"""Whatever call to the system fails: tarvis-pdf makes the right PDF, or it says why not and leaves every file as it was.
+
+The calls that write the PDF are tried here; `tools/reliability calls` tries every call in every mode with every error.
+"""
+import subprocess
+import sys
+import unittest
+from collections import Counter
+
+from call_faults import ERRORS, moments_of, tracing
+from pdf_ends import EVERY, PRINTING, PdfEnds
+
+CHOSEN = [mode for mode in PRINTING if mode in sys.argv]
+TRIED = (CHOSEN or PRINTING) if EVERY else ["JogTbl"]
+OF_WRITING = ("write", "fsync", "rename", "fchmodat")
+
+
+class EveryCall(PdfEnds):
+    def test_may_fail(self):
+        total = Counter()
+        for mode in TRIED:
+            with self.subTest(mode=mode):
+                self.setUp()
+                self.prepare(mode)
+                moments = self.moments(moments_of, tuple(ERRORS) if EVERY else OF_WRITING)
+                ends = self.expect_promised_ends((f"{moment} with {error}", moment.failing(error))
+                                                 for moment in moments for error in ERRORS[moment.call])
+                print(f"{mode}: {sum(ends.values())} runs, by exit status {dict(ends)}", flush=True)
+                total += ends
+        print(f"{sum(total.values())} runs, by exit status {dict(total)}")
+
+
+class Font(PdfEnds):
+    def test_is_named_if_it_can_not_be_opened_and_no_other_is_taken(self):
+        self.prepare("JogTbl")
+        for style in ("Regular", "Bold"):
+            path = subprocess.run(["fc-match", "-f", "%{file}", f"Liberation Sans:style={style}"], capture_output=True,
+                                  check=True, text=True).stdout
+            done = self.run_into(self.output / style, tracing("--inject=openat:error=EIO", "-P", path, call="openat"))
+            self.assertEqual(done.stderr.decode(), "tarvis-pdf: run-time error: Liberation Sans: a font can't be loaded\n")
+            self.assertEqual(done.returncode, 1)
+
+
+if __name__ == "__main__":
+    unittest.main(argv=[argument for argument in sys.argv if argument not in CHOSEN])
