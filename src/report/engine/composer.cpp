@@ -23,8 +23,9 @@ float HeightOf(const Section* section) {
 // One composing from the first event of the outermost report to its finished document.
 class Composing : private PageBands {
  public:
-  Composing(ActiveReport& report, const PageSetup& setup, const TextMeasurer& measurer)
+  Composing(ActiveReport& report, const PageSetup& setup, const TextMeasurer& measurer, PageTaker* taker)
       : report_(report),
+        taker_(taker),
         pageHeader_(FindSection(report, SectionKind::PageHeader)),
         pageFooter_(FindSection(report, SectionKind::PageFooter)),
         bands_(document_, measurer),
@@ -194,16 +195,37 @@ class Composing : private PageBands {
     if (section == nullptr) return band;
     bands_.SetPageNumber(page + 1);
     ComposeBand(report_, *section, document_.Setup.Left, band);
-    for (const std::size_t item : bands_.PageCountItems()) totals_.push_back(document_.Items.size() + item);
+    for (const std::size_t item : bands_.PageCountItems())
+      document_.PageTotals.push_back(static_cast<std::uint32_t>(document_.Items.size() + item));
     return band;
+  }
+
+  void FinishPage() override {
+    if (taker_ == nullptr) return;
+    taker_->Take(document_, document_.Pages.size() - 1);
+    KeepPageTotals(document_.Pages.back());
+  }
+
+  // Of a page that was taken.
+  void KeepPageTotals(Page& page) {
+    const std::size_t count = PageTotalsOf(document_, page).size();
+    const auto totals = document_.PageTotals.end() - static_cast<std::ptrdiff_t>(count);
+    page.ItemCount = 0;
+    for (auto total = totals; total != document_.PageTotals.end(); ++total) {
+      const std::uint32_t kept = page.FirstItem + page.ItemCount++;
+      document_.Items[kept] = document_.Items[*total];
+      *total = kept;
+    }
+    document_.Items.resize(page.FirstItem + page.ItemCount);
   }
 
   void WritePageTotal() {
     const std::string total = std::to_string(document_.Pages.size());
-    for (const std::size_t item : totals_) bands_.PatchText(document_.Items[item], total);
+    for (const std::uint32_t item : document_.PageTotals) bands_.PatchText(document_.Items[item], total);
   }
 
   ActiveReport& report_;
+  PageTaker* const taker_;
   Section* const pageHeader_;
   Section* const pageFooter_;
   Document document_;
@@ -213,15 +235,15 @@ class Composing : private PageBands {
   std::deque<OpenGroup> groups_;
   std::deque<FlowRow> rows_;
   std::vector<std::shared_ptr<ActiveReport>> inner_;
-  std::vector<std::size_t> totals_;  // items that show the page total
-  int* current_ = nullptr;           // landing of the band whose event runs
-  int nextLanding_ = -1;             // of entries added outside of all bands
+  int* current_ = nullptr;  // landing of the band whose event runs
+  int nextLanding_ = -1;    // of entries added outside of all bands
 };
 
 }  // namespace
 
-Document Compose(ActiveReport& report, const PageSetup& setup, const TextMeasurer& measurer) {
-  return Composing(report, setup, measurer).Run();
+Document Compose(ActiveReport& report, const PageSetup& setup, const TextMeasurer& measurer,
+                 PageTaker* taker) {
+  return Composing(report, setup, measurer, taker).Run();
 }
 
 }  // namespace tarvis

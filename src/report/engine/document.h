@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -99,10 +100,15 @@ class Document {
   std::vector<PicturePtr> Pictures;
   std::vector<std::string_view> Names;  // control names; static storage or Storage
   std::vector<ContentsEntry> Contents;
+  // Items that show how many pages there are, which is known last; indexes in the order of Items.
+  std::vector<std::uint32_t> PageTotals;
 
   // Owns the characters that Texts and Names point to; blocks never move.
   std::deque<std::string> Storage;
 };
+
+// Those of PageTotals that are on a page.
+std::span<const std::uint32_t> PageTotalsOf(const Document& document, const Page& page);
 
 // The index of that style in Styles, where it is added if it isn't there yet.
 std::uint16_t StyleIndex(Document& document, const TextStyle& style);

@@ -73,6 +73,7 @@ void PageInProgress::Close() {
   Page& page = document_.Pages.back();
   page.ItemCount = static_cast<std::uint32_t>(document_.Items.size()) - page.FirstItem;
   open_ = false;
+  bands_.FinishPage();
 }
 
 void PageInProgress::Turn(OpenGroup* group) {

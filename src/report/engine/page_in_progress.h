@@ -30,6 +30,8 @@ class PageBands {
   // Composes page header and page footer for the page with this index; absent ones give a band of height 0.
   virtual Band ComposePageHeader(int page) = 0;
   virtual Band ComposePageFooter(int page) = 0;
+  // The last page has all of its items.
+  virtual void FinishPage() = 0;
 };
 
 class PageInProgress {
