@@ -2,29 +2,17 @@
 // as archives ask for.
 #pragma once
 
-#include <QSizeF>
 #include <QString>
 #include <filesystem>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "preview/output/pdf_info.h"
+#include "preview/output/pdf_sheets.h"
 #include "preview/output/progress.h"
 #include "report/engine/document.h"
 
 namespace tarvis {
-
-// The sheets of a PDF: which pages of the document, on which paper.
-struct PdfSheets {
-  std::vector<int> Pages;  // indexes, in the order of the sheets; a page may be there more than once
-  QSizeF Paper;            // twips
-  double Scale = 1;        // below 1 the pages are shrunk towards their top left corner
-  bool Greys = false;
-
-  // Every page once, as it was composed.
-  static PdfSheets AllOf(const Document& document);
-};
 
 // Whether a file may replace what is at `path`: only nothing, or an ordinary file, also through a link.
 [[nodiscard]] bool CanBeReplaced(const std::filesystem::path& path);

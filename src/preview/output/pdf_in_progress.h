@@ -1,0 +1,33 @@
+// A PDF that gets its pages one by one.
+#pragma once
+
+#include <qpdf/QPDF.hh>
+#include <string>
+
+#include "preview/output/pdf_info.h"
+#include "preview/output/pdf_pages.h"
+#include "preview/output/pdf_sheets.h"
+#include "report/engine/document.h"
+
+namespace tarvis {
+
+// Belongs to the thread that made it, as its fonts do.
+class PdfInProgress {
+ public:
+  // `codePage` is that of the texts.
+  PdfInProgress(const PdfLook& look, int codePage);
+
+  // Adds a sheet with that page.
+  void Add(const Document& document, std::size_t page) { pages_.Add(document, page); }
+
+  // The bytes of the PDF. `document` has at least contents and page totals. To be called once, as the last
+  // one.
+  std::string Finish(const Document& document, const PdfInfo& info);
+
+ private:
+  PdfLook look_;
+  QPDF pdf_;
+  PdfPages pages_;
+};
+
+}  // namespace tarvis

@@ -1,0 +1,46 @@
+#include "preview/output/pdf_pages.h"
+
+#include <qpdf/QPDFPageDocumentHelper.hh>
+
+#include "preview/output/pdf_resources.h"
+#include "preview/output/reading_order.h"
+
+namespace tarvis {
+
+QPDFObjectHandle Points(double twips) {
+  return QPDFObjectHandle::newReal(twips / TwipsPerPoint, 2);
+}
+
+PdfPages::PdfPages(QPDF& pdf, const PdfLook& look, int codePage)
+    : pdf_(pdf), look_(look), glyphs_(ReportFont::OfThisThread(codePage)) {}
+
+void PdfPages::Add(const Document& document, std::size_t page) {
+  sheets_.push_back(static_cast<int>(page));
+  const auto [content, isNew] = contents_.try_emplace(sheets_.back());
+  if (!isNew) return;
+  PdfCanvas canvas(look_.Paper.height(), look_.Scale, glyphs_, pictures_);
+  PaintInReadingOrder(document, page, canvas);
+  content->second = pdf_.newStream();
+  compressed_.Add(content->second, canvas.Finish());
+}
+
+bool PdfPages::Finish() {
+  const PdfResources resources = MakeResources(pdf_, glyphs_, pictures_, glyphs_.Font(), compressed_);
+  compressed_.Finish();
+  QPDFPageDocumentHelper pages(pdf_);
+  for (const int page : sheets_) pages.addPage(NewPage(contents_.at(page), resources.Dictionary), false);
+  return resources.HasAllGlyphs;
+}
+
+QPDFObjectHandle PdfPages::NewPage(const QPDFObjectHandle& content, const QPDFObjectHandle& resources) {
+  QPDFObjectHandle page = QPDFObjectHandle::newDictionary();
+  page.replaceKey("/Type", QPDFObjectHandle::newName("/Page"));
+  const QPDFObjectHandle zero = QPDFObjectHandle::newInteger(0);
+  page.replaceKey("/MediaBox", QPDFObjectHandle::newArray(
+                                   {zero, zero, Points(look_.Paper.width()), Points(look_.Paper.height())}));
+  page.replaceKey("/Contents", content);
+  page.replaceKey("/Resources", resources);
+  return pdf_.makeIndirectObject(page);
+}
+
+}  // namespace tarvis
