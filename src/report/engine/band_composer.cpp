@@ -111,9 +111,10 @@ Printing BandComposer::Compose(ActiveReport& report, Section& section, float lef
 
 void BandComposer::Grow(Section& section) {
   for (const auto& control : section.Controls()) {
+    if (!control->Visible) continue;
     const AnyControl self = control->Self();
     const auto* const* field = std::get_if<const Field*>(&self);
-    if (field == nullptr || !control->Visible) continue;
+    if (field == nullptr) continue;
     const TextControl& text = **field;
     if (text.Text.empty()) continue;
     const std::size_t lines = cache_.Lines(text.Text, StyleOf(text), text.Width).size();
@@ -135,6 +136,7 @@ float BandComposer::FinalHeight(const Section& section) {
 void BandComposer::EmitControls(const Section& section, float left, Band& band) {
   ++bandNumber_;
   pageCountItems_.clear();
+  band.Items.reserve(2 * section.Controls().size());  // a cell is a box and mostly one line
   for (const auto& control : section.Controls()) {
     // What begins at or below the band's bottom is a leftover of the design; what begins above it prints
     // whole.

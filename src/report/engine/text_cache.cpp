@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
-#include <functional>
 #include <optional>
 #include <string>
 
@@ -48,11 +47,6 @@ std::optional<std::string> AsShown(std::string_view text) {
 
 float LinePitch(float size) {
   return static_cast<float>(std::nearbyint(size * TwipsPerPoint * LinePitchEm));
-}
-
-std::size_t TextCache::KeyHash::operator()(const Key& key) const {
-  return std::hash<std::string_view>{}(key.Text) ^
-         (static_cast<std::size_t>(key.Style) * 0x9E3779B97F4A7C15U);
 }
 
 TextCache::TextCache(Document& document, const TextMeasurer& measurer)
@@ -105,12 +99,11 @@ std::uint32_t TextCache::OneLine(std::string_view text, std::uint16_t style) {
 }
 
 std::uint32_t TextCache::Find(std::string_view text, std::uint16_t style, TextFlow paragraph) {
-  const auto found = index_.find(Key{text, style, paragraph});
-  if (found != index_.end()) return found->second;
+  if (const auto found = index_.Find({text, style, paragraph})) return *found;
   // From here on each text is measured, broken, painted, found and copied in one form.
   if (const auto shown = AsShown(text)) {
     const std::uint32_t whole = Find(*shown, style, paragraph);
-    index_.emplace(Key{Keep(text), style, paragraph}, whole);
+    index_.Add({Keep(text), style, paragraph}, whole);
     return whole;
   }
   const auto next = static_cast<std::uint32_t>(wholes_.size());
@@ -121,7 +114,7 @@ std::uint32_t TextCache::Find(std::string_view text, std::uint16_t style, TextFl
   whole.HasLineEnds = text.find("\r\n") != std::string_view::npos;
   if (!whole.HasLineEnds) whole.Advance = Advance(text, style, whole.Flow);
   wholes_.push_back(whole);
-  index_.emplace(Key{whole.Text, style, paragraph}, next);
+  index_.Add({whole.Text, style, paragraph}, next);
   return next;
 }
 

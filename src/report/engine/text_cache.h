@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "report/engine/document.h"
+#include "report/engine/text_index.h"
 #include "report/engine/text_measurer.h"
 
 namespace tarvis {
@@ -41,15 +42,6 @@ class TextCache {
   std::uint32_t OneLine(std::string_view text, std::uint16_t style);
 
  private:
-  struct Key {
-    std::string_view Text;
-    std::uint16_t Style;
-    TextFlow Paragraph;
-    bool operator==(const Key&) const = default;
-  };
-  struct KeyHash {
-    std::size_t operator()(const Key& key) const;
-  };
   // A text in one style as a handler gave it.
   struct Whole {
     std::string_view Text;
@@ -88,7 +80,7 @@ class TextCache {
   Document& document_;
   const TextMeasurer& measurer_;
   std::array<std::array<float, 128>, 2> ascii_{};  // em, by weight
-  std::unordered_map<Key, std::uint32_t, KeyHash> index_;
+  TextIndex index_;                                // of wholes_
   std::vector<Whole> wholes_;
   std::unordered_map<std::uint64_t, Broken> broken_;  // by whole and width
   std::vector<std::uint32_t> linePieces_;
