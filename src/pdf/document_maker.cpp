@@ -2,32 +2,35 @@
 
 #include "functions/catalog.h"
 #include "platform/system/text_measurer.h"
-#include "preview/output/pdf_export.h"
+#include "preview/output/pdf_press.h"
+#include "report/data_files.h"
 #include "report/master_document.h"
-#include "report/paper_setup.h"
 #include "report/rptTarvis.h"
 #include "run/print_run.h"
 
 namespace tarvis {
 
-const Document& DocumentMaker::Compose() {
+Document DocumentMaker::Compose(PageTaker* taker) {
   SelectHeaderOptions(run_, AllFunctions());
   rptTarvis report(ReportContext{run_, pictures_}, AllFunctions(), CreateFunctionReport, *this);
-  document_ = ComposeMasterReport(run_, report, SetupForPaper(paper_.Width, paper_.Height),
-                                  QtTextMeasurer(run_.CodePage.Number()));
+  Document document =
+      ComposeMasterReport(run_, report, setup_, QtTextMeasurer(run_.CodePage.Number()), taker);
   run_.Session.MasterReport = nullptr;
-  files_.emplace(run_, AllFunctions());
-  return document_;
+  return document;
 }
 
-std::string DocumentMaker::MakePdf(std::time_t created, DataInPdf data, const Progress& progress) const {
-  PdfInfo info{QString::fromStdString(document_.Title), QString::fromStdString(run_.Header.MadeBy),
+void DocumentMaker::Check() {
+  Compose(nullptr);
+}
+
+std::string DocumentMaker::MakePdf(std::time_t created, DataInPdf data, const Progress& progress) {
+  const PdfLook look{.Paper = QSizeF(paper_.Width, paper_.Height), .Scale = paper_.Width / setup_.Width};
+  PdfPress press(look, progress);
+  const Document document = Compose(&press);
+  PdfInfo info{QString::fromStdString(document.Title), QString::fromStdString(run_.Header.MadeBy),
                QDateTime::fromSecsSinceEpoch(created)};
-  if (data == DataInPdf::Attached && files_) info.Data = files_->Read();
-  PdfSheets sheets = PdfSheets::AllOf(document_);
-  sheets.Scale = paper_.Width / document_.Setup.Width;
-  sheets.Paper = QSizeF(paper_.Width, paper_.Height);
-  return tarvis::MakePdf(document_, sheets, info, progress);
+  if (data == DataInPdf::Attached) info.Data = DataFiles(run_, AllFunctions()).Read();
+  return press.Finish(document, info);
 }
 
 }  // namespace tarvis

@@ -45,11 +45,12 @@ void StopIfInterrupted() {
   if (IsInterrupted()) EndAsInterrupted();
 }
 
-std::string MakePdfOf(const DocumentMaker& maker, const PdfOrder& order, ProgressLine& line) {
+std::string MakePdfOf(DocumentMaker& maker, const PdfOrder& order, ProgressLine& line) {
   const DataInPdf data = order.AttachesData ? DataInPdf::Attached : DataInPdf::None;
   return maker.MakePdf(order.Date.value_or(std::time(nullptr)), data, [&line](int done, int total) {
+    StopIfInterrupted();  // the file is written when all pages are made
     line.ShowStep("making page", done, total);
-    return !IsInterrupted();
+    return true;
   });
 }
 
@@ -66,9 +67,11 @@ void CarryOut(const PdfOrder& order, const PdfProcess& process, PdfDesktop& desk
   ProgressLine line(order.ShowsProgress);
   line.Show("composing");
   DocumentMaker maker(run, PaperOf(order));
-  maker.Compose();
-  StopIfInterrupted();
-  if (order.Task == PdfTask::CheckDocument) return;
+  if (order.Task == PdfTask::CheckDocument) {
+    maker.Check();
+    StopIfInterrupted();
+    return;
+  }
   const std::string pdf = MakePdfOf(maker, order, line);
   StopIfInterrupted();
   line.Show("writing");

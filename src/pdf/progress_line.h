@@ -21,12 +21,12 @@ class ProgressLine {
   void Show(const std::string& text) const {
     if (isShown_) std::fputs((Clear + text).c_str(), stderr);
   }
-  // The same for a step of many, as often as people can read.
+  // The same for a step of many, as often as people can read. A total of 0 isn't known yet.
   void ShowStep(const std::string& text, int done, int total) {
     const auto now = std::chrono::steady_clock::now();
     if (now < next_) return;
     next_ = now + Pause;
-    Show(text + " " + std::to_string(done) + " of " + std::to_string(total));
+    Show(text + " " + std::to_string(done) + (total > 0 ? " of " + std::to_string(total) : std::string()));
   }
 
  private:

@@ -1,4 +1,5 @@
 """tarvis-pdf makes every document of the print module without display, home folder and printer."""
+import os
 import re
 import shutil
 import signal
@@ -14,6 +15,10 @@ from print_file import PrintFile, write_parameters
 from servo_pack import Parameter
 
 TOO_LONG = "warning: Input Error: Try with  Less Characters.  Up to 40 Characters can be Inputted."
+
+
+def first_processor():
+    return str(min(os.sched_getaffinity(0)))
 
 
 class Documents(PdfCase):
@@ -175,13 +180,36 @@ class Checks(PdfCase):
         self.expect_refused(1, "run-time error: .*MechaGain.*no picture that can be shown.*", "--check", "Mecha", "1")
 
 
+class Threads(PdfCase):
+    """Pages are painted and compressed while later ones are composed."""
+
+    def test_bytes_are_the_same_on_one_processor(self):
+        for mode, overlapped in (("User", 0), ("Mecha", 0), ("SimEx", 3)):
+            with self.subTest(mode=mode):
+                self.host.write_data(mode, overlapped)
+                made = [self.make(mode, "--date", DAY, through=through).read_bytes()
+                        for through in ((), ("taskset", "-c", first_processor()))]
+                self.assertEqual(*made)
+
+    def test_failure_after_many_pages_is_the_same_line_and_leaves_no_file(self):
+        self.host.write_data("Trace", 3)
+        self.make("Trace")
+        self.assertGreater(self.page_count(), 3)
+        self.pdf.unlink()
+        last = max(self.host.temp_folder.glob("Trace*.tmp"))
+        last.write_bytes(last.read_bytes() + b"Unknown,1\r\n")
+        reason = rf"failure 4: Tracing File is wrong. {last.name}:\d+: unknown key 'Unknown'"
+        self.expect_refused(2, reason, "--check", "Trace", "1")
+        self.expect_refused(2, reason, "Trace", "1", self.pdf)
+
+
 class Progress(PdfCase):
     def test_progress_is_shown_to_those_who_ask(self):
         self.host.write_data("User")
         done = self.run_program("--progress", "User", "1", self.pdf)
         self.assertEqual(done.returncode, 0)
         self.assertIn(b"composing", done.stderr)
-        self.assertRegex(done.stderr, rb"making page 0 of 3")
+        self.assertRegex(done.stderr, rb"making page 0")
 
 
 class Interruption(PdfCase):

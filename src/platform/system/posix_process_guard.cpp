@@ -3,6 +3,9 @@
 #include <langinfo.h>
 #include <sys/resource.h>
 #include <unistd.h>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 #include <cerrno>
 #include <clocale>
@@ -45,6 +48,12 @@ void GuardProcess() {
   std::signal(SIGXFSZ, SIG_IGN);
   KeepFromDumping();
   AskForUtf8();
+}
+
+void ShareMemory() {
+#ifdef __GLIBC__
+  mallopt(M_ARENA_MAX, 1);
+#endif
 }
 
 }  // namespace tarvis

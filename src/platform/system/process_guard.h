@@ -10,4 +10,8 @@ namespace tarvis {
 // Takes UTF-8 as the encoding of the environment, which the toolkit needs.
 void GuardProcess();
 
+// Has all threads take their memory from one pool. A pool for each would keep what only one of them needs. To
+// be called before there are threads.
+void ShareMemory();
+
 }  // namespace tarvis

@@ -7,4 +7,7 @@ namespace tarvis {
 // write.
 void GuardProcess() {}
 
+// There is one pool.
+void ShareMemory() {}
+
 }  // namespace tarvis

@@ -25,6 +25,11 @@ PdfCanvas::PdfCanvas(double height, double scale, PdfGlyphs& glyphs, PdfPictures
   Add("cm\n");
 }
 
+// What the content before has set isn't known, but for the matrix.
+PdfCanvas::PdfCanvas(PdfGlyphs& glyphs, PdfPictures& pictures) : glyphs_(glyphs), pictures_(pictures) {
+  ForgetTextState();
+}
+
 void PdfCanvas::AddRect(const Rect& box) {
   for (const float value : {box.Left, box.Top, box.Width, box.Height}) AppendNumber(content_, value);
   Add("re\n");

@@ -39,6 +39,8 @@ class PdfCanvas : public Canvas {
  public:
   // `height` of the paper in twips; `scale` below 1 shrinks the page towards its top left corner.
   PdfCanvas(double height, double scale, PdfGlyphs& glyphs, PdfPictures& pictures);
+  // For content that follows another one of the same page.
+  PdfCanvas(PdfGlyphs& glyphs, PdfPictures& pictures);
 
   void Fill(const std::vector<Rect>& boxes, Color color) override;
   void Frame(const std::vector<Rect>& boxes, float width) override;

@@ -120,8 +120,9 @@ void TurnIntoGreys(QPDF& pdf) {
   }
   std::set<QPDFObjGen> done;  // pages that are there more than once share their content
   for (QPDFObjectHandle page : pdf.getAllPages()) {
-    QPDFObjectHandle content = page.getKey("/Contents");
-    if (done.insert(content.getObjGen()).second) content.addTokenFilter(std::make_shared<GreyInks>());
+    for (QPDFObjectHandle& content : page.getPageContents()) {
+      if (done.insert(content.getObjGen()).second) content.addTokenFilter(std::make_shared<GreyInks>());
+    }
   }
 }
 

@@ -148,7 +148,7 @@ PdfInProgress::PdfInProgress(const PdfLook& look, int codePage) : look_(look), p
 }
 
 std::string PdfInProgress::Finish(const Document& document, const PdfInfo& info) {
-  const bool hasAllGlyphs = pages_.Finish();
+  const bool hasAllGlyphs = pages_.Finish(document);
   const PdfSheets sheets{look_, pages_.Sheets()};
   AddOutline(pdf_, document, sheets);
   AddOpening(pdf_, sheets);

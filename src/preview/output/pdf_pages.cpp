@@ -1,6 +1,7 @@
 #include "preview/output/pdf_pages.h"
 
 #include <qpdf/QPDFPageDocumentHelper.hh>
+#include <utility>
 
 #include "preview/output/pdf_resources.h"
 #include "preview/output/reading_order.h"
@@ -19,17 +20,35 @@ void PdfPages::Add(const Document& document, std::size_t page) {
   const auto [content, isNew] = contents_.try_emplace(sheets_.back());
   if (!isNew) return;
   PdfCanvas canvas(look_.Paper.height(), look_.Scale, glyphs_, pictures_);
-  PaintInReadingOrder(document, page, canvas);
-  content->second = pdf_.newStream();
-  compressed_.Add(content->second, canvas.Finish());
+  PaintWithoutPageTotals(document, page, canvas);
+  content->second = NewStream(canvas.Finish());
 }
 
-bool PdfPages::Finish() {
+bool PdfPages::Finish(const Document& document) {
+  std::vector<QPDFObjectHandle> contents;
+  for (const int page : sheets_) contents.push_back(WholeContent(document, page));
   const PdfResources resources = MakeResources(pdf_, glyphs_, pictures_, glyphs_.Font(), compressed_);
   compressed_.Finish();
   QPDFPageDocumentHelper pages(pdf_);
-  for (const int page : sheets_) pages.addPage(NewPage(contents_.at(page), resources.Dictionary), false);
+  for (const QPDFObjectHandle& content : contents)
+    pages.addPage(NewPage(content, resources.Dictionary), false);
   return resources.HasAllGlyphs;
+}
+
+QPDFObjectHandle PdfPages::NewStream(std::string content) {
+  QPDFObjectHandle stream = pdf_.newStream();
+  compressed_.Add(stream, std::move(content));
+  return stream;
+}
+
+QPDFObjectHandle PdfPages::WholeContent(const Document& document, int page) {
+  PdfCanvas canvas(glyphs_, pictures_);
+  PaintPageTotals(document, static_cast<std::size_t>(page), canvas);
+  const std::string total = canvas.Finish();
+  if (total.empty()) return contents_.at(page);
+  const auto [known, isNew] = totals_.try_emplace(total);
+  if (isNew) known->second = NewStream(total);
+  return QPDFObjectHandle::newArray({contents_.at(page), known->second});
 }
 
 QPDFObjectHandle PdfPages::NewPage(const QPDFObjectHandle& content, const QPDFObjectHandle& resources) {

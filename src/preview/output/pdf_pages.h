@@ -1,4 +1,7 @@
 // The pages of a PDF: their contents, and the fonts and pictures that they share.
+//
+// The page total is content of its own, so that pages can be painted and compressed before it is known how
+// many there are.
 #pragma once
 
 #include <map>
@@ -22,16 +25,19 @@ class PdfPages {
   // `pdf` must outlive it. `codePage` is that of the texts.
   PdfPages(QPDF& pdf, const PdfLook& look, int codePage);
 
-  // Adds a sheet with a page; further sheets with the same page share its content.
+  // Adds a sheet. Its page is painted but for the page total; further sheets with the same page share its
+  // content.
   void Add(const Document& document, std::size_t page);
-  // Puts the sheets into the PDF. Returns whether it has a glyph for each character. To be called once, as
-  // the last one.
-  [[nodiscard]] bool Finish();
+  // Completes the sheets, of whose pages `document` has at least the page totals, and puts them into the PDF.
+  // Returns whether it has a glyph for each character. To be called once, as the last one.
+  [[nodiscard]] bool Finish(const Document& document);
 
   // The page of each sheet.
   const std::vector<int>& Sheets() const { return sheets_; }
 
  private:
+  QPDFObjectHandle NewStream(std::string content);
+  QPDFObjectHandle WholeContent(const Document& document, int page);
   QPDFObjectHandle NewPage(const QPDFObjectHandle& content, const QPDFObjectHandle& resources);
 
   QPDF& pdf_;
@@ -40,7 +46,8 @@ class PdfPages {
   PdfPictures pictures_;
   PdfContents compressed_;
   std::vector<int> sheets_;
-  std::map<int, QPDFObjectHandle> contents_;  // by page
+  std::map<int, QPDFObjectHandle> contents_;        // by page
+  std::map<std::string, QPDFObjectHandle> totals_;  // by content, which is mostly the same on all pages
 };
 
 }  // namespace tarvis

@@ -25,12 +25,32 @@ void PutTextsInReadingOrder(const Document& document, std::size_t page, std::vec
   }
 }
 
+std::vector<PageLayer> LayersInReadingOrder(const Document& document, std::size_t page) {
+  std::vector<PageLayer> layers = PlanPage(document, page);
+  PutTextsInReadingOrder(document, page, layers);
+  return layers;
+}
+
 }  // namespace
 
 void PaintInReadingOrder(const Document& document, std::size_t page, Canvas& canvas) {
-  std::vector<PageLayer> layers = PlanPage(document, page);
-  PutTextsInReadingOrder(document, page, layers);
+  PaintLayers(document, LayersInReadingOrder(document, page), canvas);
+}
+
+void PaintWithoutPageTotals(const Document& document, std::size_t page, Canvas& canvas) {
+  std::vector<PageLayer> layers = LayersInReadingOrder(document, page);
+  for (const std::uint32_t total : PageTotalsOf(document, document.Pages[page])) {
+    for (PageLayer& layer : layers) std::erase(layer.Texts, &document.Items[total]);
+  }
   PaintLayers(document, layers, canvas);
+}
+
+void PaintPageTotals(const Document& document, std::size_t page, Canvas& canvas) {
+  for (const std::uint32_t total : PageTotalsOf(document, document.Pages[page])) {
+    const Item& item = document.Items[total];
+    const TextPiece& piece = document.Texts[item.Source];
+    canvas.Text(piece, document.Styles[piece.Style], item.Box);
+  }
 }
 
 }  // namespace tarvis

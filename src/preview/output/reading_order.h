@@ -9,4 +9,8 @@ namespace tarvis {
 
 void PaintInReadingOrder(const Document& document, std::size_t page, Canvas& canvas);
 
+// The same in two steps, for pages that are painted before it is known how many there are.
+void PaintWithoutPageTotals(const Document& document, std::size_t page, Canvas& canvas);
+void PaintPageTotals(const Document& document, std::size_t page, Canvas& canvas);
+
 }  // namespace tarvis

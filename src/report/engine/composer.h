@@ -13,8 +13,7 @@ class PageTaker {
  public:
   virtual ~PageTaker() = default;
 
-  // `document` is as far as it is composed. From one page to the next it gets further texts, styles, names
-  // and pictures, and those that it has stay as they are; the characters of texts live as long as the
+  // `document` is as far as it is composed. Its pictures and the characters of its texts live as long as the
   // document that Compose returns.
   virtual void Take(const Document& document, std::size_t page) = 0;
 };

@@ -1,0 +1,62 @@
+#include "preview/output/work_thread.h"
+
+#include <utility>
+
+namespace tarvis {
+
+WorkThread::WorkThread(std::size_t mostWaiting) : mostWaiting_(mostWaiting), thread_([this] { Run(); }) {}
+
+WorkThread::~WorkThread() {
+  {
+    const std::lock_guard lock(mutex_);
+    waiting_.clear();
+  }
+  End();
+}
+
+void WorkThread::Add(Work work) {
+  {
+    std::unique_lock lock(mutex_);
+    changed_.wait(lock, [this] { return waiting_.size() < mostWaiting_ || failure_; });
+    if (failure_) return;
+    waiting_.push_back(std::move(work));
+  }
+  changed_.notify_all();
+}
+
+void WorkThread::Finish() {
+  End();
+  if (failure_) std::rethrow_exception(failure_);
+}
+
+void WorkThread::End() {
+  {
+    const std::lock_guard lock(mutex_);
+    isComplete_ = true;
+  }
+  changed_.notify_all();
+  if (thread_.joinable()) thread_.join();
+}
+
+void WorkThread::Run() {
+  try {
+    for (Work work; TakeNext(work);) work();
+  } catch (...) {
+    const std::lock_guard lock(mutex_);
+    failure_ = std::current_exception();
+    changed_.notify_all();
+  }
+}
+
+// Waits for the next piece of work; false when there will be none.
+bool WorkThread::TakeNext(Work& work) {
+  std::unique_lock lock(mutex_);
+  changed_.wait(lock, [this] { return isComplete_ || !waiting_.empty(); });
+  if (waiting_.empty()) return false;
+  work = std::move(waiting_.front());
+  waiting_.pop_front();
+  changed_.notify_all();
+  return true;
+}
+
+}  // namespace tarvis

@@ -1,0 +1,44 @@
+// A thread that does pieces of work in the order in which it gets them.
+#pragma once
+
+#include <condition_variable>
+#include <cstddef>
+#include <deque>
+#include <exception>
+#include <functional>
+#include <mutex>
+#include <thread>
+
+namespace tarvis {
+
+class WorkThread {
+ public:
+  using Work = std::function<void()>;
+
+  // At most so many pieces of work wait for the thread.
+  explicit WorkThread(std::size_t mostWaiting);
+  // Leaves out what was not begun.
+  ~WorkThread();
+  WorkThread(const WorkThread&) = delete;
+  WorkThread& operator=(const WorkThread&) = delete;
+
+  // Waits as long as too much is waiting. After work that threw, all further work is left out.
+  void Add(Work work);
+  // Waits until all is done. To be called once, as the last one. Throws what the work threw.
+  void Finish();
+
+ private:
+  void Run();
+  bool TakeNext(Work& work);
+  void End();
+
+  const std::size_t mostWaiting_;
+  std::mutex mutex_;  // guards all that follows but the thread
+  std::condition_variable changed_;
+  std::deque<Work> waiting_;
+  bool isComplete_ = false;
+  std::exception_ptr failure_;
+  std::thread thread_;
+};
+
+}  // namespace tarvis
