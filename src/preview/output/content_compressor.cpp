@@ -13,8 +13,8 @@ namespace {
 
 constexpr unsigned MostThreads = 3;  // one thread paints as fast as so many compress
 
-// Level 5 makes pages of text 1 % larger than the usual level 6 does, in half of its time.
-constexpr int Level = 5;
+// Level 1 makes pages of text 8 % larger than the usual level 6 does, in 40 % of its time.
+constexpr int Level = 1;
 
 using Deflate = std::unique_ptr<libdeflate_compressor, decltype(&libdeflate_free_compressor)>;
 
@@ -24,12 +24,12 @@ Deflate NewDeflate() {
   return deflate;
 }
 
-std::string Compressed(const Deflate& deflate, const std::string& content) {
-  std::string bytes(libdeflate_zlib_compress_bound(deflate.get(), content.size()), '\0');
-  bytes.resize(
-      libdeflate_zlib_compress(deflate.get(), content.data(), content.size(), bytes.data(), bytes.size()));
-  bytes.shrink_to_fit();
-  return bytes;
+// `room` is kept from one content to the next.
+std::string Compressed(const Deflate& deflate, const std::string& content, std::vector<char>& room) {
+  room.resize(std::max(room.size(), libdeflate_zlib_compress_bound(deflate.get(), content.size())));
+  const std::size_t size =
+      libdeflate_zlib_compress(deflate.get(), content.data(), content.size(), room.data(), room.size());
+  return {room.data(), size};
 }
 
 }  // namespace
@@ -85,7 +85,8 @@ void ContentCompressor::End() {
 void ContentCompressor::Work() {
   try {
     const Deflate deflate = NewDeflate();
-    while (std::string* content = TakeNext()) *content = Compressed(deflate, *content);
+    std::vector<char> room;
+    while (std::string* content = TakeNext()) *content = Compressed(deflate, *content, room);
   } catch (...) {
     const std::lock_guard lock(mutex_);
     failure_ = std::current_exception();

@@ -8,6 +8,13 @@
 #include "report/engine/utf8.h"
 
 namespace tarvis {
+namespace {
+
+bool EndsWith(const std::vector<Rect>& boxes, const std::vector<Rect>& last) {
+  return boxes.size() >= last.size() && std::equal(last.rbegin(), last.rend(), boxes.rbegin());
+}
+
+}  // namespace
 
 std::size_t PdfPictures::Number(const Picture& picture, float width, float height) {
   const auto [place, isNew] = numbers_.try_emplace({&picture, width, height}, pictures_.size());
@@ -17,7 +24,7 @@ std::size_t PdfPictures::Number(const Picture& picture, float width, float heigh
 
 PdfCanvas::PdfCanvas(double height, double scale, PdfGlyphs& glyphs, PdfPictures& pictures)
     : glyphs_(glyphs), pictures_(pictures) {
-  content_.reserve(std::size_t{32} * 1024);
+  content_.reserve(std::size_t{20} * 1024);
   // With more decimals than other numbers: an error would grow over the whole page.
   const std::string factor = QByteArray::number(scale / TwipsPerPoint, 'g', 7).toStdString();
   Add(factor + " 0 0 -" + factor + " 0 ");
@@ -30,9 +37,11 @@ PdfCanvas::PdfCanvas(PdfGlyphs& glyphs, PdfPictures& pictures) : glyphs_(glyphs)
   ForgetTextState();
 }
 
-void PdfCanvas::AddRect(const Rect& box) {
-  for (const float value : {box.Left, box.Top, box.Width, box.Height}) AppendNumber(content_, value);
-  Add("re\n");
+void PdfCanvas::AddRects(std::span<const Rect> boxes) {
+  for (const Rect& box : boxes) {
+    for (const float value : {box.Left, box.Top, box.Width, box.Height}) AppendNumber(content_, value);
+    Add("re\n");
+  }
 }
 
 void PdfCanvas::UseInk(Color color) {
@@ -50,21 +59,37 @@ void PdfCanvas::UseLineWidth(float width) {
 }
 
 void PdfCanvas::Fill(const std::vector<Rect>& boxes, Color color) {
-  EndText();
-  UseInk(color);
-  for (const Rect& box : boxes) AddRect(box);
-  Add("f\n");
+  EndPart();
+  filled_ = boxes;
+  fill_ = color;
 }
 
+void PdfCanvas::EndFill(const char* paint) {
+  if (filled_.empty()) return;
+  UseInk(fill_);
+  AddRects(filled_);
+  Add(paint);
+  filled_.clear();
+}
+
+// Boxes that were filled just now are filled and framed as one path, which is much of the content of a table.
 void PdfCanvas::Frame(const std::vector<Rect>& boxes, float width) {
+  std::span<const Rect> others = boxes;
   EndText();
+  if (EndsWith(boxes, filled_)) {
+    UseLineWidth(width);
+    others = others.first(boxes.size() - filled_.size());
+    EndFill("B\n");
+  }
+  EndPart();
+  if (others.empty()) return;
   UseLineWidth(width);
-  for (const Rect& box : boxes) AddRect(box);
+  AddRects(others);
   Add("S\n");
 }
 
 void PdfCanvas::Strokes(const std::vector<Rect>& lines, float width) {
-  EndText();
+  EndPart();
   UseLineWidth(width);
   for (const Rect& line : lines) {
     AppendNumber(content_, line.Left);
@@ -82,10 +107,11 @@ void PdfCanvas::Text(const TextPiece& piece, const TextStyle& style, const Rect&
   const double baseline = BaselineOf(piece, style, box);
   const TextFit fit = FitText(piece, box);
   const std::optional<Rect> clip = ClipOfText(fit, style, box);
+  EndFill();
   if (clip) {
     EndText();
     Add("q ");
-    AddRect(*clip);
+    AddRects({&*clip, 1});
     Add("W n\n");
   }
   UseInk(Black);
@@ -128,16 +154,16 @@ void PdfCanvas::ShowPlain(const TextPiece& piece, const TextStyle& style, double
     const PdfGlyph& glyph = glyphs_.Use(NextCharacter(piece.Text, offset), style.Bold);
     if (!glyph.Inks) continue;
     if (!open || glyph.Font != font_) {
-      if (open) Add(">Tj\n");
+      if (open) Add(")Tj\n");
       UseFont(glyph.Font, style.Size);
       MoveTo(x, y);
-      Add("<");
+      Add("(");
       open = true;
     }
-    AppendHex(content_, glyph.Code);
+    AppendCode(content_, glyph.Code);
     x += glyph.AdvanceEm * em;
   }
-  if (open) Add(">Tj\n");
+  if (open) Add(")Tj\n");
 }
 
 // Clusters come in the order in which they are read: some viewers sort them by their places, others take them
@@ -160,9 +186,9 @@ void PdfCanvas::ShowCluster(const TextCluster& cluster, const TextStyle& style, 
   for (const PdfPlacedGlyph& placed : used.Glyphs) {
     UseFont(placed.Glyph.Font, style.Size);
     MoveTo(x + placed.X * em * stretch, y + placed.Y * em);
-    Add("<");
-    AppendHex(content_, placed.Glyph.Code);
-    Add(">Tj\n");
+    Add("(");
+    AppendCode(content_, placed.Glyph.Code);
+    Add(")Tj\n");
   }
   if (used.NeedsText) Add("EMC\n");
 }
@@ -221,10 +247,10 @@ void PdfCanvas::EndText() {
 }
 
 void PdfCanvas::Picture(const tarvis::Picture& picture, const Rect& box) {
-  EndText();
+  EndPart();
   const std::size_t number = pictures_.Number(picture, box.Width, box.Height);
   Add("q ");
-  AddRect(box);
+  AddRects({&box, 1});
   Add("W n 20 0 0 -20 ");
   AppendNumber(content_, box.Left);
   // A form is placed by its lower edge; its height is rounded up to whole points.
@@ -233,8 +259,13 @@ void PdfCanvas::Picture(const tarvis::Picture& picture, const Rect& box) {
   Add("cm /P" + std::to_string(number) + " Do Q\n");
 }
 
-std::string PdfCanvas::Finish() {
+void PdfCanvas::EndPart() {
   EndText();
+  EndFill();
+}
+
+std::string PdfCanvas::Finish() {
+  EndPart();
   return std::move(content_);
 }
 

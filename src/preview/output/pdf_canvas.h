@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <map>
 #include <optional>
+#include <span>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -53,11 +54,15 @@ class PdfCanvas : public Canvas {
 
  private:
   void Add(std::string_view text) { content_ += text; }
-  void AddRect(const Rect& box);
+  void AddRects(std::span<const Rect> boxes);
   void UseInk(Color color);
   void UseLineWidth(float width);
   void BeginText();
   void EndText();
+  // Paints the boxes that are to be filled, if there are any; `paint` is the operator for it.
+  void EndFill(const char* paint = "f\n");
+  // Text or boxes that are not finished.
+  void EndPart();
   void ShowText(const TextPiece& piece, const TextStyle& style, double x, double y, double stretch);
   void ShowPlain(const TextPiece& piece, const TextStyle& style, double x, double y, double stretch);
   void ShowShaped(const TextPiece& piece, const TextStyle& style, double x, double y, double stretch);
@@ -71,6 +76,8 @@ class PdfCanvas : public Canvas {
   PdfGlyphs& glyphs_;
   PdfPictures& pictures_;
   std::string content_;
+  std::vector<Rect> filled_;  // boxes that are not in the content yet, since they may be framed, too
+  Color fill_ = Black;        // for them
   Color ink_ = Black;
   float lineWidth_ = 0;
   bool inText_ = false;

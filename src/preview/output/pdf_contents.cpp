@@ -11,10 +11,12 @@ void PdfContents::Add(const QPDFObjectHandle& stream, std::string content) {
 }
 
 void PdfContents::Finish() {
-  const std::deque<std::string> contents = compressor_.Finish();
+  std::deque<std::string> contents = compressor_.Finish();
   const QPDFObjectHandle filter = QPDFObjectHandle::newName("/FlateDecode");
-  for (std::size_t index = 0; index < streams_.size(); ++index)
-    streams_[index].replaceStreamData(contents[index], filter, QPDFObjectHandle::newNull());
+  for (QPDFObjectHandle& stream : streams_) {
+    stream.replaceStreamData(contents.front(), filter, QPDFObjectHandle::newNull());
+    contents.pop_front();  // the stream has a copy
+  }
 }
 
 }  // namespace tarvis

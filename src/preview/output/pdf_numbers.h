@@ -33,4 +33,17 @@ inline void AppendHex(std::string& out, std::uint16_t value) {
   for (int shift = 12; shift >= 0; shift -= 4) out += Digits[(value >> shift) & 0xFU];
 }
 
+// Appends a code of two bytes to a text in brackets.
+inline void AppendCode(std::string& out, std::uint16_t value) {
+  for (const int shift : {8, 0}) {
+    const char byte = static_cast<char>((value >> shift) & 0xFF);
+    if (byte == '(' || byte == ')' || byte == '\\') out += '\\';
+    if (byte == '\r') {
+      out += "\\r";  // readers take it for the end of a line, as a line feed
+    } else {
+      out += byte;
+    }
+  }
+}
+
 }  // namespace tarvis

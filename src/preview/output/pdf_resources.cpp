@@ -88,27 +88,37 @@ void CompleteTexts(QPDFObjectHandle resources, std::set<QPDFObjGen>& done) {
   }
 }
 
+struct TakenForms {
+  QPDFObjectHandle Dictionary;
+  bool HaveAllGlyphs = true;
+};
+
+TakenForms MakeForms(QPDF& pdf, const PdfPictures& pictures, PdfContents& contents) {
+  TakenForms forms{QPDFObjectHandle::newDictionary()};
+  if (pictures.All().empty()) return forms;
+  HelperFile file(PaintHelperFile(
+      [&](QPdfWriter& writer, QPainter& painter) { PaintPictures(pictures, writer, painter); }));
+  std::vector<QPDFPageObjectHelper> pages = file.Pages();
+  std::set<QPDFObjGen> completed;
+  for (std::size_t number = 0; number < pictures.All().size(); ++number) {
+    TakenForm form = TakeForm(pdf, pages.at(number + 1), contents);
+    forms.HaveAllGlyphs = forms.HaveAllGlyphs && form.HasAllGlyphs;
+    CompleteTexts(form.Stream.getDict().getKey("/Resources"), completed);
+    forms.Dictionary.replaceKey("/P" + std::to_string(number), form.Stream);
+  }
+  return forms;
+}
+
 }  // namespace
 
 PdfResources MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPictures& pictures, ReportFont& font,
                            PdfContents& contents) {
-  HelperFile pictureFile(PaintHelperFile(
-      [&](QPdfWriter& writer, QPainter& painter) { PaintPictures(pictures, writer, painter); }));
-  QPDFObjectHandle resources = QPDFObjectHandle::newDictionary();
+  const TakenForms forms = MakeForms(pdf, pictures, contents);
   const PdfFonts fonts = MakeFonts(pdf, glyphs, font);
+  QPDFObjectHandle resources = QPDFObjectHandle::newDictionary();
   resources.replaceKey("/Font", fonts.Dictionary);
-  QPDFObjectHandle forms = QPDFObjectHandle::newDictionary();
-  std::vector<QPDFPageObjectHelper> pages = pictureFile.Pages();
-  std::set<QPDFObjGen> completed;
-  bool hasAllGlyphs = fonts.HaveAllGlyphs;
-  for (std::size_t number = 0; number < pictures.All().size(); ++number) {
-    TakenForm form = TakeForm(pdf, pages.at(number + 1), contents);
-    hasAllGlyphs = hasAllGlyphs && form.HasAllGlyphs;
-    CompleteTexts(form.Stream.getDict().getKey("/Resources"), completed);
-    forms.replaceKey("/P" + std::to_string(number), form.Stream);
-  }
-  resources.replaceKey("/XObject", forms);
-  return {pdf.makeIndirectObject(resources), hasAllGlyphs};
+  resources.replaceKey("/XObject", forms.Dictionary);
+  return {pdf.makeIndirectObject(resources), fonts.HaveAllGlyphs && forms.HaveAllGlyphs};
 }
 
 }  // namespace tarvis
