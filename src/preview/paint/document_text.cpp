@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <span>
 
 namespace tarvis {
 namespace {
@@ -41,32 +42,37 @@ bool IsFrame(const Cell& cell, const std::vector<Cell>& cells) {
   });
 }
 
-// Sorts into rows; returns where each row starts.
-std::vector<std::size_t> SortIntoRows(std::vector<Cell>& cells) {
-  std::stable_sort(cells.begin(), cells.end(),
-                   [](const Cell& a, const Cell& b) { return a.Place.Top < b.Place.Top; });
-  std::vector<std::size_t> starts;
-  for (std::size_t index = 0; index < cells.size(); ++index) {
-    if (starts.empty() || cells[index].Place.Top - cells[starts.back()].Place.Top >= RowTolerance) {
-      starts.push_back(index);
-    }
-  }
-  starts.push_back(cells.size());
-  for (std::size_t row = 0; row + 1 < starts.size(); ++row) {
-    std::stable_sort(cells.begin() + static_cast<std::ptrdiff_t>(starts[row]),
-                     cells.begin() + static_cast<std::ptrdiff_t>(starts[row + 1]),
-                     [](const Cell& a, const Cell& b) { return a.Place.Left < b.Place.Left; });
-  }
-  return starts;
+using Cells = std::span<const Cell*>;
+
+// Sorts by an edge of the cells, which mostly are in order.
+void SortBy(float Rect::*edge, Cells cells) {
+  const auto edgeOf = [edge](const Cell* cell) { return cell->Place.*edge; };
+  if (!std::ranges::is_sorted(cells, {}, edgeOf)) std::ranges::stable_sort(cells, {}, edgeOf);
 }
 
-void ReadRow(const Cell* first, const Cell* end, PageText& text) {
+// Sorts into rows; returns the cells of each.
+std::vector<Cells> SortIntoRows(Cells cells) {
+  SortBy(&Rect::Top, cells);
+  std::vector<Cells> rows;
+  while (!cells.empty()) {
+    const float top = cells.front()->Place.Top;
+    const auto end = std::ranges::find_if(
+        cells, [top](const Cell* cell) { return cell->Place.Top - top >= RowTolerance; });
+    const auto count = static_cast<std::size_t>(end - cells.begin());
+    rows.push_back(cells.first(count));
+    SortBy(&Rect::Left, rows.back());
+    cells = cells.subspan(count);
+  }
+  return rows;
+}
+
+void ReadRow(Cells cells, PageText& text) {
   bool rowOpen = false;
   std::uint16_t empty = 0;
-  for (const Cell* cell = first; cell != end; ++cell) {
+  for (const Cell* cell : cells) {
     if (cell->Lines.empty()) ++empty;
     for (std::size_t line = 0; line < cell->Lines.size(); ++line) {
-      const bool alone = end - first == 1;
+      const bool alone = cells.size() == 1;
       Join join = alone ? Join::Break : Join::Wrap;
       if (line == 0) join = rowOpen ? Join::Cell : Join::Line;
       text.Pieces.push_back({cell->Lines[line], line == 0 ? empty : std::uint16_t{0}, join, -1});
@@ -77,14 +83,11 @@ void ReadRow(const Cell* first, const Cell* end, PageText& text) {
 }
 
 void ReadBand(std::vector<Cell>& cells, PageText& text) {
-  std::vector<Cell> kept;
+  std::vector<const Cell*> kept;
   for (const Cell& cell : cells) {
-    if (!IsFrame(cell, cells)) kept.push_back(cell);
+    if (!IsFrame(cell, cells)) kept.push_back(&cell);
   }
-  const std::vector<std::size_t> starts = SortIntoRows(kept);
-  for (std::size_t row = 0; row + 1 < starts.size(); ++row) {
-    ReadRow(kept.data() + starts[row], kept.data() + starts[row + 1], text);
-  }
+  for (const Cells row : SortIntoRows(kept)) ReadRow(row, text);
   cells.clear();
 }
 
