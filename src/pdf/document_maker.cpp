@@ -25,7 +25,7 @@ void DocumentMaker::Check() {
 
 std::string DocumentMaker::MakePdf(std::time_t created, DataInPdf data, const Progress& progress) {
   const PdfLook look{.Paper = QSizeF(paper_.Width, paper_.Height), .Scale = paper_.Width / setup_.Width};
-  PdfPress press(look, progress);
+  PdfPress press(look, run_.CodePage.Number(), progress);
   const Document document = Compose(&press);
   PdfInfo info{QString::fromStdString(document.Title), QString::fromStdString(run_.Header.MadeBy),
                QDateTime::fromSecsSinceEpoch(created)};

@@ -58,7 +58,7 @@ TEST(PdfPress, GivesTheBytesOfThePdfOfTheWholeDocument) {
   const std::string expected = MakePdf(document, PdfSheets::AllOf(document), Info, GoOn);
   for (int run = 0; run < 3; ++run) {
     PicturedReport report(40);
-    PdfPress press(LookOf(document), GoOn);
+    PdfPress press(LookOf(document), 0, GoOn);
     const Document rest = ComposeFor(&press, report);
     EXPECT_EQ(press.Finish(rest, Info), expected) << run;
   }
@@ -67,7 +67,7 @@ TEST(PdfPress, GivesTheBytesOfThePdfOfTheWholeDocument) {
 TEST(PdfPress, PaintsNothingMoreAndGivesNothingOnceItIsCancelled) {
   std::atomic<int> asked = 0;
   PicturedReport report(40);
-  PdfPress press({.Paper = QSizeF(8000, 1500)}, [&](int done, int) {
+  PdfPress press({.Paper = QSizeF(8000, 1500)}, 0, [&](int done, int) {
     ++asked;
     return done < 5;
   });
@@ -78,7 +78,7 @@ TEST(PdfPress, PaintsNothingMoreAndGivesNothingOnceItIsCancelled) {
 
 TEST(PdfPress, GivesNothingIfItIsCancelledAtItsEnd) {
   PicturedReport report(2);
-  PdfPress press({.Paper = QSizeF(8000, 1500)}, [&](int, int total) { return total == 0; });
+  PdfPress press({.Paper = QSizeF(8000, 1500)}, 0, [&](int, int total) { return total == 0; });
   const Document rest = ComposeFor(&press, report);
   EXPECT_EQ(press.Finish(rest, Info), "");
 }
@@ -89,14 +89,14 @@ TEST(PdfPress, PassesOnWhatPaintingThrows) {
     void Paint(QPainter&, const QRectF&) const override { throw std::runtime_error("no such picture"); }
   };
   PicturedReport report(40, std::make_shared<BadPicture>());
-  PdfPress press({.Paper = QSizeF(8000, 1500)}, GoOn);
+  PdfPress press({.Paper = QSizeF(8000, 1500)}, 0, GoOn);
   const Document rest = ComposeFor(&press, report);
   EXPECT_THROW(press.Finish(rest, Info), std::runtime_error);
 }
 
 TEST(PdfPress, ComposingGoesOnToItsEndWhenAPageCannotBePainted) {
   PicturedReport report(40);
-  PdfPress press({.Paper = QSizeF(8000, 1500)}, [](int done, int) -> bool {
+  PdfPress press({.Paper = QSizeF(8000, 1500)}, 0, [](int done, int) -> bool {
     if (done == 1) throw std::runtime_error("no such page");
     return true;
   });
@@ -112,7 +112,7 @@ TEST(PdfPress, EndsWithTheFailureOfARowAfterPagesThatArePainted) {
     if (++row == 100) throw std::invalid_argument("no such row");
     rows(endOfData);
   };
-  PdfPress press({.Paper = QSizeF(8000, 1500)}, [&](int, int) {
+  PdfPress press({.Paper = QSizeF(8000, 1500)}, 0, [&](int, int) {
     ++painted;
     return true;
   });

@@ -15,17 +15,18 @@ namespace tarvis {
 inline void AppendNumber(std::string& out, double value) {
   const long long hundredths = std::llround(value * 100);
   std::array<char, 32> digits;
-  if (hundredths < 0) out += '-';
+  char* end = digits.data();
+  if (hundredths < 0) *end++ = '-';
   const long long size = std::llabs(hundredths);
-  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), size / 100).ptr;
-  out.append(digits.data(), end);
+  end = std::to_chars(end, digits.data() + digits.size() - 4, size / 100).ptr;
   const int rest = static_cast<int>(size % 100);
   if (rest != 0) {
-    out += '.';
-    out += static_cast<char>('0' + rest / 10);
-    if (rest % 10 != 0) out += static_cast<char>('0' + rest % 10);
+    *end++ = '.';
+    *end++ = static_cast<char>('0' + rest / 10);
+    if (rest % 10 != 0) *end++ = static_cast<char>('0' + rest % 10);
   }
-  out += ' ';
+  *end++ = ' ';
+  out.append(digits.data(), end);
 }
 
 inline void AppendHex(std::string& out, std::uint16_t value) {

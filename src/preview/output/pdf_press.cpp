@@ -1,6 +1,7 @@
 #include "preview/output/pdf_press.h"
 
 #include <memory>
+#include <utility>
 
 namespace tarvis {
 namespace {
@@ -32,6 +33,11 @@ std::shared_ptr<const Document> WithThisPage(const Document& document, std::size
 
 }  // namespace
 
+// Fonts take a while to open, which the reading of the data takes, too.
+PdfPress::PdfPress(const PdfLook& look, int codePage, Progress progress) : progress_(std::move(progress)) {
+  painter_.Add([this, look, codePage] { pdf_.emplace(look, codePage); });
+}
+
 void PdfPress::Take(const Document& document, std::size_t page) {
   painter_.Add([this, taken = WithThisPage(document, page)] { Paint(*taken); });
 }
@@ -40,7 +46,6 @@ void PdfPress::Paint(const Document& document) {
   const std::size_t page = document.Pages.size() - 1;
   isCancelled_ = isCancelled_ || !progress_(static_cast<int>(page), 0);
   if (isCancelled_) return;
-  if (!pdf_) pdf_.emplace(look_, document.CodePage);
   pdf_->Add(document, page);
 }
 

@@ -6,7 +6,6 @@
 
 #include <optional>
 #include <string>
-#include <utility>
 
 #include "preview/output/pdf_in_progress.h"
 #include "preview/output/pdf_info.h"
@@ -20,9 +19,9 @@ namespace tarvis {
 // The PDF has the same bytes as the one that is made of the whole document.
 class PdfPress : public PageTaker {
  public:
-  // `progress` is called in the thread that paints, with a total of 0 as long as that isn't known. What is
-  // not finished when the press ends is given up.
-  PdfPress(const PdfLook& look, Progress progress) : look_(look), progress_(std::move(progress)) {}
+  // `codePage` is that of the texts. `progress` is called in the thread that paints, with a total of 0 as
+  // long as that isn't known. What is not finished when the press ends is given up.
+  PdfPress(const PdfLook& look, int codePage, Progress progress);
 
   // Waits while many pages are still to be painted, so that they don't fill the memory.
   void Take(const Document& document, std::size_t page) override;
@@ -35,7 +34,6 @@ class PdfPress : public PageTaker {
 
   static constexpr std::size_t MostWaiting = 8;  // pages
 
-  const PdfLook look_;
   const Progress progress_;
   // Of the thread that paints.
   std::optional<PdfInProgress> pdf_;

@@ -74,7 +74,7 @@ std::uint16_t TextCache::Name(const char* controlName) {
 
 std::span<const std::uint32_t> TextCache::Lines(std::string_view text, std::uint16_t style, float width) {
   if (text.empty()) return {};
-  const std::uint32_t whole = Find(text, style);
+  const std::uint32_t whole = FindInPlace(text, style);
   if (!wholes_[whole].HasLineEnds && wholes_[whole].Advance <= width + FitTolerance) {
     onePiece_ = PieceOf(whole);
     return {&onePiece_, 1};
@@ -111,11 +111,22 @@ std::uint32_t TextCache::Find(std::string_view text, std::uint16_t style, TextFl
   whole.Text = Keep(text);
   whole.Style = style;
   whole.Flow = paragraph == TextFlow::Plain ? FlowOf(text) : paragraph;
+  whole.IsParagraph = paragraph == TextFlow::Plain;
   whole.HasLineEnds = text.find("\r\n") != std::string_view::npos;
   if (!whole.HasLineEnds) whole.Advance = Advance(text, style, whole.Flow);
   wholes_.push_back(whole);
   index_.Add({whole.Text, style, paragraph}, next);
   return next;
+}
+
+// A control's text is asked for twice for each row, and many a column has the same text in row after row.
+std::uint32_t TextCache::FindInPlace(std::string_view text, std::uint16_t style) {
+  const auto address = std::bit_cast<std::uintptr_t>(text.data());
+  std::uint32_t& last = lastFound_[(address >> 4U) % lastFound_.size()];
+  const bool isIt = last < wholes_.size() && wholes_[last].Text == text && wholes_[last].Style == style &&
+                    wholes_[last].IsParagraph;
+  if (!isIt) last = Find(text, style);
+  return last;
 }
 
 std::uint32_t TextCache::PieceOf(std::uint32_t whole) {

@@ -49,6 +49,7 @@ class TextCache {
     std::uint16_t Style = 0;
     TextFlow Flow = TextFlow::Plain;
     bool HasLineEnds = false;
+    bool IsParagraph = true;  // false for a line of a paragraph that was broken in its own direction
     std::int64_t Piece = -1;  // index of Document::Texts, once it has been set on one line
   };
   struct Broken {
@@ -65,6 +66,8 @@ class TextCache {
 
   // `paragraph` is the flow of the paragraph that `text` is a line of; Plain if it is a text of its own.
   std::uint32_t Find(std::string_view text, std::uint16_t style, TextFlow paragraph = TextFlow::Plain);
+  // The same as Find, for a text that stays in its place from one call to the next, as that of a control.
+  std::uint32_t FindInPlace(std::string_view text, std::uint16_t style);
   std::uint32_t PieceOf(std::uint32_t whole);
   const Broken& Break(std::uint32_t whole, float width);
   void BreakParagraph(std::string_view paragraph, std::uint16_t style, float width);
@@ -81,6 +84,8 @@ class TextCache {
   const TextMeasurer& measurer_;
   std::array<std::array<float, 128>, 2> ascii_{};  // em, by weight
   TextIndex index_;                                // of wholes_
+  // What was found last for texts in these places, by their addresses.
+  std::array<std::uint32_t, 64> lastFound_{};
   std::vector<Whole> wholes_;
   std::unordered_map<std::uint64_t, Broken> broken_;  // by whole and width
   std::vector<std::uint32_t> linePieces_;
