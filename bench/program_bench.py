@@ -19,11 +19,10 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parent.parent
 sys.path.insert(0, str(ROOT / "tests/host"))
 
-import servo_pack  # noqa: E402
 import whole_process  # noqa: E402
 from desktop import User, VirtualDisplay  # noqa: E402
 from host import Host  # noqa: E402
-from print_file import PrintFile, write_parameters  # noqa: E402
+from large_files import write_parameter_file  # noqa: E402
 from session import DIALOG, PREVIEW, Session  # noqa: E402
 
 DIALOG_GREY = b"\xef\xef\xef"  # background of the toolkit's windows, seen as soon as they are painted
@@ -48,19 +47,6 @@ class Job:
 
 JOBS = (Job("200 rows", "User", parameters=200), Job("16,000 rows", "User", parameters=16000),
         Job("11 simulations", "SimEx", overlapped=11))
-
-
-def write_parameter_file(folder, count):
-    """`count` parameters; one of a hundred is a switch."""
-    known = servo_pack.PARAMETERS
-    parameters = [servo_pack.Parameter(f"S-{i}", known[i % len(known)].name, str(i * 7 % 9973), "100", "min-1")
-                  for i in range(count)]
-    digits = tuple(servo_pack.Digit(k, 1, "1", "0", "Function of the Digit", "Enabled while the axis moves")
-                   for k in range(4))
-    switches = [servo_pack.Switch(parameter.no, "1", "0", "name", digits) for parameter in parameters[::107]]
-    file = PrintFile("Parameter File", servo_pack.MODELS, "large.prm")
-    write_parameters(file, parameters, switches, "comment")
-    file.write(folder / "User.tmp")
 
 
 def write_job(host, job):

@@ -9,8 +9,8 @@ from servo_pack import COMMENT, MODELS, PARAMETERS, SWITCHES
 DATE = "11/20/2026 15:48:10"
 
 
-def parameter_block(file):
-    write_parameters(file, PARAMETERS, SWITCHES, COMMENT)
+def parameter_block(file, parameters=PARAMETERS):
+    write_parameters(file, parameters, SWITCHES, COMMENT)
 
 
 def write_user(folder):
@@ -61,7 +61,7 @@ def write_recording(file, function, folder, n, suffix, overlapped):
     channels(file)
 
 
-def write_trace(folder, overlapped=0):
+def write_trace(folder, overlapped=0, parameters=PARAMETERS):
     """`overlapped` data sets lie over one another; 0 for a single trace."""
     names = [""] + [str(n) for n in range(1, overlapped + 1)]
     for n, suffix in enumerate(names):
@@ -73,7 +73,7 @@ def write_trace(folder, overlapped=0):
         file.line("PreTrigger", "Pre-Trigger", "20 %")
         file.line("SamplingCycle", "Sampling Cycle", "0.25 ms")
         file.line("GetDataDate", DATE)
-        parameter_block(file)
+        parameter_block(file, parameters)
         file.write(folder / f"Trace{suffix}.tmp")
 
 
