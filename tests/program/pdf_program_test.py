@@ -191,6 +191,12 @@ class Threads(PdfCase):
                         for through in ((), ("taskset", "-c", first_processor()))]
                 self.assertEqual(*made)
 
+    def test_document_is_made_where_the_system_gives_no_threads(self):
+        self.host.write_data("User")
+        made = [self.make("User", "--date", DAY, through=through).read_bytes()
+                for through in ((), ("strace", "-f", "-qqq", "-o", "/dev/null", "-e", "inject=clone3,clone:error=EAGAIN"))]
+        self.assertEqual(*made)
+
     def test_failure_after_many_pages_is_the_same_line_and_leaves_no_file(self):
         self.host.write_data("Trace", 3)
         self.make("Trace")

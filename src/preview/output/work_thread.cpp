@@ -1,10 +1,17 @@
 #include "preview/output/work_thread.h"
 
+#include <system_error>
 #include <utility>
 
 namespace tarvis {
 
-WorkThread::WorkThread(std::size_t mostWaiting) : mostWaiting_(mostWaiting), thread_([this] { Run(); }) {}
+WorkThread::WorkThread(std::size_t mostWaiting) : mostWaiting_(mostWaiting) {
+  try {
+    thread_ = std::thread([this] { Run(); });
+  } catch (const std::system_error&) {
+    // The system gives no more threads; whoever adds work does it.
+  }
+}
 
 WorkThread::~WorkThread() {
   {
@@ -15,6 +22,7 @@ WorkThread::~WorkThread() {
 }
 
 void WorkThread::Add(Work work) {
+  if (!thread_.joinable()) return DoAtOnce(work);
   {
     std::unique_lock lock(mutex_);
     changed_.wait(lock, [this] { return waiting_.size() < mostWaiting_ || failure_; });
@@ -22,6 +30,15 @@ void WorkThread::Add(Work work) {
     waiting_.push_back(std::move(work));
   }
   changed_.notify_all();
+}
+
+void WorkThread::DoAtOnce(const Work& work) {
+  if (failure_) return;
+  try {
+    work();
+  } catch (...) {
+    failure_ = std::current_exception();
+  }
 }
 
 void WorkThread::Finish() {

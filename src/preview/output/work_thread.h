@@ -29,6 +29,7 @@ class WorkThread {
 
  private:
   void Run();
+  void DoAtOnce(const Work& work);
   bool TakeNext(Work& work);
   void End();
 
