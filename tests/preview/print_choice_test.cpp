@@ -20,6 +20,13 @@ TEST_F(Print, APageRangeInTwoCopiesArrivesAtTheQueue) {
   EXPECT_EQ(Asked("job-name"), QStringLiteral("Parameter List"));
 }
 
+TEST_F(Print, ThePdfThatWouldBeSavedArrivesAtTheQueue) {
+  OpenTable(3);
+  ExpectPrinting();
+  EXPECT_TRUE(PdfFact(Path("received.pdf"), "Producer").startsWith(QStringLiteral("Tarvis")));
+  EXPECT_EQ(PdfFact(Path("received.pdf"), "Title"), QStringLiteral("Parameter List"));
+}
+
 TEST_F(Print, ARangeStartsWithAllPages) {
   OpenTable(5);
   EXPECT_EQ(PagesPrintedWith([](QPrintDialog& dialog) {

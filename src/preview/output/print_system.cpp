@@ -2,10 +2,13 @@
 
 #include <QCoreApplication>
 #include <QLibrary>
+#include <QPageLayout>
 #include <QPrintEngine>
 #include <QPrinter>
 #include <QStringList>
+#include <QTemporaryFile>
 #include <memory>
+#include <vector>
 
 namespace tarvis {
 namespace {
@@ -56,9 +59,73 @@ bool IsPrinterGone(void* connection, const QString& printer) {
   return found == nullptr && status() == NoSuchPrinter;
 }
 
+// The toolkit's property for the options of this print system: a list in which names and values alternate.
+constexpr auto JobOptions = static_cast<QPrintEngine::PrintEnginePropertyKey>(0xfe00);
+
+// Of the print system's protocol.
+QString SidesOf(const QPrinter& printer) {
+  const bool isUpright = printer.pageLayout().orientation() == QPageLayout::Portrait;
+  const QString longEdge = QStringLiteral("two-sided-long-edge");
+  const QString shortEdge = QStringLiteral("two-sided-short-edge");
+  switch (printer.duplex()) {
+    case QPrinter::DuplexNone:
+      break;
+    case QPrinter::DuplexAuto:
+      return isUpright ? longEdge : shortEdge;
+    case QPrinter::DuplexLongSide:
+      return longEdge;
+    case QPrinter::DuplexShortSide:
+      return shortEdge;
+  }
+  return QStringLiteral("one-sided");
+}
+
+// Names and values in turn, as the toolkit hands them over with what it paints.
+QStringList JobOptionsOf(const QPrinter& printer) {
+  QStringList options{QStringLiteral("media"), printer.pageLayout().pageSize().key(), QStringLiteral("sides"),
+                      SidesOf(printer)};
+  if (printer.copyCount() > 1) {
+    options << QStringLiteral("copies") << QString::number(printer.copyCount());
+    if (printer.collateCopies()) options << QStringLiteral("Collate") << QStringLiteral("True");
+  }
+  if (printer.pageLayout().orientation() == QPageLayout::Landscape)
+    options << QStringLiteral("landscape") << QString();
+  return options + printer.printEngine()->property(JobOptions).toStringList();
+}
+
+using PrintFile = int(const char* printer, const char* file, const char* title, int count, void* options);
+
 }  // namespace
 
 // These functions read and set state of the calling thread.
+
+bool TakesPdf(const QPrinter& printer) {
+  return printer.outputFormat() == QPrinter::NativeFormat && printer.outputFileName().isEmpty() &&
+         printer.printEngine()->property(JobOptions).isValid() &&
+         ClientFunction<PrintFile>("cupsPrintFile") != nullptr;
+}
+
+QString HandOverPdf(std::string_view pdf, const QPrinter& printer) {
+  QTemporaryFile file;
+  const bool isThere =
+      file.open() && file.write(pdf.data(), static_cast<qint64>(pdf.size())) >= 0 && file.flush();
+  if (!isThere) return Text("There is no room for the print job: %1").arg(file.errorString());
+  struct Option {
+    const char* Name;
+    const char* Value;
+  };
+  std::vector<QByteArray> words;
+  for (const QString& word : JobOptionsOf(printer)) words.push_back(word.toLocal8Bit());
+  std::vector<Option> options;
+  for (std::size_t index = 0; index + 1 < words.size(); index += 2)
+    options.push_back({words[index].constData(), words[index + 1].constData()});
+  // A queue can have several names, with its own one in front of a stroke.
+  const QByteArray queue = printer.printerName().section(QLatin1Char('/'), 0, 0).toLocal8Bit();
+  ClientFunction<PrintFile>("cupsPrintFile")(queue.constData(), file.fileName().toLocal8Bit().constData(),
+                                             printer.docName().toLocal8Bit().constData(),
+                                             static_cast<int>(options.size()), options.data());
+  return {};
+}
 
 QString RefusalOfLastJob(const QString& printer) {
   auto* const status = ClientFunction<int()>("cupsLastError");
@@ -79,8 +146,6 @@ void DropJobsOfThisThread() {
 }
 
 void TakeOverChoiceOfPages(QPrinter& printer) {
-  // Names and values alternate; the number is the toolkit's property for the options of this print system.
-  constexpr auto JobOptions = static_cast<QPrintEngine::PrintEnginePropertyKey>(0xfe00);
   const QStringList given = printer.printEngine()->property(JobOptions).toStringList();
   QStringList kept;
   for (qsizetype i = 0; i + 1 < given.size(); i += 2) {

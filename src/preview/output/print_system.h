@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <string_view>
 
 class QPrinter;
 
@@ -15,6 +16,14 @@ namespace tarvis {
 // From now on nothing that this thread prints reaches the print system: there the toolkit hands over what was
 // painted so far even of a job that was aborted.
 void DropJobsOfThisThread();
+
+// Whether the print system of that printer takes PDFs as they are.
+[[nodiscard]] bool TakesPdf(const QPrinter& printer);
+
+// Hands a PDF to such a print system, with all that is set in `printer` but the choice of pages. Returns an
+// error text for the user if there is no place to leave it; for what the print system answers, see
+// RefusalOfLastJob.
+[[nodiscard]] QString HandOverPdf(std::string_view pdf, const QPrinter& printer);
 
 // Makes the print system print all pages that it gets. The toolkit leaves part of the choice of pages and
 // page set to it, and it would count the pages that it gets, not those of the document.
