@@ -28,6 +28,10 @@ std::optional<std::string> ReadBytes(std::string_view path, std::string& reason)
   std::string bytes(static_cast<std::size_t>(size), '\0');
   file.seekg(0);
   if (!file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()))) return std::nullopt;
+  if (file.peek() != std::ifstream::traits_type::eof()) {
+    reason = "grows while it is read";
+    return std::nullopt;
+  }
   return bytes;
 }
 
