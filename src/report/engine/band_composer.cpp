@@ -89,7 +89,7 @@ void CallEvent(const std::function<void()>& handler) {
 }  // namespace
 
 BandComposer::BandComposer(Document& document, const TextMeasurer& measurer)
-    : document_(document), cache_(document, measurer) {}
+    : document_(document), cache_(document, measurer), structure_(document.Structure, cache_) {}
 
 Printing BandComposer::Compose(ActiveReport& report, Section& section, float left, Band& band,
                                const std::function<void()>& beforeAfterPrint) {
@@ -136,11 +136,14 @@ float BandComposer::FinalHeight(const Section& section) {
 void BandComposer::EmitControls(const Section& section, float left, Band& band) {
   ++bandNumber_;
   pageCountItems_.clear();
+  shown_.clear();
   band.Items.reserve(2 * section.Controls().size());  // a cell is a box and mostly one line
-  for (const auto& control : section.Controls()) {
+  for (std::size_t index = 0; index < section.Controls().size(); ++index) {
+    const std::unique_ptr<Control>& control = section.Controls()[index];
     // What begins at or below the band's bottom is a leftover of the design; what begins above it prints
     // whole.
     if (!control->Visible || (control->Top >= band.Height && control->Top > 0)) continue;
+    shown_.push_back(static_cast<std::uint16_t>(index));
     Item model;
     model.Control = cache_.Name(control->Name);
     model.Band = bandNumber_;
@@ -148,6 +151,7 @@ void BandComposer::EmitControls(const Section& section, float left, Band& band) 
     const Output output{section, left, model, band};
     std::visit([&](const auto* self) { Emit(*self, output); }, control->Self());
   }
+  structure_.AddBand(section, shown_, origin_);
 }
 
 void BandComposer::Emit(const Field& field, const Output& output) {
@@ -284,6 +288,8 @@ void BandComposer::Emit(const Image& image, const Output& output) {
     item.Box.Height -= spareHeight;
   }
   output.Band.Items.push_back(item);
+  if (image.AlternateText.empty()) return;
+  document_.Structure.Figures.push_back({bandNumber_, item.Control, image.AlternateText});
 }
 
 void BandComposer::PatchText(Item& item, const std::string& text) {

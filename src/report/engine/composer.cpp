@@ -53,6 +53,7 @@ class Composing : private PageBands {
   }
 
   void RunReport(ActiveReport& report, float left, OpenGroup* around) {
+    const std::uint32_t outer = std::exchange(run_, bands_.BeginRun(report, run_));
     report.ActiveReport_ReportStart();
     bool endOfData = report.Unloaded();
     if (!endOfData) report.ActiveReport_FetchData(endOfData);
@@ -67,6 +68,7 @@ class Composing : private PageBands {
     }
     PrintFooters(report, left, around, groups);
     report.ActiveReport_ReportEnd();
+    run_ = outer;
   }
 
   void PrintHeaders(ActiveReport& report, float left, OpenGroup* around, std::vector<OpenGroup*>& groups) {
@@ -77,6 +79,7 @@ class Composing : private PageBands {
       group.Parent = parent;
       group.Header = section.get();
       group.Report = &report;
+      group.Run = run_;
       group.Left = left;
       PrintSection(report, *section, left, parent, &group);
       groups.push_back(&group);
@@ -167,6 +170,12 @@ class Composing : private PageBands {
 
   Printing ComposeBand(ActiveReport& report, Section& section, float left, Band& band,
                        const std::function<void()>& beforeAfterPrint = {}) {
+    return ComposeBand({run_, false}, report, section, left, band, beforeAfterPrint);
+  }
+
+  Printing ComposeBand(const BandOrigin& origin, ActiveReport& report, Section& section, float left,
+                       Band& band, const std::function<void()>& beforeAfterPrint = {}) {
+    bands_.SetOrigin(origin);
     int landing = std::exchange(nextLanding_, -1);
     int* const outer = std::exchange(current_, &landing);
     const Printing printing = bands_.Compose(report, section, left, band, [&] {
@@ -184,7 +193,7 @@ class Composing : private PageBands {
 
   bool ComposeRepeat(OpenGroup& group, Band& band) override {
     if (group.Report->Unloaded()) return false;
-    return ComposeBand(*group.Report, *group.Header, group.Left, band) == Printing::Done;
+    return ComposeBand({group.Run, true}, *group.Report, *group.Header, group.Left, band) == Printing::Done;
   }
 
   Band ComposePageHeader(int page) override { return ComposePageBand(pageHeader_, page); }
@@ -194,7 +203,7 @@ class Composing : private PageBands {
     Band band;
     if (section == nullptr) return band;
     bands_.SetPageNumber(page + 1);
-    ComposeBand(report_, *section, document_.Setup.Left, band);
+    ComposeBand(BandOrigin{}, report_, *section, document_.Setup.Left, band);
     for (const std::size_t item : bands_.PageCountItems())
       document_.PageTotals.push_back(static_cast<std::uint32_t>(document_.Items.size() + item));
     return band;
@@ -237,6 +246,7 @@ class Composing : private PageBands {
   std::vector<std::shared_ptr<ActiveReport>> inner_;
   int* current_ = nullptr;  // landing of the band whose event runs
   int nextLanding_ = -1;    // of entries added outside of all bands
+  std::uint32_t run_ = 0;   // of the report that runs
 };
 
 }  // namespace

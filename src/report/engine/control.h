@@ -27,6 +27,19 @@ class SubReport;
 using AnyControl = std::variant<const Field*, const Label*, const Image*, const Line*, const Shape*,
                                 const CheckBox*, const SubReport*>;
 
+class Control;
+
+// What a control is to those who have the document read to them. Mostly its section says it.
+struct Reading {
+  std::optional<PartRole> As = std::nullopt;  // none: as its section says
+  const Control* Within = nullptr;            // the cell of the same section in which it shows
+  // Lines are read one after the other, the controls of a line in layout order. Each line of a section that
+  // is a row of a table is a row.
+  std::uint8_t Line = 0;
+  std::uint8_t Columns = 1;  // of a table, that it takes at least
+  bool SpansLines = false;   // is beside all lines that follow
+};
+
 // Name and geometry in twips, relative to the section (lines: the rectangle spanned by the end points).
 // All members may be set at run time; they last until set again, but growth and geometry set in
 // BeforePrint last for that one printing.
@@ -48,6 +61,7 @@ class Control {
   float Width;
   float Height;
   bool Visible = true;
+  Reading Reads;
 
   float Bottom() const { return Top + Height; }
 };
@@ -117,7 +131,8 @@ class Image : public Control {
   AnyControl Self() const override { return this; }
   bool PrintsAnything() const override { return Picture != nullptr; }
 
-  PicturePtr Picture;  // empty paints nothing
+  PicturePtr Picture;         // empty paints nothing
+  std::string AlternateText;  // UTF-8, read in place of the picture; empty for decoration
   Fit Placement;
 };
 

@@ -2,7 +2,8 @@
 //
 //   Document ── Pages ── range of Items          preview, printer and PDF paint the same items
 //            ├─ Texts, Styles, Pictures, Names   what the items point to
-//            └─ Contents                         two levels, each leading to a place on a page
+//            ├─ Contents                         two levels, each leading to a place on a page
+//            └─ Structure                        what the items are to those who can't see them
 #pragma once
 
 #include <cstdint>
@@ -13,6 +14,7 @@
 #include <vector>
 
 #include "report/engine/picture.h"
+#include "report/engine/structure.h"
 #include "report/engine/text_flow.h"
 #include "report/engine/units.h"
 
@@ -102,6 +104,7 @@ class Document {
   std::vector<ContentsEntry> Contents;
   // Items that show how many pages there are, which is known last; indexes in the order of Items.
   std::vector<std::uint32_t> PageTotals;
+  DocumentStructure Structure;
 
   // Owns the characters that Texts and Names point to; blocks never move.
   std::deque<std::string> Storage;

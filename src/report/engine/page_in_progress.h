@@ -12,7 +12,8 @@ struct OpenGroup {
   OpenGroup* Parent = nullptr;  // the group around it, also that of a report around this report
   Section* Header = nullptr;
   ActiveReport* Report = nullptr;
-  float Left = 0;  // of the report, twips from the paper's left edge
+  std::uint32_t Run = 0;  // of this report, index of DocumentStructure::Runs
+  float Left = 0;         // of the report, twips from the paper's left edge
   Keep KeepTogether = Keep::None;
   bool Repeats = false;
   bool CannotBeKept = false;  // longer than a page, or nothing above it to leave: keep the first detail only

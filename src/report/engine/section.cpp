@@ -1,6 +1,17 @@
 #include "report/engine/section.h"
 
 namespace tarvis {
+namespace {
+
+BandRole UsualRole(SectionKind kind) {
+  if (kind == SectionKind::PageHeader) return BandRole::PageHeader;
+  return kind == SectionKind::PageFooter ? BandRole::PageFooter : BandRole::Text;
+}
+
+}  // namespace
+
+Section::Section(SectionKind kind, const char* name, float height)
+    : Kind(kind), Name(name), Height(height), Role(UsualRole(kind)) {}
 
 template <typename Kind_, typename... Arguments>
 Kind_& Section::Add(Arguments&&... arguments) {

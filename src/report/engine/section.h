@@ -18,7 +18,7 @@ enum class Keep : std::uint8_t { None = 0, FirstDetail = 1, All = 2 };
 class Section {
  public:
   // `name` has static storage; `height` is in twips.
-  Section(SectionKind kind, const char* name, float height) : Kind(kind), Name(name), Height(height) {}
+  Section(SectionKind kind, const char* name, float height);
   Section(const Section&) = delete;
   Section& operator=(const Section&) = delete;
 
@@ -41,6 +41,7 @@ class Section {
   Keep GroupKeepTogether = Keep::None;  // group headers only
   bool Repeat = false;                  // group headers only: prints again at the head of following pages
   bool NewPageBefore = false;           // what it prints starts on a fresh page
+  BandRole Role;                        // what it is to those who have the document read to them
 
   // Events; empty ones are skipped.
   std::function<void()> Format;
