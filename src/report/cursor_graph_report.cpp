@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "text/numbers.h"
+
 namespace tarvis {
 
 CursorGraphReport::CursorGraphReport(const char* name, ReportContext context, const char* caption,
@@ -13,13 +15,14 @@ CursorGraphReport::CursorGraphReport(const char* name, ReportContext context, co
       Label2(ghGraph.AddLabel("Label2", layout.CursorLabel, "[Cursor Data]", GraphHeading)),
       imgNote(ghGraph.AddImage("imgNote", layout.Note)),
       imgIONote(layout.IONote ? &ghGraph.AddImage("imgIONote", *layout.IONote) : nullptr),
-      ghGuide(AddGrowing(SectionKind::GroupHeader, "ghGuide", layout.GuideHeight)),
-      Detail(AddGrowing(SectionKind::Detail, "Detail", 300)),
+      ghGuide(AddGuide(layout.GuideHeight)),
+      Detail(AddRows(300)),
       cursors_(ghGuide, Detail, layout.Cursors),
       GroupFooter2(AddGrowing(SectionKind::GroupFooter, "GroupFooter2", 10)),
       GroupFooter3(AddGrowing(SectionKind::GroupFooter, "GroupFooter3", 0)),
       GroupFooter1(AddGrowing(SectionKind::GroupFooter, "GroupFooter1", 0)) {
   ghGuide.Repeat = true;
+  Label2.Reads = {.As = PartRole::Subheading, .Line = 1};  // right before the table of which it is the title
 }
 
 void CursorGraphReport::ActiveReport_ReportStart() {
@@ -27,7 +30,22 @@ void CursorGraphReport::ActiveReport_ReportStart() {
   imgGraph.Picture = LoadGraph(data_.Graph);
   imgNote.Picture = LoadLegend(data_.Note);
   if (imgIONote != nullptr && data_.IONote) imgIONote->Picture = LoadLegend(*data_.IONote);
+  DescribePictures();
   if (data_.CursolSelect == 0) HideCursorTable();
+}
+
+void CursorGraphReport::DescribePictures() {
+  const std::string& caption = Label1.Caption();
+  imgGraph.AlternateText = caption;
+  const char* separator = ": ";
+  for (const TraceItem* channel : data_.Channels) {
+    if (channel->Name.empty() || LenientReal(channel->Display) == 0) continue;
+    imgGraph.AlternateText += separator + channel->Name;
+    if (!channel->Unit.empty()) imgGraph.AlternateText += " [" + channel->Unit + "]";
+    separator = ", ";
+  }
+  imgNote.AlternateText = "Legend: " + caption;
+  if (imgIONote != nullptr) imgIONote->AlternateText = "Legend of I/O signals: " + caption;
 }
 
 void CursorGraphReport::HideCursorTable() {

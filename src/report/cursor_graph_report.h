@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 #include "report/cursor_table.h"
 #include "report/graph_report.h"
@@ -21,6 +22,7 @@ struct CursorGraphLayout {
 
 // Members of the data record that the report prints; the record must outlive the report.
 struct CursorGraphData {
+  std::vector<const TraceItem*> Channels;  // what the graph may show, as far as the host says it
   PicturePaths Graph;
   PicturePaths Note;
   std::optional<PicturePaths> IONote;
@@ -40,6 +42,7 @@ class CursorGraphReport : public GraphReport {
 
  private:
   void HideCursorTable();
+  void DescribePictures();
 
   const CursorGraphData data_;
 

@@ -22,11 +22,24 @@ FunctionReport::FunctionReport(const char* name, float printWidth, ReportContext
   Image1.Picture = Pictures.LoadBytes("band", BandBitmap());
   ghTitle.GroupKeepTogether = keep;
   ghTitle.AfterPrint = [this] { EnterContents(); };
+  Label1.Reads.As = PartRole::Heading;
 }
 
 Section& FunctionReport::AddGrowing(SectionKind kind, const char* name, float height) {
   Section& section = AddSection(kind, name, height);
   section.FitsControls = true;
+  return section;
+}
+
+Section& FunctionReport::AddGuide(float height) {
+  Section& section = AddGrowing(SectionKind::GroupHeader, "ghGuide", height);
+  section.Role = BandRole::HeaderRow;
+  return section;
+}
+
+Section& FunctionReport::AddRows(float height) {
+  Section& section = AddGrowing(SectionKind::Detail, "Detail", height);
+  section.Role = BandRole::Row;
   return section;
 }
 

@@ -24,6 +24,9 @@ class FunctionReport : public ActiveReport {
 
   // A section that can grow and can shrink, as all sections of function reports.
   Section& AddGrowing(SectionKind kind, const char* name, float height);
+  // The same for the titles of columns and for the rows below them.
+  Section& AddGuide(float height);
+  Section& AddRows(float height);
   // Enters the caption as it is at run time.
   void EnterContents();
   // Loads the picture of `path` if the file is there, else reports `failure`.

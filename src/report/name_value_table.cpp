@@ -29,11 +29,11 @@ NameValueTable::NameValueTable(const char* name, ReportContext context, const ch
                                const TableColumns& columns, std::vector<TableRow> rows, float detailHeight)
     : FunctionReport(name, 9000, context, caption, 690, entry, Keep::All),
       Rows(std::move(rows)),
-      ghGuide(AddGrowing(SectionKind::GroupHeader, "ghGuide", 420)),
+      ghGuide(AddGuide(420)),
       txtTitleName(AddTitle(ghGuide, "txtTitleName", columns.Name)),
       txtTitleValue(AddTitle(ghGuide, "txtTitleValue", columns.Value)),
       txtTitleUnit(columns.Unit ? &AddTitle(ghGuide, "txtTitleUnit", *columns.Unit) : nullptr),
-      Detail(AddGrowing(SectionKind::Detail, "Detail", detailHeight)),
+      Detail(AddRows(detailHeight)),
       txtValueName(AddValue(Detail, "txtValueName", columns.Name)),
       txtValueVal(AddValue(Detail, "txtValueVal", columns.Value)),
       txtValueUnit(columns.Unit ? &AddValue(Detail, "txtValueUnit", *columns.Unit) : nullptr),

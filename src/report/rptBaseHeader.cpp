@@ -11,7 +11,9 @@ constexpr int HeaderTitleBytes = 58;
 }  // namespace
 
 rptBaseHeader::rptBaseHeader(ReportContext context, ReportFactory factory)
-    : ActiveReport("rptBaseHeader", 14000), context_(context), factory_(std::move(factory)) {}
+    : ActiveReport("rptBaseHeader", 14000), context_(context), factory_(std::move(factory)) {
+  txtTitle.Reads.As = PartRole::Heading;
+}
 
 void rptBaseHeader::ActiveReport_ReportStart() {
   const HeaderOptions& header = Run.Session.ActiveHeader;

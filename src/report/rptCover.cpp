@@ -116,6 +116,7 @@ void rptCover::LoadLogo() {
   const std::string& path = Run.Options.DrowLogo;
   if (path.empty()) return;
   imgLogo.Picture = LoadPictureOrFail({Run, Pictures}, Name, path, Failure::LogoNotFound);
+  imgLogo.AlternateText = "Logo: " + PictureFileName(path);
 }
 
 // An overlong line goes on in the next row. What is left after the last row is not printed.

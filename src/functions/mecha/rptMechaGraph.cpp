@@ -13,6 +13,9 @@ constexpr int NoCursorB = 2;
 rptMechaGraph::rptMechaGraph(ReportContext context)
     : GraphReport("rptMechaGraph", 9060, context, "Gain Graph/Phase Graph", 690, Entry::Plain, Keep::All) {
   ghGuide.Repeat = true;
+  for (Label* label : {&Label2, &Label5, &Label4}) label->Reads.As = PartRole::Subheading;
+  imgGraph1.AlternateText = "Gain graph of the mechanical analysis";
+  imgGraph2.AlternateText = "Phase graph of the mechanical analysis";
 }
 
 void rptMechaGraph::ActiveReport_ReportStart() {

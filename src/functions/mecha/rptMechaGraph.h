@@ -35,8 +35,8 @@ class rptMechaGraph : public GraphReport {
   Image& imgGraph2 = ghGraph.AddImage("imgGraph2", {142, 4394, 8787, 3544});
   Label& Label4 = ghGraph.AddLabel("Label4", {142, 8220, 1842, 284}, "[Cursor Data]", GraphHeading);
 
-  Section& ghGuide = AddGrowing(SectionKind::GroupHeader, "ghGuide", 420);
-  Section& Detail = AddGrowing(SectionKind::Detail, "Detail", 300);
+  Section& ghGuide = AddGuide(420);
+  Section& Detail = AddRows(300);
   CursorTable cursors_{ghGuide, Detail, Cursors};
 
   Section& GroupFooter2 = AddGrowing(SectionKind::GroupFooter, "GroupFooter2", 10);

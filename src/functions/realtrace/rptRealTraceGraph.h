@@ -22,7 +22,8 @@ class rptRealTraceGraph : public CursorGraphReport {
   };
 
   static CursorGraphData DataOf(const RealTraceData& trace) {
-    return {.Graph = {trace.RealTraceGraph, trace.RealTraceGraphC},
+    return {.Channels = {},
+            .Graph = {trace.RealTraceGraph, trace.RealTraceGraphC},
             .Note = {trace.RealTraceNote, trace.RealTraceNoteC},
             .IONote = {},
             .CursolSelect = trace.CursolSelect,

@@ -32,7 +32,9 @@ class rptSimGraph : public CursorGraphReport {
   };
 
   static CursorGraphData DataOf(const SimData& sim) {
-    return {.Graph = {sim.SimGraph, sim.SimGraphC},
+    const auto channels = sim.Channels();
+    return {.Channels = {channels.begin(), channels.end()},
+            .Graph = {sim.SimGraph, sim.SimGraphC},
             .Note = {sim.SimNote, sim.SimNoteC},
             .IONote = PicturePaths{sim.SimIONote, sim.SimIONoteC},
             .CursolSelect = sim.CursolSelect,

@@ -10,6 +10,12 @@ rptSimRef1::rptSimRef1(ReportContext context)
   ghGuide.Format = [this] { HideColumnsBeyond(Run.Sim.PatternSetting.PatternCount, txtTitleValue); };
   Detail.Format = [this] { HideColumnsBeyond(Run.Sim.PatternSetting.PatternCount, txtValueVal); };
   GroupFooter2.Format = [this] { GroupFooter2_Format(); };
+  // The filter is a table of its own: its titles and its two rows.
+  GroupFooter2.Role = BandRole::HeaderRow;
+  for (Field* field : {&txtValueNameG1, &txtValueValG1, &txtValueUnitG1})
+    field->Reads = {.As = PartRole::Cell, .Line = 1};
+  for (Field* field : {&txtValueNameG2, &txtValueValG2, &txtValueUnitG2})
+    field->Reads = {.As = PartRole::Cell, .Line = 2};
 }
 
 void rptSimRef1::ActiveReport_ReportStart() {

@@ -22,7 +22,7 @@ class rptSimRef1 : public SimRefReport {
 
   void GroupFooter2_Format();
 
-  Section& ghGuide = AddGrowing(SectionKind::GroupHeader, "ghGuide", 420);
+  Section& ghGuide = AddGuide(420);
   Field& txtTitleName = ghGuide.AddField("txtTitleName", {142, 142, 1984, 283}, TitleCell, "Items");
   Field& txtTitleUnit = ghGuide.AddField("txtTitleUnit", {2126, 142, 567, 283}, TitleCell, "Unit");
   const std::array<Field*, Columns> txtTitleValue{
@@ -38,7 +38,7 @@ class rptSimRef1 : public SimRefReport {
       &ghGuide.AddField("txtTitleValue10", {9071, 142, 709, 283}, TitleCell, "10"),
   };
 
-  Section& Detail = AddGrowing(SectionKind::Detail, "Detail", 300);
+  Section& Detail = AddRows(300);
   Field& txtValueName = Detail.AddField("txtValueName", {142, 0, 1984, 283}, ValueCell);
   Field& txtValueUnit = Detail.AddField("txtValueUnit", {2126, 0, 567, 283}, RightAlignedCell);
   const std::array<Field*, Columns> txtValueVal{

@@ -15,7 +15,7 @@ class rptSimRef2 : public SimRefReport {
  private:
   void RequireRoom() const;
 
-  Section& ghGuide = AddGrowing(SectionKind::GroupHeader, "ghGuide", 420);
+  Section& ghGuide = AddGuide(420);
   Field& txtTitleNo = ghGuide.AddField("txtTitleNo", {142, 142, 708, 283}, TitleCell, "No");
   Field& txtTitleStartTime =
       ghGuide.AddField("txtTitleStartTime", {850, 142, 2693, 283}, TitleCell, "Start Time [ms]");
@@ -23,7 +23,7 @@ class rptSimRef2 : public SimRefReport {
       ghGuide.AddField("txtTitleEndTime", {3543, 142, 2693, 283}, TitleCell, "End Time [ms]");
   Field& txtTitleArrivalSpeed =
       ghGuide.AddField("txtTitleArrivalSpeed", {6236, 142, 2693, 283}, TitleCell, " Arrival Speed [min-1]");
-  Section& Detail = AddGrowing(SectionKind::Detail, "Detail", 435);
+  Section& Detail = AddRows(435);
   Field& txtValNo = Detail.AddField("txtValNo", {142, 0, 708, 283}, RightAlignedCell);
   Field& txtValStartTime = Detail.AddField("txtValStartTime", {850, 0, 2693, 283}, RightAlignedCell);
   Field& txtValEndTime = Detail.AddField("txtValEndTime", {3543, 0, 2693, 283}, RightAlignedCell);

@@ -1,5 +1,7 @@
 #include "functions/sim/rptSimSettingMecha.h"
 
+#include "report/picture_file.h"
+
 namespace tarvis {
 namespace {
 
@@ -16,13 +18,19 @@ rptSimSettingMecha::rptSimSettingMecha(ReportContext context)
     : NameValueTable("rptSimSettingMecha", context, "Mechanical Setting", Entry::Grouped, SimSettingColumns,
                      RowsOf(context.Run.Sim), 855) {
   Detail.Format = [this] { Detail_Format(); };
+  imgModel.Reads.Within = &txtValueVal;
 }
 
 // The model's picture has no way out by an empty path, unlike a graph's legend.
 void rptSimSettingMecha::ActiveReport_FetchData(bool& endOfData) {
-  if (Row == 0)
-    imgModel.Picture = LoadPictureOrFail(Run.Sim.MechaType.ModelFile, Failure::MechanicalModelNotFound);
+  if (Row == 0) LoadModel();
   NameValueTable::ActiveReport_FetchData(endOfData);
+}
+
+void rptSimSettingMecha::LoadModel() {
+  const MechaModel& model = Run.Sim.MechaType;
+  imgModel.Picture = LoadPictureOrFail(model.ModelFile, Failure::MechanicalModelNotFound);
+  imgModel.AlternateText = model.Name + ": " + PictureFileName(model.ModelFile);
 }
 
 // Row is already that of the next fetch. The heights last until the next row sets them.

@@ -12,6 +12,7 @@ class rptSimSettingMecha : public NameValueTable {
   void ActiveReport_FetchData(bool& endOfData) override;
 
  private:
+  void LoadModel();
   void Detail_Format();
   void SetValueHeights(float height);
 

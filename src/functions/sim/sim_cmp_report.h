@@ -18,8 +18,8 @@ class SimCmpReport : public FunctionReport {
   // "Target", then "1", "2" and on.
   static std::string SimulationNo(int row) { return row == 0 ? "Target" : std::to_string(row); }
 
-  Section& ghGuide = AddGrowing(SectionKind::GroupHeader, "ghGuide", 420);
-  Section& Detail = AddGrowing(SectionKind::Detail, "Detail", 300);
+  Section& ghGuide = AddGuide(420);
+  Section& Detail = AddRows(300);
   Section& GroupFooter2 = AddGrowing(SectionKind::GroupFooter, "GroupFooter2", 10);
   Section& GroupFooter1 = AddGrowing(SectionKind::GroupFooter, "GroupFooter1", 0);
 };

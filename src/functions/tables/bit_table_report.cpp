@@ -13,13 +13,14 @@ constexpr float BitCellHeight = 300;
 
 BitTableReport::BitTableReport(const char* name, ReportContext context, const BitTableLayout& layout)
     : FunctionReport(name, 9000, context, layout.Caption, 1140, Entry::Plain, Keep::All),
-      ghGuide(AddGrowing(SectionKind::GroupHeader, "ghGuide", 300)),
-      Detail(AddGrowing(SectionKind::Detail, "Detail", 405)),
+      ghGuide(AddGuide(300)),
+      Detail(AddRows(405)),
       GroupFooter2(AddGrowing(SectionKind::GroupFooter, "GroupFooter2", 285)),
       GroupFooter1(AddGrowing(SectionKind::GroupFooter, "GroupFooter1", 0)),
       txtUnit(AddUnit(layout)) {
   ghGuide.Repeat = true;
   id_ = &AddColumn(layout.Id, NineBold);
+  id_->Reads.As = PartRole::RowHeader;
   for (const NamedColumn& column : layout.Bits) bits_.push_back(&AddColumn(column, BitCell));
   for (const NamedColumn& column : layout.Texts) texts_.push_back(&AddColumn(column, TextCell));
   GroupFooter2.AddLabel("Label3", {1276, 30, 4818, 283}, "X:Active    Blank:Non-Active", Nine);

@@ -38,8 +38,8 @@ std::int16_t LenientStep(PrintRun& run, const std::string& text, int element) {
 IdxTblReport::IdxTblReport(const char* name, ReportContext context, const IdxLayout& layout)
     : FunctionReport(name, 9060, context, "Program Table", layout.TitleHeight, Entry::Plain, Keep::All),
       layout_(layout),
-      ghGuide(AddGrowing(SectionKind::GroupHeader, "ghGuide", layout.GuideHeight)),
-      Detail(AddGrowing(SectionKind::Detail, "Detail", 405)),
+      ghGuide(AddGuide(layout.GuideHeight)),
+      Detail(AddRows(405)),
       GroupFooter2(AddGrowing(SectionKind::GroupFooter, "GroupFooter2", 0)),
       GroupFooter1(AddGrowing(SectionKind::GroupFooter, "GroupFooter1", 0)) {
   AddUnitLines();
@@ -68,6 +68,7 @@ void IdxTblReport::AddColumns() {
     values_.push_back(&Detail.AddField(cell.ValueControl, {cell.Left, 0, cell.Width, IdxCellHeight},
                                        values_.empty() ? NineBold : style));
   }
+  values_.front()->Reads.As = PartRole::RowHeader;
 }
 
 void IdxTblReport::ActiveReport_ReportStart() {

@@ -34,7 +34,9 @@ class rptTraceGraph : public CursorGraphReport {
   };
 
   static CursorGraphData DataOf(const TraceData& trace) {
-    return {.Graph = {trace.TraceGraph, trace.TraceGraphC},
+    const auto channels = trace.Channels();
+    return {.Channels = {channels.begin(), channels.end()},
+            .Graph = {trace.TraceGraph, trace.TraceGraphC},
             .Note = {trace.TraceNote, trace.TraceNoteC},
             .IONote = PicturePaths{trace.TraceIONote, trace.TraceIONoteC},
             .CursolSelect = trace.CursolSelect,

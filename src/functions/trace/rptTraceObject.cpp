@@ -17,6 +17,7 @@ rptTraceObject::rptTraceObject(ReportContext context)
     : FunctionReport("rptTraceObject", 9000, context, "Trace Target Setting", 690, Entry::Grouped,
                      Keep::None) {
   ghTitle.Format = [this] { ghTitle_Format(); };
+  txtValueTrace.Reads.As = PartRole::RowHeader;
 }
 
 // Required: the caption of the design never reaches the page.

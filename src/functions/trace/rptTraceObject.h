@@ -16,14 +16,14 @@ class rptTraceObject : public FunctionReport {
   void ghTitle_Format();
   std::string RowLabel(std::size_t channel) const;
 
-  Section& ghGuide = AddGrowing(SectionKind::GroupHeader, "ghGuide", 420);
+  Section& ghGuide = AddGuide(420);
   Field& txtTitleTrace = ghGuide.AddField("txtTitleTrace", {142, 142, 1275, 283}, TitleCell);
   Field& txtTitleName = ghGuide.AddField("txtTitleName", {1417, 142, 4677, 283}, TitleCell, "Target");
   Field& txtTitleUnit = ghGuide.AddField("txtTitleUnit", {6094, 142, 1701, 283}, TitleCell, "Unit");
   Field& txtTitleValue =
       ghGuide.AddField("txtTitleValue", {7795, 142, 1134, 283}, TitleCell, "Display graph");
 
-  Section& Detail = AddGrowing(SectionKind::Detail, "Detail", 290);
+  Section& Detail = AddRows(290);
   Field& txtValueTrace = Detail.AddField("txtValueTrace", {142, 0, 1275, 283}, TitleCell);
   Field& txtValueName = Detail.AddField("txtValueName", {1417, 0, 4677, 283}, ValueCell);
   Field& txtValueUnit = Detail.AddField("txtValueUnit", {6094, 0, 1701, 283}, ValueCell);

@@ -6,7 +6,9 @@ namespace tarvis {
 
 rptTraceObjectOverlap::rptTraceObjectOverlap(ReportContext context)
     : FunctionReport("rptTraceObjectOverlap", 9015, context, "Overlapping Target", 690, Entry::Grouped,
-                     Keep::None) {}
+                     Keep::None) {
+  CheckValue.Reads.Within = &txtValueTrace;
+}
 
 void rptTraceObjectOverlap::ActiveReport_FetchData(bool& endOfData) {
   const auto channels = Channels(Run);

@@ -12,12 +12,12 @@ class rptTraceObjectOverlap : public FunctionReport {
   void ActiveReport_FetchData(bool& endOfData) override;
 
  private:
-  Section& ghGuide = AddGrowing(SectionKind::GroupHeader, "ghGuide", 420);
+  Section& ghGuide = AddGuide(420);
   Field& txtTitleCheck = ghGuide.AddField("txtTitleCheck", {142, 142, 1134, 283}, TitleCell, "Display");
   Field& txtTitleName = ghGuide.AddField("txtTitleName", {1276, 142, 4677, 283}, TitleCell, "Target");
   Field& txtTitleUnit = ghGuide.AddField("txtTitleUnit", {5953, 142, 1984, 283}, TitleCell, "Unit");
 
-  Section& Detail = AddGrowing(SectionKind::Detail, "Detail", 300);
+  Section& Detail = AddRows(300);
   // Stays empty: it is the cell around the check box.
   Field& txtValueTrace = Detail.AddField("txtValueTrace", {142, 0, 1134, 283}, CentredCell);
   CheckBox& CheckValue = Detail.AddCheckBox("CheckValue", {567, 0, 283, 283});

@@ -24,6 +24,19 @@ rptUserPrm::rptUserPrm(ReportContext context)
   ghGuide.BeforePrint = [this] { ghGuide_BeforePrint(); };
   Detail.Format = [this] { Detail_Format(); };
   Detail.BeforePrint = [this] { Detail_BeforePrint(); };
+  DescribeDigitBlock();
+}
+
+// The number is beside the rows of its digits: a heading, and below it a value with its meaning. The cell
+// around the number holds nothing.
+void rptUserPrm::DescribeDigitBlock() {
+  txtValueNo.Reads.As = PartRole::None;
+  txtValueNoReal.Reads.SpansLines = true;
+  for (std::size_t group = 0; group < Groups; ++group) {
+    txtPos[group]->Reads.Line = static_cast<std::uint8_t>(1 + 2 * group);
+    for (Field* field : {txtValueBitValue[group], txtValueBitName[group]})
+      field->Reads.Line = static_cast<std::uint8_t>(2 + 2 * group);
+  }
 }
 
 void rptUserPrm::ActiveReport_ReportStart() {

@@ -26,6 +26,7 @@ class rptUserPrm : public FunctionReport {
   void Detail_Format();
   void Detail_BeforePrint();
 
+  void DescribeDigitBlock();
   void StackDesignBlock();
   void HideDigitBlock();
   void PlaceNameColumns(float& x);
@@ -40,7 +41,7 @@ class rptUserPrm : public FunctionReport {
   std::int16_t SwitchRow = 0;   // next switch to match
   std::int16_t ShowDigits = 0;  // 1 when the digit block can print at all
 
-  Section& ghGuide = AddGrowing(SectionKind::GroupHeader, "ghGuide", 450);
+  Section& ghGuide = AddGuide(450);
   Field& txtTitleNo = ghGuide.AddField("txtTitleNo", {142, 142, 708, 283}, TitleCell, "No.");
   Field& txtTitleName = ghGuide.AddField("txtTitleName", {850, 142, 3827, 283}, TitleCell, "Name");
   Field& txtTitleValue =
@@ -49,7 +50,7 @@ class rptUserPrm : public FunctionReport {
   Field& txtTitleDefault =
       ghGuide.AddField("txtTitleDefault", {7795, 142, 1134, 283}, TitleCell, "Default Setting");
 
-  Section& Detail = AddGrowing(SectionKind::Detail, "Detail", 3585);
+  Section& Detail = AddRows(3585);
   Shape& shapeNibble = Detail.AddShape("shapeNibble", {142, 142, 8810, 283});
   Field& txtValueNo = Detail.AddField("txtValueNo", {142, 142, 708, 283}, CentredCell);
   Field& txtValueNoReal = Detail.AddField("txtValueNoReal", {135, 135, 705, 285}, NoBorder);

@@ -15,6 +15,18 @@ rptUserSwitch::rptUserSwitch(ReportContext context)
   ghGuide.BeforePrint = [this] { ghGuide_BeforePrint(); };
   Detail.Format = [this] { Detail_Format(); };
   Detail.BeforePrint = [this] { Detail_BeforePrint(); };
+  DescribeRows();
+}
+
+// The number is beside the rows of its digits; the name of the whole is as wide as position and name of a
+// digit.
+void rptUserSwitch::DescribeRows() {
+  txtValueNo.Reads.SpansLines = true;
+  txtValueName.Reads.Columns = 2;
+  for (std::size_t row = 0; row < Rows; ++row) {
+    for (Field* field : {txtPos[row], txtValueBitName[row], txtValueBitVal[row], txtValueBitDefault[row]})
+      field->Reads.Line = static_cast<std::uint8_t>(row + 1);
+  }
 }
 
 void rptUserSwitch::ActiveReport_ReportStart() {

@@ -23,6 +23,7 @@ class rptUserSwitch : public FunctionReport {
   void Detail_Format();
   void Detail_BeforePrint();
 
+  void DescribeRows();
   void PlaceWithNames(float& x);
   void PlaceWithoutNames(float& x);
   void PlaceRows(std::size_t first, float y);
@@ -31,14 +32,14 @@ class rptUserSwitch : public FunctionReport {
 
   std::int16_t DigitCount = 0;  // digit groups of the current row
 
-  Section& ghGuide = AddGrowing(SectionKind::GroupHeader, "ghGuide", 420);
+  Section& ghGuide = AddGuide(420);
   Field& txtTitleNo = ghGuide.AddField("txtTitleNo", {135, 135, 855, 285}, TitleCell, "No.");
   Field& txtTitlePos = ghGuide.AddField("txtTitlePos", {990, 135, 855, 285}, TitleCell, "Digit Position");
   Field& txtTitleName = ghGuide.AddField("txtTitleName", {1845, 135, 5385, 285}, TitleCell, "Name");
   Field& txtTitleValue = ghGuide.AddField("txtTitleValue", {7230, 135, 855, 285}, TitleCell, "Setting");
   Field& txtTitleDefault = ghGuide.AddField("txtTitleDefault", {8085, 135, 855, 285}, TitleCell, "Default");
 
-  Section& Detail = AddGrowing(SectionKind::Detail, "Detail", 3225);
+  Section& Detail = AddRows(3225);
   Field& txtValueNo = Detail.AddField("txtValueNo", {135, 135, 855, 285}, CentredCell);
   Field& txtValueName = Detail.AddField("txtValueName", {990, 135, 6240, 285}, ValueCell);
   Field& txtValueVal = Detail.AddField("txtValueVal", {7230, 135, 855, 285}, CentredCell);

@@ -1,5 +1,7 @@
 #include "functions/wizard/rptUPWizard.h"
 
+#include "report/picture_file.h"
+
 namespace tarvis {
 namespace {
 
@@ -29,6 +31,23 @@ rptUPWizard::rptUPWizard(ReportContext context)
                      Keep::None) {
   Shape4.Weight = 2;
   Detail.Format = [this] { Detail_Format(); };
+  OrderReading();
+}
+
+// Each relay with its number and its name, then each output; an output number belongs to two names.
+void rptUPWizard::OrderReading() {
+  std::uint8_t line = 0;
+  for (std::size_t index = 0; index < Relays; ++index) {
+    ++line;
+    for (Control* control : {static_cast<Control*>(imgRy[index]), static_cast<Control*>(txtRyNumber[index]),
+                             static_cast<Control*>(txtRyName[index])})
+      control->Reads.Line = line;
+  }
+  for (std::size_t index = 0; index < OutNames; ++index) {
+    ++line;
+    if (index % 2 == 0) txtOutNumber[index / 2]->Reads.Line = line;
+    txtOutName[index]->Reads.Line = line;
+  }
 }
 
 void rptUPWizard::ActiveReport_ReportStart() {
@@ -49,7 +68,9 @@ void rptUPWizard::FillRelays() {
   for (std::size_t index = 0; index < Relays; ++index) txtRyName[index]->Text = relay(index).Name;
   for (std::size_t index = 0; index < Relays; ++index) txtRyNumber[index]->Text = relay(index).Number;
   for (std::size_t index = 0; index < Relays; ++index) {
-    if (!relay(index).Picture.empty()) LoadWizardPicture(*imgRy[index], relay(index).Picture);
+    if (relay(index).Picture.empty()) continue;
+    LoadWizardPicture(*imgRy[index], relay(index).Picture);
+    imgRy[index]->AlternateText = PictureFileName(relay(index).Picture);
   }
 }
 
@@ -84,6 +105,7 @@ void rptUPWizard::FillRatio() {
 // No path is a missing picture here, unlike for a relay.
 void rptUPWizard::FillBase() {
   LoadWizardPicture(imgBase, Run.UPWizard.Base);
+  imgBase.AlternateText = Label1.Caption() + ": " + PictureFileName(Run.UPWizard.Base);
 }
 
 void rptUPWizard::LoadWizardPicture(Image& image, const std::string& path) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string>
 
 #include "report/function_report.h"
@@ -20,6 +21,7 @@ class rptUPWizard : public FunctionReport {
   static constexpr std::size_t OutNames = 6;
   static constexpr CellStyle ServoName{.Size = 10, .Alignment = Align::Centre};
 
+  void OrderReading();
   void FillRelays();
   void FillOutNumbers();
   void FillOutNames();

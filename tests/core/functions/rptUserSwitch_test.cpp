@@ -6,6 +6,7 @@
 
 #include "support/golden.h"
 #include "support/report_run.h"
+#include "support/structure_text.h"
 
 namespace tarvis {
 namespace {
@@ -60,6 +61,7 @@ TEST_F(SwitchList, ReadsAsAPage) {
                 UnusedDigit});
   Add("Pn001", {UnusedDigit, UnusedDigit, UnusedDigit, UnusedDigit});
   ExpectGolden("user_switch", Dump(Compose()));
+  ExpectGolden("user_switch_structure", StructureOf(Compose()));
 }
 
 TEST_F(SwitchList, PrintsDescriptionsWhole) {

@@ -1,6 +1,7 @@
 // The electrical schematic diagram on paper: the whole page, read from a file.
 #include "support/golden.h"
 #include "support/host_run.h"
+#include "support/structure_text.h"
 
 namespace tarvis {
 namespace {
@@ -33,6 +34,7 @@ TEST_F(Schematic, PrintsAFileOnOnePage) {
   EXPECT_THAT(document.Pages, SizeIs(1));
   EXPECT_THAT(EntriesOf(document), ElementsAre("1: Electrical Schematic Diagram @ 855"));
   ExpectGolden("parameter_wizard", Dump(document));
+  ExpectGolden("parameter_wizard_structure", StructureOf(document));
 }
 
 TEST_F(Schematic, EndsTheRunWithoutAPictureThatARelayNames) {

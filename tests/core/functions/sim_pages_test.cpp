@@ -8,6 +8,7 @@
 
 #include "support/golden.h"
 #include "support/host_run.h"
+#include "support/structure_text.h"
 
 namespace tarvis {
 namespace {
@@ -119,6 +120,7 @@ TEST_F(SimPages, PrintAllThereIsOfOneSimulation) {
                           "3: Acquisition Date of the Data @ 3322", "3: Parameters List @ 4456",
                           "3: Comments @ 6103"));
   ExpectGolden("sim", Dump(document));
+  ExpectGolden("sim_structure", StructureOf(document));
 }
 
 TEST_F(SimPages, RepeatTheTitlesOfThePointsOfAFreePattern) {
@@ -286,6 +288,7 @@ TEST_F(OverlappedSimPages, ShowThreeSimulations) {
                   "7: Overlapping data 2/2 @ 855", "7: - Simulated Graph @ 855",
                   "7: - Simulation Information @ 10697", "8: - Simulation Object Setting @ 0"));
   ExpectGolden("sim_overlap", Dump(document));
+  ExpectGolden("sim_overlap_structure", StructureOf(document));
 }
 
 TEST_F(OverlappedSimPages, UseTheWideTableForElevenSimulations) {

@@ -1,6 +1,7 @@
 // The program, zone and jog speed tables on paper: both layouts with each print range, and whole pages.
 #include "support/golden.h"
 #include "support/host_run.h"
+#include "support/structure_text.h"
 
 namespace tarvis {
 namespace {
@@ -168,6 +169,7 @@ TEST_F(PatternTables, PrintAZoneFile) {
   const Document document = Report.ComposeMaster();
   EXPECT_THAT(EntriesOf(document), ElementsAre("1: Zone Table @ 855", testing::HasSubstr("1: Comments")));
   ExpectGolden("zone_table", Dump(document));
+  ExpectGolden("zone_table_structure", StructureOf(document));
 }
 
 TEST_F(PatternTables, PrintAJogSpeedFile) {

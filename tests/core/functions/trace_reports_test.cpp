@@ -6,6 +6,7 @@
 #include "support/golden.h"
 #include "support/host_run.h"
 #include "support/sample_report.h"
+#include "support/structure_text.h"
 
 namespace tarvis {
 namespace {
@@ -76,6 +77,7 @@ TEST_F(Tracing, PrintsTheColorPicturesInAnOverlappedResultWithItsTarget) {
   EXPECT_THAT(Report.Pictures.Loaded, Each(HasSubstr("_c.bmp")));
   EXPECT_THAT(ColumnOf(document, "txtTitle"), ElementsAre("Tracing-Overlapping result"));
   ExpectGolden("trace_overlap", Dump(document));
+  ExpectGolden("trace_overlap_structure", StructureOf(document));
 }
 
 TEST_F(Tracing, PrintsResultTargetAndDataOfAnOverlappedRunEachInItsGroup) {

@@ -3,6 +3,7 @@
 
 #include "support/golden.h"
 #include "support/host_run.h"
+#include "support/structure_text.h"
 
 namespace tarvis {
 namespace {
@@ -56,7 +57,9 @@ TEST_F(ParameterPages, OmitUnitAndDefault) {
 TEST_F(ParameterPages, BrokenOverPagesOfSmallPaper) {
   Report.Run.Options.UserOption[4] = 0;
   // A5 across: the digit block and the rows below it don't fit one page.
-  ExpectGolden("user_small_paper", Print({11906, 8391, 1440, 0, 720, 720}));
+  const Document document = Report.ComposeMaster({11906, 8391, 1440, 0, 720, 720});
+  ExpectGolden("user_small_paper", Dump(document));
+  ExpectGolden("user_small_paper_structure", StructureOf(document));
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "support/golden.h"
 #include "support/host_run.h"
 #include "support/repeat.h"
+#include "support/structure_text.h"
 
 namespace tarvis {
 namespace {
@@ -136,6 +137,7 @@ TEST_F(CoverLetter, IsPageOneOfTheDocument) {
   EXPECT_THAT(EntriesOf(document), ElementsAre("1: Cover @ 0", "2: Electrical Schematic Diagram @ 855"));
   EXPECT_EQ(Run.Session.FinishedReports, 2);
   ExpectGolden("cover", Dump(document));
+  ExpectGolden("cover_structure", StructureOf(document));
 }
 
 }  // namespace
