@@ -8,7 +8,7 @@ set -eu
 cd "$(dirname "$0")"
 
 # With this linter the headers of the PDF library are right in the language of their time only.
-of_its_time='^(src/preview/output/pdf_(archive|attachments|export|fonts|metadata|resources)|tests/preview/pdf_(archive|rounding)_test)\.cpp$'
+of_its_time='^(src/preview/output/(pdf_(archive|attachments|export|fonts|metadata|resources|structure)|structure_elements)|tests/preview/pdf_(archive|rounding)_test)\.cpp$'
 in_its_language='-extra-arg=-std=c++17'
 
 base_of_changes() {

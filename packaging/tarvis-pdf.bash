@@ -28,8 +28,8 @@ _tarvis_pdf() {
       return ;;
   esac
   if [[ $word == -* ]]; then
-    mapfile -t COMPREPLY < <(compgen -W "--data --options --set --code-page --paper --date --attach --check
-      --progress --help --version" -- "$word")
+    mapfile -t COMPREPLY < <(compgen -W "--data --options --set --code-page --paper --date --attach --tagged
+      --check --progress --help --version" -- "$word")
     return
   fi
   # Which operand it is: those before it, without options and their values.

@@ -2,6 +2,7 @@
 
 #include "functions/catalog.h"
 #include "platform/system/text_measurer.h"
+#include "preview/output/pdf_export.h"
 #include "preview/output/pdf_press.h"
 #include "report/data_files.h"
 #include "report/master_document.h"
@@ -23,14 +24,25 @@ void DocumentMaker::Check() {
   Compose(nullptr);
 }
 
-std::string DocumentMaker::MakePdf(std::time_t created, DataInPdf data, const Progress& progress) {
-  const PdfLook look{.Paper = QSizeF(paper_.Width, paper_.Height), .Scale = paper_.Width / setup_.Width};
-  PdfPress press(look, run_.CodePage.Number(), progress);
-  const Document document = Compose(&press);
+PdfInfo DocumentMaker::InfoOf(const Document& document, std::time_t created, const PdfExtras& extras) const {
   PdfInfo info{QString::fromStdString(document.Title), QString::fromStdString(run_.Header.MadeBy),
                QDateTime::fromSecsSinceEpoch(created)};
-  if (data == DataInPdf::Attached) info.Data = DataFiles(run_, AllFunctions()).Read();
-  return press.Finish(document, info);
+  if (extras.Data == DataInPdf::Attached) info.Data = DataFiles(run_, AllFunctions()).Read();
+  info.IsTagged = extras.Tags == TagsInPdf::Written;
+  return info;
+}
+
+// Tags need the structure of the whole document, so its pages are then painted when it is composed.
+std::string DocumentMaker::MakePdf(std::time_t created, const PdfExtras& extras, const Progress& progress) {
+  const PdfLook look{.Paper = QSizeF(paper_.Width, paper_.Height), .Scale = paper_.Width / setup_.Width};
+  if (extras.Tags == TagsInPdf::Written) {
+    const Document document = Compose(nullptr);
+    const PdfSheets sheets{look, PdfSheets::AllOf(document).Pages};
+    return tarvis::MakePdf(document, sheets, InfoOf(document, created, extras), progress);
+  }
+  PdfPress press(look, run_.CodePage.Number(), progress);
+  const Document document = Compose(&press);
+  return press.Finish(document, InfoOf(document, created, extras));
 }
 
 }  // namespace tarvis

@@ -6,6 +6,7 @@
 
 #include "pdf/paper_names.h"
 #include "pictures/picture_file_loader.h"
+#include "preview/output/pdf_info.h"
 #include "preview/output/progress.h"
 #include "report/engine/composer.h"
 #include "report/paper_setup.h"
@@ -16,6 +17,13 @@ namespace tarvis {
 struct PrintRun;
 
 enum class DataInPdf { None, Attached };
+enum class TagsInPdf { None, Written };
+
+// What a PDF has besides its pages.
+struct PdfExtras {
+  DataInPdf Data = DataInPdf::None;
+  TagsInPdf Tags = TagsInPdf::None;
+};
 
 // Needs the toolkit.
 class DocumentMaker : public ProgramWindows {
@@ -27,9 +35,9 @@ class DocumentMaker : public ProgramWindows {
   // Composes the document that the preview would show of the run as it is prepared, and nothing more.
   void Check();
   // The PDF that the preview would save of it at that time; pages that are wider than the paper are shrunk to
-  // it. With `data` it holds the data files, too. Empty if `progress` cancels, which is called in another
-  // thread and with a total of 0 as long as that isn't known.
-  std::string MakePdf(std::time_t created, DataInPdf data, const Progress& progress);
+  // it. Empty if `progress` cancels, which may be called in another thread and with a total of 0 as long as
+  // that isn't known.
+  std::string MakePdf(std::time_t created, const PdfExtras& extras, const Progress& progress);
 
   // No window, and no tool to come back by.
   void ShowPrintSetting() override {}
@@ -37,6 +45,7 @@ class DocumentMaker : public ProgramWindows {
 
  private:
   Document Compose(PageTaker* taker);
+  PdfInfo InfoOf(const Document& document, std::time_t created, const PdfExtras& extras) const;
 
   PrintRun& run_;
   PaperSize paper_;

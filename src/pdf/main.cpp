@@ -37,6 +37,7 @@ constexpr const char* Usage =
     "  --paper SIZE        A4, Letter, A5, or WxH in millimetres\n"
     "  --date DATE         a fixed date, so that the same input gives the same bytes\n"
     "  --attach            puts the data files into the PDF, too\n"
+    "  --tagged            headings, tables and figures as such, for screen readers (PDF/UA)\n"
     "  --check             composes the document and writes nothing; OUT.pdf may be left out\n"
     "  --progress          shows on standard error how far the work is\n"
     "  --help              shows this\n"

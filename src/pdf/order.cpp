@@ -32,6 +32,7 @@ constexpr std::array Options = {
            [](PdfOrder& order, const std::string& value) { order.Date = MomentNamed(value); }},
     Option{"--set", true, [](PdfOrder& order, const std::string& value) { order.Settings.push_back(value); }},
     Option{"--attach", false, [](PdfOrder& order, const std::string&) { order.AttachesData = true; }},
+    Option{"--tagged", false, [](PdfOrder& order, const std::string&) { order.IsTagged = true; }},
     Option{"--check", false,
            [](PdfOrder& order, const std::string&) { order.Task = PdfTask::CheckDocument; }},
     Option{"--progress", false, [](PdfOrder& order, const std::string&) { order.ShowsProgress = true; }},

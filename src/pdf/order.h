@@ -25,6 +25,7 @@ struct PdfOrder {
   std::optional<std::time_t> Date;    // in place of the clock
   std::vector<std::string> Settings;  // NAME=VALUE, in the order in which they apply
   bool AttachesData = false;
+  bool IsTagged = false;
   bool ShowsProgress = false;
 };
 

@@ -46,8 +46,9 @@ void StopIfInterrupted() {
 }
 
 std::string MakePdfOf(DocumentMaker& maker, const PdfOrder& order, ProgressLine& line) {
-  const DataInPdf data = order.AttachesData ? DataInPdf::Attached : DataInPdf::None;
-  return maker.MakePdf(order.Date.value_or(std::time(nullptr)), data, [&line](int done, int total) {
+  const PdfExtras extras{.Data = order.AttachesData ? DataInPdf::Attached : DataInPdf::None,
+                         .Tags = order.IsTagged ? TagsInPdf::Written : TagsInPdf::None};
+  return maker.MakePdf(order.Date.value_or(std::time(nullptr)), extras, [&line](int done, int total) {
     StopIfInterrupted();  // the file is written when all pages are made
     line.ShowStep("making page", done, total);
     return true;

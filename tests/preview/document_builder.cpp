@@ -173,7 +173,18 @@ DocumentBuilder& DocumentBuilder::TablePages(int count) {
   return *this;
 }
 
+// All bands are paragraphs of one report.
 std::shared_ptr<const Document> DocumentBuilder::Build() {
+  DocumentStructure& structure = document_->Structure;
+  structure = {};
+  structure.Runs.push_back({"built", 0});
+  BandLayout layout;
+  layout.Section = "band";
+  layout.PartCount = static_cast<std::uint32_t>(document_->Names.size());
+  structure.Layouts.push_back(layout);
+  for (std::uint16_t control = 0; control < layout.PartCount; ++control)
+    structure.Parts.push_back({control, control, PartRole::Paragraph});
+  structure.Bands.assign(band_ + 1, 0);
   return document_;
 }
 

@@ -137,6 +137,33 @@ TEST_F(SavePdf, TheDataAreAttachedIfTheirBoxIsTickedWhichIsKeptForTheRun) {
   EXPECT_TRUE(isKept);
 }
 
+TEST_F(SavePdf, TagsAreWrittenIfTheirBoxIsTickedWhichIsKeptForTheRun) {
+  const auto box = [](QFileDialog& dialog) { return dialog.findChild<QCheckBox*>(QStringLiteral("tags")); };
+  const auto isTagged = [this](const char* name) {
+    return RunTool("pdfinfo", {Path(name)}).contains(QRegularExpression(QStringLiteral("Tagged: +yes")));
+  };
+  OpenTable(1);
+  SaveTo(Path("plain.pdf"));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !window_->IsBusy() && QFile::exists(Path("plain.pdf")); }));
+  EXPECT_FALSE(isTagged("plain.pdf"));
+  OnDialog<QFileDialog>([&](QFileDialog& dialog) {
+    EXPECT_FALSE(box(dialog)->isChecked());
+    QTest::mouseClick(box(dialog), Qt::LeftButton, {}, {5, box(dialog)->height() / 2});
+    EnterPath(dialog, Path("tagged.pdf"));
+  });
+  Press(Qt::Key_S, Qt::ControlModifier);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !window_->IsBusy() && QFile::exists(Path("tagged.pdf")); }));
+  EXPECT_TRUE(isTagged("tagged.pdf"));
+  OpenTable(1);
+  bool isKept = false;
+  OnDialog<QFileDialog>([&](QFileDialog& dialog) {
+    isKept = box(dialog)->isChecked();
+    dialog.reject();
+  });
+  Press(Qt::Key_S, Qt::ControlModifier);
+  EXPECT_TRUE(isKept);
+}
+
 TEST_F(SavePdf, DataThatHaveChangedAreReportedAndNothingIsSaved) {
   readData_ = []() -> std::vector<NamedBytes> {
     throw RunTimeFailure("changed", {.File = "User.tmp", .Line = 0, .Key = {}, .Text = {}});

@@ -4,7 +4,7 @@ import subprocess
 
 JARS = ("preflight", "pdfbox2", "fontbox2", "xmpbox", "commons-logging", "jaxb-api", "javax.activation")
 CLASS_PATH = ":".join(f"/usr/share/java/{name}.jar" for name in JARS)
-LATER_PARTS = re.compile(rb"<pdfaid:part>[23]</pdfaid:part>\n<pdfaid:conformance>U</pdfaid:conformance>")
+LATER_PARTS = re.compile(rb"<pdfaid:part>[23]</pdfaid:part>\n<pdfaid:conformance>[UA]</pdfaid:conformance>")
 PART_1 = b"<pdfaid:part>1</pdfaid:part>\n<pdfaid:conformance>B</pdfaid:conformance>"
 
 

@@ -66,9 +66,11 @@ void PdfCanvas::Fill(const std::vector<Rect>& boxes, Color color) {
 
 void PdfCanvas::EndFill(const char* paint) {
   if (filled_.empty()) return;
+  OnPaths();
   UseInk(fill_);
   AddRects(filled_);
   Add(paint);
+  OnEndOfPaths();
   filled_.clear();
 }
 
@@ -83,13 +85,16 @@ void PdfCanvas::Frame(const std::vector<Rect>& boxes, float width) {
   }
   EndPart();
   if (others.empty()) return;
+  OnPaths();
   UseLineWidth(width);
   AddRects(others);
   Add("S\n");
+  OnEndOfPaths();
 }
 
 void PdfCanvas::Strokes(const std::vector<Rect>& lines, float width) {
   EndPart();
+  OnPaths();
   UseLineWidth(width);
   for (const Rect& line : lines) {
     AppendNumber(content_, line.Left);
@@ -100,6 +105,7 @@ void PdfCanvas::Strokes(const std::vector<Rect>& lines, float width) {
     Add("l\n");
   }
   Add("S\n");
+  OnEndOfPaths();
 }
 
 void PdfCanvas::Text(const TextPiece& piece, const TextStyle& style, const Rect& box) {
@@ -116,6 +122,7 @@ void PdfCanvas::Text(const TextPiece& piece, const TextStyle& style, const Rect&
   }
   UseInk(Black);
   BeginText();
+  OnText();
   ShowText(piece, style, box.Left, baseline, fit.Stretch);
   if (clip) {
     EndText();
@@ -242,6 +249,7 @@ void PdfCanvas::BeginText() {
 
 void PdfCanvas::EndText() {
   if (!inText_) return;
+  OnEndOfText();
   Add("ET\n");
   inText_ = false;
 }

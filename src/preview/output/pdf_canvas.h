@@ -35,8 +35,24 @@ class PdfPictures {
   std::map<std::tuple<const Picture*, float, float>, std::size_t> numbers_;
 };
 
+// What a canvas calls where content is written, for those that mark it.
+class ContentMarker {
+ protected:
+  ContentMarker() = default;
+  ~ContentMarker() = default;
+  ContentMarker(const ContentMarker&) = delete;
+  ContentMarker& operator=(const ContentMarker&) = delete;
+
+  // A piece of text is about to be shown in an open text object, which is about to be closed.
+  virtual void OnText() {}
+  virtual void OnEndOfText() {}
+  // Fills or lines are about to be painted, and have been.
+  virtual void OnPaths() {}
+  virtual void OnEndOfPaths() {}
+};
+
 // Makes the content of one page. Glyphs and pictures are collected for the resources that all pages share.
-class PdfCanvas : public Canvas {
+class PdfCanvas : public Canvas, protected ContentMarker {
  public:
   // `height` of the paper in twips; `scale` below 1 shrinks the page towards its top left corner.
   PdfCanvas(double height, double scale, PdfGlyphs& glyphs, PdfPictures& pictures);
@@ -52,8 +68,12 @@ class PdfCanvas : public Canvas {
   // Closes the content and returns it; the canvas must not be used after that.
   std::string Finish();
 
- private:
+ protected:
   void Add(std::string_view text) { content_ += text; }
+  // Text or boxes that are not finished.
+  void EndPart();
+
+ private:
   void AddRects(std::span<const Rect> boxes);
   void UseInk(Color color);
   void UseLineWidth(float width);
@@ -61,8 +81,6 @@ class PdfCanvas : public Canvas {
   void EndText();
   // Paints the boxes that are to be filled, if there are any; `paint` is the operator for it.
   void EndFill(const char* paint = "f\n");
-  // Text or boxes that are not finished.
-  void EndPart();
   void ShowText(const TextPiece& piece, const TextStyle& style, double x, double y, double stretch);
   void ShowPlain(const TextPiece& piece, const TextStyle& style, double x, double y, double stretch);
   void ShowShaped(const TextPiece& piece, const TextStyle& style, double x, double y, double stretch);

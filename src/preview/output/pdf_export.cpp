@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <filesystem>
+#include <optional>
 #include <system_error>
 
 #include "platform/files/settle_file.h"
@@ -34,7 +35,9 @@ bool CanBeReplaced(const std::filesystem::path& path) {
 
 std::string MakePdf(const Document& document, const PdfSheets& sheets, const PdfInfo& info,
                     const Progress& progress) {
-  PdfInProgress pdf(sheets, document.CodePage);
+  std::optional<PdfTagPlan> tags;
+  if (info.IsTagged) tags.emplace(document, sheets.Pages);
+  PdfInProgress pdf(sheets, document.CodePage, tags ? &*tags : nullptr);
   const int count = static_cast<int>(sheets.Pages.size());
   int done = 0;
   for (const int page : sheets.Pages) {

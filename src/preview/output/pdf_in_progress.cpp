@@ -9,6 +9,7 @@
 #include "preview/output/pdf_attachments.h"
 #include "preview/output/pdf_greys.h"
 #include "preview/output/pdf_metadata.h"
+#include "preview/output/pdf_structure.h"
 
 namespace tarvis {
 namespace {
@@ -123,9 +124,9 @@ void AddOpening(QPDF& pdf, const PdfSheets& sheets) {
   pdf.getRoot().replaceKey("/PageLabels", PageLabels(sheets));
 }
 
-// Part 3 is part 2 with files of any kind in it.
-PdfConformance ConformanceOf(const PdfInfo& info) {
-  return {info.Data.empty() ? 2 : 3, 'U'};
+// Part 3 is part 2 with files of any kind in it, level A is level U with a structure.
+PdfConformance ConformanceOf(const PdfInfo& info, bool isTagged) {
+  return {info.Data.empty() ? 2 : 3, isTagged ? 'A' : 'U', isTagged};
 }
 
 std::string Written(QPDF& pdf) {
@@ -143,18 +144,20 @@ std::string Written(QPDF& pdf) {
 
 }  // namespace
 
-PdfInProgress::PdfInProgress(const PdfLook& look, int codePage) : look_(look), pages_(pdf_, look, codePage) {
+PdfInProgress::PdfInProgress(const PdfLook& look, int codePage, const PdfTagPlan* tags)
+    : look_(look), tags_(tags), pages_(pdf_, look, codePage, tags) {
   pdf_.emptyPDF();
 }
 
 std::string PdfInProgress::Finish(const Document& document, const PdfInfo& info) {
   const bool hasAllGlyphs = pages_.Finish(document);
   const PdfSheets sheets{look_, pages_.Sheets()};
+  if (tags_ != nullptr) AddStructure(pdf_, *tags_, sheets, pages_.Marks());
   AddOutline(pdf_, document, sheets);
   AddOpening(pdf_, sheets);
   MakeArchive(pdf_, document.CodePage);
   AttachData(pdf_, info.Data, info.Created);
-  AddMetadata(pdf_, info, hasAllGlyphs ? std::optional(ConformanceOf(info)) : std::nullopt);
+  AddMetadata(pdf_, info, hasAllGlyphs ? std::optional(ConformanceOf(info, tags_ != nullptr)) : std::nullopt);
   if (look_.Greys) TurnIntoGreys(pdf_);
   return Written(pdf_);
 }

@@ -14,8 +14,8 @@ namespace tarvis {
 // Belongs to the thread that made it, as its fonts do.
 class PdfInProgress {
  public:
-  // `codePage` is that of the texts.
-  PdfInProgress(const PdfLook& look, int codePage);
+  // `codePage` is that of the texts. The PDF is tagged if there are `tags`, which must outlive it.
+  PdfInProgress(const PdfLook& look, int codePage, const PdfTagPlan* tags = nullptr);
 
   // Adds a sheet with that page.
   void Add(const Document& document, std::size_t page) { pages_.Add(document, page); }
@@ -26,6 +26,7 @@ class PdfInProgress {
 
  private:
   PdfLook look_;
+  const PdfTagPlan* tags_;
   QPDF pdf_;
   PdfPages pages_;
 };

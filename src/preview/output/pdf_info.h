@@ -14,6 +14,7 @@ struct PdfInfo {
   QString Author;                     // empty for none
   QDateTime Created;                  // invalid: no dates, so that the same document gives the same bytes
   std::vector<NamedBytes> Data = {};  // files that the document is made of, to be put into it
+  bool IsTagged = false;              // with its structure, for those who have it read to them
 };
 
 }  // namespace tarvis

@@ -41,11 +41,32 @@ QString Element(const char* name, const QString& content) {
   return QStringLiteral("<%1>%2</%1>\n").arg(QString::fromLatin1(name), content);
 }
 
+// Archives must say what a property means that their own standard doesn't know; readers look for it in a
+// description of its own.
+QString DescriptionOfAccess() {
+  return QStringLiteral(
+      "<rdf:Description rdf:about=\"\" xmlns:pdfaExtension=\"http://www.aiim.org/pdfa/ns/extension/\" "
+      "xmlns:pdfaSchema=\"http://www.aiim.org/pdfa/ns/schema#\" "
+      "xmlns:pdfaProperty=\"http://www.aiim.org/pdfa/ns/property#\">\n"
+      "<pdfaExtension:schemas><rdf:Bag><rdf:li rdf:parseType=\"Resource\">\n"
+      "<pdfaSchema:schema>PDF/UA identification schema</pdfaSchema:schema>\n"
+      "<pdfaSchema:namespaceURI>http://www.aiim.org/pdfua/ns/id/</pdfaSchema:namespaceURI>\n"
+      "<pdfaSchema:prefix>pdfuaid</pdfaSchema:prefix>\n"
+      "<pdfaSchema:property><rdf:Seq><rdf:li rdf:parseType=\"Resource\">\n"
+      "<pdfaProperty:name>part</pdfaProperty:name>\n"
+      "<pdfaProperty:valueType>Integer</pdfaProperty:valueType>\n"
+      "<pdfaProperty:category>internal</pdfaProperty:category>\n"
+      "<pdfaProperty:description>Part of ISO 14289 to which the document keeps</pdfaProperty:description>\n"
+      "</rdf:li></rdf:Seq></pdfaSchema:property>\n"
+      "</rdf:li></rdf:Bag></pdfaExtension:schemas>\n</rdf:Description>\n");
+}
+
 QString Properties(const PdfInfo& info, std::optional<PdfConformance> conformance) {
   QString xml;
   if (conformance) {
     xml += Element("pdfaid:part", QString::number(conformance->Part));
     xml += Element("pdfaid:conformance", QString(QLatin1Char(conformance->Level)));
+    if (conformance->IsAccessible) xml += Element("pdfuaid:part", QStringLiteral("1"));
   }
   if (!info.Title.isEmpty())
     xml += Element("dc:title", QStringLiteral("<rdf:Alt><rdf:li xml:lang=\"x-default\">%1</rdf:li></rdf:Alt>")
@@ -64,20 +85,25 @@ QString Properties(const PdfInfo& info, std::optional<PdfConformance> conformanc
 }
 
 // The first line holds a byte order mark, by which readers that know no PDF find the packet and its encoding.
-QString Packet(const QString& properties) {
+QString Packet(const QString& properties, bool isAccessible) {
+  const QString access =
+      isAccessible ? QStringLiteral(" xmlns:pdfuaid=\"http://www.aiim.org/pdfua/ns/id/\"") : QString();
   return QStringLiteral(
              "<?xpacket begin=\"\uFEFF\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?>\n"
              "<x:xmpmeta xmlns:x=\"adobe:ns:meta/\">\n"
              "<rdf:RDF xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\">\n"
              "<rdf:Description rdf:about=\"\" xmlns:dc=\"http://purl.org/dc/elements/1.1/\" "
              "xmlns:xmp=\"http://ns.adobe.com/xap/1.0/\" xmlns:pdf=\"http://ns.adobe.com/pdf/1.3/\" "
-             "xmlns:pdfaid=\"http://www.aiim.org/pdfa/ns/id/\">\n") +
-         properties + QStringLiteral("</rdf:Description>\n</rdf:RDF>\n</x:xmpmeta>\n<?xpacket end=\"r\"?>\n");
+             "xmlns:pdfaid=\"http://www.aiim.org/pdfa/ns/id/\"") +
+         access + QStringLiteral(">\n") + properties + QStringLiteral("</rdf:Description>\n") +
+         (isAccessible ? DescriptionOfAccess() : QString()) +
+         QStringLiteral("</rdf:RDF>\n</x:xmpmeta>\n<?xpacket end=\"r\"?>\n");
 }
 
 // The writer of PDFs leaves this stream uncompressed, as archives ask for.
 void AddXmp(QPDF& pdf, const PdfInfo& info, std::optional<PdfConformance> conformance) {
-  QPDFObjectHandle stream = pdf.newStream(Packet(Properties(info, conformance)).toStdString());
+  const bool isAccessible = conformance && conformance->IsAccessible;
+  QPDFObjectHandle stream = pdf.newStream(Packet(Properties(info, conformance), isAccessible).toStdString());
   stream.getDict().replaceKey("/Type", QPDFObjectHandle::newName("/Metadata"));
   stream.getDict().replaceKey("/Subtype", QPDFObjectHandle::newName("/XML"));
   pdf.getRoot().replaceKey("/Metadata", stream);

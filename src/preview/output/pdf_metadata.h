@@ -1,5 +1,5 @@
-// What a PDF says about itself, written into it: title, author, makers, dates, and which kind of archive it
-// is.
+// What a PDF says about itself, written into it: title, author, makers, dates, and to which standards it
+// keeps.
 #pragma once
 
 #include <QString>
@@ -14,6 +14,7 @@ namespace tarvis {
 struct PdfConformance {
   int Part = 2;
   char Level = 'U';
+  bool IsAccessible = false;  // it keeps to ISO 14289-1, too
 };
 
 // As the format writes dates.

@@ -12,16 +12,26 @@ QPDFObjectHandle Points(double twips) {
   return QPDFObjectHandle::newReal(twips / TwipsPerPoint, 2);
 }
 
-PdfPages::PdfPages(QPDF& pdf, const PdfLook& look, int codePage)
-    : pdf_(pdf), look_(look), glyphs_(ReportFont::OfThisThread(codePage)) {}
+PdfPages::PdfPages(QPDF& pdf, const PdfLook& look, int codePage, const PdfTagPlan* tags)
+    : pdf_(pdf), look_(look), glyphs_(ReportFont::OfThisThread(codePage)), tags_(tags) {}
 
 void PdfPages::Add(const Document& document, std::size_t page) {
   sheets_.push_back(static_cast<int>(page));
   const auto [content, isNew] = contents_.try_emplace(sheets_.back());
-  if (!isNew) return;
-  PdfCanvas canvas(look_.Paper.height(), look_.Scale, glyphs_, pictures_);
+  if (isNew) content->second = NewStream(ContentOf(document, page));
+}
+
+std::string PdfPages::ContentOf(const Document& document, std::size_t page) {
+  if (tags_ == nullptr) {
+    PdfCanvas canvas(look_.Paper.height(), look_.Scale, glyphs_, pictures_);
+    PaintWithoutPageTotals(document, page, canvas);
+    return canvas.Finish();
+  }
+  TaggedCanvas canvas(look_.Paper.height(), look_.Scale, glyphs_, pictures_, *tags_);
   PaintWithoutPageTotals(document, page, canvas);
-  content->second = NewStream(canvas.Finish());
+  std::string content = canvas.Finish();
+  marks_[static_cast<int>(page)] = canvas.TakeMarks();
+  return content;
 }
 
 bool PdfPages::Finish(const Document& document) {
@@ -44,8 +54,9 @@ QPDFObjectHandle PdfPages::NewStream(std::string content) {
 QPDFObjectHandle PdfPages::WholeContent(const Document& document, int page) {
   PdfCanvas canvas(glyphs_, pictures_);
   PaintPageTotals(document, static_cast<std::size_t>(page), canvas);
-  const std::string total = canvas.Finish();
+  std::string total = canvas.Finish();
   if (total.empty()) return contents_.at(page);
+  if (tags_ != nullptr) total = FooterDecoration + total + EndOfDecoration;
   const auto [known, isNew] = totals_.try_emplace(total);
   if (isNew) known->second = NewStream(total);
   return QPDFObjectHandle::newArray({contents_.at(page), known->second});

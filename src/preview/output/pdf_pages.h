@@ -13,6 +13,7 @@
 #include "preview/output/pdf_contents.h"
 #include "preview/output/pdf_glyphs.h"
 #include "preview/output/pdf_sheets.h"
+#include "preview/output/tagged_canvas.h"
 #include "report/engine/document.h"
 
 namespace tarvis {
@@ -20,10 +21,14 @@ namespace tarvis {
 // A length as PDFs have it.
 QPDFObjectHandle Points(double twips);
 
+// The marked content of each page of the document, by index.
+using PdfMarks = std::map<int, std::vector<PdfMark>>;
+
 class PdfPages {
  public:
-  // `pdf` must outlive it. `codePage` is that of the texts.
-  PdfPages(QPDF& pdf, const PdfLook& look, int codePage);
+  // `pdf` must outlive it. `codePage` is that of the texts. Content is marked as `tags` say, if there are
+  // any; they must outlive it, too.
+  PdfPages(QPDF& pdf, const PdfLook& look, int codePage, const PdfTagPlan* tags);
 
   // Adds a sheet. Its page is painted but for the page total; further sheets with the same page share its
   // content.
@@ -34,8 +39,10 @@ class PdfPages {
 
   // The page of each sheet.
   const std::vector<int>& Sheets() const { return sheets_; }
+  const PdfMarks& Marks() const { return marks_; }
 
  private:
+  std::string ContentOf(const Document& document, std::size_t page);
   QPDFObjectHandle NewStream(std::string content);
   QPDFObjectHandle WholeContent(const Document& document, int page);
   QPDFObjectHandle NewPage(const QPDFObjectHandle& content, const QPDFObjectHandle& resources);
@@ -45,6 +52,8 @@ class PdfPages {
   PdfGlyphs glyphs_;
   PdfPictures pictures_;
   PdfContents compressed_;
+  const PdfTagPlan* tags_;
+  PdfMarks marks_;
   std::vector<int> sheets_;
   std::map<int, QPDFObjectHandle> contents_;        // by page
   std::map<std::string, QPDFObjectHandle> totals_;  // by content, which is mostly the same on all pages

@@ -101,17 +101,26 @@ void PaintLayer(const Document& document, const PageLayer& layer, Canvas& canvas
       layer.Fills, [](const Item& item) { return item.Fill; },
       [&](const std::vector<Rect>& boxes, Color color) { canvas.Fill(boxes, color); });
   for (const Item* item : layer.Pictures) {
-    if (document.Pictures[item->Source]) canvas.Picture(*document.Pictures[item->Source], item->Box);
+    if (!document.Pictures[item->Source]) continue;
+    canvas.BeginItem(*item);
+    canvas.Picture(*document.Pictures[item->Source], item->Box);
+    canvas.EndItem();
   }
   PaintBorders(layer.Borders, canvas);
   ByLook(layer.Lines, LineWidth, [&](std::vector<Rect> lines, float width) {
     if (width <= LineWeightUnit) CloseCorners(lines, width);
     canvas.Strokes(lines, width);
   });
-  for (const Item* item : layer.Ticks) PaintTick(*item, canvas);
+  for (const Item* item : layer.Ticks) {
+    canvas.BeginItem(*item);
+    PaintTick(*item, canvas);
+    canvas.EndItem();
+  }
   for (const Item* item : layer.Texts) {
     const TextPiece& piece = document.Texts[item->Source];
+    canvas.BeginItem(*item);
     canvas.Text(piece, document.Styles[piece.Style], item->Box);
+    canvas.EndItem();
   }
 }
 

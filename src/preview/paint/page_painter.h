@@ -23,6 +23,10 @@ class Canvas {
   virtual void Strokes(const std::vector<Rect>& lines, float width) = 0;
   virtual void Text(const TextPiece& piece, const TextStyle& style, const Rect& box) = 0;
   virtual void Picture(const tarvis::Picture& picture, const Rect& box) = 0;
+
+  // What is painted between the two shows this item: a picture, a tick or a text. All else is decoration.
+  virtual void BeginItem(const Item& /*item*/) {}
+  virtual void EndItem() {}
 };
 
 void PaintPage(const Document& document, std::size_t page, Canvas& canvas);

@@ -65,9 +65,12 @@ QString DocumentOutput::ProposedPath() const {
 void DocumentOutput::SavePdf() {
   PdfFileDialog dialog(window_, ProposedPath());
   if (origin_.ReadData) dialog.OfferData(memory_->AttachesData);
+  dialog.OfferTags(memory_->IsTagged);
   if (dialog.exec() != QDialog::Accepted) return;
   memory_->AttachesData = dialog.AttachesData();
+  memory_->IsTagged = dialog.IsTagged();
   PdfInfo info = Info();
+  info.IsTagged = memory_->IsTagged;
   try {
     if (memory_->AttachesData) info.Data = origin_.ReadData();
   } catch (const RunTimeFailure& failure) {

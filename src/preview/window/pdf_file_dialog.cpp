@@ -44,18 +44,35 @@ PdfFileDialog::PdfFileDialog(QWidget* parent, const QString& path)
   });
 }
 
-void PdfFileDialog::OfferData(bool isOn) {
+// Null where the system's own dialog is shown.
+QCheckBox* PdfFileDialog::AddBox(const QString& name, const QString& caption, const QString& tip, bool isOn) {
   auto* grid = qobject_cast<QGridLayout*>(layout());
-  if (NameBox(*this) == nullptr || grid == nullptr) return;
-  attachData_ = new QCheckBox(Text("Attach the &data"), this);
-  attachData_->setObjectName(QStringLiteral("attachData"));
-  attachData_->setToolTip(Text("Puts the data files that the pages are made of into the PDF."));
-  attachData_->setChecked(isOn);
-  grid->addWidget(attachData_, grid->rowCount(), 0, 1, grid->columnCount());
+  if (NameBox(*this) == nullptr || grid == nullptr) return nullptr;
+  auto* box = new QCheckBox(caption, this);
+  box->setObjectName(name);
+  box->setToolTip(tip);
+  box->setChecked(isOn);
+  grid->addWidget(box, grid->rowCount(), 0, 1, grid->columnCount());
+  return box;
+}
+
+void PdfFileDialog::OfferData(bool isOn) {
+  attachData_ = AddBox(QStringLiteral("attachData"), Text("Attach the &data"),
+                       Text("Puts the data files that the pages are made of into the PDF."), isOn);
+}
+
+void PdfFileDialog::OfferTags(bool isOn) {
+  tags_ = AddBox(
+      QStringLiteral("tags"), Text("&Tags for screen readers"),
+      Text("Says which text is a heading, a cell of a table or a figure. The file becomes larger."), isOn);
 }
 
 bool PdfFileDialog::AttachesData() const {
   return attachData_ != nullptr && attachData_->isChecked();
+}
+
+bool PdfFileDialog::IsTagged() const {
+  return tags_ != nullptr && tags_->isChecked();
 }
 
 // The toolkit takes quotes for marks around each of several names. One file is saved here, and quotes are

@@ -16,8 +16,11 @@ class PdfFileDialog : public QFileDialog {
 
   // Adds the box "Attach the data", which is on or off. The system's own dialog has no room for it.
   void OfferData(bool isOn);
-  // Whether that box is there and on.
+  // The same for the box "Tags for screen readers".
+  void OfferTags(bool isOn);
+  // Whether these boxes are there and on.
   bool AttachesData() const;
+  bool IsTagged() const;
 
   // What was chosen, exactly as it was typed.
   QString Path() const;
@@ -27,9 +30,11 @@ class PdfFileDialog : public QFileDialog {
 
  private:
   QString TypedPath() const;
+  QCheckBox* AddBox(const QString& name, const QString& caption, const QString& tip, bool isOn);
 
   QString path_;
   QCheckBox* attachData_ = nullptr;
+  QCheckBox* tags_ = nullptr;
 };
 
 }  // namespace tarvis

@@ -36,6 +36,7 @@ struct WindowState {
 struct PreviewMemory {
   QString Folder;  // where the last PDF was saved; empty before that
   bool AttachesData = false;
+  bool IsTagged = false;  // what is saved as PDF
   std::optional<WindowState> Window;
 };
 
