@@ -27,7 +27,7 @@ constexpr int NoSuchPrinter = 0x0406;
 // the printer is gone, or the server is.
 constexpr int FailedInTheLibrary = 0x0500;
 
-QString Text(const char* text) {
+QString PrintSystemText(const char* text) {
   return QCoreApplication::translate("Printing", text);
 }
 
@@ -134,9 +134,9 @@ QString RefusalOfLastJob(const QString& printer) {
   const QString theirs = QString::fromUtf8(words());
   if (status() != FailedInTheLibrary) return theirs;
   const auto connection = ConnectToServer();
-  if (connection == nullptr) return Text("The print system doesn't answer.");
+  if (connection == nullptr) return PrintSystemText("The print system doesn't answer.");
   if (IsPrinterGone(connection.get(), printer))
-    return Text("The print system doesn't know this printer any more.");
+    return PrintSystemText("The print system doesn't know this printer any more.");
   return theirs;
 }
 

@@ -15,7 +15,7 @@
 namespace tarvis {
 namespace {
 
-QString Text(const char* text) {
+QString PrintingText(const char* text) {
   return QCoreApplication::translate("Printing", text);
 }
 
@@ -50,7 +50,7 @@ QString RefusalBy(const QPrinter& printer) {
   const QString refusal =
       printer.outputFileName().isEmpty() ? RefusalOfLastJob(printer.printerName()) : QString();
   if (refusal.isEmpty()) return {};
-  return Text("The printer \"%1\" did not take the document: %2").arg(printer.printerName(), refusal);
+  return PrintingText("The printer \"%1\" did not take the document: %2").arg(printer.printerName(), refusal);
 }
 
 // The PDF that would be saved, which is made in a fraction of the time that the toolkit paints in.
@@ -95,7 +95,7 @@ QString PrintDocument(const Document& document, const std::vector<int>& pages, Q
   printer.setFullPage(true);
   QPainter painter;
   if (!painter.begin(&printer)) {
-    return Text("The printer \"%1\" can't be used.").arg(printer.printerName());
+    return PrintingText("The printer \"%1\" can't be used.").arg(printer.printerName());
   }
   const double dotsPerInch = printer.resolution();
   const double toDevice = dotsPerInch / TwipsPerInch;
@@ -104,13 +104,13 @@ QString PrintDocument(const Document& document, const std::vector<int>& pages, Q
   for (std::size_t index = 0; index < pages.size(); ++index) {
     if (!progress(static_cast<int>(index), count)) return Drop(printer);
     if (index > 0 && !printer.newPage())
-      return Text("The printer \"%1\" took no further page.").arg(printer.printerName());
+      return PrintingText("The printer \"%1\" took no further page.").arg(printer.printerName());
     PainterCanvas canvas(painter, document.CodePage);
     PaintInReadingOrder(document, static_cast<std::size_t>(pages[index]), canvas);
   }
   if (!progress(count, count)) return Drop(printer);
   if (!painter.end() || printer.printerState() == QPrinter::Error) {
-    return Text("The printer \"%1\" reports an error.").arg(printer.printerName());
+    return PrintingText("The printer \"%1\" reports an error.").arg(printer.printerName());
   }
   return RefusalBy(printer);
 }
