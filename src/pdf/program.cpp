@@ -14,6 +14,7 @@
 #include "platform/system/standard_output.h"
 #include "platform/system/usual_paper.h"
 #include "preview/output/pdf_export.h"
+#include "preview/output/whole_file.h"
 #include "run/print_run.h"
 
 namespace tarvis {
@@ -23,7 +24,7 @@ constexpr const char* StandardOutput = "-";
 
 void WriteOutput(const std::string& pdf, const std::string& output) {
   if (output != StandardOutput) {
-    const QString failure = WritePdf(pdf, output);
+    const QString failure = WriteWholeFile(pdf, output);
     if (!failure.isEmpty()) throw PdfError(failure.toStdString());
     return;
   }

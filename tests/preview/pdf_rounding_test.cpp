@@ -10,6 +10,7 @@
 
 #include "preview/document_builder.h"
 #include "preview/output/pdf_export.h"
+#include "preview/output/whole_file.h"
 #include "preview/pdf_file.h"
 #include "preview/sample_picture.h"
 
@@ -93,7 +94,7 @@ TEST_F(RoundedPicture, TakesTwoThirdsAtMostForACurveAndShowsItWhereItWas) {
   constexpr std::size_t AsTheToolkitWritesIt = 1000 * (10 + 1 + 10 + 3);  // "1234.56789 1234.56789 l\n"
   EXPECT_LT(ContentSize(bytes), AsTheToolkitWritesIt * 2 / 3);
   const QTemporaryDir folder;
-  ASSERT_EQ(WritePdf(bytes, folder.filePath(QStringLiteral("out.pdf")).toStdString()), QString());
+  ASSERT_EQ(WriteWholeFile(bytes, folder.filePath(QStringLiteral("out.pdf")).toStdString()), QString());
   RunTool("pdftoppm",
           {QStringLiteral("-singlefile"), QStringLiteral("-png"), QStringLiteral("-r"), QStringLiteral("72"),
            folder.filePath(QStringLiteral("out.pdf")), folder.filePath(QStringLiteral("page"))});

@@ -3,9 +3,7 @@
 #pragma once
 
 #include <QString>
-#include <filesystem>
 #include <string>
-#include <string_view>
 
 #include "preview/output/pdf_info.h"
 #include "preview/output/pdf_sheets.h"
@@ -14,20 +12,14 @@
 
 namespace tarvis {
 
-// Whether a file may replace what is at `path`: only nothing, or an ordinary file, also through a link.
-[[nodiscard]] bool CanBeReplaced(const std::filesystem::path& path);
-
 // The bytes of the PDF; empty if `progress` cancels.
 [[nodiscard]] std::string MakePdf(const Document& document, const PdfSheets& sheets, const PdfInfo& info,
                                   const Progress& progress);
 
-// Writes to a temporary file beside `path` first and replaces `path` only by a whole file, so that nothing is
-// lost on a failure or when `progress` cancels. Returns an error text for the user, empty if all is well or
-// cancelled.
+// Writes the file whole or not at all, so that nothing is lost on a failure or when `progress` cancels.
+// Returns an error text for the user, empty if all is well or cancelled.
 [[nodiscard]] QString ExportPdf(const Document& document, const PdfSheets& sheets, const QString& path,
                                 const PdfInfo& info, const Progress& progress);
-// Its last step, for bytes that are there already.
-[[nodiscard]] QString WritePdf(std::string_view pdf, const std::filesystem::path& path);
 // The same with all pages.
 [[nodiscard]] QString ExportPdf(const Document& document, const QString& path, const PdfInfo& info,
                                 const Progress& progress);

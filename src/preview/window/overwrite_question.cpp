@@ -5,7 +5,7 @@
 #include <QFileInfo>
 #include <QMessageBox>
 
-#include "preview/output/pdf_export.h"
+#include "preview/output/whole_file.h"
 
 namespace tarvis {
 namespace {

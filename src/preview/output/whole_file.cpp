@@ -1,0 +1,41 @@
+#include "preview/output/whole_file.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+#include "platform/files/settle_file.h"
+#include "printfiles/replace_file.h"
+
+namespace tarvis {
+namespace {
+
+// A file that this user may not write is not replaced either, though its folder would allow it.
+bool IsProtected(const std::filesystem::path& path) {
+  const QFileInfo old(path);
+  return old.exists() && !old.isWritable();
+}
+
+QString Translated(const char* text) {
+  return QCoreApplication::translate("WholeFile", text);
+}
+
+}  // namespace
+
+bool CanBeReplaced(const std::filesystem::path& path) {
+  std::error_code ignored;  // what can't be looked at can't be replaced
+  const bool isLink = std::filesystem::is_symlink(path, ignored);
+  const std::filesystem::file_type type = std::filesystem::status(path, ignored).type();
+  return type == std::filesystem::file_type::regular ||
+         (type == std::filesystem::file_type::not_found && !isLink);
+}
+
+QString WriteWholeFile(std::string_view bytes, const std::filesystem::path& path) {
+  const QString name = QString::fromStdString(path.string());
+  if (!CanBeReplaced(path))
+    return Translated("\"%1\" is not an ordinary file and is not replaced.").arg(name);
+  std::error_code error = std::make_error_code(std::errc::permission_denied);
+  if (!IsProtected(path) && ReplaceFile(path, bytes, SettleFile, error)) return {};
+  return Translated("\"%1\" can't be written: %2").arg(name, QString::fromStdString(error.message()));
+}
+
+}  // namespace tarvis
