@@ -1,15 +1,13 @@
 // The dialog that asks where a PDF is to be saved.
 #pragma once
 
-#include <QFileDialog>
+#include "preview/window/save_dialog.h"
 
 class QCheckBox;
 
 namespace tarvis {
 
-// The toolkit shows the system's own dialog instead of this one where there is one. It recognizes its own
-// class by its meta-object, so this class must not have one.
-class PdfFileDialog : public QFileDialog {
+class PdfFileDialog : public SaveDialog {
  public:
   // `path` is proposed.
   PdfFileDialog(QWidget* parent, const QString& path);
@@ -22,17 +20,9 @@ class PdfFileDialog : public QFileDialog {
   bool AttachesData() const;
   bool IsTagged() const;
 
-  // What was chosen, exactly as it was typed.
-  QString Path() const;
-
- protected:
-  void accept() override;
-
  private:
-  QString TypedPath() const;
   QCheckBox* AddBox(const QString& name, const QString& caption, const QString& tip, bool isOn);
 
-  QString path_;
   QCheckBox* attachData_ = nullptr;
   QCheckBox* tags_ = nullptr;
 };
