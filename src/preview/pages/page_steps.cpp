@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 
+#include "preview/pages/page_places.h"
 #include "preview/pages/page_view.h"
 
 namespace tarvis {
@@ -73,6 +74,16 @@ void ZoomStep(PageView& view, int direction, std::optional<QPointF> anchor) {
     const auto next = std::lower_bound(ZoomSteps.begin(), ZoomSteps.end(), view.Layout().Zoom() - Same);
     if (next != ZoomSteps.begin()) view.SetZoom(*std::prev(next), anchor);
   }
+}
+
+void ZoomTo(PageView& view, int page, const QRectF& box) {
+  const QRectF seen(view.viewport()->rect());
+  const double pixelsPerTwip = std::min(seen.width() / box.width(), seen.height() / box.height());
+  view.GoTo({page, box.top()});
+  view.SetZoom(pixelsPerTwip * TwipsPerScreenPixel);
+  const QPoint past = (PlaceInView(view, page, box).center() - seen.center()).toPoint();
+  view.horizontalScrollBar()->setValue(view.horizontalScrollBar()->value() + past.x());
+  view.verticalScrollBar()->setValue(view.verticalScrollBar()->value() + past.y());
 }
 
 }  // namespace tarvis

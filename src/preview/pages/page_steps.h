@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QPointF>
+#include <QRectF>
 #include <optional>
 
 namespace tarvis {
@@ -25,5 +26,8 @@ void GoToEnd(PageView& view);
 
 // To the next larger or smaller zoom step, around `anchor` as in PageView::SetZoom.
 void ZoomStep(PageView& view, int direction, std::optional<QPointF> anchor = {});
+
+// To a size in which `box` (twips) of a page fills the view.
+void ZoomTo(PageView& view, int page, const QRectF& box);
 
 }  // namespace tarvis

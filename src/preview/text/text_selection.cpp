@@ -27,19 +27,18 @@ bool IsWordCharacter(uint character) {
   return QChar::isLetterOrNumber(character) || character == U'_';
 }
 
-QString Separator(const ReadPiece& piece, bool first) {
-  const QString empty(piece.EmptyCells, QLatin1Char('\t'));
-  switch (piece.Before) {
-    case Join::Line:
-      return (first ? QString() : QStringLiteral("\n")) + empty;
-    case Join::Cell:
-      return first ? QString() : QStringLiteral("\t") + empty;
-    case Join::Wrap:
-      return first ? QString() : QStringLiteral(" ");
-    case Join::Break:
-      return first ? QString() : QStringLiteral("\n");
+// Adds the text of a piece to the rows where it belongs.
+void AddPiece(CopiedRows& rows, const ReadPiece& piece, const QString& text) {
+  const bool opensRow = piece.Before == Join::Line || rows.empty();
+  if (opensRow) rows.emplace_back();
+  std::vector<QString>& cells = rows.back().Cells;
+  const bool isWhole = piece.Before == Join::Line || (piece.Before == Join::Cell && !opensRow);
+  if (isWhole) cells.insert(cells.end(), piece.EmptyCells, QString());
+  if (opensRow || piece.Before == Join::Cell) {
+    cells.push_back(text);
+  } else {
+    cells.back() += (piece.Before == Join::Wrap ? QLatin1Char(' ') : QLatin1Char('\n')) + text;
   }
-  return {};
 }
 
 }  // namespace
@@ -96,6 +95,14 @@ void TextSelection::SelectAll() {
   if (pages > 0) end_ = {pages, 0, 0};
 }
 
+std::pair<int, QPointF> TextSelection::EndPlace() const {
+  constexpr std::pair<int, QPointF> Nowhere{-1, {}};
+  if (end_.Page >= static_cast<int>(text_.Source().Pages.size())) return Nowhere;
+  const std::vector<ReadPiece>& pieces = text_.Page(end_.Page).Pieces;
+  if (end_.Piece >= pieces.size()) return Nowhere;
+  return {end_.Page, BoxOfLine(text_.Source(), pieces[end_.Piece]).center()};
+}
+
 bool TextSelection::HasTextBeside(int page, QPointF point) const {
   constexpr double Tolerance = 60;  // twips
   const std::vector<ReadPiece>& pieces = text_.Page(page).Pieces;
@@ -130,26 +137,27 @@ std::vector<QRectF> TextSelection::Boxes(int page) const {
   return boxes;
 }
 
-QString TextSelection::Text() const {
-  QString copied;
-  if (IsEmpty()) return copied;
-  bool first = true;
-  const int pages = static_cast<int>(text_.Source().Pages.size());
-  for (int page = First().Page; page <= std::min(Last().Page, pages - 1); ++page) {
-    const PageText& text = text_.Page(page);
-    for (std::size_t piece = 0; piece < text.Pieces.size(); ++piece) {
-      const Part part = PartOf(page, piece, text.Pieces[piece]);
-      if (part.First >= part.End) continue;
-      const QList<uint> characters = CharactersOf(text_.Source(), text.Pieces[piece]);
-      copied += Separator(text.Pieces[piece], first);
-      for (std::size_t index = part.First; index < part.End; ++index) {
-        const auto character = static_cast<char32_t>(characters[static_cast<qsizetype>(index)]);
-        copied += QString::fromUcs4(&character, 1);
-      }
-      first = false;
+void TextSelection::AddRowsOf(int page, CopiedRows& rows) const {
+  const PageText& text = text_.Page(page);
+  for (std::size_t piece = 0; piece < text.Pieces.size(); ++piece) {
+    const Part part = PartOf(page, piece, text.Pieces[piece]);
+    if (part.First >= part.End) continue;
+    const QList<uint> characters = CharactersOf(text_.Source(), text.Pieces[piece]);
+    QString selected;
+    for (std::size_t index = part.First; index < part.End; ++index) {
+      const auto character = static_cast<char32_t>(characters[static_cast<qsizetype>(index)]);
+      selected += QString::fromUcs4(&character, 1);
     }
+    AddPiece(rows, text.Pieces[piece], selected);
   }
-  return copied;
+}
+
+CopiedRows TextSelection::Rows() const {
+  CopiedRows rows;
+  if (IsEmpty()) return rows;
+  const int pages = static_cast<int>(text_.Source().Pages.size());
+  for (int page = First().Page; page <= std::min(Last().Page, pages - 1); ++page) AddRowsOf(page, rows);
+  return rows;
 }
 
 }  // namespace tarvis

@@ -3,11 +3,12 @@
 
 #include <QPointF>
 #include <QRectF>
-#include <QString>
 #include <compare>
+#include <utility>
 #include <vector>
 
 #include "preview/paint/document_text.h"
+#include "preview/text/copied_rows.h"
 
 namespace tarvis {
 
@@ -34,13 +35,16 @@ class TextSelection {
   void SelectRow(int page, QPointF point);
   void SelectAll();
 
+  // Where the selection ends: a page and a point on the line there; below 0 on a page without text.
+  std::pair<int, QPointF> EndPlace() const;
+
   // Whether there is text at the height of `point`.
   bool HasTextBeside(int page, QPointF point) const;
 
   // What is selected of a page, for marking.
   std::vector<QRectF> Boxes(int page) const;
-  // LF between lines, tabs between cells: pasted into a spreadsheet, a table is a table again.
-  QString Text() const;
+  [[nodiscard]] CopiedRows Rows() const;
+  QString Text() const { return ToPlainText(Rows()); }
 
  private:
   TextPosition PositionAt(int page, QPointF point) const;
@@ -52,6 +56,7 @@ class TextSelection {
     std::size_t End = 0;
   };
   Part PartOf(int page, std::size_t piece, const ReadPiece& read) const;
+  void AddRowsOf(int page, CopiedRows& rows) const;
 
   DocumentText& text_;
   TextPosition anchor_;

@@ -17,7 +17,7 @@ constexpr auto Next = InGroup::Next;
 
 // Icons are outlines on a square of 16: M x y moves, L x y draws, Z closes, R x y w h is a rectangle,
 // O x y w h an ellipse.
-constexpr std::array<CommandEntry, 26> Table{{
+constexpr std::array<CommandEntry, 31> Table{{
     {Print, "print", "&Print…", "Ctrl+P",
      "M4 6 L4 2 L12 2 L12 6 R2 6 12 6 M4 10 L4 14 L12 14 L12 10 M4.5 10 L11.5 10", Bar, Push, Next, 0},
     {SavePdf, "savePdf", "&Save as PDF…", "Ctrl+S",
@@ -55,7 +55,12 @@ constexpr std::array<CommandEntry, 26> Table{{
     {FindNext, "findNext", "Find ne&xt", "F3", "", Menu, Push, Next, 0},
     {FindPrevious, "findPrevious", "Find pre&vious", "Shift+F3", "", Menu, Push, Next, 0},
     {Copy, "copy", "Cop&y", "Ctrl+C", "R5 2 8 9 M5 5 L3 5 L3 14 L11 14 L11 11", Menu, Push, First, 0},
+    {CopyGraph, "copyGraph", "Copy grap&h", "Ctrl+Shift+C", "", Menu, Push, Next, 0},
+    {SaveGraph, "saveGraph", "Save g&raph as…", "Ctrl+Shift+S", "", Menu, Push, Next, 0},
     {SelectAll, "selectAll", "Select a&ll", "Ctrl+A", "", Menu, Push, Next, 0},
+    {SelectColumn, "selectColumn", "Select colu&mn", "Ctrl+Space", "", Menu, Push, Next, 0},
+    {MarkArea, "markArea", "Mar&k area", "Ctrl+M", "", Menu, Toggle, Next, 0},
+    {ZoomToArea, "zoomToArea", "&Zoom to area", "Ctrl+5", "", Menu, Push, Next, 0},
     {Close, "close", "Clos&e", "Ctrl+W; Ctrl+Q", "M4 4 L12 12 M12 4 L4 12", Bar, Push, First, CloseTool},
 }};
 

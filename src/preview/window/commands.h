@@ -30,7 +30,12 @@ enum class Command {
   FindNext,
   FindPrevious,
   Copy,
+  CopyGraph,
+  SaveGraph,
   SelectAll,
+  SelectColumn,
+  MarkArea,
+  ZoomToArea,
   Close,
 };
 

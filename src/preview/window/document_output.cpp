@@ -11,9 +11,11 @@
 #include <QRegularExpression>
 #include <QStandardPaths>
 
+#include "preview/output/whole_file.h"
 #include "preview/paint/toolkit_geometry.h"
 #include "preview/window/pdf_file_dialog.h"
 #include "preview/window/print_dialog.h"
+#include "preview/window/save_dialog.h"
 #include "text/run_time_failure.h"
 
 namespace tarvis {
@@ -26,14 +28,14 @@ QString ShortName(const QString& dataFile) {
 }
 
 // A file name with the title, the name of the data and the day, which is valid on every system.
-QString FileNameOf(const QString& title, const QString& dataFile) {
+QString FileNameOf(const QString& title, const QString& dataFile, const QString& ending) {
   const QString day = QDate::currentDate().toString(Qt::ISODate);
   QString name = QStringList{title.trimmed(), ShortName(dataFile).trimmed(), day}.join(QLatin1Char(' '));
   for (QChar& character : name) {
     if (character.unicode() < 0x20 || QStringLiteral("\\/:*?\"<>|").contains(character))
       character = QLatin1Char('_');
   }
-  return name.simplified() + QStringLiteral(".pdf");
+  return name.simplified() + QLatin1Char('.') + ending;
 }
 
 // Without a printer the toolkit takes A4 everywhere.
@@ -55,15 +57,19 @@ DocumentOutput::DocumentOutput(std::shared_ptr<const Document> document, Documen
 
 DocumentOutput::~DocumentOutput() = default;
 
-QString DocumentOutput::ProposedPath() const {
+QString DocumentOutput::ProposedPath(const QString& title, const QString& ending) const {
   QDir folder(memory_->Folder.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
                                         : memory_->Folder);
   if (!folder.exists()) folder = QDir::home();
-  return folder.filePath(FileNameOf(QString::fromStdString(document_->Title), origin_.DataFile));
+  return folder.filePath(FileNameOf(title, origin_.DataFile, ending));
+}
+
+QString DocumentOutput::ProposedPdf() const {
+  return ProposedPath(QString::fromStdString(document_->Title), QStringLiteral("pdf"));
 }
 
 void DocumentOutput::SavePdf() {
-  PdfFileDialog dialog(window_, ProposedPath());
+  PdfFileDialog dialog(window_, ProposedPdf());
   if (origin_.ReadData) dialog.OfferData(memory_->AttachesData);
   dialog.OfferTags(memory_->IsTagged);
   if (dialog.exec() != QDialog::Accepted) return;
@@ -89,10 +95,27 @@ void DocumentOutput::WritePdf(PdfSheets sheets, const QString& path, const PdfIn
       [document = document_, sheets = std::move(sheets), path, info](const Progress& progress) {
         return ExportPdf(*document, sheets, path, info, progress);
       },
-      [this, path] {
-        memory_->Folder = QFileInfo(path).absolutePath();
-        emit Saved(path);
-      });
+      [this, path] { NoteSaved(path); });
+}
+
+void DocumentOutput::NoteSaved(const QString& path) {
+  memory_->Folder = QFileInfo(path).absolutePath();
+  emit Saved(path);
+}
+
+void DocumentOutput::SaveGraph(const PlacedGraph& graph) {
+  const QString title = GraphTitle(*document_, graph);
+  SaveDialog dialog(window_, tr("Save graph as"), ProposedPath(title, QStringLiteral("svg")),
+                    tr("SVG drawings (*.svg)") + QStringLiteral(";;") + tr("PNG pictures (*.png)"));
+  dialog.setObjectName(QStringLiteral("saveGraphDialog"));
+  if (dialog.exec() != QDialog::Accepted) return;
+  const QString path = dialog.Path();
+  const bool inPixels = QFileInfo(path).suffix().compare(QStringLiteral("png"), Qt::CaseInsensitive) == 0;
+  const QString failure =
+      WriteWholeFile(inPixels ? GraphAsPng(*document_, graph) : GraphAsSvg(*document_, graph, title),
+                     QFileInfo(path).filesystemFilePath());
+  if (!failure.isEmpty()) return ShowFailure(tr("The graph was not saved."), failure);
+  NoteSaved(path);
 }
 
 void DocumentOutput::Print() {
@@ -101,7 +124,7 @@ void DocumentOutput::Print() {
   printer->setDocName(QString::fromStdString(document_->Title));
   printer->setCreator(QStringLiteral("Tarvis"));
   if (printer->outputFormat() == QPrinter::PdfFormat) UsePaperOf(*document_, *printer);
-  PrintDialog dialog(*printer, count, ProposedPath(), window_);
+  PrintDialog dialog(*printer, count, ProposedPdf(), window_);
   if (dialog.exec() != QDialog::Accepted) return;
   const std::vector<int> pages = PagesInOrder(dialog.Choice(currentPage_()), count);
   if (pages.empty())

@@ -1,4 +1,4 @@
-// The ways of a document out of the preview: paper and PDF.
+// The ways of a document out of the preview: paper, PDF, and files of single graphs.
 #pragma once
 
 #include <QObject>
@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "preview/output/background_job.h"
+#include "preview/output/graph_forms.h"
 #include "preview/output/printing.h"
 #include "preview/window/preview_memory.h"
 #include "report/engine/document.h"
@@ -35,17 +36,22 @@ class DocumentOutput : public QObject {
 
   void Print();
   void SavePdf();
+  // As SVG or PNG.
+  void SaveGraph(const PlacedGraph& graph);
   // Whether a print or an export is under way.
   bool IsBusy() const { return job_ != nullptr; }
   // Ends what is under way and waits for it.
   void Cancel() { job_.reset(); }
 
  signals:
-  // A PDF is complete.
+  // A file is complete.
   void Saved(const QString& path);
 
  private:
-  QString ProposedPath() const;
+  // In the folder where the last file was saved; `title` and `ending` are parts of the name.
+  QString ProposedPath(const QString& title, const QString& ending) const;
+  QString ProposedPdf() const;
+  void NoteSaved(const QString& path);
   PdfInfo Info() const;
   void WritePdf(PdfSheets sheets, const QString& path, const PdfInfo& info);
   bool AskForScale(const QSizeF& missing, PrintScale& scale);

@@ -2,7 +2,6 @@
 
 #include <QAction>
 #include <QCloseEvent>
-#include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QScreen>
@@ -13,9 +12,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "preview/pages/area_marker.h"
 #include "preview/pages/page_input.h"
 #include "preview/pages/page_steps.h"
 #include "preview/pages/page_view.h"
+#include "preview/window/copier.h"
 #include "preview/window/find_bar.h"
 #include "preview/window/finder.h"
 #include "preview/window/overview.h"
@@ -38,6 +39,15 @@ int Pixels(double twips) {
   return static_cast<int>(twips / TwipsPerScreenPixel);
 }
 
+void PlaceOnScreen(QWidget& window) {
+  const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+  const QSize size = QSize(Pixels(OpeningWidth), Pixels(OpeningHeight)).boundedTo(room.size());
+  const QPoint wanted = room.topLeft() + QPoint(Pixels(OpeningLeft), Pixels(OpeningTop));
+  window.resize(size);
+  window.move(std::min(wanted.x(), room.right() + 1 - size.width()),
+              std::min(wanted.y(), room.bottom() + 1 - size.height()));
+}
+
 void ShowColumns(Columns columns, PageView& view, Overview& overview) {
   overview.Close();
   view.SetColumns(columns);
@@ -57,8 +67,10 @@ PreviewWindow::PreviewWindow(std::shared_ptr<const Document> document, const Pre
       view_(new PageView(document_)),
       input_(new PageInput(*view_)),
       selector_(new Selector(text_, *view_, *input_, this)),
+      marker_(new AreaMarker(*view_, *input_, this)),
       output_(new DocumentOutput(
           document_, setup.Origin, memory_, [this] { return view_->CurrentPage(); }, this)),
+      copier_(new Copier(*document_, *view_, *selector_, *marker_, *output_, this)),
       pane_(new SidePane(document_)),
       findBar_(new FindBar(this)),
       savedBar_(new SavedBar(this)),
@@ -78,7 +90,7 @@ PreviewWindow::PreviewWindow(std::shared_ptr<const Document> document, const Pre
   if (memory_->Window) ShowAsBefore(*memory_->Window);
   ShowPlace();
   ShowZoom();
-  ActionOf(Command::Copy)->setEnabled(false);
+  ShowSelection();
   view_->setFocus();
 }
 
@@ -103,19 +115,10 @@ void PreviewWindow::Arrange(const PreviewSetup& setup) {
   column->addWidget(findBar_);
   column->addWidget(savedBar_);
   setCentralWidget(body);
-  PlaceOnScreen();
+  PlaceOnScreen(*this);
   splitter_->setSizes({Pixels(setup.ContentsWidth), width() - Pixels(setup.ContentsWidth)});
   pane_->setVisible(setup.ContentsVisible);
   ActionOf(Command::SidePane)->setChecked(setup.ContentsVisible);
-}
-
-void PreviewWindow::PlaceOnScreen() {
-  const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
-  const QSize size = QSize(Pixels(OpeningWidth), Pixels(OpeningHeight)).boundedTo(room.size());
-  const QPoint wanted = room.topLeft() + QPoint(Pixels(OpeningLeft), Pixels(OpeningTop));
-  resize(size);
-  move(std::min(wanted.x(), room.right() + 1 - size.width()),
-       std::min(wanted.y(), room.bottom() + 1 - size.height()));
 }
 
 void PreviewWindow::ShowAsBefore(const WindowState& state) {
@@ -203,8 +206,13 @@ PreviewWindow::Handlers PreviewWindow::MakeHandlers() {
       {Command::Find, [this](bool) { finder_->Open(); }},
       {Command::FindNext, [this](bool) { finder_->Step(1); }},
       {Command::FindPrevious, [this](bool) { finder_->Step(-1); }},
-      {Command::Copy, [this](bool) { selector_->Copy(); }},
+      {Command::Copy, [this](bool) { copier_->Copy(); }},
+      {Command::CopyGraph, [this](bool) { copier_->CopyGraph(); }},
+      {Command::SaveGraph, [this](bool) { copier_->SaveGraph(); }},
       {Command::SelectAll, [this](bool) { selector_->SelectAll(); }},
+      {Command::SelectColumn, [this](bool) { copier_->SelectColumn(); }},
+      {Command::MarkArea, [this](bool checked) { checked ? marker_->Start() : marker_->Stop(); }},
+      {Command::ZoomToArea, [this](bool) { copier_->ZoomToArea(); }},
       {Command::Close, [this](bool) { emit toolUsed(CloseTool); }},
   };
 }
@@ -212,11 +220,13 @@ PreviewWindow::Handlers PreviewWindow::MakeHandlers() {
 void PreviewWindow::Connect() {
   // The desktop opens the menu on the menu key, but not everywhere on this key, which means the same.
   connect(new QShortcut(Qt::SHIFT | Qt::Key_F10, this), &QShortcut::activated, this,
-          [this] { ShowMenu(view_->mapToGlobal(view_->rect().center())); });
+          [this] { ShowMenu(view_->mapToGlobal(view_->rect().center()), QContextMenuEvent::Keyboard); });
   auto* escape = new QShortcut(Qt::Key_Escape, view_);
   escape->setContext(Qt::WidgetShortcut);
   connect(escape, &QShortcut::activated, this, [this] {
     if (overview_->IsOpen()) return overview_->Close();
+    if (marker_->IsWaiting()) return marker_->Stop();
+    if (marker_->Area()) return marker_->Clear();
     setWindowState(windowState() & ~Qt::WindowFullScreen);
   });
   connect(overview_, &Overview::Toggled, this, &PreviewWindow::ShowZoom);
@@ -228,11 +238,11 @@ void PreviewWindow::Connect() {
   connect(pane_, &SidePane::PlaceChosen, this, &PreviewWindow::Jump);
   connect(output_, &DocumentOutput::Saved, savedBar_, &SavedBar::Show);
   connect(finder_, &Finder::Leaving, this, [this] { history_.Leave(view_->CurrentPlace()); });
-  connect(selector_, &Selector::Changed, this,
-          [this] { ActionOf(Command::Copy)->setEnabled(!selector_->IsEmpty()); });
+  connect(copier_, &Copier::Leaving, this, [this] { history_.Leave(view_->CurrentPlace()); });
+  connect(copier_, &Copier::Changed, this, &PreviewWindow::ShowSelection);
   view_->SetHighlights([this](int page) {
     std::vector<Highlight> marks = finder_->Marks(page);
-    for (const Highlight& mark : selector_->Marks(page)) marks.push_back(mark);
+    for (const Highlight& mark : copier_->Marks(page)) marks.push_back(mark);
     return marks;
   });
 }
@@ -265,6 +275,9 @@ void PreviewWindow::ShowPlace() {
   ActionOf(Command::PreviousPage)->setEnabled(page > 0);
   ActionOf(Command::NextPage)->setEnabled(page + 1 < count);
   ActionOf(Command::LastPage)->setEnabled(page + 1 < count);
+  const bool hasGraph = copier_->Graph().has_value();
+  ActionOf(Command::CopyGraph)->setEnabled(hasGraph);
+  ActionOf(Command::SaveGraph)->setEnabled(hasGraph);
   ActionOf(Command::Back)->setEnabled(history_.CanGoBack());
   ActionOf(Command::Forward)->setEnabled(history_.CanGoForward());
 }
@@ -280,6 +293,12 @@ void PreviewWindow::ShowZoom() {
   ActionOf(Command::Overview)->setChecked(overview_->IsOpen());
 }
 
+void PreviewWindow::ShowSelection() {
+  ActionOf(Command::Copy)->setEnabled(copier_->CanCopy());
+  ActionOf(Command::MarkArea)->setChecked(marker_->IsWaiting());
+  ActionOf(Command::ZoomToArea)->setEnabled(marker_->Area().has_value());
+}
+
 void PreviewWindow::closeEvent(QCloseEvent* event) {
   output_->Cancel();
   event->accept();
@@ -287,14 +306,17 @@ void PreviewWindow::closeEvent(QCloseEvent* event) {
 }
 
 void PreviewWindow::contextMenuEvent(QContextMenuEvent* event) {
-  ShowMenu(event->globalPos());
+  ShowMenu(event->globalPos(), event->reason());
 }
 
-void PreviewWindow::ShowMenu(const QPoint& place) {
+void PreviewWindow::ShowMenu(const QPoint& place, QContextMenuEvent::Reason reason) {
   QMenu menu(this);
   menu.setObjectName(QStringLiteral("contextMenu"));
   actions_->FillMenu(menu);
+  if (reason == QContextMenuEvent::Mouse)
+    copier_->PointAt(view_->SpotAt(view_->viewport()->mapFromGlobal(QPointF(place))));
   menu.exec(place);
+  copier_->PointAt({});
 }
 
 }  // namespace tarvis

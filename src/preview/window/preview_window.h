@@ -1,6 +1,7 @@
 // The window in which a composed document is read, searched, printed and saved.
 #pragma once
 
+#include <QContextMenuEvent>
 #include <QMainWindow>
 #include <functional>
 #include <map>
@@ -19,6 +20,8 @@ class QSplitter;
 
 namespace tarvis {
 
+class AreaMarker;
+class Copier;
 class FindBar;
 class Finder;
 class Overview;
@@ -69,7 +72,6 @@ class PreviewWindow : public QMainWindow {
  private:
   using Handlers = std::map<Command, std::function<void(bool checked)>>;
 
-  void PlaceOnScreen();
   void ShowAsBefore(const WindowState& state);
   WindowState State() const;
   void Arrange(const PreviewSetup& setup);
@@ -77,12 +79,14 @@ class PreviewWindow : public QMainWindow {
   Handlers MakeHandlers();
   void Connect();
   void ConnectBoxes();
-  void ShowMenu(const QPoint& place);  // on the screen
+  // At a place on the screen; commands are about what is there if it was opened by the mouse.
+  void ShowMenu(const QPoint& place, QContextMenuEvent::Reason reason);
 
   void Jump(const PagePlace& place);
   void Walk(const std::optional<PagePlace>& place);
   void ShowPlace();
   void ShowZoom();
+  void ShowSelection();
 
   std::shared_ptr<const Document> document_;
   DocumentText text_;
@@ -90,7 +94,9 @@ class PreviewWindow : public QMainWindow {
   PageView* view_;
   PageInput* input_;
   Selector* selector_;
+  AreaMarker* marker_;
   DocumentOutput* output_;
+  Copier* copier_;
   SidePane* pane_;
   FindBar* findBar_;
   SavedBar* savedBar_;

@@ -1,7 +1,6 @@
 #include "preview/window/selector.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
+#include "preview/window/clipboard_forms.h"
 
 namespace tarvis {
 namespace {
@@ -11,7 +10,7 @@ const QColor SelectionTint(170, 205, 255);
 }  // namespace
 
 Selector::Selector(DocumentText& text, PageView& view, PageInput& input, QObject* parent)
-    : QObject(parent), view_(view), selection_(text) {
+    : QObject(parent), view_(view), selection_(text), column_(text.Source()) {
   setObjectName(QStringLiteral("selector"));
   input.SetTextTest([this](const PageView::Spot& spot) {
     return spot.Page >= 0 && selection_.HasTextBeside(spot.Page, spot.Point);
@@ -23,6 +22,7 @@ Selector::Selector(DocumentText& text, PageView& view, PageInput& input, QObject
 }
 
 void Selector::Start(const PageView::Spot& spot) {
+  column_.Clear();
   selection_.Clear();
   if (spot.Page >= 0) selection_.Start(spot.Page, spot.Point);
   NoticeChange();
@@ -34,6 +34,7 @@ void Selector::Extend(const PageView::Spot& spot) {
 }
 
 void Selector::SelectWord(const PageView::Spot& spot) {
+  column_.Clear();
   if (spot.Page >= 0) selection_.SelectWord(spot.Page, spot.Point);
   NoticeChange();
 }
@@ -44,17 +45,43 @@ void Selector::SelectRow(const PageView::Spot& spot) {
 }
 
 void Selector::SelectAll() {
+  column_.Clear();
   selection_.SelectAll();
   NoticeChange();
 }
 
+void Selector::Clear() {
+  if (IsEmpty()) return;
+  column_.Clear();
+  selection_.Clear();
+  NoticeChange();
+}
+
+void Selector::SelectColumn(const PageView::Spot& spot) {
+  if (spot.Page < 0) return;
+  selection_.Clear();
+  selection_.Start(spot.Page, spot.Point);
+  column_.Select(spot.Page, spot.Point);
+  NoticeChange();
+}
+
+void Selector::SelectColumn() {
+  const auto [page, point] = selection_.EndPlace();
+  SelectColumn({page, point});
+}
+
 void Selector::Copy() const {
-  if (!selection_.IsEmpty()) QGuiApplication::clipboard()->setText(selection_.Text());
+  if (!column_.IsEmpty()) {
+    CopyColumn(column_.Rows());
+  } else if (!selection_.IsEmpty()) {
+    CopyTable(selection_.Rows());
+  }
 }
 
 std::vector<Highlight> Selector::Marks(int page) const {
   std::vector<Highlight> marks;
   for (const QRectF& box : selection_.Boxes(page)) marks.push_back({box, SelectionTint});
+  for (const QRectF& box : column_.Boxes(page)) marks.push_back({box, SelectionTint});
   return marks;
 }
 

@@ -1,9 +1,11 @@
-// Selecting text on the pages by mouse, and copying it: ties the page view's input to the text selection.
+// Selecting text on the pages by mouse, and copying it: ties the page view's input to what is selected, which
+// is a stretch of text or a column of a table.
 #pragma once
 
 #include <QObject>
 
 #include "preview/pages/page_input.h"
+#include "preview/text/column_selection.h"
 #include "preview/text/text_selection.h"
 
 namespace tarvis {
@@ -14,8 +16,13 @@ class Selector : public QObject {
   // All must outlive it.
   Selector(DocumentText& text, PageView& view, PageInput& input, QObject* parent);
 
-  bool IsEmpty() const { return selection_.IsEmpty(); }
+  bool IsEmpty() const { return selection_.IsEmpty() && column_.IsEmpty(); }
+  void Clear();
   void SelectAll();
+  // The column of the cell at `spot`.
+  void SelectColumn(const PageView::Spot& spot);
+  // The column of the cell where the selection ends or the mouse was clicked.
+  void SelectColumn();
   // Puts the selected text on the clipboard; does nothing without a selection.
   void Copy() const;
   // The marks of a page.
@@ -33,6 +40,7 @@ class Selector : public QObject {
 
   PageView& view_;
   TextSelection selection_;
+  ColumnSelection column_;
 };
 
 }  // namespace tarvis

@@ -1,0 +1,119 @@
+#include "preview/text/column_selection.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <span>
+#include <utility>
+
+#include "preview/paint/toolkit_geometry.h"
+#include "preview/text/text_geometry.h"
+
+namespace tarvis {
+namespace {
+
+std::span<const Item> ItemsOf(const Document& document, const Page& page) {
+  return std::span(document.Items).subspan(page.FirstItem, page.ItemCount);
+}
+
+bool IsFrame(const Item& item) {
+  return item.Kind == ItemKind::Box && item.Weight > 0;
+}
+
+// Cells of one column have one control and one place; only their rows differ.
+bool IsInColumn(const Item& frame, const Item& model) {
+  constexpr float Tolerance = 1;  // twips
+  return IsFrame(frame) && frame.Control == model.Control &&
+         std::abs(frame.Box.Left - model.Box.Left) < Tolerance &&
+         std::abs(frame.Box.Width - model.Box.Width) < Tolerance;
+}
+
+// From where to where a part of the document goes: page and height on it.
+struct Stretch {
+  std::pair<int, double> From{0, 0};
+  std::pair<int, double> To{std::numeric_limits<int>::max(), 0};
+};
+
+Stretch PartAround(const Document& document, int page, double top) {
+  Stretch part;
+  for (const ContentsEntry& entry : document.Contents) {
+    const std::pair<int, double> place(entry.Page, entry.Top);
+    if (place <= std::pair(page, top)) {
+      part.From = place;
+    } else {
+      part.To = std::min(part.To, place);
+    }
+  }
+  return part;
+}
+
+}  // namespace
+
+// Of frames around one another, the smallest is the cell.
+const Item* ColumnSelection::FrameAt(int page, QPointF point) const {
+  const Item* best = nullptr;
+  const auto area = [](const Item& item) { return item.Box.Width * item.Box.Height; };
+  for (const Item& item : ItemsOf(document_, document_.Pages[static_cast<std::size_t>(page)])) {
+    if (!IsFrame(item) || !ToRectF(item.Box).contains(point)) continue;
+    if (best == nullptr || area(item) < area(*best)) best = &item;
+  }
+  return best;
+}
+
+void ColumnSelection::Select(int page, QPointF point) {
+  cells_.clear();
+  const Item* model = FrameAt(page, point);
+  if (model == nullptr) return;
+  const Stretch part = PartAround(document_, page, model->Box.Top);
+  const int last = std::min(part.To.first, static_cast<int>(document_.Pages.size()) - 1);
+  for (int each = part.From.first; each <= last; ++each) {
+    AddPage(each, *model, each == part.From.first ? part.From.second : 0,
+            each == part.To.first ? part.To.second : document_.Setup.Height);
+  }
+}
+
+void ColumnSelection::AddPage(int page, const Item& model, double from, double to) {
+  const Page& range = document_.Pages[static_cast<std::size_t>(page)];
+  for (const Item& item : ItemsOf(document_, range)) {
+    const double top = item.Box.Top;
+    if (!IsInColumn(item, model) || top < from || top >= to) continue;
+    cells_.push_back({page, ToRectF(item.Box), TextIn(range, item), item.OpenTop});
+  }
+}
+
+// The text of a cell may come from another control than its frame.
+QString ColumnSelection::TextIn(const Page& page, const Item& frame) const {
+  QString text;
+  for (const Item& item : ItemsOf(document_, page)) {
+    const bool isRead = item.Kind == ItemKind::Text || item.Kind == ItemKind::Tick;
+    const bool isInside = ToRectF(frame.Box).contains(ToRectF(item.Box).center());
+    if (!isRead || item.Band != frame.Band || !isInside) continue;
+    if (!text.isEmpty()) text += QLatin1Char(' ');
+    const auto index = static_cast<std::uint32_t>(&item - document_.Items.data());
+    const std::string_view line = TextOf(document_, ReadPiece{.Item = index});
+    text += QString::fromUtf8(line.data(), static_cast<qsizetype>(line.size()));
+  }
+  return text;
+}
+
+std::vector<QRectF> ColumnSelection::Boxes(int page) const {
+  std::vector<QRectF> boxes;
+  for (const Cell& cell : cells_) {
+    if (cell.Page == page) boxes.push_back(cell.Box);
+  }
+  return boxes;
+}
+
+CopiedRows ColumnSelection::Rows() const {
+  CopiedRows rows;
+  for (const Cell& cell : cells_) {
+    if (cell.GoesOn && !rows.empty()) {
+      rows.back().Cells.back() = (rows.back().Cells.back() + QLatin1Char(' ') + cell.Text).trimmed();
+    } else {
+      rows.push_back({{cell.Text}});
+    }
+  }
+  return rows;
+}
+
+}  // namespace tarvis
