@@ -171,9 +171,9 @@ TEST_F(Navigation, TheContentsMarkTheEntryBeingRead) {
   Open(WithContents());
   auto& tree = Find<QTreeWidget>("contents");
   View().GoTo({3, 0});
-  EXPECT_EQ(tree.currentItem()->text(0), QStringLiteral("Parameter"));
+  EXPECT_EQ(tree.selectedItems().value(0)->text(0), QStringLiteral("Parameter"));
   View().GoTo({9, 0});
-  EXPECT_EQ(tree.currentItem()->text(0), QStringLiteral("Overlapping data 1/1"));
+  EXPECT_EQ(tree.selectedItems().value(0)->text(0), QStringLiteral("Overlapping data 1/1"));
 }
 
 TEST_F(Navigation, ContentsHaveTwoLevels) {
@@ -193,7 +193,7 @@ TEST_F(Navigation, ContentsThatRunToTheLeftAreSetInTheirOwnDirectionAtTheLeft) {
   const auto shown = [this](const char* text) {
     Open(DocumentBuilder().Page().Entry(text, 0, 0, 0).Page().Build());
     auto& tree = Find<QTreeWidget>("contents");
-    tree.setCurrentItem(nullptr);
+    tree.clearSelection();
     return EntryPicture(tree);
   };
   // An invisible sign of direction at the end leaves the sign before it to the left of the letters.

@@ -38,7 +38,6 @@ void PaintHighlights(QPainter& painter, const std::vector<Highlight>& marks, QPo
 PageView::PageView(std::shared_ptr<const Document> document, QWidget* parent)
     : QAbstractScrollArea(parent), document_(std::move(document)), pictures_(document_, KeptPageBytes) {
   setObjectName(QStringLiteral("pageView"));
-  setAccessibleName(tr("Pages"));
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::StrongFocus);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);

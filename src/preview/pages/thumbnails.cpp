@@ -1,10 +1,12 @@
 #include "preview/pages/thumbnails.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
 
+#include "preview/pages/accessible_thumbnails.h"
 #include "preview/paint/toolkit_geometry.h"
 
 namespace tarvis {
@@ -19,6 +21,7 @@ constexpr std::int64_t KeptThumbnailBytes = std::int64_t{16} * 1024 * 1024;
 Thumbnails::Thumbnails(std::shared_ptr<const Document> document, QWidget* parent)
     : QAbstractScrollArea(parent), document_(std::move(document)), pictures_(document_, KeptThumbnailBytes) {
   setObjectName(QStringLiteral("thumbnails"));
+  OfferAccessibleThumbnails();
   setAccessibleName(tr("Thumbnails"));
   setFrameShape(QFrame::NoFrame);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -71,6 +74,10 @@ void Thumbnails::SetCurrent(int page) {
   if (top + RowHeight() > bar->value() + viewport()->height())
     bar->setValue(top + RowHeight() - viewport()->height());
   viewport()->update();
+  if (!hasFocus()) return;
+  QAccessibleEvent event(this, QAccessible::Focus);
+  event.setChild(page);
+  QAccessible::updateAccessibility(&event);
 }
 
 void Thumbnails::paintEvent(QPaintEvent* event) {

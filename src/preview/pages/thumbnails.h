@@ -16,6 +16,7 @@ class Thumbnails : public QAbstractScrollArea {
   // Marks a page and scrolls it into view.
   void SetCurrent(int page);
   int Current() const { return current_; }
+  int Count() const { return static_cast<int>(document_->Pages.size()); }
   // The place of a page's thumbnail in the viewport.
   QRect PlaceOf(int page) const;
 
@@ -31,7 +32,6 @@ class Thumbnails : public QAbstractScrollArea {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  int Count() const { return static_cast<int>(document_->Pages.size()); }
   QSize PictureSize() const;
   int RowHeight() const;
   Strip StripOf(int page) const;

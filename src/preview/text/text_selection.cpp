@@ -95,6 +95,11 @@ void TextSelection::SelectAll() {
   if (pages > 0) end_ = {pages, 0, 0};
 }
 
+void TextSelection::Select(const TextPosition& from, const TextPosition& to) {
+  anchor_ = from;
+  end_ = to;
+}
+
 std::pair<int, QPointF> TextSelection::EndPlace() const {
   constexpr std::pair<int, QPointF> Nowhere{-1, {}};
   if (end_.Page >= static_cast<int>(text_.Source().Pages.size())) return Nowhere;

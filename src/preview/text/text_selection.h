@@ -34,6 +34,9 @@ class TextSelection {
   // All cells of the row, with all their lines.
   void SelectRow(int page, QPointF point);
   void SelectAll();
+  void Select(const TextPosition& from, const TextPosition& to);
+  TextPosition Anchor() const { return anchor_; }
+  TextPosition End() const { return end_; }
 
   // Where the selection ends: a page and a point on the line there; below 0 on a page without text.
   std::pair<int, QPointF> EndPlace() const;

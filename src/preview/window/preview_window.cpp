@@ -21,6 +21,7 @@
 #include "preview/window/finder.h"
 #include "preview/window/overview.h"
 #include "preview/window/page_box.h"
+#include "preview/window/page_reader.h"
 #include "preview/window/reading_place.h"
 #include "preview/window/saved_bar.h"
 #include "preview/window/selector.h"
@@ -67,6 +68,7 @@ PreviewWindow::PreviewWindow(std::shared_ptr<const Document> document, const Pre
       view_(new PageView(document_)),
       input_(new PageInput(*view_)),
       selector_(new Selector(text_, *view_, *input_, this)),
+      reader_(new PageReader(text_, *view_, *selector_)),
       marker_(new AreaMarker(*view_, *input_, this)),
       output_(new DocumentOutput(
           document_, setup.Origin, memory_, [this] { return view_->CurrentPage(); }, this)),

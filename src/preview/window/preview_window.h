@@ -27,6 +27,7 @@ class Finder;
 class Overview;
 class PageBox;
 class PageInput;
+class PageReader;
 class PageView;
 class SavedBar;
 class Selector;
@@ -94,6 +95,7 @@ class PreviewWindow : public QMainWindow {
   PageView* view_;
   PageInput* input_;
   Selector* selector_;
+  PageReader* reader_;  // owned by the view
   AreaMarker* marker_;
   DocumentOutput* output_;
   Copier* copier_;

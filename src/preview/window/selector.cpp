@@ -50,6 +50,12 @@ void Selector::SelectAll() {
   NoticeChange();
 }
 
+void Selector::Select(const TextPosition& from, const TextPosition& to) {
+  column_.Clear();
+  selection_.Select(from, to);
+  NoticeChange();
+}
+
 void Selector::Clear() {
   if (IsEmpty()) return;
   column_.Clear();

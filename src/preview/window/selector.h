@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QObject>
+#include <utility>
 
 #include "preview/pages/page_input.h"
 #include "preview/text/column_selection.h"
@@ -19,6 +20,9 @@ class Selector : public QObject {
   bool IsEmpty() const { return selection_.IsEmpty() && column_.IsEmpty(); }
   void Clear();
   void SelectAll();
+  // A stretch of text; where it begins and where it ends may be in any order.
+  void Select(const TextPosition& from, const TextPosition& to);
+  std::pair<TextPosition, TextPosition> Ends() const { return {selection_.Anchor(), selection_.End()}; }
   // The column of the cell at `spot`.
   void SelectColumn(const PageView::Spot& spot);
   // The column of the cell where the selection ends or the mouse was clicked.

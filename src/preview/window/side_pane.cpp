@@ -5,6 +5,7 @@
 #include <QTreeWidget>
 
 #include "preview/pages/thumbnails.h"
+#include "preview/window/quiet_mark.h"
 
 namespace tarvis {
 namespace {
@@ -33,6 +34,7 @@ SidePane::SidePane(std::shared_ptr<const Document> document, QWidget* parent)
     : QTabWidget(parent),
       document_(std::move(document)),
       contents_(new QTreeWidget(this)),
+      mark_(new QuietMark(*contents_)),
       thumbnails_(new Thumbnails(document_, this)) {
   setObjectName(QStringLiteral("sidePane"));
   setDocumentMode(true);
@@ -86,7 +88,7 @@ void SidePane::ShowPlace(const PagePlace& place) {
     const bool above = entry.Page < place.Page || (entry.Page == place.Page && entry.Top <= place.Top);
     if (above || current == nullptr) current = items_[index];
   }
-  if (current != contents_->currentItem()) contents_->setCurrentItem(current);
+  if (current != nullptr && !current->isSelected()) mark_->Show(contents_->indexFromItem(current));
 }
 
 }  // namespace tarvis

@@ -12,6 +12,7 @@ class QTreeWidgetItem;
 
 namespace tarvis {
 
+class QuietMark;
 class Thumbnails;
 
 class SidePane : public QTabWidget {
@@ -31,6 +32,7 @@ class SidePane : public QTabWidget {
 
   std::shared_ptr<const Document> document_;
   QTreeWidget* contents_;
+  QuietMark* mark_;
   Thumbnails* thumbnails_;
   std::vector<QTreeWidgetItem*> items_;  // by entry
 };
