@@ -33,6 +33,16 @@ TEST_F(Window, ContentsPaneIsLeftOfThePages2300TwipsWide) {
   EXPECT_LT(pane.mapToGlobal(QPoint()).x(), View().mapToGlobal(QPoint()).x());
 }
 
+TEST_F(Window, ContentsPaneGrowsWithTheFontOfTheDesktop) {
+  const QFont before = QApplication::font();
+  QFont large = before;
+  large.setPixelSize(24);
+  QApplication::setFont(large);
+  OpenTable(1);
+  EXPECT_NEAR(Find<QTabWidget>("sidePane").width(), 2 * 153, 2);
+  QApplication::setFont(before);
+}
+
 TEST_F(Window, F7HidesAndShowsTheSidePane) {
   OpenTable(1);
   Press(Qt::Key_F7);

@@ -16,6 +16,7 @@ struct CellText {
     qsizetype Start;
     ReadPiece Piece;
     FoldedText Folded;
+    std::size_t Index = 0;  // of the page's pieces
   };
   std::vector<Line> Lines;
 };
@@ -52,7 +53,8 @@ class Searcher {
         cell.Lines.clear();
       }
       if (!cell.Lines.empty()) cell.Text += QLatin1Char(' ');
-      cell.Lines.push_back({cell.Text.size(), piece, Fold(TextOf(document_, piece), options_.CaseMatters)});
+      cell.Lines.push_back({cell.Text.size(), piece, Fold(TextOf(document_, piece), options_.CaseMatters),
+                            static_cast<std::size_t>(&piece - text.Pieces.data())});
       cell.Text += ToString(cell.Lines.back().Folded.Units);
     }
     SearchCell(page, cell, hits);
@@ -63,9 +65,15 @@ class Searcher {
     if (wanted_.isEmpty()) return;
     for (qsizetype at = cell.Text.indexOf(wanted_); at >= 0;) {
       const bool counts = !options_.WholeWords || IsWholeWord(cell.Text, at, wanted_.size());
-      if (counts) hits.push_back({page, BoxesOf(cell, at, at + wanted_.size())});
+      if (counts) hits.push_back({page, BoxesOf(cell, at, at + wanted_.size()), PieceAt(cell, at)});
       at = cell.Text.indexOf(wanted_, counts ? at + wanted_.size() : at + 1);
     }
+  }
+
+  static std::size_t PieceAt(const CellText& cell, qsizetype place) {
+    std::size_t line = 0;
+    while (line + 1 < cell.Lines.size() && cell.Lines[line + 1].Start <= place) ++line;
+    return cell.Lines[line].Index;
   }
 
   std::vector<QRectF> BoxesOf(const CellText& cell, qsizetype start, qsizetype end) const {

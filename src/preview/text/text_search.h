@@ -17,6 +17,7 @@ struct SearchOptions {
 struct SearchHit {
   int Page = 0;
   std::vector<QRectF> Boxes;  // twips; several if the hit goes over lines of a cell
+  std::size_t Piece = 0;      // where it begins, an index of the page's pieces
 };
 
 // All hits in reading order. A hit lies within one cell; where the cell wraps, a blank takes the place of the

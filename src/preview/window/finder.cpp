@@ -30,6 +30,7 @@ void Finder::Close() {
   bar_.hide();
   hits_.clear();
   current_ = -1;
+  emit HitsChanged();
   view_.viewport()->update();
   view_.setFocus();
 }
@@ -51,6 +52,13 @@ void Finder::SearchAgain() {
       std::find_if(hits_.begin(), hits_.end(), [&](const SearchHit& hit) { return hit.Page >= page; });
   current_ =
       hits_.empty() ? -1 : static_cast<int>((from == hits_.end() ? hits_.begin() : from) - hits_.begin());
+  emit HitsChanged();
+  ShowCurrent();
+}
+
+void Finder::GoTo(int hit) {
+  if (hit == current_ || hit < 0 || hit >= static_cast<int>(hits_.size())) return;
+  current_ = hit;
   ShowCurrent();
 }
 
@@ -60,6 +68,7 @@ void Finder::ShowCurrent() {
     const SearchHit& hit = hits_[static_cast<std::size_t>(current_)];
     if (hit.Page != view_.CurrentPage()) emit Leaving();
     view_.Reveal(hit.Page, hit.Boxes.front());
+    emit CurrentChanged(current_);
   }
   view_.viewport()->update();
 }

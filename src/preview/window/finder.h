@@ -24,10 +24,15 @@ class Finder : public QObject {
   std::vector<Highlight> Marks(int page) const;
   const std::vector<SearchHit>& Hits() const { return hits_; }
   int Current() const { return current_; }
+  // Shows a hit by its number, counted from 0.
+  void GoTo(int hit);
 
  signals:
   // A hit far away is about to be shown.
   void Leaving();
+  // Other hits, or none any more.
+  void HitsChanged();
+  void CurrentChanged(int hit);
 
  private:
   void SearchAgain();

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QScreen>
@@ -19,6 +20,8 @@
 #include "preview/window/copier.h"
 #include "preview/window/find_bar.h"
 #include "preview/window/finder.h"
+#include "preview/window/finger_size.h"
+#include "preview/window/hit_list.h"
 #include "preview/window/overview.h"
 #include "preview/window/page_box.h"
 #include "preview/window/page_reader.h"
@@ -49,6 +52,13 @@ void PlaceOnScreen(QWidget& window) {
               std::min(wanted.y(), room.bottom() + 1 - size.height()));
 }
 
+// Of the pane beside the pages, which grows with a font that is larger than the usual one.
+int PaneWidth(double twips, const QWidget& window) {
+  constexpr double UsualFontPixels = 12;
+  return static_cast<int>(Pixels(twips) *
+                          std::max(1.0, QFontInfo(window.font()).pixelSize() / UsualFontPixels));
+}
+
 void ShowColumns(Columns columns, PageView& view, Overview& overview) {
   overview.Close();
   view.SetColumns(columns);
@@ -73,7 +83,7 @@ PreviewWindow::PreviewWindow(std::shared_ptr<const Document> document, const Pre
       output_(new DocumentOutput(
           document_, setup.Origin, memory_, [this] { return view_->CurrentPage(); }, this)),
       copier_(new Copier(*document_, *view_, *selector_, *marker_, *output_, this)),
-      pane_(new SidePane(document_)),
+      pane_(new SidePane(document_, text_)),
       findBar_(new FindBar(this)),
       savedBar_(new SavedBar(this)),
       finder_(new Finder(*findBar_, text_, *view_, this)),
@@ -118,7 +128,8 @@ void PreviewWindow::Arrange(const PreviewSetup& setup) {
   column->addWidget(savedBar_);
   setCentralWidget(body);
   PlaceOnScreen(*this);
-  splitter_->setSizes({Pixels(setup.ContentsWidth), width() - Pixels(setup.ContentsWidth)});
+  const int paneWidth = PaneWidth(setup.ContentsWidth, *this);
+  splitter_->setSizes({paneWidth, width() - paneWidth});
   pane_->setVisible(setup.ContentsVisible);
   ActionOf(Command::SidePane)->setChecked(setup.ContentsVisible);
 }
@@ -144,7 +155,7 @@ WindowState PreviewWindow::State() const {
   return {.Geometry = saveGeometry(),
           .Panes = pane_->isHidden() ? QList<int>() : splitter_->sizes(),
           .SidePane = ActionOf(Command::SidePane)->isChecked(),
-          .SidePaneTab = pane_->currentIndex(),
+          .SidePaneTab = pane_->UsualTab(),
           .Continuous = layout.Continuous(),
           .Side = layout.Side(),
           .Zoom = layout.Mode(),
@@ -178,6 +189,7 @@ void PreviewWindow::MakeToolbar() {
   bar->setContextMenuPolicy(Qt::PreventContextMenu);
   addToolBar(bar);
   actions_->FillToolbar(*bar, *pageBox_, *zoomBox_);
+  if (HasTouchScreen()) FitFingers(*bar);
 }
 
 PreviewWindow::Handlers PreviewWindow::MakeHandlers() {
@@ -239,6 +251,12 @@ void PreviewWindow::Connect() {
   connect(view_, &PageView::ZoomChanged, this, &PreviewWindow::ShowZoom);
   connect(pane_, &SidePane::PlaceChosen, this, &PreviewWindow::Jump);
   connect(output_, &DocumentOutput::Saved, savedBar_, &SavedBar::Show);
+  connect(finder_, &Finder::HitsChanged, this, [this] {
+    pane_->Found().ShowHits(finder_->Hits());
+    pane_->ShowFound(!finder_->Hits().empty());
+  });
+  connect(finder_, &Finder::CurrentChanged, &pane_->Found(), &HitList::ShowCurrent);
+  connect(&pane_->Found(), &HitList::HitChosen, finder_, &Finder::GoTo);
   connect(finder_, &Finder::Leaving, this, [this] { history_.Leave(view_->CurrentPlace()); });
   connect(copier_, &Copier::Leaving, this, [this] { history_.Leave(view_->CurrentPlace()); });
   connect(copier_, &Copier::Changed, this, &PreviewWindow::ShowSelection);

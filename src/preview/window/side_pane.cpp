@@ -5,6 +5,7 @@
 #include <QTreeWidget>
 
 #include "preview/pages/thumbnails.h"
+#include "preview/window/hit_list.h"
 #include "preview/window/quiet_mark.h"
 
 namespace tarvis {
@@ -30,12 +31,13 @@ class EntryDelegate : public QStyledItemDelegate {
 
 }  // namespace
 
-SidePane::SidePane(std::shared_ptr<const Document> document, QWidget* parent)
+SidePane::SidePane(std::shared_ptr<const Document> document, DocumentText& text, QWidget* parent)
     : QTabWidget(parent),
       document_(std::move(document)),
       contents_(new QTreeWidget(this)),
       mark_(new QuietMark(*contents_)),
-      thumbnails_(new Thumbnails(document_, this)) {
+      thumbnails_(new Thumbnails(document_, this)),
+      found_(new HitList(text, this)) {
   setObjectName(QStringLiteral("sidePane"));
   setDocumentMode(true);
   contents_->setObjectName(QStringLiteral("contents"));
@@ -49,6 +51,7 @@ SidePane::SidePane(std::shared_ptr<const Document> document, QWidget* parent)
   FillContents();
   addTab(contents_, tr("Contents"));
   addTab(thumbnails_, tr("Pages"));
+  setTabVisible(addTab(found_, tr("Found")), false);
   connect(thumbnails_, &Thumbnails::PageChosen, this, [this](int page) { emit PlaceChosen({page, 0}); });
   connect(contents_, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) { Choose(item); });
   connect(contents_, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* item) { Choose(item); });
@@ -89,6 +92,20 @@ void SidePane::ShowPlace(const PagePlace& place) {
     if (above || current == nullptr) current = items_[index];
   }
   if (current != nullptr && !current->isSelected()) mark_->Show(contents_->indexFromItem(current));
+}
+
+void SidePane::ShowFound(bool shown) {
+  const int tab = indexOf(found_);
+  if (shown == isTabVisible(tab)) return;
+  if (shown) before_ = currentIndex();
+  const bool wasInFront = currentIndex() == tab;
+  setTabVisible(tab, shown);
+  if (shown) setCurrentIndex(tab);
+  if (!shown && wasInFront) setCurrentIndex(before_);
+}
+
+int SidePane::UsualTab() const {
+  return currentWidget() == found_ ? before_ : currentIndex();
 }
 
 }  // namespace tarvis

@@ -1,0 +1,35 @@
+// The list of all places where a text was found: page and row of each.
+#pragma once
+
+#include <QListView>
+
+#include "preview/text/text_search.h"
+
+namespace tarvis {
+
+class HitModel;
+class QuietMark;
+
+class HitList : public QListView {
+  Q_OBJECT
+ public:
+  // `text` must outlive it.
+  explicit HitList(DocumentText& text, QWidget* parent = nullptr);
+
+  // `hits` must stay as they are until the next call.
+  void ShowHits(const std::vector<SearchHit>& hits);
+  // Marks one of them, or none below 0.
+  void ShowCurrent(int hit);
+
+ signals:
+  void HitChosen(int hit);
+
+ protected:
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+
+ private:
+  HitModel* model_;
+  QuietMark* mark_;
+};
+
+}  // namespace tarvis
