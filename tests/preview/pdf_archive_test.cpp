@@ -8,6 +8,7 @@
 #include <qpdf/QPDF.hh>
 
 #include "preview/document_builder.h"
+#include "preview/never_cancelled.h"
 #include "preview/output/pdf_export.h"
 #include "preview/output/pdf_to_unicode.h"
 #include "preview/output/srgb_profile.h"
@@ -15,10 +16,6 @@
 
 namespace tarvis {
 namespace {
-
-bool GoOnToTheEnd(int, int) {
-  return true;
-}
 
 // A few words painted as text.
 class WordsPicture : public SamplePicture {
@@ -37,7 +34,7 @@ class WordsPicture : public SamplePicture {
 class PdfArchive : public testing::Test {
  protected:
   void Make(const Document& document, const PdfInfo& info = {}) {
-    bytes_ = MakePdf(document, PdfSheets::AllOf(document), info, GoOnToTheEnd);
+    bytes_ = MakePdf(document, PdfSheets::AllOf(document), info, GoOn);
     pdf_.processMemoryFile("test", bytes_.data(), bytes_.size());
   }
   void Make(const PdfInfo& info = {}) { Make(*DocumentBuilder().TablePages(1).Build(), info); }
@@ -172,7 +169,7 @@ class LanguageOfPdf : public testing::TestWithParam<Language> {};
 
 TEST_P(LanguageOfPdf, IsThatOfTheCodePage) {
   const auto document = DocumentBuilder().CodePage(GetParam().CodePage).Page().Text("A", 1440, 720).Build();
-  const std::string bytes = MakePdf(*document, PdfSheets::AllOf(*document), {}, GoOnToTheEnd);
+  const std::string bytes = MakePdf(*document, PdfSheets::AllOf(*document), {}, GoOn);
   QPDF pdf;
   pdf.processMemoryFile("test", bytes.data(), bytes.size());
   EXPECT_EQ(pdf.getRoot().getKey("/Lang").getUTF8Value(), GetParam().Tag);

@@ -14,6 +14,7 @@
 #include <thread>
 
 #include "preview/document_builder.h"
+#include "preview/never_cancelled.h"
 #include "preview/paint/report_font.h"
 #include "preview/pdf_file.h"
 #include "preview/sample_picture.h"
@@ -21,10 +22,6 @@
 
 namespace tarvis {
 namespace {
-
-bool GoOn(int, int) {
-  return true;
-}
 
 class PdfExport : public testing::Test {
  protected:

@@ -6,6 +6,7 @@
 #include <atomic>
 #include <stdexcept>
 
+#include "preview/never_cancelled.h"
 #include "preview/output/pdf_export.h"
 #include "preview/paint/toolkit_geometry.h"
 #include "preview/sample_picture.h"
@@ -42,10 +43,6 @@ Document ComposeFor(PageTaker* taker, ActiveReport& report) {
 }
 
 const PdfInfo Info{QStringLiteral("Rows"), QStringLiteral("Korvane"), {}};
-
-bool GoOn(int, int) {
-  return true;
-}
 
 PdfLook LookOf(const Document& document) {
   return PdfSheets::AllOf(document);

@@ -23,7 +23,7 @@ constexpr Color TitleGrey = 0xE0E0E0;
 // 800 pixels at 96 dots per inch: whole pixels, so that the two pictures have one scale.
 constexpr float PaperWidth = 12000;
 
-QImage Screen(const Document& document, int resolution) {
+QImage OnScreen(const Document& document, int resolution) {
   const int width =
       static_cast<int>(std::lround(static_cast<double>(document.Setup.Width) * resolution / 1440));
   return RenderPage(document, 0, width, 0, PagePixelHeight(document, width));
@@ -104,7 +104,7 @@ class SamePages : public testing::TestWithParam<int> {
   static int Reach() { return Resolution() < 200 ? 1 : 2; }
   // What the screen shows of one document and the PDF of another.
   static PageDifference Difference(const Document& screen, const Document& pdf, int reach = Reach()) {
-    const QImage shown = Screen(screen, Resolution());
+    const QImage shown = OnScreen(screen, Resolution());
     const QImage printed = Pdf(pdf, Resolution());
     EXPECT_NEAR(shown.width(), printed.width(), 1);
     EXPECT_NEAR(shown.height(), printed.height(), 1);

@@ -12,6 +12,7 @@
 namespace tarvis {
 
 constexpr CellStyle Plain{.Size = 8.5F};  // line pitch 190
+constexpr CellStyle Cell{.Size = 8.5F, .Border = true, .Filled = true};
 
 // The lines of all printings of a control, as items and as texts.
 inline std::vector<Item> TextsOf(const Document& document, const std::string& control) {

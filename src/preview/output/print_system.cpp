@@ -109,7 +109,7 @@ QString HandOverPdf(std::string_view pdf, const QPrinter& printer) {
   QTemporaryFile file;
   const bool isThere =
       file.open() && file.write(pdf.data(), static_cast<qint64>(pdf.size())) >= 0 && file.flush();
-  if (!isThere) return Text("There is no room for the print job: %1").arg(file.errorString());
+  if (!isThere) return PrintSystemText("There is no room for the print job: %1").arg(file.errorString());
   struct Option {
     const char* Name;
     const char* Value;

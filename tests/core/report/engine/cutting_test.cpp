@@ -12,7 +12,6 @@ namespace {
 using testing::ElementsAre;
 
 constexpr CellStyle Large{.Size = 14};  // line pitch 313
-constexpr CellStyle Cell{.Size = 8.5F, .Border = true, .Filled = true};
 constexpr const char* FiveLines = "a0\r\na1\r\na2\r\na3\r\na4";
 
 // The items of one control, each with its page.

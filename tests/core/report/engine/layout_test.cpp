@@ -11,7 +11,6 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr CellStyle Cell{.Size = 8.5F, .Border = true, .Filled = true};
 
 // The only item of that control and kind.
 const Item& Find(const Document& document, const std::string& control, ItemKind kind) {

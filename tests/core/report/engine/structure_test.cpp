@@ -9,10 +9,10 @@
 namespace tarvis {
 namespace {
 
-constexpr CellStyle Cell{.Border = true};
+constexpr CellStyle Framed{.Border = true};
 
 Field& AddCell(Section& section, const char* name, float left, const char* text = "") {
-  return section.AddField(name, {left, 0, 1000, 283}, Cell, text);
+  return section.AddField(name, {left, 0, 1000, 283}, Framed, text);
 }
 
 Section& AddGuide(SampleReport& report) {
@@ -99,7 +99,7 @@ TEST(EngineStructure, BeginsATableWithEachHeaderAndWithEachRun) {
     Section& second = inner->Growing(SectionKind::GroupFooter, "second");
     second.Role = BandRole::HeaderRow;
     AddCell(second, "title", 0, "second");
-    Field& below = second.AddField("below", {0, 283, 1000, 283}, Cell, "2");
+    Field& below = second.AddField("below", {0, 283, 1000, 283}, Framed, "2");
     below.Reads = {.As = PartRole::Cell, .Line = 1};
     region.object = inner;
   });
@@ -196,7 +196,7 @@ TEST(EngineStructure, ReadsNeitherHeadsAndFeetOfPagesNorLinesNorRoom) {
 TEST(EngineStructure, KeepsARowThatIsCutOneRow) {
   SampleReport report;
   Section& rows = AddRows(report);
-  rows.AddField("value", {0, 0, 2000, 283}, Cell, "1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n7\r\n8");
+  rows.AddField("value", {0, 0, 2000, 283}, Framed, "1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n7\r\n8");
   const Document document = ComposeSample(report, 900);
   ASSERT_GT(document.Pages.size(), 1U);
   EXPECT_EQ(StructureOf(document),
