@@ -69,7 +69,7 @@ TEST(ApplicationDeathTest, FailureAtTheStartEndsAsOneInAHandlerDoes) {
 TEST(ApplicationDeathTest, AnyOtherExceptionIsARunTimeErrorToo) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
   EXPECT_EXIT(RunApplication([](TellingDesktop&) { throw std::bad_alloc(); }), testing::ExitedWithCode(1),
-              "box 'Run-time error': std::bad_alloc");
+              "box 'Run-time error': there is not enough memory");
 }
 
 TEST(ApplicationDeathTest, SecondFailureWhileTheFirstIsShownEndsAtOnce) {

@@ -40,7 +40,7 @@ class Output(ProgramCase):
     def proposed_file(self, session):
         """Prints into the file that is proposed, and returns its path."""
         self.ask_to_print_into_a_file(session, replace=False)
-        names = wait_until(self.files_at_home, "the file")
+        names = wait_until(lambda: [name for name in self.files_at_home() if name.endswith(".pdf")], "the file")
         session.wait_for(PREVIEW)
         return self.home / names[0]
 

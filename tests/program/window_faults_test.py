@@ -24,6 +24,7 @@ ON_FILES = ("openat", "newfstatat", "statx", "access", "getdents64", "copy_file_
 SAMPLE = ("fsync", "rename")  # what a failure of the disk is most likely to be seen by
 OPTIONS_BEFORE = b"File-Spec,4\r\nDrowCorp,Northport Motion Ltd.\r\n"
 PDF_BEFORE = b"the PDF of yesterday"
+MIDDLE = 600, 500  # of the pages in the preview, in pixels
 
 
 @contextlib.contextmanager
@@ -117,6 +118,8 @@ class SavedPdf(ProgramCase):
     def save(self, session, *options, log=os.devnull):
         """Saves over the older PDF. Waits until the new one is there, the reason is shown why not, or the program ends."""
         self.pdf.write_bytes(PDF_BEFORE)
+        # Where windows come and go quickly, the window manager may give the focus to none of those that are left.
+        self.user.click(wait_until(lambda: self.user.windows(PREVIEW), "the preview")[0], *MIDDLE)
         session.wait_for(PREVIEW)
         self.user.press("ctrl+s")
         session.wait_for("Save as PDF")
