@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPdfWriter>
