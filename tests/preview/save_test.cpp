@@ -146,6 +146,7 @@ TEST_F(SavePdf, TagsAreWrittenIfTheirBoxIsTickedWhichIsKeptForTheRun) {
   SaveTo(Path("plain.pdf"));
   ASSERT_TRUE(QTest::qWaitFor([&] { return !window_->IsBusy() && QFile::exists(Path("plain.pdf")); }));
   EXPECT_FALSE(isTagged("plain.pdf"));
+  OpenTable(1);
   OnDialog<QFileDialog>([&](QFileDialog& dialog) {
     EXPECT_FALSE(box(dialog)->isChecked());
     QTest::mouseClick(box(dialog), Qt::LeftButton, {}, {5, box(dialog)->height() / 2});

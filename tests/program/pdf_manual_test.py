@@ -23,7 +23,7 @@ class Words(PdfCase):
     def setUp(self):
         super().setUp()
         self.options = set(re.findall(r'Option\{"(--[a-z-]+)"', source("src/pdf/order.cpp")))
-        self.assertEqual(len(self.options), 11)
+        self.assertEqual(len(self.options), 12)
 
     def test_every_option_is_described_everywhere(self):
         usage = subprocess.run([PROGRAM, "--help"], capture_output=True, text=True, check=True, env=self.environment()).stdout

@@ -149,7 +149,7 @@ class Pictures(unittest.TestCase):
     def test_every_picture_is_made_by_the_script(self):
         runs = re.findall(r"^    Run\(.*", (ROOT / "tools/guide_pictures.py").read_text(encoding="utf-8"), re.MULTILINE)
         made = [name + ".png" for run in runs for name in re.findall(r'"([a-z-]+)"', run)]
-        self.assertEqual(set(made), {path.name for path in PICTURES.iterdir()})
+        self.assertEqual(set(made), {path.name for path in PICTURES.glob("*.png")})
 
     def test_script_makes_a_picture_like_the_one_that_is_kept(self):
         with tempfile.TemporaryDirectory() as folder:
