@@ -83,7 +83,9 @@ TEST(MetafileInMetafile, KeepsItsText) {
 TEST(MetafileInMetafile, IsCountedWhenBroken) {
   const ByteWriter drawn = DrawFrom(0, 0, 100, 100).F32(50).F32(50).F32(50).F32(50);
   PlusWriter plus;
-  plus.FillRect(OpaqueRed, 0, 0, 9, 9).Object(5, 0, MetafileObject("no metafile at all")).Add(0x401A, 0, drawn);
+  plus.FillRect(OpaqueRed, 0, 0, 9, 9)
+      .Object(5, 0, MetafileObject("no metafile at all"))
+      .Add(0x401A, 0, drawn);
   EXPECT_EQ(Play(plus.Emf().Bytes())->SkippedRecords(), 2);
 }
 

@@ -11,7 +11,6 @@ namespace {
 
 using testing::ElementsAre;
 
-
 // The only item of that control and kind.
 const Item& Find(const Document& document, const std::string& control, ItemKind kind) {
   for (const Item& item : document.Items) {
