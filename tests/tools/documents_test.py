@@ -60,6 +60,7 @@ LONG = {
     "./lint.sh": ["./lint.sh src/check/main.cpp"],
     "./lint.sh src/check/main.cpp": ["./lint.sh src/check/main.cpp"],
     "./bench.sh": ["./bench.sh --runs 1"],
+    "./bench.sh --peers": ["./bench.sh --runs 1 --peers"],
     "tools/compare_pictures FOLDER FILE...": ["tools/compare_pictures build/compared tests/pictures/data/ink_bars.emf"],
     "tools/compare_scripts FOLDER": ["tools/compare_scripts build/scripts"],
     "tools/make_pictures": ["tools/make_pictures --output build/pictures"],
