@@ -10,7 +10,7 @@ fuzzers=${*:-options user upwizard trace real_trace mecha sim idx_tbl zone_tbl j
 
 # What the toolkit's libraries keep is no finding, nor are thread-local blocks that the sanitizer takes for its own.
 export ASAN_OPTIONS=intercept_tls_get_addr=0
-export LSAN_OPTIONS="suppressions=$PWD/cmake/lsan.supp:print_suppressions=0"
+export LSAN_OPTIONS="suppressions=$PWD/fuzz/lsan.supp:print_suppressions=0"
 
 tools/install_packages fuzzing
 tools/build fuzz fuzzers >/dev/null
