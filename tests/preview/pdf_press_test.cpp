@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <latch>
+#include <memory>
 #include <stdexcept>
 
 #include "preview/never_cancelled.h"
@@ -59,6 +61,22 @@ TEST(PdfPress, GivesTheBytesOfThePdfOfTheWholeDocument) {
     const Document rest = ComposeFor(&press, report);
     EXPECT_EQ(press.Finish(rest, Info), expected) << run;
   }
+}
+
+// As where composing fails after pages were taken, and its texts end with it.
+TEST(PdfPress, PaintsPagesThatWereTakenOfADocumentThatIsGone) {
+  std::latch gone(1);
+  PicturedReport whole(2);
+  auto document = std::make_unique<Document>(ComposeFor(nullptr, whole));
+  PdfPress press(LookOf(*document), 0, [&](int, int) {
+    gone.wait();
+    return true;
+  });
+  press.Take(*document, 0);
+  document.reset();
+  gone.count_down();
+  PicturedReport report(1);
+  EXPECT_NE(press.Finish(ComposeFor(nullptr, report), Info), "");
 }
 
 TEST(PdfPress, PaintsNothingMoreAndGivesNothingOnceItIsCancelled) {

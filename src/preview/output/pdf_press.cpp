@@ -1,12 +1,35 @@
 #include "preview/output/pdf_press.h"
 
 #include <memory>
+#include <string>
 #include <utility>
 
 namespace tarvis {
 namespace {
 
-// A document whose only page that isn't empty is the given one. Its characters are those of `document`.
+bool IsText(const Item& item) {
+  return item.Kind == ItemKind::Text;
+}
+
+// Adds the texts of the items, with characters of their own: those of `document` end with it if composing
+// fails while the page is still painted.
+void TakeTexts(const Document& document, Document& one) {
+  std::size_t size = 0;
+  for (const Item& item : one.Items) size += IsText(item) ? document.Texts[item.Source].Text.size() : 0;
+  std::string& characters = one.Storage.emplace_back();
+  characters.reserve(size);  // texts point into it
+  for (Item& item : one.Items) {
+    if (!IsText(item)) continue;
+    TextPiece piece = document.Texts[item.Source];
+    const std::size_t begin = characters.size();
+    characters += piece.Text;
+    piece.Text = {characters.data() + begin, piece.Text.size()};
+    item.Source = static_cast<std::uint32_t>(one.Texts.size());
+    one.Texts.push_back(piece);
+  }
+}
+
+// A document whose only page that isn't empty is the given one.
 std::shared_ptr<const Document> WithThisPage(const Document& document, std::size_t number) {
   const Page& page = document.Pages[number];
   auto one = std::make_shared<Document>();
@@ -17,14 +40,11 @@ std::shared_ptr<const Document> WithThisPage(const Document& document, std::size
   one->Pages.push_back({0, page.ItemCount});
   const auto first = document.Items.begin() + static_cast<std::ptrdiff_t>(page.FirstItem);
   one->Items.assign(first, first + static_cast<std::ptrdiff_t>(page.ItemCount));
+  TakeTexts(document, *one);
   for (Item& item : one->Items) {
-    if (item.Kind == ItemKind::Text) {
-      one->Texts.push_back(document.Texts[item.Source]);
-      item.Source = static_cast<std::uint32_t>(one->Texts.size() - 1);
-    } else if (item.Kind == ItemKind::Picture) {
-      one->Pictures.push_back(document.Pictures[item.Source]);
-      item.Source = static_cast<std::uint32_t>(one->Pictures.size() - 1);
-    }
+    if (item.Kind != ItemKind::Picture) continue;
+    one->Pictures.push_back(document.Pictures[item.Source]);
+    item.Source = static_cast<std::uint32_t>(one->Pictures.size() - 1);
   }
   for (const std::uint32_t total : PageTotalsOf(document, page))
     one->PageTotals.push_back(total - page.FirstItem);
