@@ -1,9 +1,9 @@
 #!/bin/sh
 # Checks layout and habits of the code: ./lint.sh [FILE... | --changed [COMMIT]]. Layout is checked in all files, and
-# that each compiles by itself; habits in all, in these, or in those that have changed since COMMIT. If that is not given, it is the first of these that is
-# known and older than the last commit: where this branch left main, what the remote branch holds, the last tag, the
-# commit before. clang-format and clang-tidy must find nothing; .clang-format and .clang-tidy say what they look at.
-# Takes many minutes for all files.
+# that each compiles by itself; habits in all, in these, or in those that have changed since COMMIT. If that is not
+# given, it is the first of these that is known and older than the last commit: where this branch left main, what the
+# remote branch holds, the last tag, the commit before. clang-format and clang-tidy must find nothing; .clang-format and
+# .clang-tidy say what they look at. Takes many minutes for all files.
 set -eu
 cd "$(dirname "$0")"
 
@@ -55,7 +55,8 @@ lint() {
 tools/install_packages linting
 git ls-files '*.h' '*.cpp' | xargs clang-format --dry-run -Werror
 
-tools/build dev >/dev/null # the tests are built from several files at once, which hides a header that one of them lacks
+# Other builds compile several files at once, which hides that one of them doesn't include a header that it needs.
+tools/build dev >/dev/null
 
 case ${1:-} in
   "") chosen=$(git ls-files '*.cpp') ;;

@@ -33,9 +33,9 @@ void Measure(DocumentRoad& road) {
   watch.Report("PDF [ms]");
   QPrinter printer(QPrinter::HighResolution);
   printer.setOutputFormat(QPrinter::PdfFormat);
-  printer.setOutputFileName(folder.filePath(QStringLiteral("spool.pdf")));
+  printer.setOutputFileName(folder.filePath(QStringLiteral("painted.pdf")));
   road.Print(printer);
-  watch.Report("print spool [ms]");
+  watch.Report("painting for a printer [ms]");
   watch.Note("peak memory of these steps [MB]", PeakMegabytes());
   watch.Note("pages", road.PageCount());
   std::puts(watch.Json().c_str());

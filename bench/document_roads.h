@@ -27,7 +27,7 @@ class DocumentRoad {
   virtual int PageCount() const = 0;
   virtual void PaintPage(int page) = 0;  // into a picture of 96 dots to the inch
   virtual void SavePdf(const QString& path) = 0;
-  virtual void Print(QPrinter& printer) = 0;
+  virtual void Print(QPrinter& printer) = 0;  // of no queue, so the pages are painted
 };
 
 std::unique_ptr<DocumentRoad> TarvisRoad(const BenchJob& job);

@@ -1,4 +1,4 @@
-// The program's way of making a document: from the host's files to pages, PDF and print spool.
+// The program's way of making a document: from the host's files to pages, PDF and printer.
 #include <QImage>
 
 #include "document_roads.h"

@@ -101,7 +101,7 @@ int main(int argc, char** argv) {
   using namespace tarvis;
   const PdfProcess process{.Name = argv[0], .IsOutputOpen = IsStandardOutputOpen()};
   GuardProcess();
-  ShareMemory();
+  UseOneMemoryPool();
   NoteInterruptions();
   PdfDesktop desktop;
   const std::vector<std::string> arguments(argc > 0 ? argv + 1 : argv, argv + argc);

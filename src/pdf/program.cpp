@@ -13,7 +13,6 @@
 #include "platform/system/host_settings.h"
 #include "platform/system/standard_output.h"
 #include "platform/system/usual_paper.h"
-#include "preview/output/pdf_export.h"
 #include "preview/output/whole_file.h"
 #include "run/print_run.h"
 

@@ -94,7 +94,7 @@ std::error_code WriteFresh(const fs::path& fresh, std::string_view bytes, bool r
   std::ofstream file(fresh, std::ios::binary | std::ios::trunc);
   if (!file) return LastError();
   std::error_code ignored;
-  if (replaces) fs::permissions(fresh, Closed, ignored);
+  if (replaces) fs::permissions(fresh, Closed, ignored);  // for an old file that couldn't be copied
   errno = 0;
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   file.close();
@@ -129,6 +129,10 @@ std::error_code Replace(const fs::path& fresh, const fs::path& destination, std:
 }
 
 }  // namespace
+
+bool CanBeReplaced(const fs::path& path) {
+  return Destination(path).has_value();
+}
 
 bool ReplaceFile(const fs::path& path, std::string_view bytes, const FileSettler& settle,
                  std::error_code& error) {

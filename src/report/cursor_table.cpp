@@ -3,7 +3,6 @@
 #include "report/cell_styles.h"
 
 namespace tarvis {
-namespace {}  // namespace
 
 CursorTable::CursorTable(Section& ghGuide, Section& detail, const CursorLayout& layout)
     : txtTitleName(ghGuide.AddField("txtTitleName", layout.TitleName, TitleCell, "Name/Unit")),

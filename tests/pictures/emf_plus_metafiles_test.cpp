@@ -1,14 +1,12 @@
 // Metafiles inside extended metafiles, and paths with run lengths.
 #include <gtest/gtest.h>
 
+#include "pixel_colors.h"
 #include "plus_writer.h"
 #include "text/run_time_failure.h"
 
 namespace tarvis {
 namespace {
-
-const QColor Red(255, 0, 0), Green(0, 255, 0), White(255, 255, 255);
-constexpr std::uint32_t OpaqueRed = 0xFFFF0000;
 
 ByteWriter MetafileObject(const std::string& metafile, std::uint32_t type = 3) {
   return ByteWriter()

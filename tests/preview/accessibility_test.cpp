@@ -102,7 +102,7 @@ TEST_F(Reading, TheNameIsThePageThatIsReadAndTheCaretGoesAlong) {
   EXPECT_EQ(Text().cursorPosition(), OffsetOf("Comments"));
 }
 
-TEST_F(Reading, BoldTextIsToldFromOther) {
+TEST_F(Reading, BoldTextHasAWeightOfItsOwn) {
   Open(Table());
   int start = 0, end = 0;
   EXPECT_TRUE(Text().attributes(2, &start, &end).contains(QStringLiteral("font-weight:bold")));
@@ -134,14 +134,13 @@ TEST_F(Reading, TheContentsMarkThePartThatIsReadWithoutMakingItTheCurrentEntry) 
   builder.Page().Text("gain one", 1440, 3000).Page().Text("gain two", 1440, 3000);
   builder.Entry("First part", 0, 0, 0).Entry("Second part", 0, 1, 0);
   Open(builder.Build());
-  Press(Qt::Key_F, Qt::ControlModifier);
-  Type("gain");
+  SearchFor("gain");
   Press(Qt::Key_Return);
   auto& contents = Find<QTreeWidget>("contents");
   EXPECT_EQ(Page(), 1);
   ASSERT_EQ(contents.selectedItems().size(), 1);
   EXPECT_EQ(contents.selectedItems()[0]->text(0), QStringLiteral("Second part"));
-  EXPECT_EQ(contents.currentItem(), nullptr) << "tools would be told that it has the focus";
+  EXPECT_EQ(contents.currentItem(), nullptr) << "tools would announce it as if it had the focus";
   Find<QTabWidget>("sidePane").setCurrentIndex(0);
   contents.setFocus();
   EXPECT_EQ(contents.currentItem()->text(0), QStringLiteral("Second part")) << "keys start from there";

@@ -1,5 +1,4 @@
 // Copying tables, columns, areas and graphs, and saving graphs.
-#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QFile>
 #include <QFileDialog>
@@ -13,7 +12,6 @@
 #include <QTextTable>
 #include <QXmlStreamReader>
 #include <qpdf/QPDF.hh>
-#include <qpdf/QPDFPageDocumentHelper.hh>
 
 #include "preview/pages/page_places.h"
 #include "preview/sample_picture.h"
@@ -42,17 +40,6 @@ class Copying : public WindowTest {
  protected:
   void SetUp() override { QApplication::clipboard()->clear(); }
   const QMimeData& Clipboard() { return *QApplication::clipboard()->mimeData(); }
-  QString CopiedText() {
-    Press(Qt::Key_C, Qt::ControlModifier);
-    return QApplication::clipboard()->text();
-  }
-  void Drag(QPoint from, QPoint to, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QWidget* viewport = View().viewport();
-    QTest::mousePress(viewport, Qt::LeftButton, modifiers, from);
-    QTest::mouseMove(viewport, (from + to) / 2);
-    QTest::mouseMove(viewport, to);
-    QTest::mouseRelease(viewport, Qt::LeftButton, modifiers, to);
-  }
   // Chooses a command in the context menu that a right click at `at` opens.
   void ChooseInMenu(QPoint at, Command command) {
     QTimer::singleShot(0, window_.get(), [this, command] {
@@ -74,11 +61,12 @@ QSize PixelsOf(const Rect& box) {
   return {pixels(box.Width), pixels(box.Height)};
 }
 
-// The names of the elements, and the texts of the title; both empty if it is no XML.
+// The names of the elements, and the text of the title; both empty if it is no XML.
 struct ReadSvg {
   QStringList Elements;
   QString Title;
 
+  ReadSvg() = default;
   explicit ReadSvg(const QByteArray& bytes) {
     QXmlStreamReader reader(bytes);
     while (!reader.atEnd()) {
@@ -86,7 +74,7 @@ struct ReadSvg {
       Elements.append(reader.name().toString());
       if (reader.name() == QLatin1String("title")) Title = reader.readElementText();
     }
-    if (reader.hasError()) Elements.clear();
+    if (reader.hasError()) *this = ReadSvg();
   }
 };
 

@@ -23,8 +23,7 @@ std::shared_ptr<const Document> Words() {
 
 TEST_F(SearchBar, CountsHitsOfTheWholeDocumentAsOneTypes) {
   Open(Words());
-  Press(Qt::Key_F, Qt::ControlModifier);
-  Type("gai");
+  SearchFor("gai");
   EXPECT_EQ(Find<QLabel>("findCount").text(), QStringLiteral("1 of 4"));
   Type("x");
   EXPECT_EQ(Find<QLabel>("findCount").text(), QStringLiteral("not found"));
@@ -32,8 +31,7 @@ TEST_F(SearchBar, CountsHitsOfTheWholeDocumentAsOneTypes) {
 
 TEST_F(SearchBar, F3AndShiftF3StepThroughTheHitsAndAround) {
   Open(Words());
-  Press(Qt::Key_F, Qt::ControlModifier);
-  Type("gain");
+  SearchFor("gain");
   Press(Qt::Key_F3);
   EXPECT_EQ(Find<QLabel>("findCount").text(), QStringLiteral("2 of 4"));
   Press(Qt::Key_F3, Qt::ShiftModifier);
@@ -46,8 +44,7 @@ TEST_F(SearchBar, F3AndShiftF3StepThroughTheHitsAndAround) {
 
 TEST_F(SearchBar, CaseAndWholeWordSwitchesNarrowTheHits) {
   Open(Words());
-  Press(Qt::Key_F, Qt::ControlModifier);
-  Type("Gain");
+  SearchFor("Gain");
   QTest::mouseClick(&Find<QCheckBox>("findWords"), Qt::LeftButton, Qt::NoModifier, QPoint(8, 8));
   EXPECT_EQ(Find<QLabel>("findCount").text(), QStringLiteral("1 of 3"));
   QTest::mouseClick(&Find<QCheckBox>("findCase"), Qt::LeftButton, Qt::NoModifier, QPoint(8, 8));
@@ -56,8 +53,7 @@ TEST_F(SearchBar, CaseAndWholeWordSwitchesNarrowTheHits) {
 
 TEST_F(SearchBar, EscClosesTheBarAndTakesTheMarksAway) {
   Open(Words());
-  Press(Qt::Key_F, Qt::ControlModifier);
-  Type("gain");
+  SearchFor("gain");
   auto& finder = Find<Finder>("finder");
   EXPECT_EQ(finder.Marks(0).size(), 3U);
   Press(Qt::Key_Escape);
@@ -74,8 +70,7 @@ TEST_F(SearchBar, F3WithoutABarOpensIt) {
 
 TEST_F(SearchBar, AHitIsMarkedAtItsLetters) {
   Open(Words());
-  Press(Qt::Key_F, Qt::ControlModifier);
-  Type("margin");
+  SearchFor("margin");
   const std::vector<Highlight> marks = Find<Finder>("finder").Marks(0);
   ASSERT_EQ(marks.size(), 1U);
   EXPECT_GT(marks[0].Box.left(), 1440 + 1700 + 30 + 300);

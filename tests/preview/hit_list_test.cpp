@@ -11,10 +11,6 @@ namespace {
 
 class Found : public WindowTest {
  protected:
-  void SearchFor(const char* text) {
-    Press(Qt::Key_F, Qt::ControlModifier);
-    Type(text);
-  }
   HitList& List() { return Find<HitList>("hitList"); }
   QString Entry(int row) { return List().model()->index(row, 0).data().toString(); }
   QTabWidget& Pane() { return Find<QTabWidget>("sidePane"); }

@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 
 #include "preview/document_builder.h"
+#include "preview/never_cancelled.h"
 #include "preview/output/pdf_export.h"
 #include "preview/paint/painter_canvas.h"
 #include "preview/pdf_file.h"
@@ -35,7 +36,7 @@ TEST_P(MissingGlyphs, TheDocumentIsSavedAndTheTextCanBeCopiedFromIt) {
   const QTemporaryDir folder;
   const QString path = folder.filePath(QStringLiteral("out.pdf"));
   const auto document = DocumentBuilder().Page().Text(Text(), 1440, 720).Build();
-  ASSERT_EQ(ExportPdf(*document, path, {}, [](int, int) { return true; }), QString());
+  ASSERT_EQ(ExportPdf(*document, path, {}, GoOn), QString());
   EXPECT_EQ(RunTool("pdftotext", {path, QStringLiteral("-")}).trimmed(), QString::fromStdString(Text()));
   EXPECT_TRUE(RunTool("qpdf", {QStringLiteral("--check"), path})
                   .contains(QStringLiteral("No syntax or stream encoding errors")));
@@ -67,7 +68,7 @@ QImage OnScreen(const Document& document) {
 
 QImage InPdf(const Document& document, const QTemporaryDir& folder) {
   const QString path = folder.filePath(QStringLiteral("box.pdf"));
-  if (!ExportPdf(document, path, {}, [](int, int) { return true; }).isEmpty()) return {};
+  if (!ExportPdf(document, path, {}, GoOn).isEmpty()) return {};
   RunTool("pdftoppm", {QStringLiteral("-singlefile"), QStringLiteral("-png"), QStringLiteral("-r"),
                        QStringLiteral("144"), path, folder.filePath(QStringLiteral("box"))});
   return QImage(folder.filePath(QStringLiteral("box.png")));
@@ -87,7 +88,7 @@ TEST(MissingGlyph, TwoCharactersOfOneGlyphAreCopiedAsWhatTheyAre) {
   const QString path = folder.filePath(QStringLiteral("out.pdf"));
   const auto document =
       DocumentBuilder().Page().Text("\xEE\x80\x80\xEE\x80\x81 \xCE\xA9 \xE2\x84\xA6", 1440, 720).Build();
-  ASSERT_EQ(ExportPdf(*document, path, {}, [](int, int) { return true; }), QString());
+  ASSERT_EQ(ExportPdf(*document, path, {}, GoOn), QString());
   EXPECT_EQ(RunTool("pdftotext", {path, QStringLiteral("-")}).trimmed(),
             QString::fromUtf8("\xEE\x80\x80\xEE\x80\x81 \xCE\xA9 \xE2\x84\xA6"));
 }

@@ -1,11 +1,11 @@
 // Printing by the toolkit's painter, where the print system takes no PDFs.
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QPrinter>
 #include <QTemporaryDir>
 
 #include "preview/document_builder.h"
+#include "preview/never_cancelled.h"
 #include "preview/output/print_system.h"
 #include "preview/output/printing.h"
 #include "preview/pdf_file.h"
@@ -29,8 +29,7 @@ TEST_F(PaintedPrint, HasTheChosenPagesInTheirOrder) {
   ASSERT_FALSE(TakesPdf(printer_));
   const auto document =
       DocumentBuilder().Page().Text("one", 1440, 1000).Page().Text("two", 1440, 1000).Build();
-  const auto goOn = [](int, int) { return true; };
-  EXPECT_EQ(PrintDocument(*document, {1, 0}, printer_, PrintScale::AsComposed, goOn), QString());
+  EXPECT_EQ(PrintDocument(*document, {1, 0}, printer_, PrintScale::AsComposed, GoOn), QString());
   EXPECT_EQ(PdfText(path_).simplified(), QStringLiteral("two one"));
 }
 

@@ -10,7 +10,6 @@
 
 #include "preview/never_cancelled.h"
 #include "preview/output/pdf_export.h"
-#include "preview/paint/toolkit_geometry.h"
 #include "preview/sample_picture.h"
 #include "support/sample_report.h"
 

@@ -9,6 +9,7 @@
 #include <qpdf/QPDF.hh>
 
 #include "preview/document_builder.h"
+#include "preview/never_cancelled.h"
 #include "preview/output/pdf_export.h"
 #include "preview/output/whole_file.h"
 #include "preview/pdf_file.h"
@@ -89,8 +90,7 @@ class RoundedPicture : public testing::Test {
 TEST_F(RoundedPicture, TakesTwoThirdsAtMostForACurveAndShowsItWhereItWas) {
   const auto document =
       DocumentBuilder().Page().Picture(std::make_shared<CurvePicture>(), {1440, 720, 9000, 4000}).Build();
-  const std::string bytes =
-      MakePdf(*document, PdfSheets::AllOf(*document), {}, [](int, int) { return true; });
+  const std::string bytes = MakePdf(*document, PdfSheets::AllOf(*document), {}, GoOn);
   constexpr std::size_t AsTheToolkitWritesIt = 1000 * (10 + 1 + 10 + 3);  // "1234.56789 1234.56789 l\n"
   EXPECT_LT(ContentSize(bytes), AsTheToolkitWritesIt * 2 / 3);
   const QTemporaryDir folder;

@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 
 #include "preview/document_builder.h"
+#include "preview/never_cancelled.h"
 #include "preview/output/pdf_export.h"
 #include "preview/pdf_file.h"
 
@@ -29,7 +30,7 @@ class PdfScripts : public testing::TestWithParam<Sample> {
   void SetUp() override {
     path_ = folder_.filePath(QStringLiteral("out.pdf"));
     const auto document = DocumentBuilder().Page().Text(GetParam().Text, 1440, 720, 12).Build();
-    ASSERT_EQ(ExportPdf(*document, path_, {}, [](int, int) { return true; }), QString());
+    ASSERT_EQ(ExportPdf(*document, path_, {}, GoOn), QString());
   }
   // Signs of direction that a tool adds are no text.
   static QString Words(QString text) {
@@ -72,7 +73,7 @@ TEST_P(PdfScripts, HaveBookmarksInTheOrderOfReading) {
                             .Build();
   PdfInfo info;
   info.Title = wanted_;
-  ASSERT_EQ(ExportPdf(*document, path_, info, [](int, int) { return true; }), QString());
+  ASSERT_EQ(ExportPdf(*document, path_, info, GoOn), QString());
   const QString outline = RunTool("mutool", {QStringLiteral("show"), path_, QStringLiteral("outline")});
   EXPECT_EQ(outline.count(wanted_), 2) << outline.toStdString();
   EXPECT_EQ(PdfFact(path_, "Title"), wanted_);

@@ -4,6 +4,7 @@
 
 #include <qpdf/QPDF.hh>
 
+#include "preview/never_cancelled.h"
 #include "preview/output/pdf_export.h"
 #include "support/sample_report.h"
 
@@ -38,7 +39,7 @@ class Tagged {
     sheets.Pages = pages;
     PdfInfo info;
     info.IsTagged = true;
-    bytes_ = MakePdf(document_, sheets, info, [](int, int) { return true; });
+    bytes_ = MakePdf(document_, sheets, info, GoOn);
     pdf_.processMemoryFile("test", bytes_.data(), bytes_.size());
     Walk(pdf_.getRoot().getKey("/StructTreeRoot").getKey("/K"));
   }

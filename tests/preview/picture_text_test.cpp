@@ -1,10 +1,10 @@
 // Text inside pictures is text: it is found, selected and copied, and is text in a PDF.
-#include <QClipboard>
 #include <QDir>
 #include <QLabel>
 #include <QTemporaryDir>
 
 #include "pictures/metafile_writer.h"
+#include "preview/never_cancelled.h"
 #include "preview/output/pdf_export.h"
 #include "preview/pdf_file.h"
 #include "preview/text/text_search.h"
@@ -34,8 +34,7 @@ class PictureText : public WindowTest {};
 
 TEST_F(PictureText, IsFoundAtItsLetters) {
   Open(Graph());
-  Press(Qt::Key_F, Qt::ControlModifier);
-  Type("rpm");
+  SearchFor("rpm");
   EXPECT_EQ(Find<QLabel>("findCount").text(), QStringLiteral("1 of 1"));
   const auto document = Graph();
   DocumentText words(*document);
@@ -76,7 +75,7 @@ TEST_F(PictureText, IsSelectedWithTheMouseInTheDirectionInWhichItRuns) {
 TEST_F(PictureText, IsTextInAPdf) {
   const QTemporaryDir folder;
   const QString path = folder.filePath(QStringLiteral("out.pdf"));
-  ASSERT_EQ(ExportPdf(*Graph(), path, {}, [](int, int) { return true; }), QString());
+  ASSERT_EQ(ExportPdf(*Graph(), path, {}, GoOn), QString());
   const QString text = RunTool("pdftotext", {QStringLiteral("-raw"), path, QStringLiteral("-")});
   EXPECT_TRUE(text.contains(QStringLiteral("Graph of the trace"))) << text.toStdString();
   EXPECT_TRUE(text.contains(QStringLiteral("Velocity [rpm]"))) << text.toStdString();
@@ -120,7 +119,7 @@ TEST_F(PictureText, ComesOutOfAPdfInTheOrderOfReadingIfItRunsToTheLeft) {
   for (const char16_t* text : {u"\u05DE\u05D4\u05D9\u05E8\u05D5\u05EA", u"\u0633\u0631\u0639\u0629"}) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("out.pdf"));
-    ASSERT_EQ(ExportPdf(*GraphWith(text), path, {}, [](int, int) { return true; }), QString());
+    ASSERT_EQ(ExportPdf(*GraphWith(text), path, {}, GoOn), QString());
     const QString found = RunTool("pdftotext", {path, QStringLiteral("-")})
                               .normalized(QString::NormalizationForm_KC)
                               .remove(QLatin1Char(' '));
@@ -132,7 +131,7 @@ TEST_F(PictureText, IsTextInAPdfAlsoWhereTheNamedFontDoesNotHaveIt) {
   for (const char16_t* text : {u"\u0E04\u0E27\u0E32\u0E21", u"\u30B2\u30A4\u30F3"}) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("out.pdf"));
-    ASSERT_EQ(ExportPdf(*GraphWith(text), path, {}, [](int, int) { return true; }), QString());
+    ASSERT_EQ(ExportPdf(*GraphWith(text), path, {}, GoOn), QString());
     const QString found = RunTool("pdftotext", {path, QStringLiteral("-")}).remove(QLatin1Char(' '));
     EXPECT_TRUE(found.contains(QString::fromUtf16(text))) << found.toStdString();
   }
@@ -159,12 +158,11 @@ TEST_F(PictureText, IsCopiedFromEverySampleAsItIsInAPdf) {
     builder.Page().Text("Graph", 1440, 1000);
     builder.Picture(loader.Load(sample.filePath().toStdString()), {1440, 2000, 8000, 6000});
     const auto document = builder.Build();
-    ASSERT_EQ(ExportPdf(*document, path, {}, [](int, int) { return true; }), QString());
+    ASSERT_EQ(ExportPdf(*document, path, {}, GoOn), QString());
     const QString inPdf = RunTool("pdftotext", {QStringLiteral("-raw"), path, QStringLiteral("-")});
     Open(document);
     Press(Qt::Key_A, Qt::ControlModifier);
-    Press(Qt::Key_C, Qt::ControlModifier);
-    const QString copied = QApplication::clipboard()->text();
+    const QString copied = CopiedText();
     EXPECT_EQ(Letters(copied).toStdString(), Letters(inPdf).toStdString()) << sample.fileName().toStdString();
     if (copied != QStringLiteral("Graph")) ++withText;
   }

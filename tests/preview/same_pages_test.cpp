@@ -7,6 +7,7 @@
 
 #include "pictures/picture_file_loader.h"
 #include "preview/document_builder.h"
+#include "preview/never_cancelled.h"
 #include "preview/output/pdf_export.h"
 #include "preview/page_comparison.h"
 #include "preview/pages/page_pictures.h"
@@ -32,7 +33,7 @@ QImage OnScreen(const Document& document, int resolution) {
 QImage Pdf(const Document& document, int resolution) {
   const QTemporaryDir folder;
   const QString path = folder.filePath(QStringLiteral("out.pdf"));
-  EXPECT_EQ(ExportPdf(document, path, {}, [](int, int) { return true; }), QString());
+  EXPECT_EQ(ExportPdf(document, path, {}, GoOn), QString());
   const QString picture = folder.filePath(QStringLiteral("page"));
   RunTool("pdftoppm", {QStringLiteral("-r"), QString::number(resolution), QStringLiteral("-png"),
                        QStringLiteral("-singlefile"), path, picture});

@@ -34,6 +34,27 @@ class SavePdf : public WindowTest {
     Press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_TRUE(answered_);
   }
+  // Ticks the box `name`, which isn't ticked yet, saves to `path`, and waits for the file.
+  void SaveWithBox(const char* name, const QString& path) {
+    OnDialog<QFileDialog>([name, path](QFileDialog& dialog) {
+      auto* box = dialog.findChild<QCheckBox*>(QString::fromLatin1(name));
+      EXPECT_FALSE(box->isChecked());
+      QTest::mouseClick(box, Qt::LeftButton, {}, {5, box->height() / 2});
+      EnterPath(dialog, path);
+    });
+    Press(Qt::Key_S, Qt::ControlModifier);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !window_->IsBusy() && QFile::exists(path); }));
+  }
+  // Whether the box `name` is ticked when the dialog opens.
+  bool IsBoxTicked(const char* name) {
+    bool isTicked = false;
+    OnDialog<QFileDialog>([&isTicked, name](QFileDialog& dialog) {
+      isTicked = dialog.findChild<QCheckBox*>(QString::fromLatin1(name))->isChecked();
+      dialog.reject();
+    });
+    Press(Qt::Key_S, Qt::ControlModifier);
+    return isTicked;
+  }
   // Asks for saving to `path`, expects a message, answers it by `answer`, and closes the dialog that is still
   // there. Returns the message.
   QString TryToSaveTo(const QString& path, QMessageBox::StandardButton answer) {
@@ -114,31 +135,15 @@ TEST_F(SavePdf, StartsInTheFolderWhereTheLastDocumentOfTheRunWasSaved) {
 
 TEST_F(SavePdf, TheDataAreAttachedIfTheirBoxIsTickedWhichIsKeptForTheRun) {
   readData_ = [] { return std::vector<NamedBytes>{{"User.tmp", "File-Spec,3\r\n"}}; };
-  const auto box = [](QFileDialog& dialog) {
-    return dialog.findChild<QCheckBox*>(QStringLiteral("attachData"));
-  };
   OpenTable(1);
-  OnDialog<QFileDialog>([&](QFileDialog& dialog) {
-    EXPECT_FALSE(box(dialog)->isChecked());
-    QTest::mouseClick(box(dialog), Qt::LeftButton, {}, {5, box(dialog)->height() / 2});
-    EnterPath(dialog, Path("with.pdf"));
-  });
-  Press(Qt::Key_S, Qt::ControlModifier);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return !window_->IsBusy() && QFile::exists(Path("with.pdf")); }));
+  SaveWithBox("attachData", Path("with.pdf"));
   EXPECT_TRUE(
       RunTool("pdfdetach", {QStringLiteral("-list"), Path("with.pdf")}).contains(QStringLiteral("User.tmp")));
   OpenTable(1);
-  bool isKept = false;
-  OnDialog<QFileDialog>([&](QFileDialog& dialog) {
-    isKept = box(dialog)->isChecked();
-    dialog.reject();
-  });
-  Press(Qt::Key_S, Qt::ControlModifier);
-  EXPECT_TRUE(isKept);
+  EXPECT_TRUE(IsBoxTicked("attachData"));
 }
 
 TEST_F(SavePdf, TagsAreWrittenIfTheirBoxIsTickedWhichIsKeptForTheRun) {
-  const auto box = [](QFileDialog& dialog) { return dialog.findChild<QCheckBox*>(QStringLiteral("tags")); };
   const auto isTagged = [this](const char* name) {
     return RunTool("pdfinfo", {Path(name)}).contains(QRegularExpression(QStringLiteral("Tagged: +yes")));
   };
@@ -147,22 +152,10 @@ TEST_F(SavePdf, TagsAreWrittenIfTheirBoxIsTickedWhichIsKeptForTheRun) {
   ASSERT_TRUE(QTest::qWaitFor([&] { return !window_->IsBusy() && QFile::exists(Path("plain.pdf")); }));
   EXPECT_FALSE(isTagged("plain.pdf"));
   OpenTable(1);
-  OnDialog<QFileDialog>([&](QFileDialog& dialog) {
-    EXPECT_FALSE(box(dialog)->isChecked());
-    QTest::mouseClick(box(dialog), Qt::LeftButton, {}, {5, box(dialog)->height() / 2});
-    EnterPath(dialog, Path("tagged.pdf"));
-  });
-  Press(Qt::Key_S, Qt::ControlModifier);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return !window_->IsBusy() && QFile::exists(Path("tagged.pdf")); }));
+  SaveWithBox("tags", Path("tagged.pdf"));
   EXPECT_TRUE(isTagged("tagged.pdf"));
   OpenTable(1);
-  bool isKept = false;
-  OnDialog<QFileDialog>([&](QFileDialog& dialog) {
-    isKept = box(dialog)->isChecked();
-    dialog.reject();
-  });
-  Press(Qt::Key_S, Qt::ControlModifier);
-  EXPECT_TRUE(isKept);
+  EXPECT_TRUE(IsBoxTicked("tags"));
 }
 
 TEST_F(SavePdf, DataThatHaveChangedAreReportedAndNothingIsSaved) {

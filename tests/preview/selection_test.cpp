@@ -1,6 +1,4 @@
 // Selecting and copying text of pages.
-#include <QClipboard>
-
 #include "preview/text/text_selection.h"
 #include "preview/window_fixture.h"
 
@@ -10,17 +8,6 @@ namespace {
 class Selection : public WindowTest {
  protected:
   void SetUp() override { QApplication::clipboard()->clear(); }
-  QString Copied() {
-    Press(Qt::Key_C, Qt::ControlModifier);
-    return QApplication::clipboard()->text();
-  }
-  void Drag(QPoint from, QPoint to) {
-    QWidget* viewport = View().viewport();
-    QTest::mousePress(viewport, Qt::LeftButton, Qt::NoModifier, from);
-    QTest::mouseMove(viewport, (from + to) / 2);
-    QTest::mouseMove(viewport, to);
-    QTest::mouseRelease(viewport, Qt::LeftButton, Qt::NoModifier, to);
-  }
   // Moves the pressed mouse, also outside of the view.
   void MoveMouse(QPoint to) {
     QMouseEvent event(QEvent::MouseMove, to, View().viewport()->mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
@@ -33,7 +20,7 @@ class Selection : public WindowTest {
 TEST_F(Selection, ATableCopiesAsLinesWithTabsBetweenCells) {
   Open(DocumentBuilder().Page().Row({"Pn100", "Gain", "40.0"}, 720).Row({"Pn101", "", "8"}, 1003).Build());
   Press(Qt::Key_A, Qt::ControlModifier);
-  EXPECT_EQ(Copied(), QStringLiteral("Pn100\tGain\t40.0\nPn101\t\t8"));
+  EXPECT_EQ(CopiedText(), QStringLiteral("Pn100\tGain\t40.0\nPn101\t\t8"));
 }
 
 TEST_F(Selection, ATickCopiesAsAWordInItsCell) {
@@ -45,13 +32,13 @@ TEST_F(Selection, ATickCopiesAsAWordInItsCell) {
            .Tick({2000, 1003, 283, 283}, false)
            .Build());
   Press(Qt::Key_A, Qt::ControlModifier);
-  EXPECT_EQ(Copied(), QStringLiteral("selected\tSpeed\nnot selected\tTorque"));
+  EXPECT_EQ(CopiedText(), QStringLiteral("selected\tSpeed\nnot selected\tTorque"));
 }
 
 TEST_F(Selection, DraggingOverHalfOfATickSelectsIt) {
   Open(DocumentBuilder().Page().Row({"", "Speed"}, 720).Tick({2000, 720, 283, 283}, true).Build());
   Drag(At(0, 2010, 860), At(0, 2270, 860));
-  EXPECT_EQ(Copied(), QStringLiteral("selected"));
+  EXPECT_EQ(CopiedText(), QStringLiteral("selected"));
 }
 
 TEST_F(Selection, DraggingSelectsFromLetterToLetter) {
@@ -61,7 +48,7 @@ TEST_F(Selection, DraggingSelectsFromLetterToLetter) {
            .Text("Second", 1440, 1500, 12)
            .Build());
   Drag(At(0, 1440, 1100), At(0, 1440 + 690, 1100));
-  EXPECT_EQ(Copied(), QStringLiteral("Speed"));
+  EXPECT_EQ(CopiedText(), QStringLiteral("Speed"));
 }
 
 TEST_F(Selection, DraggingBackwardsOverLinesSelectsWhatLiesBetween) {
@@ -71,13 +58,13 @@ TEST_F(Selection, DraggingBackwardsOverLinesSelectsWhatLiesBetween) {
            .Text("Second line", 1440, 1500, 12)
            .Build());
   Drag(At(0, 9000, 1620), At(0, 1400, 1120));
-  EXPECT_EQ(Copied(), QStringLiteral("First line\nSecond line"));
+  EXPECT_EQ(CopiedText(), QStringLiteral("First line\nSecond line"));
 }
 
 TEST_F(Selection, ADoubleClickSelectsTheWord) {
   Open(DocumentBuilder().Page().Text("Speed Loop Gain", 1440, 1000, 12).Build());
   QTest::mouseDClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, At(0, 1440 + 900, 1100));
-  EXPECT_EQ(Copied(), QStringLiteral("Loop"));
+  EXPECT_EQ(CopiedText(), QStringLiteral("Loop"));
 }
 
 TEST_F(Selection, ATripleClickSelectsTheRow) {
@@ -88,9 +75,9 @@ TEST_F(Selection, ATripleClickSelectsTheRow) {
            .Build());
   const QPoint at = At(0, 1440 + 1800, 1100);
   QTest::mouseDClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, at);
-  EXPECT_EQ(Copied(), QStringLiteral("Ratio"));
+  EXPECT_EQ(CopiedText(), QStringLiteral("Ratio"));
   QTest::mouseClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, at);
-  EXPECT_EQ(Copied(), QStringLiteral("Pn101\tRatio\t8"));
+  EXPECT_EQ(CopiedText(), QStringLiteral("Pn101\tRatio\t8"));
 }
 
 TEST_F(Selection, AThirdClickElsewhereOnlyTakesTheSelectionAway) {
@@ -126,7 +113,7 @@ TEST_F(Selection, ScrollsOnWhileTheMouseRestsPastTheEdge) {
   QTest::mousePress(View().viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(200, 100));
   MoveMouse({200, height + 60});
   EXPECT_TRUE(QTest::qWaitFor([&] { return Scrolled() > 2 * height; })) << "no further move of the mouse";
-  EXPECT_GT(Copied().count(QLatin1Char('\n')), 48) << "what was scrolled by is selected";
+  EXPECT_GT(CopiedText().count(QLatin1Char('\n')), 48) << "what was scrolled by is selected";
   MoveMouse({200, -60});
   EXPECT_TRUE(QTest::qWaitFor([&] { return Scrolled() == 0; }));
 }
@@ -149,7 +136,7 @@ TEST_F(Selection, StopsScrollingWhenTheButtonIsReleased) {
 TEST_F(Selection, CharactersBeyond16BitsAndCombiningMarksAreCopiedWhole) {
   Open(DocumentBuilder().Page().Row({"𠮷野", "Re\xCC\x81sume\xCC\x81"}, 720).Build());
   Press(Qt::Key_A, Qt::ControlModifier);
-  EXPECT_EQ(Copied(), QStringLiteral("𠮷野\tRe\u0301sume\u0301"));
+  EXPECT_EQ(CopiedText(), QStringLiteral("𠮷野\tRe\u0301sume\u0301"));
 }
 
 TEST_F(Selection, AClickTakesTheSelectionAway) {
@@ -163,7 +150,7 @@ TEST_F(Selection, AClickTakesTheSelectionAway) {
 TEST_F(Selection, AllPagesAreSelectedByCtrlA) {
   OpenTable(3);
   Press(Qt::Key_A, Qt::ControlModifier);
-  EXPECT_EQ(Copied().count(QLatin1Char('\n')), 3 * 49 - 1);
+  EXPECT_EQ(CopiedText().count(QLatin1Char('\n')), 3 * 49 - 1);
 }
 
 TEST(TextSelection, ACellThatWrapsBesideOthersStaysOneCell) {

@@ -11,7 +11,7 @@
 namespace tarvis {
 namespace {
 
-// The elements of a file as text, such as "path stroke=#ff0000", with all attributes.
+// An element of a file with all its attributes.
 struct Element {
   QString Name;
   QXmlStreamAttributes Attributes;

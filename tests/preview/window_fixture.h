@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDialog>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -52,6 +53,24 @@ class WindowTest : public testing::Test {
     ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
   }
   void Type(const char* text) { QTest::keyClicks(QApplication::focusWidget(), QString::fromUtf8(text)); }
+
+  // Opens the find bar and types there.
+  void SearchFor(const char* text) {
+    Press(Qt::Key_F, Qt::ControlModifier);
+    Type(text);
+  }
+  void Drag(QPoint from, QPoint to, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QWidget* viewport = View().viewport();
+    QTest::mousePress(viewport, Qt::LeftButton, modifiers, from);
+    QTest::mouseMove(viewport, (from + to) / 2);
+    QTest::mouseMove(viewport, to);
+    QTest::mouseRelease(viewport, Qt::LeftButton, modifiers, to);
+  }
+  // Copies what is selected, and returns the text on the clipboard.
+  QString CopiedText() {
+    Press(Qt::Key_C, Qt::ControlModifier);
+    return QApplication::clipboard()->text();
+  }
 
   PageView& View() { return window_->View(); }
   int Page() { return View().CurrentPage(); }

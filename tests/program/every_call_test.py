@@ -2,16 +2,16 @@
 
 The calls that write the PDF are tried here; `tools/reliability calls` tries every call in every mode with every error.
 """
-import subprocess
 import sys
 import unittest
 from collections import Counter
 
 from call_faults import ERRORS, moments_of, tracing
-from pdf_ends import EVERY, PRINTING, PdfEnds
+from pdf_case import PRINTING_MODES, output_of
+from pdf_ends import EVERY, PdfEnds
 
-CHOSEN = [mode for mode in PRINTING if mode in sys.argv]
-TRIED = (CHOSEN or PRINTING) if EVERY else ["JogTbl"]
+CHOSEN = [mode for mode in PRINTING_MODES if mode in sys.argv]
+TRIED = (CHOSEN or PRINTING_MODES) if EVERY else ["JogTbl"]
 OF_WRITING = ("write", "fsync", "rename", "fchmodat")
 
 
@@ -34,8 +34,7 @@ class Font(PdfEnds):
     def test_is_named_if_it_can_not_be_opened_and_no_other_is_taken(self):
         self.prepare("JogTbl")
         for style in ("Regular", "Bold"):
-            path = subprocess.run(["fc-match", "-f", "%{file}", f"Liberation Sans:style={style}"], capture_output=True,
-                                  check=True, text=True).stdout
+            path = output_of("fc-match", "--format=%{file}", f"Liberation Sans:style={style}")
             done = self.run_into(self.output / style, tracing("--inject=openat:error=EIO", "-P", path, call="openat"))
             self.assertEqual(done.stderr.decode(), "tarvis-pdf: run-time error: Liberation Sans: a font can't be loaded\n")
             self.assertEqual(done.returncode, 1)

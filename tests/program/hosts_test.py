@@ -7,7 +7,6 @@ import signal
 import subprocess
 import time
 import unittest
-from pathlib import Path
 
 from call_faults import tracing
 from pdf_case import DAY, PROGRAM, PdfCase
@@ -19,6 +18,10 @@ STALE = 10_000
 STOPPED = re.compile(r"(?m)^(\d+) +--- stopped by SIGSTOP ---")
 # Every byte but NUL, the slash, and the backslash, which separates folders in the host's paths.
 BYTES = bytes(byte for byte in range(1, 256) if byte not in b"/\\")
+
+
+def names_of_every_byte():
+    return [os.fsdecode(BYTES[start:start + 64]) for start in range(0, len(BYTES), 64)]
 
 
 class ChangingFile(PdfCase):
@@ -91,8 +94,8 @@ class StaleFiles(ProgramCase):
         self.host.write_data("JogTbl")
         for number in range(STALE):
             (self.host.temp_folder / f"old{number}.{'tmp' if number % 2 else 'EMF'}").touch()
-        for start in range(0, len(BYTES), 64):
-            Path(os.fsdecode(os.fsencode(self.host.temp_folder) + b"/" + BYTES[start:start + 64] + b".tmp")).touch()
+        for name in names_of_every_byte():
+            (self.host.temp_folder / f"{name}.tmp").touch()
         (self.host.temp_folder / "kept.txt").touch()
         session = self.start("JogTbl")
         session.confirm_dialog()
@@ -103,27 +106,22 @@ class StaleFiles(ProgramCase):
 
 
 class Names(PdfCase):
-    def pieces(self):
-        """Names that hold every byte."""
-        return [b"n" + BYTES[start:start + 64] for start in range(0, len(BYTES), 64)]
-
     def test_may_hold_every_byte_in_pdfs(self):
         self.host.write_data("JogTbl")
-        for name in [*self.pieces(), b"back\\slash", b"l" * 255]:
-            target = os.path.join(os.fsencode(self.output), name)
+        for name in [*(f"n{name}" for name in names_of_every_byte()), "back\\slash", "l" * 255]:
+            target = self.output / name
             for _ in range(2):  # made, and replaced
-                done = subprocess.run([PROGRAM, "JogTbl", "2", target], env=self.environment(), capture_output=True, check=False)
+                done = self.run_program("JogTbl", "2", target)
                 self.assertEqual((done.returncode, done.stderr), (0, b""), name)
-            self.assertEqual(os.listdir(os.fsencode(self.output)), [name])
-            os.unlink(target)
+            self.assertEqual(os.listdir(self.output), [name])
+            target.unlink()
 
     def test_may_hold_every_byte_in_folders_of_data(self):
         self.host.write_data("JogTbl")
-        for name in self.pieces():
-            folder = os.path.join(os.fsencode(self.folder), name)
-            shutil.copytree(os.fsencode(self.host.temp_folder), folder)
-            done = subprocess.run([PROGRAM, "--data", folder, "JogTbl", "2", self.pdf], env=self.environment(),
-                                  capture_output=True, check=False)
+        for name in names_of_every_byte():
+            folder = self.folder / f"n{name}"
+            shutil.copytree(self.host.temp_folder, folder)
+            done = self.run_program("--data", folder, "JogTbl", "2", self.pdf)
             self.assertEqual((done.returncode, done.stderr), (0, b""), name)
 
 

@@ -2,34 +2,22 @@
 
 A few moments are tried here; `tools/reliability kills` tries a thousand, spread over the calls to the system.
 """
-import os
-import re
 import shutil
 import signal
-import time
 import unittest
 
 from call_faults import ERRORS, moments_of
+from leftovers import age_leftovers
 from pdf_ends import EVERY, OLDER, PdfEnds
 
 MOMENTS = 1000 if EVERY else 3
 OF_SAVING = ("openat", "copy_file_range", "write", "close", "fsync", "fchmodat", "rename")
 WITHOUT_ERRORS = ("munmap", "exit_group")
-LEFTOVER = re.compile(r"\.[0-9a-f]{16}\.new$")
-LONG_AGO = 120  # seconds; nobody writes a file any more that was last written then
 
 
 def spread(moments, count):
     """That many of them at even distances, the last ones always among them: they write the file."""
     return [moments[-1 - index * len(moments) // count] for index in range(min(count, len(moments)))]
-
-
-def age_leftovers(folder, name):
-    """The names of the files left beside the one of this name, which from now on were written long ago."""
-    left = [path for path in folder.iterdir() if path.name != name and LEFTOVER.search(path.name)]
-    for path in left:
-        os.utime(path, (time.time() - LONG_AGO,) * 2)
-    return left
 
 
 class KilledPdf(PdfEnds):

@@ -3,65 +3,22 @@ import re
 import subprocess
 import unittest
 
-from pdf_case import DAY, PdfCase
+from archive_case import ArchiveCase
+from pdf_case import PRINTING_MODES
 from preflight import as_part_1, complaints
 
-from host import MODES, OVERLAPPED_SETS
+from host import OVERLAPPED_SETS
 from png import write_png
 from print_file import PrintFile
 
-PRINTING_MODES = [mode for mode in MODES if mode != "PrnSetting"]
 # A comment in each code page, in the letters for which it was made.
 COMMENTS = {874: "ความเร็ว", 932: "速度ループゲイン 表示", 936: "速度环增益", 949: "속도 루프 게인", 950: "速度迴路增益",
             1250: "Rychlost smyčky", 1251: "Коэффициент контура", 1252: "Résumé Größe", 1253: "Κέρδος βρόχου",
             1254: "Hız döngüsü", 1255: "מהירות המנוע", 1256: "سرعة المحرك", 1257: "Greičio kilpa", 1258: "Đô khuêch",
             65001: "速度 Größe מהירות ความเร็ว"}
-# Programs that read a whole document and say what they find wrong.
-READERS = (("qpdf", "--check"),
-           ("gs", "-q", "-dNOPAUSE", "-dBATCH", "-dPDFSTOPONERROR", "-sDEVICE=nullpage"),
-           ("mutool", "draw", "-q", "-F", "trace", "-o", "/dev/null"),
-           ("pdfinfo",),
-           ("pdftotext",))
-HOW_IT_WAS_BUILT = "warning: ICC support is not available"  # of mutool, on some releases
 
 
-def words_about(pdf):
-    """What the readers complain of."""
-    words = []
-    for reader in READERS:
-        last = [pdf, "/dev/null"] if reader[0] == "pdftotext" else [pdf]
-        done = subprocess.run([*reader, *last], capture_output=True, text=True, check=False)
-        lines = [line for line in done.stderr.splitlines() if line != HOW_IT_WAS_BUILT]
-        words += [f"{reader[0]}: {line}" for line in lines]
-        if done.returncode != 0:
-            words.append(f"{reader[0]}: status {done.returncode} {done.stdout[-300:]}")
-    return words
-
-
-class Archive(PdfCase):
-    def setUp(self):
-        super().setUp()
-        self.kept = self.folder / "kept"
-        self.kept.mkdir()
-
-    def keep(self, name, mode, *options):
-        pdf = self.make(mode, "--date", DAY, *options)
-        pdf.rename(self.kept / f"{name}.pdf")
-
-    def expect_archives(self, wanted=()):
-        """`wanted`: names of documents of which the validator complains, with a pattern of each of its lines."""
-        documents = sorted(self.kept.glob("*.pdf"))
-        self.assertEqual({pdf.name: words_about(pdf) for pdf in documents}, {pdf.name: [] for pdf in documents})
-        changed = self.folder / "changed"
-        changed.mkdir()
-        found = complaints([as_part_1(pdf, changed / pdf.name) for pdf in documents])
-        for name, pattern in dict(wanted).items():
-            lines = found.pop(name)
-            self.assertTrue(lines)
-            for line in lines:
-                self.assertRegex(line, pattern)
-        self.assertEqual({name: lines for name, lines in found.items() if lines}, {})
-
+class Archive(ArchiveCase):
     def test_every_mode_is_an_archive(self):
         for mode in PRINTING_MODES:
             self.host.write_data(mode)

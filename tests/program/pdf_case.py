@@ -12,6 +12,7 @@ sys.path.insert(0, str(ROOT / "tests/host"))
 from host import MODES, Host  # noqa: E402
 
 PROGRAM = os.environ["TARVIS_PDF"]
+PRINTING_MODES = [mode for mode in MODES if mode != "PrnSetting"]
 DAY = "2026-03-05T17:04:09"
 # What a desktop would give to its programs.
 DESKTOP = ("DISPLAY", "WAYLAND_DISPLAY", "XDG_RUNTIME_DIR", "DBUS_SESSION_BUS_ADDRESS", "HOME", "XDG_CONFIG_HOME")

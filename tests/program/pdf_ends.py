@@ -11,7 +11,6 @@ from host import MODES, OVERLAPPING
 
 EVERY = os.environ.get("TARVIS_LONG") == "1"  # the whole of it is asked for, which takes long; a sample otherwise
 JOBS = int(os.environ.get("TARVIS_JOBS", "2"))
-PRINTING = [mode for mode in MODES if mode != "PrnSetting"]
 OLDER = b"the PDF of yesterday"
 HANGS_AFTER = 60  # seconds
 

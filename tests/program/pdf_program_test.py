@@ -6,13 +6,14 @@ import signal
 import subprocess
 import unittest
 
+from call_faults import tracing
 from pdf_case import DAY, PROGRAM, PdfCase, files_below, output_of
 from roads import DOCUMENTS
+from user_file import gains, write_user_file
 
 from host import MODES
 from options_file import write_options_with_cover
-from print_file import PrintFile, write_parameters
-from servo_pack import Parameter
+from print_file import PrintFile
 
 TOO_LONG = "warning: Input Error: Try with  Less Characters.  Up to 40 Characters can be Inputted."
 
@@ -194,7 +195,7 @@ class Threads(PdfCase):
     def test_document_is_made_where_the_system_gives_no_threads(self):
         self.host.write_data("User")
         made = [self.make("User", "--date", DAY, through=through).read_bytes()
-                for through in ((), ("strace", "-f", "-qqq", "-o", "/dev/null", "-e", "inject=clone3,clone:error=EAGAIN"))]
+                for through in ((), tracing("--inject=clone3,clone:error=EAGAIN", call="clone3,clone"))]
         self.assertEqual(*made)
 
     def test_failure_after_many_pages_is_the_same_line_and_leaves_no_file(self):
@@ -220,9 +221,7 @@ class Progress(PdfCase):
 
 class Interruption(PdfCase):
     def test_interruption_leaves_no_file(self):
-        file = PrintFile("Parameter File", "", "")
-        write_parameters(file, [Parameter(f"S-{n}", "Gain", str(n), "100", "Hz") for n in range(16000)], [], "")
-        file.write(self.host.temp_folder / "User.tmp")
+        write_user_file(self.host.temp_folder, gains(16000))
         before = files_below(self.folder)
         process = subprocess.Popen([PROGRAM, "--progress", "User", "1", str(self.pdf)], env=self.environment(),
                                    stderr=subprocess.PIPE)

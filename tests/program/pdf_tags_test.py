@@ -6,24 +6,20 @@ import re
 import subprocess
 import unittest
 
-from pdf_archive_test import words_about
-from pdf_case import DAY, ROOT, PdfCase
-from preflight import as_part_1, complaints
+from archive_case import ArchiveCase
+from pdf_case import DAY, PRINTING_MODES, ROOT
 from tagged_pdf import PAINTS, TaggedPdf
+from user_file import gains, write_user_file
 
-from host import MODES, OVERLAPPED_SETS
-from print_file import PrintFile, write_parameters
+from host import OVERLAPPED_SETS
 from servo_pack import Parameter
 
-PRINTING_MODES = [mode for mode in MODES if mode != "PrnSetting"]
 GOLDENS = ROOT / "tests/goldens"
 # Types of the format's own, with those that may hold them.
 HOLDERS = {"/Document": {None}, "/Part": {"/Document"}, "/Sect": {"/Part", "/Sect"}, "/Table": {"/Part", "/Sect"},
            "/TR": {"/Table"}, "/TH": {"/TR"}, "/TD": {"/TR"}, "/Span": {"/P", "/TD", "/TH"},
            "/Figure": {"/Part", "/Sect", "/TD"}, "/P": {"/Part", "/Sect"},
            **{f"/H{level}": {"/Part", "/Sect"} for level in range(1, 4)}}
-
-
 # What is read of these is the same as of others, or as of many of them.
 WITHOUT_GOLDEN = ("SimEx", "SimEx_overlapped")
 
@@ -32,29 +28,20 @@ def without_blanks(text):
     return re.sub(r"\s", "", text)
 
 
-class Tags(PdfCase):
-    def setUp(self):
-        super().setUp()
-        self.kept = self.folder / "kept"
-        self.kept.mkdir()
-
+class Tags(ArchiveCase):
     def make_tagged(self, mode, *options):
         return self.make(mode, "--tagged", "--date", DAY, *options)
-
-    def keep(self, name, mode, *options):
-        pdf = self.make_tagged(mode, *options)
-        return pdf.rename(self.kept / f"{name}.pdf")
 
     def keep_all(self):
         """All modes, and all that can be overlapped, with a cover and a logo."""
         for mode in PRINTING_MODES:
             self.host.write_data(mode)
-            self.keep(mode, mode)
+            self.keep(mode, mode, "--tagged")
         self.host.write_cover()
         for mode, sets in OVERLAPPED_SETS.items():
             self.host.write_data(mode, sets)
-            self.keep(f"{mode}_overlapped", mode)
-        return sorted(self.kept.glob("*.pdf"))
+            self.keep(f"{mode}_overlapped", mode, "--tagged")
+        return self.kept_documents()
 
     def expect_sound(self, tagged):
         """What the standard asks of any tagged document."""
@@ -148,11 +135,7 @@ class Tags(PdfCase):
 
     def test_tagged_documents_are_archives_that_say_so(self):
         documents = self.keep_all()
-        self.assertEqual({pdf.name: words_about(pdf) for pdf in documents}, {pdf.name: [] for pdf in documents})
-        changed = self.folder / "changed"
-        changed.mkdir()
-        self.assertEqual({name: lines for name, lines in
-                          complaints([as_part_1(pdf, changed / pdf.name) for pdf in documents]).items() if lines}, {})
+        self.expect_archives()
         for pdf in documents:
             content = pdf.read_bytes()
             self.assertIn(b"<pdfaid:part>2</pdfaid:part>\n<pdfaid:conformance>A</pdfaid:conformance>", content)
@@ -173,9 +156,7 @@ class Tags(PdfCase):
             name = " ".join(chance.choice(words) for _ in range(count))
             parameters.append(Parameter(f"S-{number:03}", name, str(chance.randrange(10000)),
                                         chance.choice(("", "40.0")), chance.choice(("", "Hz", "ms"))))
-        file = PrintFile("Parameter File", "", "long.prm")
-        write_parameters(file, parameters, (), "")
-        file.write(self.host.temp_folder / "User.tmp")
+        write_user_file(self.host.temp_folder, parameters)
         pdf = self.make_tagged("User")
         tagged = TaggedPdf(pdf)
         self.expect_sound(tagged)
@@ -189,10 +170,7 @@ class Tags(PdfCase):
         self.assertTrue(any(len(pages) > 1 for pages in places), "no cell was cut")
 
     def test_repeated_titles_and_page_numbers_are_not_read(self):
-        parameters = [Parameter(f"S-{number:03}", "Gain", "1", "1", "Hz") for number in range(200)]
-        file = PrintFile("Parameter File", "", "long.prm")
-        write_parameters(file, parameters, (), "")
-        file.write(self.host.temp_folder / "User.tmp")
+        write_user_file(self.host.temp_folder, gains(200))
         tagged = TaggedPdf(self.make_tagged("User"))
         self.assertGreater(len(tagged.pages), 2)
         skipped = [piece.text.strip() for page in tagged.pages for piece in tagged.pieces(page)

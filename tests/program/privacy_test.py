@@ -7,18 +7,16 @@ import unittest
 from pathlib import Path
 
 from call_faults import tracing
-from pdf_case import PROGRAM, PdfCase, files_below
-from pdf_ends import PRINTING
-from print_file import PrintFile, write_parameters
+from pdf_case import PRINTING_MODES, PROGRAM, PdfCase, files_below
 from print_queue import PrintQueue
 from program_case import ProgramCase
-from servo_pack import Parameter
 from session import DIALOG
+from user_file import gains, write_user_file
 
 
 SECRET = b"mother's maiden name: Xylophonia"
 HIDDEN = re.compile(rb"Xylophonia|maiden")
-# What files of pictures begin with; behind each of them the secret follows where the picture would.
+# What files of pictures begin with; the secret follows each of them in place of the picture.
 BEGINNINGS = (b"", b"BM\x96\x00\x00\x00\x00\x00\x00\x00\x36\x00\x00\x00\x28\x00\x00\x00", b"GIF89a", b"\xff\xd8\xff\xe0\x00\x10JFIF\x00",
               b"\x89PNG\r\n\x1a\n\x00\x00\x00\x0dIHDR", b"\x00\x00\x01\x00\x01\x00", b"\xd7\xcd\xc6\x9a\x00\x00", b"\x01\x00\x09\x00\x00\x03",
               b"\x01\x00\x00\x00\x6c\x00\x00\x00" + bytes(32) + b" EMF", b"P6 9 9 255\n", b"II*\x00", b"<svg>", b"/* XPM */")
@@ -72,7 +70,7 @@ class OtherFolders(PdfCase):
         home.mkdir()
         temporary.mkdir()
         self.host.write_cover()
-        for mode in PRINTING:
+        for mode in PRINTING_MODES:
             with self.subTest(mode=mode):
                 self.host.write_data(mode)
                 log = self.folder / "calls"
@@ -122,9 +120,7 @@ class Memory(ProgramCase):
         self.expect_no_dump(session.process)
 
     def test_is_not_dumped_by_the_program_without_windows(self):
-        file = PrintFile("Parameter File", "", "")
-        write_parameters(file, [Parameter(f"S-{n}", "Gain", str(n), "100", "Hz") for n in range(16000)], [], "")
-        file.write(self.host.temp_folder / "User.tmp")
+        write_user_file(self.host.temp_folder, gains(16000))
         with subprocess.Popen([*self.MAY_DUMP, PROGRAM, "--progress", "User", "1", str(self.folder / "a.pdf")],
                               env={**os.environ, "TARVIS_CONFIG": str(self.host.configuration)}, stderr=subprocess.PIPE) as process:
             process.stderr.read(1)

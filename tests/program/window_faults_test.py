@@ -11,10 +11,10 @@ import unittest
 from collections import Counter
 from pathlib import Path
 
-from call_faults import CALL, ERRORS, Moment
+from call_faults import CALL, ERRORS, Moment, tracing
+from leftovers import age_leftovers
 from program_case import ProgramCase
 from desktop import wait_until
-from kills_test import age_leftovers
 from pdf_ends import EVERY
 from session import DIALOG, PREVIEW
 
@@ -29,10 +29,9 @@ MIDDLE = 600, 500  # of the pages in the preview, in pixels
 
 @contextlib.contextmanager
 def watched(process, *options, log=os.devnull):
-    """Meanwhile strace watches all threads of a program that runs already, or is told to let calls fail. The numbers of
+    """Meanwhile strace watches all threads of a program that runs already, or lets calls of it fail. The numbers of
     calls count from here."""
-    with subprocess.Popen(["strace", "-f", "-qqq", "-e", f"trace={','.join(ON_FILES)}", "-e", "signal=none", *options,
-                           "-o", str(log), "-p", str(process.pid)]) as strace:
+    with subprocess.Popen([*tracing(*options, call=",".join(ON_FILES), log=log), "-p", str(process.pid)]) as strace:
         wait_until(lambda: _is_traced(process.pid), "strace to watch the program")
         try:
             yield

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "functions/user/digit_list.h"
+#include "report/reading_line.h"
 #include "text/text.h"
 
 namespace tarvis {
@@ -33,9 +34,8 @@ void rptUserPrm::DescribeDigitBlock() {
   txtValueNo.Reads.As = PartRole::None;
   txtValueNoReal.Reads.SpansLines = true;
   for (std::size_t group = 0; group < Groups; ++group) {
-    txtPos[group]->Reads.Line = static_cast<std::uint8_t>(1 + 2 * group);
-    for (Field* field : {txtValueBitValue[group], txtValueBitName[group]})
-      field->Reads.Line = static_cast<std::uint8_t>(2 + 2 * group);
+    ReadOnLine(2 * group + 1, {txtPos[group]});
+    ReadOnLine(2 * group + 2, {txtValueBitValue[group], txtValueBitName[group]});
   }
 }
 

@@ -1,6 +1,7 @@
 #include "functions/user/rptUserSwitch.h"
 
 #include "functions/user/digit_list.h"
+#include "report/reading_line.h"
 
 namespace tarvis {
 namespace {
@@ -23,10 +24,8 @@ rptUserSwitch::rptUserSwitch(ReportContext context)
 void rptUserSwitch::DescribeRows() {
   txtValueNo.Reads.SpansLines = true;
   txtValueName.Reads.Columns = 2;
-  for (std::size_t row = 0; row < Rows; ++row) {
-    for (Field* field : {txtPos[row], txtValueBitName[row], txtValueBitVal[row], txtValueBitDefault[row]})
-      field->Reads.Line = static_cast<std::uint8_t>(row + 1);
-  }
+  for (std::size_t row = 0; row < Rows; ++row)
+    ReadOnLine(row + 1, {txtPos[row], txtValueBitName[row], txtValueBitVal[row], txtValueBitDefault[row]});
 }
 
 void rptUserSwitch::ActiveReport_ReportStart() {

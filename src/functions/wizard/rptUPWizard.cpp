@@ -1,6 +1,7 @@
 #include "functions/wizard/rptUPWizard.h"
 
 #include "report/picture_file.h"
+#include "report/reading_line.h"
 
 namespace tarvis {
 namespace {
@@ -36,17 +37,12 @@ rptUPWizard::rptUPWizard(ReportContext context)
 
 // Each relay with its number and its name, then each output; an output number belongs to two names.
 void rptUPWizard::OrderReading() {
-  std::uint8_t line = 0;
-  for (std::size_t index = 0; index < Relays; ++index) {
-    ++line;
-    for (Control* control : {static_cast<Control*>(imgRy[index]), static_cast<Control*>(txtRyNumber[index]),
-                             static_cast<Control*>(txtRyName[index])})
-      control->Reads.Line = line;
-  }
+  std::size_t line = 0;
+  for (std::size_t index = 0; index < Relays; ++index)
+    ReadOnLine(++line, {imgRy[index], txtRyNumber[index], txtRyName[index]});
   for (std::size_t index = 0; index < OutNames; ++index) {
-    ++line;
-    if (index % 2 == 0) txtOutNumber[index / 2]->Reads.Line = line;
-    txtOutName[index]->Reads.Line = line;
+    ReadOnLine(++line, {txtOutName[index]});
+    if (index % 2 == 0) ReadOnLine(line, {txtOutNumber[index / 2]});
   }
 }
 

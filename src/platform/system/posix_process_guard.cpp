@@ -50,7 +50,7 @@ void GuardProcess() {
   AskForUtf8();
 }
 
-void ShareMemory() {
+void UseOneMemoryPool() {
 #ifdef __GLIBC__
   mallopt(M_ARENA_MAX, 1);
 #endif

@@ -12,6 +12,6 @@ void GuardProcess();
 
 // Has all threads take their memory from one pool. A pool for each would keep what only one of them needs. To
 // be called before there are threads.
-void ShareMemory();
+void UseOneMemoryPool();
 
 }  // namespace tarvis

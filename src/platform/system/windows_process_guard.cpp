@@ -8,6 +8,6 @@ namespace tarvis {
 void GuardProcess() {}
 
 // There is one pool.
-void ShareMemory() {}
+void UseOneMemoryPool() {}
 
 }  // namespace tarvis

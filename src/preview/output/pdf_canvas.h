@@ -14,6 +14,7 @@
 
 #include "preview/output/pdf_glyphs.h"
 #include "preview/paint/page_painter.h"
+#include "report/engine/units.h"
 
 namespace tarvis {
 
@@ -23,6 +24,11 @@ struct PdfPicture {
   float Width = 0;  // twips
   float Height = 0;
 };
+
+// Height in points of the form that holds a picture `height` twips high.
+inline int PdfPictureHeight(float height) {
+  return static_cast<int>(height / TwipsPerPoint) + 1;
+}
 
 // The pictures of a document, each size of each once.
 class PdfPictures {

@@ -20,7 +20,8 @@ std::string MakePdf(const Document& document, const PdfSheets& sheets, const Pdf
     pdf.Add(document, static_cast<std::size_t>(page));
   }
   std::string bytes = pdf.Finish(document, info);
-  return progress(count, count) ? bytes : std::string();
+  if (!progress(count, count)) return {};
+  return bytes;
 }
 
 QString ExportPdf(const Document& document, const PdfSheets& sheets, const QString& path, const PdfInfo& info,

@@ -11,7 +11,6 @@
 
 #include "preview/paint/report_font.h"
 #include "preview/paint/shaped_line.h"
-#include "report/engine/units.h"
 
 namespace tarvis {
 
@@ -68,10 +67,5 @@ class PdfGlyphs {
   std::array<std::array<bool, 128>, 2> asciiKnown_{};
   std::array<std::unordered_map<char32_t, PdfGlyph>, 2> others_;
 };
-
-// Height in points of the form that holds a picture `height` twips high.
-inline int PdfPictureHeight(float height) {
-  return static_cast<int>(height / TwipsPerPoint) + 1;
-}
 
 }  // namespace tarvis

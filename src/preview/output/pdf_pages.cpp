@@ -56,7 +56,7 @@ QPDFObjectHandle PdfPages::WholeContent(const Document& document, int page) {
   PaintPageTotals(document, static_cast<std::size_t>(page), canvas);
   std::string total = canvas.Finish();
   if (total.empty()) return contents_.at(page);
-  if (tags_ != nullptr) total = FooterDecoration + total + EndOfDecoration;
+  if (tags_ != nullptr) total = FooterDecoration + total + EndOfMarkedContent;
   const auto [known, isNew] = totals_.try_emplace(total);
   if (isNew) known->second = NewStream(total);
   return QPDFObjectHandle::newArray({contents_.at(page), known->second});

@@ -5,6 +5,7 @@
 #include <unordered_map>
 
 #include "preview/output/structure_elements.h"
+#include "preview/paint/page_items.h"
 
 namespace tarvis {
 namespace {
@@ -58,13 +59,11 @@ class CopyOfStructure {
       marksOfBands[marks[number].Band].push_back(static_cast<int>(number));
     found_.assign(marks.size(), QPDFObjectHandle());
     std::unordered_map<std::uint32_t, BandElements> bands;
-    const Page& range = document_.Pages[static_cast<std::size_t>(sheet.Page)];
     std::uint32_t last = 0;
-    for (std::uint32_t index = range.FirstItem; index < range.FirstItem + range.ItemCount; ++index) {
-      const std::uint32_t band = document_.Items[index].Band;
-      if (band == last || !plan_.IsRead(band)) continue;
-      last = band;
-      AddBand(band, marksOfBands[band], bands[band]);
+    for (const Item& item : ItemsOf(document_, static_cast<std::size_t>(sheet.Page))) {
+      if (item.Band == last || !plan_.IsRead(item.Band)) continue;
+      last = item.Band;
+      AddBand(last, marksOfBands[last], bands[last]);
     }
     bands_ = std::move(bands);
     for (const QPDFObjectHandle& element : found_) sheet.Elements.appendItem(element);

@@ -4,6 +4,8 @@
 #include <set>
 #include <utility>
 
+#include "preview/paint/page_items.h"
+
 namespace tarvis {
 namespace {
 
@@ -21,15 +23,13 @@ PdfTagPlan::PdfTagPlan(const Document& document, std::vector<int> pages)
   std::set<SectionOfRun> headers;
   std::uint32_t last = 0;
   for (const int page : pages) {
-    const Page& range = document.Pages[static_cast<std::size_t>(page)];
-    for (std::uint32_t index = range.FirstItem; index < range.FirstItem + range.ItemCount; ++index) {
-      const std::uint32_t band = document.Items[index].Band;
-      if (band == last || isRead_[band]) continue;
-      last = band;
-      const BandLayout& layout = document.Structure.LayoutOf(band);
+    for (const Item& item : ItemsOf(document, static_cast<std::size_t>(page))) {
+      if (item.Band == last || isRead_[item.Band]) continue;
+      last = item.Band;
+      const BandLayout& layout = document.Structure.LayoutOf(last);
       if (IsOfPage(layout)) continue;
       const bool isNew = layout.Role == BandRole::Row || headers.insert({layout.Run, layout.Section}).second;
-      isRead_[band] = isNew || !layout.IsRepeated;
+      isRead_[last] = isNew || !layout.IsRepeated;
     }
   }
 }

@@ -28,6 +28,7 @@ class PdfTagPlan {
 // How content marks what belongs to no item: fills, borders, lines; and what is at the foot of each page.
 inline constexpr const char* PlainDecoration = "/Artifact BMC\n";
 inline constexpr const char* FooterDecoration = "/Artifact<</Type/Pagination/Subtype/Footer>>BDC\n";
-inline constexpr const char* EndOfDecoration = "EMC\n";
+// The end of these and of all other marked content.
+inline constexpr const char* EndOfMarkedContent = "EMC\n";
 
 }  // namespace tarvis

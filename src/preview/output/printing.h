@@ -3,8 +3,8 @@
 
 #include <QSizeF>
 #include <QString>
+#include <vector>
 
-#include "preview/output/background_job.h"
 #include "preview/output/pdf_export.h"
 #include "report/engine/document.h"
 

@@ -7,8 +7,6 @@
 #include <tuple>
 #include <vector>
 
-#include "report/engine/units.h"
-
 namespace tarvis {
 
 // An element that holds other ones. A copy is the same element.

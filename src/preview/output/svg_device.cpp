@@ -2,8 +2,8 @@
 
 #include <limits>
 
-#include "preview/output/pdf_numbers.h"
 #include "preview/output/svg_engine.h"
+#include "preview/output/svg_inks.h"
 #include "preview/paint/toolkit_geometry.h"
 
 namespace tarvis {
@@ -29,19 +29,12 @@ QPaintEngine* SvgDevice::paintEngine() const {
 }
 
 std::string SvgDevice::File(const QString& title, const QString& description) const {
-  const auto number = [](double value) {
-    std::string text;
-    AppendNumber(text, value);
-    text.pop_back();
-    return text;
-  };
-  const std::string width = number(size_.width()), height = number(size_.height());
   std::string file = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
   file +=
       R"(<svg xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink" version="1.1")";
-  file += " width=\"" + number(size_.width() / DotsPerInch * MillimetresPerInch) + "mm\"";
-  file += " height=\"" + number(size_.height() / DotsPerInch * MillimetresPerInch) + "mm\"";
-  file += " viewBox=\"0 0 " + width + ' ' + height + "\">\n";
+  file += " width=\"" + SvgNumber(size_.width() / DotsPerInch * MillimetresPerInch) + "mm\"";
+  file += " height=\"" + SvgNumber(size_.height() / DotsPerInch * MillimetresPerInch) + "mm\"";
+  file += " viewBox=\"0 0 " + SvgNumber(size_.width()) + ' ' + SvgNumber(size_.height()) + "\">\n";
   file += "<title>" + Escaped(title) + "</title>\n";
   if (!description.isEmpty()) file += "<desc>" + Escaped(description) + "</desc>\n";
   file += "<defs>\n" + engine_->Definitions() + "</defs>\n" + engine_->Content() + "</svg>\n";

@@ -3,8 +3,6 @@
 #include <QImage>
 #include <QPixmap>
 
-#include "preview/output/pdf_numbers.h"
-
 namespace tarvis {
 namespace {
 

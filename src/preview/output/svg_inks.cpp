@@ -11,13 +11,6 @@ namespace {
 
 constexpr int TileSide = 8;  // pixels of the toolkit's own patterns
 
-std::string Number(double value) {
-  std::string text;
-  AppendNumber(text, value);
-  text.pop_back();
-  return text;
-}
-
 // Matrices and opacities need more than the two decimals of places.
 std::string Fine(double value) {
   return QByteArray::number(value, 'g', 7).toStdString();
@@ -56,6 +49,13 @@ QImage TileOf(const QBrush& brush) {
 }
 
 }  // namespace
+
+std::string SvgNumber(double value) {
+  std::string text;
+  AppendNumber(text, value);
+  text.pop_back();
+  return text;
+}
 
 std::string SvgPath(const QPainterPath& path) {
   std::string data;
@@ -105,21 +105,23 @@ std::string SvgInks::Gradient(const QBrush& brush) {
                        SvgTransform("gradientTransform", brush.transform());
   if (gradient.type() == QGradient::RadialGradient) {
     const auto& radial = static_cast<const QRadialGradient&>(gradient);
-    places += Attribute("cx", Number(radial.center().x())) + Attribute("cy", Number(radial.center().y())) +
-              Attribute("r", Number(radial.radius())) + Attribute("fx", Number(radial.focalPoint().x())) +
-              Attribute("fy", Number(radial.focalPoint().y()));
+    places += Attribute("cx", SvgNumber(radial.center().x())) +
+              Attribute("cy", SvgNumber(radial.center().y())) + Attribute("r", SvgNumber(radial.radius())) +
+              Attribute("fx", SvgNumber(radial.focalPoint().x())) +
+              Attribute("fy", SvgNumber(radial.focalPoint().y()));
     return Define("radialGradient", places + '>' + Stops(gradient));
   }
   const auto& linear = static_cast<const QLinearGradient&>(gradient);
-  places += Attribute("x1", Number(linear.start().x())) + Attribute("y1", Number(linear.start().y())) +
-            Attribute("x2", Number(linear.finalStop().x())) + Attribute("y2", Number(linear.finalStop().y()));
+  places += Attribute("x1", SvgNumber(linear.start().x())) + Attribute("y1", SvgNumber(linear.start().y())) +
+            Attribute("x2", SvgNumber(linear.finalStop().x())) +
+            Attribute("y2", SvgNumber(linear.finalStop().y()));
   return Define("linearGradient", places + '>' + Stops(gradient));
 }
 
 std::string SvgInks::Pattern(const QBrush& brush) {
   const QImage tile = TileOf(brush);
   const std::string size =
-      Attribute("width", Number(tile.width())) + Attribute("height", Number(tile.height()));
+      Attribute("width", SvgNumber(tile.width())) + Attribute("height", SvgNumber(tile.height()));
   return Define("pattern", Attribute("patternUnits", "userSpaceOnUse") + size +
                                SvgTransform("patternTransform", brush.transform()) + "><image" + size +
                                SvgImage(tile) + "/>");
@@ -141,7 +143,7 @@ std::string SvgInks::Fill(const QBrush& brush, double opacity) {
 std::string SvgInks::Stroke(const QPen& pen, double opacity) {
   if (pen.style() == Qt::NoPen) return {};
   const double width = pen.widthF() > 0 ? pen.widthF() : 1;
-  std::string text = Paint("stroke", pen.brush(), opacity) + Attribute("stroke-width", Number(width));
+  std::string text = Paint("stroke", pen.brush(), opacity) + Attribute("stroke-width", SvgNumber(width));
   if (pen.capStyle() != Qt::FlatCap)
     text += Attribute("stroke-linecap", pen.capStyle() == Qt::RoundCap ? "round" : "square");
   if (pen.joinStyle() == Qt::RoundJoin) text += Attribute("stroke-linejoin", "round");
@@ -151,7 +153,7 @@ std::string SvgInks::Stroke(const QPen& pen, double opacity) {
   for (const double dash : pen.dashPattern()) AppendNumber(dashes, dash * width);
   dashes.pop_back();
   return text + Attribute("stroke-dasharray", dashes) +
-         Attribute("stroke-dashoffset", Number(pen.dashOffset() * width));
+         Attribute("stroke-dashoffset", SvgNumber(pen.dashOffset() * width));
 }
 
 }  // namespace tarvis

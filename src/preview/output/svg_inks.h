@@ -10,6 +10,9 @@
 
 namespace tarvis {
 
+// A length, as precise as a page needs it.
+std::string SvgNumber(double value);
+
 // The data of a path element.
 std::string SvgPath(const QPainterPath& path);
 

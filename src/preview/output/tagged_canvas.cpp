@@ -33,7 +33,7 @@ void TaggedCanvas::OnPaths() {
 }
 
 void TaggedCanvas::OnEndOfPaths() {
-  if (open_ == nullptr) Add("EMC\n");
+  if (open_ == nullptr) Add(EndOfMarkedContent);
 }
 
 // Marked content must not begin outside a text object and end inside. So that of a text is opened and closed
@@ -73,7 +73,7 @@ void TaggedCanvas::Open(const Item& item) {
 
 void TaggedCanvas::Close() {
   if (open_ == nullptr) return;
-  Add("EMC\n");
+  Add(EndOfMarkedContent);
   open_ = nullptr;
 }
 

@@ -21,14 +21,6 @@ QString Translated(const char* text) {
 
 }  // namespace
 
-bool CanBeReplaced(const std::filesystem::path& path) {
-  std::error_code ignored;  // what can't be looked at can't be replaced
-  const bool isLink = std::filesystem::is_symlink(path, ignored);
-  const std::filesystem::file_type type = std::filesystem::status(path, ignored).type();
-  return type == std::filesystem::file_type::regular ||
-         (type == std::filesystem::file_type::not_found && !isLink);
-}
-
 QString WriteWholeFile(std::string_view bytes, const std::filesystem::path& path) {
   const QString name = QString::fromStdString(path.string());
   if (!CanBeReplaced(path))

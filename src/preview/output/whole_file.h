@@ -7,9 +7,6 @@
 
 namespace tarvis {
 
-// Whether a file may replace what is at `path`: only nothing, or an ordinary file, also through a link.
-[[nodiscard]] bool CanBeReplaced(const std::filesystem::path& path);
-
 // Writes a file whole or not at all, so that nothing is lost on a failure. Returns an error text for the
 // user, empty if all is well.
 [[nodiscard]] QString WriteWholeFile(std::string_view bytes, const std::filesystem::path& path);

@@ -2,9 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <cassert>
 #include <cstddef>
 #include <limits>
+
+#include "preview/paint/page_items.h"
 
 namespace tarvis {
 namespace {
@@ -135,10 +136,7 @@ void AddTo(PageLayer& layer, const Item& item) {
 std::vector<PageLayer> PlanPage(const Document& document, std::size_t page) {
   std::vector<PageLayer> layers(1);
   PaintedPlaces painted(document.Setup.Height);
-  assert(page < document.Pages.size());
-  const Page& range = document.Pages[page];
-  for (std::uint32_t index = range.FirstItem; index < range.FirstItem + range.ItemCount; ++index) {
-    const Item& item = document.Items[index];
+  for (const Item& item : ItemsOf(document, page)) {
     if (IsOpaque(item) && painted.WouldCover(item)) {
       layers.emplace_back();
       painted.Clear();

@@ -3,18 +3,14 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <span>
 #include <utility>
 
+#include "preview/paint/page_items.h"
 #include "preview/paint/toolkit_geometry.h"
 #include "preview/text/text_geometry.h"
 
 namespace tarvis {
 namespace {
-
-std::span<const Item> ItemsOf(const Document& document, const Page& page) {
-  return std::span(document.Items).subspan(page.FirstItem, page.ItemCount);
-}
 
 bool IsFrame(const Item& item) {
   return item.Kind == ItemKind::Box && item.Weight > 0;
@@ -53,7 +49,7 @@ Stretch PartAround(const Document& document, int page, double top) {
 const Item* ColumnSelection::FrameAt(int page, QPointF point) const {
   const Item* best = nullptr;
   const auto area = [](const Item& item) { return item.Box.Width * item.Box.Height; };
-  for (const Item& item : ItemsOf(document_, document_.Pages[static_cast<std::size_t>(page)])) {
+  for (const Item& item : ItemsOf(document_, static_cast<std::size_t>(page))) {
     if (!IsFrame(item) || !ToRectF(item.Box).contains(point)) continue;
     if (best == nullptr || area(item) < area(*best)) best = &item;
   }
@@ -73,25 +69,22 @@ void ColumnSelection::Select(int page, QPointF point) {
 }
 
 void ColumnSelection::AddPage(int page, const Item& model, double from, double to) {
-  const Page& range = document_.Pages[static_cast<std::size_t>(page)];
-  for (const Item& item : ItemsOf(document_, range)) {
+  for (const Item& item : ItemsOf(document_, static_cast<std::size_t>(page))) {
     const double top = item.Box.Top;
-    if (!IsInColumn(item, model) || top < from || top >= to) continue;
-    cells_.push_back({page, ToRectF(item.Box), TextIn(range, item), item.OpenTop});
+    if (IsInColumn(item, model) && top >= from && top < to) cells_.push_back({page, &item});
   }
 }
 
 // The text of a cell may come from another control than its frame.
-QString ColumnSelection::TextIn(const Page& page, const Item& frame) const {
+QString ColumnSelection::TextIn(const Cell& cell) const {
+  const QRectF frame = ToRectF(cell.Frame->Box);
   QString text;
-  for (const Item& item : ItemsOf(document_, page)) {
+  for (const Item& item : ItemsOf(document_, static_cast<std::size_t>(cell.Page))) {
     const bool isRead = item.Kind == ItemKind::Text || item.Kind == ItemKind::Tick;
-    const bool isInside = ToRectF(frame.Box).contains(ToRectF(item.Box).center());
-    if (!isRead || item.Band != frame.Band || !isInside) continue;
+    if (!isRead || item.Band != cell.Frame->Band || !frame.contains(ToRectF(item.Box).center())) continue;
     if (!text.isEmpty()) text += QLatin1Char(' ');
     const auto index = static_cast<std::uint32_t>(&item - document_.Items.data());
-    const std::string_view line = TextOf(document_, ReadPiece{.Item = index});
-    text += QString::fromUtf8(line.data(), static_cast<qsizetype>(line.size()));
+    text += StringOf(document_, ReadPiece{.Item = index});
   }
   return text;
 }
@@ -99,7 +92,7 @@ QString ColumnSelection::TextIn(const Page& page, const Item& frame) const {
 std::vector<QRectF> ColumnSelection::Boxes(int page) const {
   std::vector<QRectF> boxes;
   for (const Cell& cell : cells_) {
-    if (cell.Page == page) boxes.push_back(cell.Box);
+    if (cell.Page == page) boxes.push_back(ToRectF(cell.Frame->Box));
   }
   return boxes;
 }
@@ -107,10 +100,12 @@ std::vector<QRectF> ColumnSelection::Boxes(int page) const {
 CopiedRows ColumnSelection::Rows() const {
   CopiedRows rows;
   for (const Cell& cell : cells_) {
-    if (cell.GoesOn && !rows.empty()) {
-      rows.back().Cells.back() = (rows.back().Cells.back() + QLatin1Char(' ') + cell.Text).trimmed();
+    const QString text = TextIn(cell);
+    // The rest of a cell that the end of the page before has cut.
+    if (cell.Frame->OpenTop && !rows.empty()) {
+      rows.back().Cells.back() = (rows.back().Cells.back() + QLatin1Char(' ') + text).trimmed();
     } else {
-      rows.push_back({{cell.Text}});
+      rows.push_back({{text}});
     }
   }
   return rows;

@@ -28,17 +28,14 @@ class ColumnSelection {
   [[nodiscard]] CopiedRows Rows() const;
 
  private:
-  // A frame and what is printed in it.
   struct Cell {
     int Page = 0;
-    QRectF Box;
-    QString Text;
-    bool GoesOn = false;  // it is the rest of a cell that the end of the page before has cut
+    const Item* Frame = nullptr;
   };
 
   const Item* FrameAt(int page, QPointF point) const;
   void AddPage(int page, const Item& model, double from, double to);
-  QString TextIn(const Page& page, const Item& frame) const;
+  QString TextIn(const Cell& cell) const;
 
   const Document& document_;
   std::vector<Cell> cells_;

@@ -27,8 +27,7 @@ void LinearText::Read() {
     const std::vector<ReadPiece>& pieces = source_.Page(page).Pieces;
     for (std::size_t index = 0; index < pieces.size(); ++index) {
       text_ += Separator(pieces[index], pieces_.empty());
-      const std::string_view words = TextOf(source_.Source(), pieces[index]);
-      const QString text = QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size()));
+      const QString text = StringOf(source_.Source(), pieces[index]);
       pieces_.push_back({page, index, static_cast<int>(text_.size()), static_cast<int>(text.size())});
       text_ += text;
     }

@@ -146,6 +146,15 @@ std::string_view TextOf(const Document& document, const ReadPiece& piece) {
   return document.Texts[item.Source].Text;
 }
 
+QString StringOf(const Document& document, const ReadPiece& piece) {
+  const std::string_view text = TextOf(document, piece);
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+bool IsWordCharacter(char32_t character) {
+  return QChar::isLetterOrNumber(character) || character == U'_';
+}
+
 QRectF BoxOfLine(const Document& document, const ReadPiece& piece) {
   if (!IsInPicture(piece)) return ToRectF(document.Items[piece.Item].Box);
   return PlacedText(document, piece).Box();

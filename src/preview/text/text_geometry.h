@@ -4,6 +4,7 @@
 
 #include <QPointF>
 #include <QRectF>
+#include <QString>
 #include <string_view>
 #include <vector>
 
@@ -13,6 +14,11 @@ namespace tarvis {
 
 // UTF-8; lives as long as the document.
 std::string_view TextOf(const Document& document, const ReadPiece& piece);
+// The same as a string of the toolkit.
+QString StringOf(const Document& document, const ReadPiece& piece);
+
+// Whether a character is part of a word, both for selecting words and for finding whole ones.
+bool IsWordCharacter(char32_t character);
 
 // The box of the whole line.
 QRectF BoxOfLine(const Document& document, const ReadPiece& piece);

@@ -25,14 +25,11 @@ QString ToString(const std::u16string& units) {
   return QString::fromUtf16(units.data(), static_cast<qsizetype>(units.size()));
 }
 
-bool IsWordCharacter(QChar character) {
-  return character.isLetterOrNumber() || character == QLatin1Char('_');
-}
-
 bool IsWholeWord(const QString& text, qsizetype start, qsizetype length) {
   const qsizetype end = start + length;
-  const bool startsInside = start > 0 && IsWordCharacter(text[start - 1]) && IsWordCharacter(text[start]);
-  const bool endsInside = end < text.size() && IsWordCharacter(text[end]) && IsWordCharacter(text[end - 1]);
+  const auto isWord = [&text](qsizetype index) { return IsWordCharacter(text[index].unicode()); };
+  const bool startsInside = start > 0 && isWord(start - 1) && isWord(start);
+  const bool endsInside = end < text.size() && isWord(end) && isWord(end - 1);
   return !startsInside && !endsInside;
 }
 

@@ -11,8 +11,7 @@ namespace tarvis {
 namespace {
 
 QList<uint> CharactersOf(const Document& document, const ReadPiece& piece) {
-  const std::string_view text = TextOf(document, piece);
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).toUcs4();
+  return StringOf(document, piece).toUcs4();
 }
 
 // How far `point` is from `box`; beside its line counts as nearer than above or below.
@@ -21,10 +20,6 @@ double Distance(const QRectF& box, QPointF point) {
   const double across = std::max({box.left() - point.x(), point.x() - box.right(), 0.0});
   const double down = std::max({box.top() - point.y(), point.y() - box.bottom(), 0.0});
   return across + LineWeight * down;
-}
-
-bool IsWordCharacter(uint character) {
-  return QChar::isLetterOrNumber(character) || character == U'_';
 }
 
 // Adds the text of a piece to the rows where it belongs.

@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QMimeData>
 #include <memory>
+#include <utility>
 
 namespace tarvis {
 namespace {

@@ -1,8 +1,6 @@
 // What is copied, on the clipboard in all forms that other programs may take.
 #pragma once
 
-#include <QImage>
-
 #include "preview/output/graph_forms.h"
 #include "preview/text/copied_rows.h"
 

@@ -23,7 +23,6 @@ class Finder : public QObject {
   // The marks of a page; the current hit has a colour of its own.
   std::vector<Highlight> Marks(int page) const;
   const std::vector<SearchHit>& Hits() const { return hits_; }
-  int Current() const { return current_; }
   // Shows a hit by its number, counted from 0.
   void GoTo(int hit);
 

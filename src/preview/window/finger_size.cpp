@@ -1,6 +1,6 @@
 #include "preview/window/finger_size.h"
 
-#include <QPointingDevice>
+#include <QInputDevice>
 #include <QToolBar>
 #include <QToolButton>
 #include <algorithm>

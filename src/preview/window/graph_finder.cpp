@@ -1,8 +1,7 @@
 #include "preview/window/graph_finder.h"
 
-#include <span>
-
 #include "preview/pages/page_places.h"
+#include "preview/paint/page_items.h"
 #include "preview/paint/toolkit_geometry.h"
 
 namespace tarvis {
@@ -16,16 +15,11 @@ bool IsGraph(const Document& document, const Item& item) {
          item.Box.Width < WidestGraph * item.Box.Height;
 }
 
-std::span<const Item> ItemsOf(const Document& document, int page) {
-  const Page& range = document.Pages[static_cast<std::size_t>(page)];
-  return std::span(document.Items).subspan(range.FirstItem, range.ItemCount);
-}
-
 }  // namespace
 
 std::optional<PlacedGraph> GraphAt(const Document& document, const PageView::Spot& spot) {
   if (spot.Page < 0) return {};
-  for (const Item& item : ItemsOf(document, spot.Page)) {
+  for (const Item& item : ItemsOf(document, static_cast<std::size_t>(spot.Page))) {
     if (IsGraph(document, item) && ToRectF(item.Box).contains(spot.Point))
       return PlacedGraph{spot.Page, &item};
   }
@@ -37,7 +31,7 @@ std::optional<PlacedGraph> GraphInSight(const Document& document, const PageView
   std::optional<PlacedGraph> best;
   double largest = 0;
   for (const int page : PagesInSight(view)) {
-    for (const Item& item : ItemsOf(document, page)) {
+    for (const Item& item : ItemsOf(document, static_cast<std::size_t>(page))) {
       if (!IsGraph(document, item)) continue;
       const QRectF part = PlaceInView(view, page, ToRectF(item.Box)) & seen;
       if (part.width() * part.height() <= largest) continue;

@@ -34,8 +34,7 @@ class HitModel : public QAbstractListModel {
     QString row;
     for (std::size_t piece = first; piece < pieces.size(); ++piece) {
       if (piece > first && pieces[piece].Before == Join::Line) break;
-      const std::string_view words = TextOf(text_.Source(), pieces[piece]);
-      row += QString::fromUtf8(words.data(), static_cast<qsizetype>(words.size())) + QLatin1Char(' ');
+      row += StringOf(text_.Source(), pieces[piece]) + QLatin1Char(' ');
     }
     return row.simplified();
   }
@@ -61,7 +60,7 @@ void HitList::ShowHits(const std::vector<SearchHit>& hits) {
 }
 
 void HitList::ShowCurrent(int hit) {
-  if (hit >= 0) mark_->Show(model_->index(hit));
+  mark_->Show(model_->index(hit));
 }
 
 // Walking through the list by keys shows each place.

@@ -18,7 +18,7 @@ class HitList : public QListView {
 
   // `hits` must stay as they are until the next call.
   void ShowHits(const std::vector<SearchHit>& hits);
-  // Marks one of them, or none below 0.
+  // Marks one of them.
   void ShowCurrent(int hit);
 
  signals:

@@ -5,7 +5,7 @@
 #include <QFileInfo>
 #include <QMessageBox>
 
-#include "preview/output/whole_file.h"
+#include "printfiles/replace_file.h"
 
 namespace tarvis {
 namespace {

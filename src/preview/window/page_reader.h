@@ -1,5 +1,5 @@
-// What assistive tools ask the pages for, and what they are told: the text, the caret, the selection, and on
-// which page one is.
+// What assistive tools ask the pages for and are notified of: the text, the caret, the selection, and the
+// page that is read.
 #pragma once
 
 #include <QObject>

@@ -34,9 +34,10 @@ struct WindowState {
 };
 
 struct PreviewMemory {
-  QString Folder;  // where the last PDF was saved; empty before that
+  QString Folder;  // where the last file was saved; empty before that
+  // What was chosen when a PDF was saved last.
   bool AttachesData = false;
-  bool IsTagged = false;  // what is saved as PDF
+  bool IsTagged = false;
   std::optional<WindowState> Window;
 };
 

@@ -1,4 +1,4 @@
-// The bar at the foot of the window that shows where a PDF was saved.
+// The bar at the foot of the window that shows where a file was saved.
 #pragma once
 
 #include <QWidget>

@@ -1,6 +1,5 @@
 #include "preview/window/side_pane.h"
 
-#include <QHeaderView>
 #include <QStyledItemDelegate>
 #include <QTreeWidget>
 

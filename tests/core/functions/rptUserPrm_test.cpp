@@ -5,14 +5,13 @@
 #include <gtest/gtest.h>
 
 #include "support/report_run.h"
+#include "support/switch_digits.h"
 
 namespace tarvis {
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-const SwitchDigit NoDigit{"0", "0", "", "", ""};
 
 void AddParameter(UserData& user, const std::string& number, const std::string& name = "Speed loop gain") {
   const int index = user.UserNum++;
@@ -24,10 +23,6 @@ void AddSwitch(UserData& user, const std::string& number, const std::array<Switc
   const int index = user.SwitchNum++;
   user.Switches.ResizeKeeping(user.SwitchNum);
   user.Switches[index] = {number, "0011", "0011", "Basic function", digits};
-}
-
-SwitchDigit Digit(const std::string& first, const std::string& count, const std::string& text) {
-  return {first, count, "1", "0", text};
 }
 
 const SwitchDigit Direction = Digit("0", "1", "Direction\r\n0:Counterclockwise");

@@ -7,6 +7,7 @@
 #include "support/golden.h"
 #include "support/report_run.h"
 #include "support/structure_text.h"
+#include "support/switch_digits.h"
 
 namespace tarvis {
 namespace {
@@ -15,16 +16,12 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 constexpr float Row = 630 + 515;  // title band, guide whose "Digit Position" takes two lines
-const SwitchDigit UnusedDigit{"0", "0", "", "", ""};
 
 struct SwitchList : testing::Test {
   void Add(const std::string& number, const std::array<SwitchDigit, 4>& digits) {
     const int index = User.SwitchNum++;
     User.Switches.ResizeKeeping(User.SwitchNum);
     User.Switches[index] = {number, "0011", "0010", "Basic function", digits};
-  }
-  static SwitchDigit Digit(const std::string& first, const std::string& count, const std::string& text) {
-    return {first, count, "1", "0", text};
   }
   Document Compose() { return Report.ComposeAlone("rptUserSwitch"); }
 
@@ -39,7 +36,7 @@ Rect BoxOf(const Document& document, const std::string& control, std::size_t ind
 }
 
 TEST_F(SwitchList, IsReachedByItsNameAndEntersTheContentsAtTopLevel) {
-  Add("Pn000", {Digit("0", "1", "Direction"), UnusedDigit, UnusedDigit, UnusedDigit});
+  Add("Pn000", {Digit("0", "1", "Direction"), NoDigit, NoDigit, NoDigit});
   Session.TocGroup = "Overlapping target";
   const Document document = Compose();
   ASSERT_EQ(document.Contents.size(), 1U);
@@ -47,7 +44,7 @@ TEST_F(SwitchList, IsReachedByItsNameAndEntersTheContentsAtTopLevel) {
 }
 
 TEST_F(SwitchList, TwoDigitGroupsMakeAParameterLineAndTwoRows) {
-  Add("Pn000", {Digit("0", "1", "Direction"), Digit("2", "2", "Method"), UnusedDigit, UnusedDigit});
+  Add("Pn000", {Digit("0", "1", "Direction"), Digit("2", "2", "Method"), NoDigit, NoDigit});
   const Document document = Compose();
   EXPECT_EQ(BoxOf(document, "txtValueNo"), (Rect{135, Row + 8, 855, 285 + 2 * 570}));
   EXPECT_EQ(BoxOf(document, "txtPos0"), (Rect{990, Row + 293, 855, 570}));
@@ -57,22 +54,22 @@ TEST_F(SwitchList, TwoDigitGroupsMakeAParameterLineAndTwoRows) {
 }
 
 TEST_F(SwitchList, ReadsAsAPage) {
-  Add("Pn000", {Digit("0", "1", "Direction\r\n1:Clockwise"), Digit("1", "2", "Control Method"), UnusedDigit,
-                UnusedDigit});
-  Add("Pn001", {UnusedDigit, UnusedDigit, UnusedDigit, UnusedDigit});
+  Add("Pn000",
+      {Digit("0", "1", "Direction\r\n1:Clockwise"), Digit("1", "2", "Control Method"), NoDigit, NoDigit});
+  Add("Pn001", {NoDigit, NoDigit, NoDigit, NoDigit});
   ExpectGolden("user_switch", Dump(Compose()));
   ExpectGolden("user_switch_structure", StructureOf(Compose()));
 }
 
 TEST_F(SwitchList, PrintsDescriptionsWhole) {
-  Add("Pn000", {Digit("0", "1", "Direction\r\n0:Forward"), UnusedDigit, UnusedDigit, UnusedDigit});
+  Add("Pn000", {Digit("0", "1", "Direction\r\n0:Forward"), NoDigit, NoDigit, NoDigit});
   EXPECT_THAT(PrintedOf(Compose(), "txtValueBit0Name")[0].Texts, ElementsAre("Direction", "0:Forward"));
 }
 
 TEST_F(SwitchList, ALongDescriptionRunsIntoTheRowBelow) {
   std::string text;
   for (int line = 0; line < 5; ++line) text += "line\r\n";
-  Add("Pn000", {Digit("0", "1", text), Digit("1", "1", "Method"), UnusedDigit, UnusedDigit});
+  Add("Pn000", {Digit("0", "1", text), Digit("1", "1", "Method"), NoDigit, NoDigit});
   const Document document = Compose();
   EXPECT_EQ(BoxOf(document, "txtValueBit0Name").Height, 950);
   EXPECT_EQ(BoxOf(document, "txtPos0").Height, 950) << "the row's cells are as high as its description";
@@ -83,7 +80,7 @@ TEST_F(SwitchList, ALongDescriptionRunsIntoTheRowBelow) {
 TEST_F(SwitchList, TheRowsStartAtTheTopAndTheColumnsCloseUpWithoutNames) {
   Session.ShowPrmName = 0;
   Add("Pn000", {Digit("0", "1", "a description so long that it would take several lines if it were shown"),
-                UnusedDigit, UnusedDigit, UnusedDigit});
+                NoDigit, NoDigit, NoDigit});
   const Document document = Compose();
   EXPECT_THAT(PrintedOf(document, "txtValueName"), IsEmpty());
   EXPECT_THAT(PrintedOf(document, "txtValueBit0Name"), IsEmpty());
@@ -97,7 +94,7 @@ TEST_F(SwitchList, TheRowsStartAtTheTopAndTheColumnsCloseUpWithoutNames) {
 
 TEST_F(SwitchList, OneEmptyRowStillPrintsWithoutNamesAndDigits) {
   Session.ShowPrmName = 0;
-  Add("Pn000", {UnusedDigit, UnusedDigit, UnusedDigit, UnusedDigit});
+  Add("Pn000", {NoDigit, NoDigit, NoDigit, NoDigit});
   const Document document = Compose();
   EXPECT_EQ(PrintedOf(document, "txtPos0").size(), 1U);
   EXPECT_EQ(BoxOf(document, "txtValueNo").Height, 570);
@@ -105,7 +102,7 @@ TEST_F(SwitchList, OneEmptyRowStillPrintsWithoutNamesAndDigits) {
 
 TEST_F(SwitchList, ANameSwitchOfTwoShowsNamesButAShortNumberBox) {
   Session.ShowPrmName = 2;
-  Add("Pn000", {Digit("0", "1", "Direction"), UnusedDigit, UnusedDigit, UnusedDigit});
+  Add("Pn000", {Digit("0", "1", "Direction"), NoDigit, NoDigit, NoDigit});
   const Document document = Compose();
   EXPECT_EQ(PrintedOf(document, "txtValueName").size(), 1U);
   EXPECT_EQ(BoxOf(document, "txtValueNo").Height, 570);
@@ -113,7 +110,7 @@ TEST_F(SwitchList, ANameSwitchOfTwoShowsNamesButAShortNumberBox) {
 
 TEST_F(SwitchList, HidesTheDefaults) {
   Session.ShowPrmDefault = 0;
-  Add("Pn000", {Digit("0", "1", "Direction"), Digit("1", "1", "Method"), UnusedDigit, UnusedDigit});
+  Add("Pn000", {Digit("0", "1", "Direction"), Digit("1", "1", "Method"), NoDigit, NoDigit});
   const Document document = Compose();
   for (const char* control :
        {"txtTitleDefault", "txtValueDefault", "txtValueBit0Default", "txtValueBit1Default"}) {
@@ -123,14 +120,14 @@ TEST_F(SwitchList, HidesTheDefaults) {
 
 TEST_F(SwitchList, OldFilesShowFourGroupsWithTheirDesignNumbers) {
   Report.Run.Header.FileSpec = 2;
-  Add("Pn000", {UnusedDigit, UnusedDigit, UnusedDigit, UnusedDigit});
+  Add("Pn000", {NoDigit, NoDigit, NoDigit, NoDigit});
   const Document document = Compose();
   EXPECT_THAT(PrintedOf(document, "txtPos3")[0].Texts, ElementsAre("3"));
 }
 
 TEST_F(SwitchList, ABadNumberKeepsTheTextOfTheRowBefore) {
-  Add("Pn000", {Digit("4", "1", "Direction"), UnusedDigit, UnusedDigit, UnusedDigit});
-  Add("Pn001", {Digit("x", "1", "Direction"), UnusedDigit, UnusedDigit, UnusedDigit});
+  Add("Pn000", {Digit("4", "1", "Direction"), NoDigit, NoDigit, NoDigit});
+  Add("Pn001", {Digit("x", "1", "Direction"), NoDigit, NoDigit, NoDigit});
   const auto positions = PrintedOf(Compose(), "txtPos0");
   ASSERT_EQ(positions.size(), 2U);
   EXPECT_THAT(positions[1].Texts, ElementsAre("4"));
@@ -138,7 +135,7 @@ TEST_F(SwitchList, ABadNumberKeepsTheTextOfTheRowBefore) {
 
 TEST_F(SwitchList, TheNumberBoxOfALaterRowDependsOnThatRowOnly) {
   Add("Pn000", {Digit("0", "1", "a"), Digit("1", "1", "b"), Digit("2", "1", "c"), Digit("3", "1", "d")});
-  Add("Pn001", {Digit("0", "1", "a"), UnusedDigit, UnusedDigit, UnusedDigit});
+  Add("Pn001", {Digit("0", "1", "a"), NoDigit, NoDigit, NoDigit});
   const Document document = Compose();
   EXPECT_EQ(BoxOf(document, "txtValueNo", 0).Height, 285 + 4 * 570);
   EXPECT_EQ(BoxOf(document, "txtValueNo", 1).Height, 285 + 570);
@@ -187,7 +184,7 @@ TEST_F(SwitchList, EachRowFollowsBelowTheOneBeforeWithoutNames) {
 }
 
 TEST_F(SwitchList, AnythingButZeroShowsNamesAndDefaults) {
-  Add("Pn000", {Digit("0", "1", "Direction"), Digit("1", "1", "Method"), UnusedDigit, UnusedDigit});
+  Add("Pn000", {Digit("0", "1", "Direction"), Digit("1", "1", "Method"), NoDigit, NoDigit});
   for (const int shown : {2, -1}) {
     Session.ShowPrmName = Session.ShowPrmDefault = static_cast<std::int16_t>(shown);
     const Document document = Compose();
@@ -203,7 +200,7 @@ TEST_F(SwitchList, AnythingButZeroShowsNamesAndDefaults) {
 
 TEST_F(SwitchList, RepeatsItsGuideOnEachPage) {
   for (int index = 0; index < 30; ++index) {
-    Add("Pn" + std::to_string(index), {Digit("0", "1", "Direction"), UnusedDigit, UnusedDigit, UnusedDigit});
+    Add("Pn" + std::to_string(index), {Digit("0", "1", "Direction"), NoDigit, NoDigit, NoDigit});
   }
   const Document document = Compose();
   EXPECT_EQ(document.Pages.size(), 2U);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/host_run.h"
+#include "support/switch_digits.h"
 
 namespace tarvis {
 namespace {
@@ -26,9 +27,6 @@ struct ParameterColumns : testing::Test {
     for (std::size_t group = 0; group < 4; ++group) {
       User.Switches[index].Digit[group] = group < digits.size() ? digits[group] : Digit("0", "0", "");
     }
-  }
-  static SwitchDigit Digit(const std::string& first, const std::string& count, const std::string& text) {
-    return {first, count, "1", "0", text};
   }
   Document Compose() { return Report.ComposeAlone("rptUserPrm"); }
   static Rect BoxOf(const Document& document, const std::string& control, std::size_t row = 0) {

@@ -1,6 +1,5 @@
 // What the composer records of a document for those who can't see its pages: roles of bands and controls,
 // tables, repetitions.
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "support/sample_report.h"
@@ -27,6 +26,11 @@ Section& AddRows(SampleReport& report) {
   return rows;
 }
 
+// Paper that is long enough for all of it.
+std::string StructureOnOnePage(ActiveReport& report) {
+  return StructureOf(ComposeSample(report, 5000));
+}
+
 TEST(EngineStructure, TellsTitlesOfColumnsFromCellsAndKeepsEmptyOnes) {
   SampleReport report;
   Section& guide = AddGuide(report);
@@ -35,7 +39,7 @@ TEST(EngineStructure, TellsTitlesOfColumnsFromCellsAndKeepsEmptyOnes) {
   Section& rows = AddRows(report);
   AddCell(rows, "value1", 0, "1");
   AddCell(rows, "value2", 1000);
-  EXPECT_EQ(StructureOf(ComposeSample(report, 5000)),
+  EXPECT_EQ(StructureOnOnePage(report),
             "sample.guide in table 0\n"
             "  column 'No.' column 'Name'\n"
             "sample.rows in table 0\n"
@@ -49,7 +53,7 @@ TEST(EngineStructure, LeavesOutWhatIsHidden) {
   Field& hidden = AddCell(rows, "value2", 1000, "2");
   AddCell(rows, "value3", 2000, "3");
   report.Rows(2, [&](int row) { hidden.Visible = row == 0; });
-  EXPECT_EQ(StructureOf(ComposeSample(report, 5000)),
+  EXPECT_EQ(StructureOnOnePage(report),
             "sample.rows in table 0\n"
             "  cell '1' cell '2' cell '3'\n"
             "sample.rows in table 0\n"
@@ -132,7 +136,7 @@ TEST(EngineStructure, KeepsRowsInTheTableOfTheirOwnReport) {
   Section& footer = outer.Growing(SectionKind::GroupFooter, "foot");
   footer.Role = BandRole::Row;
   AddCell(footer, "sum", 0, "sum");
-  EXPECT_EQ(StructureOf(ComposeSample(outer, 5000)),
+  EXPECT_EQ(StructureOnOnePage(outer),
             "outer.guide in table 0\n"
             "  column 'outer'\n"
             "inner.guide in table 1\n"
@@ -151,7 +155,7 @@ TEST(EngineStructure, ReadsLinesOfARowOneAfterTheOther) {
   AddCell(rows, "name", 0, "Gain").Reads.Columns = 2;
   AddCell(rows, "heading", 0, "digit").Reads.Line = 1;
   AddCell(rows, "value", 0, "1").Reads.Line = 2;
-  EXPECT_EQ(StructureOf(ComposeSample(report, 5000)),
+  EXPECT_EQ(StructureOnOnePage(report),
             "sample.guide in table 0\n"
             "  column 'title1' column 'title2' column 'title3'\n"
             "sample.rows in table 0\n"
@@ -168,7 +172,7 @@ TEST(EngineStructure, PutsTicksAndPicturesIntoTheirCells) {
   box.Reads.Within = &frame;
   AddCell(rows, "name", 1000, "Speed");
   report.Rows(2, [&](int row) { box.Value = row == 0; });
-  EXPECT_EQ(StructureOf(ComposeSample(report, 5000)),
+  EXPECT_EQ(StructureOnOnePage(report),
             "sample.rows in table 0\n"
             "  cell ' [tick selected]' cell 'Speed'\n"
             "sample.rows in table 0\n"
@@ -185,7 +189,7 @@ TEST(EngineStructure, ReadsNeitherHeadsAndFeetOfPagesNorLinesNorRoom) {
   detail.AddField("text", {0, 0, 1000, 283}, {}, "text");
   detail.AddField("title", {0, 0, 1000, 283}, {}, "title").Reads.As = PartRole::Heading;
   AddCell(report.Fixed(SectionKind::PageFooter, "foot", 300), "foot", 0, "foot");
-  EXPECT_EQ(StructureOf(ComposeSample(report, 5000)),
+  EXPECT_EQ(StructureOnOnePage(report),
             "sample.head\n"
             "sample.d\n"
             "  text 'text'\n"
