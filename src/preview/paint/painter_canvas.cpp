@@ -1,6 +1,7 @@
 #include "preview/paint/painter_canvas.h"
 
 #include <QGlyphRun>
+#include <QPaintEngine>
 #include <QPainterPath>
 #include <algorithm>
 #include <cmath>
@@ -28,6 +29,28 @@ QPen LinePen(float width) {
 
 QColor ToColor(Color color) {
   return QColor(static_cast<QRgb>(0xFF000000U | color));
+}
+
+// Pixels to the em from which on letters on a screen are filled outlines.
+constexpr double OutlinePixels = 64;
+
+// The toolkit would fill the same outlines of large letters; but from 6.11 on it fills nothing where the size
+// of a raw font was set.
+bool PaintsOutlines(const QPainter& painter, double em) {
+  return painter.paintEngine()->type() == QPaintEngine::Raster &&
+         em * em * std::abs(painter.deviceTransform().determinant()) >= OutlinePixels * OutlinePixels;
+}
+
+void FillOutlines(QPainter& painter, const QRawFont& face, const TextRun& run, const QPointF& start) {
+  QPainterPath outlines;
+  outlines.setFillRule(Qt::WindingFill);
+  for (qsizetype index = 0; index < run.Glyphs.size(); ++index)
+    outlines.addPath(face.pathForGlyph(run.Glyphs[index]).translated(start + run.Places[index]));
+  const bool isSmooth = painter.testRenderHint(QPainter::Antialiasing);
+  painter.setRenderHint(QPainter::Antialiasing,
+                        isSmooth || painter.testRenderHint(QPainter::TextAntialiasing));
+  painter.fillPath(outlines, ToColor(Black));
+  painter.setRenderHint(QPainter::Antialiasing, isSmooth);
 }
 
 }  // namespace
@@ -72,9 +95,15 @@ void PainterCanvas::Text(const TextPiece& piece, const TextStyle& style, const R
 void PainterCanvas::Runs(const TextPiece& piece, const TextStyle& style, const QPointF& start) {
   painter_.setPen(ToColor(Black));
   const double em = style.Size * TwipsPerPoint;
+  const bool paintsOutlines = PaintsOutlines(painter_, em);
   for (const TextRun& run : MakeRuns(piece, style, font_)) {
+    const QRawFont& face = font_.FaceAt(run.Face, em);
+    if (paintsOutlines) {
+      FillOutlines(painter_, face, run, start);
+      continue;
+    }
     QGlyphRun glyphs;
-    glyphs.setRawFont(font_.FaceAt(run.Face, em));
+    glyphs.setRawFont(face);
     glyphs.setGlyphIndexes(run.Glyphs);
     glyphs.setPositions(run.Places);
     painter_.drawGlyphRun(start, glyphs);
