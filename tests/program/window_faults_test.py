@@ -114,12 +114,15 @@ class SavedPdf(ProgramCase):
         session.confirm_dialog()
         return session
 
+    def activate_preview(self, session):
+        """Where windows come and go quickly, the window manager may give the focus to none of those that are left."""
+        self.user.click(wait_until(lambda: self.user.windows(PREVIEW), "the preview")[0], *MIDDLE)
+        session.wait_for(PREVIEW)
+
     def save(self, session, *options, log=os.devnull):
         """Saves over the older PDF. Waits until the new one is there, the reason is shown why not, or the program ends."""
         self.pdf.write_bytes(PDF_BEFORE)
-        # Where windows come and go quickly, the window manager may give the focus to none of those that are left.
-        self.user.click(wait_until(lambda: self.user.windows(PREVIEW), "the preview")[0], *MIDDLE)
-        session.wait_for(PREVIEW)
+        self.activate_preview(session)
         self.user.press("ctrl+s")
         session.wait_for("Save as PDF")
         self.user.fill_in(str(self.pdf))
@@ -166,6 +169,7 @@ class SavedPdf(ProgramCase):
             session = self.start_preview()
         self.save(session)
         self.assertEqual([path.name for path in self.target.iterdir()], [self.pdf.name])
+        self.activate_preview(session)
         self.assertEqual(session.close_preview(), 0)
 
 
