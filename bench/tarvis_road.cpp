@@ -7,7 +7,7 @@
 #include "platform/system/text_measurer.h"
 #include "preview/output/page_choice.h"
 #include "preview/output/pdf_export.h"
-#include "preview/output/printing.h"
+#include "preview/jobs/printing.h"
 #include "preview/pages/page_layout.h"
 #include "preview/pages/page_pictures.h"
 #include "printfiles/host_files.h"

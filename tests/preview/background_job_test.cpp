@@ -1,5 +1,5 @@
 // Work that takes long shows its progress and can be cancelled.
-#include "preview/output/background_job.h"
+#include "preview/jobs/background_job.h"
 
 #include <gtest/gtest.h>
 

@@ -6,8 +6,8 @@
 
 #include "preview/document_builder.h"
 #include "preview/never_cancelled.h"
-#include "preview/output/print_system.h"
-#include "preview/output/printing.h"
+#include "preview/jobs/print_system.h"
+#include "preview/jobs/printing.h"
 #include "preview/pdf_file.h"
 
 namespace tarvis {

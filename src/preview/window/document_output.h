@@ -5,9 +5,9 @@
 #include <functional>
 #include <memory>
 
-#include "preview/output/background_job.h"
+#include "preview/jobs/background_job.h"
 #include "preview/output/graph_forms.h"
-#include "preview/output/printing.h"
+#include "preview/jobs/printing.h"
 #include "preview/window/preview_memory.h"
 #include "report/engine/document.h"
 

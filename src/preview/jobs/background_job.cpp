@@ -1,4 +1,4 @@
-#include "preview/output/background_job.h"
+#include "preview/jobs/background_job.h"
 
 #include <QProgressDialog>
 #include <QTimer>

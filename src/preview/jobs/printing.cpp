@@ -1,4 +1,4 @@
-#include "preview/output/printing.h"
+#include "preview/jobs/printing.h"
 
 #include <QCoreApplication>
 #include <QPageLayout>
@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "preview/output/print_system.h"
+#include "preview/jobs/print_system.h"
 #include "preview/output/reading_order.h"
 #include "preview/paint/painter_canvas.h"
 #include "preview/paint/toolkit_geometry.h"

@@ -1,4 +1,4 @@
-#include "preview/output/print_system.h"
+#include "preview/jobs/print_system.h"
 
 #include <QCoreApplication>
 #include <QLibrary>
