@@ -13,10 +13,6 @@ constexpr std::size_t PathElementBytes = 24;
 constexpr std::size_t MostLinesAtATime = 512;
 constexpr double FinestParts = 2000;  // of the picture's extent that the end of a dash may be off
 
-std::uint32_t Count(std::size_t size) {
-  return static_cast<std::uint32_t>(size);  // the budget keeps all sizes far below 32 bits
-}
-
 // Whether two lines look the same with a joint between them as each with its ends.
 bool JoinsUnseen(const ListPen& pen) {
   const bool isRound = pen.Pen.capStyle() == Qt::RoundCap && pen.Pen.joinStyle() == Qt::RoundJoin;
@@ -32,7 +28,7 @@ void DrawList::AddCommand(ListCommand command) {
     if (clip_ == nullptr) clip_ = std::make_shared<ListClip>();
     for (const auto& path : clip_->Paths)
       budget_->TakeKeptBytes(64 + static_cast<std::size_t>(path->elementCount()) * PathElementBytes);
-    commands_.push_back({.Kind = ListKind::Clip, .Index = Count(clips_.size())});
+    commands_.push_back({.Kind = ListKind::Clip, .Index = ListNumber(clips_.size())});
     clips_.push_back(clip_);
   }
   budget_->TakeKeptBytes(sizeof(ListCommand));
@@ -105,7 +101,7 @@ void DrawList::AddImage(ListImage image) {
   budget_->TakeKeptBytes(sizeof(ListImage) + bytes);
   imageBytes_ += bytes;
   images_.push_back(std::move(image));
-  AddCommand({.Kind = ListKind::Image, .Index = Count(images_.size() - 1)});
+  AddCommand({.Kind = ListKind::Image, .Index = ListNumber(images_.size() - 1)});
 }
 
 std::size_t DrawList::PaintedElements() const {
@@ -120,7 +116,7 @@ void DrawList::AddPart(ListPart part) {
   elementsOfParts_ += elements;
   imageBytes_ += part.List->imageBytes_;
   parts_.push_back(std::move(part));
-  AddCommand({.Kind = ListKind::Part, .Index = Count(parts_.size() - 1)});
+  AddCommand({.Kind = ListKind::Part, .Index = ListNumber(parts_.size() - 1)});
 }
 
 bool DrawList::DropLastImages(std::size_t count) {

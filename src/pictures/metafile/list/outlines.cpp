@@ -4,14 +4,6 @@
 #include <cmath>
 
 namespace tarvis {
-namespace {
-
-std::uint32_t Count(std::size_t size) {
-  return static_cast<std::uint32_t>(size);  // the budget keeps all sizes far below 32 bits
-}
-
-}  // namespace
-
 double LengthOf(const QPolygonF& line) {
   double length = 0;
   for (qsizetype i = 1; i < line.size(); ++i)
@@ -35,23 +27,23 @@ void Outlines::AddPoint(double x, double y) {
 }
 
 std::uint32_t Outlines::Add(const QPainterPath& path) {
-  Outline outline{Count(points_.size()), 0, Count(verbs_.size()), 0};
+  Outline outline{ListNumber(points_.size()), 0, ListNumber(verbs_.size()), 0};
   for (int i = 0; i < path.elementCount(); ++i) {
     const QPainterPath::Element element = path.elementAt(i);
     AddPoint(element.x, element.y);
     if (element.type == QPainterPath::CurveToDataElement) continue;
     verbs_.push_back(element.isMoveTo() ? Verb::Move : element.isLineTo() ? Verb::Line : Verb::Curve);
   }
-  outline.PointCount = Count(points_.size()) - outline.FirstPoint;
-  outline.VerbCount = Count(verbs_.size()) - outline.FirstVerb;
+  outline.PointCount = ListNumber(points_.size()) - outline.FirstPoint;
+  outline.VerbCount = ListNumber(verbs_.size()) - outline.FirstVerb;
   outlines_.push_back(outline);
-  return Count(outlines_.size() - 1);
+  return ListNumber(outlines_.size() - 1);
 }
 
 std::uint32_t Outlines::Add(const QPolygonF& line) {
-  outlines_.push_back({Count(points_.size()), Count(static_cast<std::size_t>(line.size())), 0, 0});
+  outlines_.push_back({ListNumber(points_.size()), ListNumber(static_cast<std::size_t>(line.size())), 0, 0});
   for (const QPointF& point : line) AddPoint(point.x(), point.y());
-  return Count(outlines_.size() - 1);
+  return ListNumber(outlines_.size() - 1);
 }
 
 QRectF Outlines::Bounds() const {

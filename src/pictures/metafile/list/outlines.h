@@ -3,6 +3,7 @@
 
 #include <QPainterPath>
 #include <QPolygonF>
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -23,6 +24,11 @@ struct Outline {
   std::uint32_t FirstVerb = 0;
   std::uint32_t VerbCount = 0;
 };
+
+// How many things a list holds, or the number of one: its budget keeps all sizes far below 32 bits.
+constexpr std::uint32_t ListNumber(std::size_t size) {
+  return static_cast<std::uint32_t>(size);
+}
 
 // The way along the corners of an open line.
 double LengthOf(const QPolygonF& line);
