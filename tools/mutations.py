@@ -164,8 +164,8 @@ def opens_code(tokens, index, begin):
     return not head or head[-1] in BEFORE_CODE or "->" in head[-4:] or head[-1] == ":"
 
 
-def statements(tokens):
-    """(first, last) indices of all that ends in a semicolon and is among statements."""
+def ends_of_semicolons(tokens):
+    """(first, last, whether it is among statements) of all that ends in a semicolon: indices, or else it is a declaration."""
     blocks = [{"code": False, "depth": 0, "begin": 0}]
     for index, token in enumerate(tokens):
         block = blocks[-1]
@@ -181,9 +181,14 @@ def statements(tokens):
             if was_code and blocks[-1]["depth"] == 0:
                 blocks[-1]["begin"] = index + 1
         elif token.text == ";" and block["depth"] == 0:
-            if block["code"] and block["begin"] < index:
-                yield block["begin"], index
+            if block["begin"] < index:
+                yield block["begin"], index, block["code"]
             block["begin"] = index + 1
+
+
+def statements(tokens):
+    """(first, last) indices of all that ends in a semicolon and is among statements."""
+    return [(first, last) for first, last, is_statement in ends_of_semicolons(tokens) if is_statement]
 
 
 def without_control(tokens, first, last):
@@ -239,7 +244,11 @@ def operand_counts(tokens):
 
 
 def without_result(tokens):
-    """(begin, end) of what no test can notice: assertions, which hold, and the room that is reserved for elements."""
+    """(begin, end) of what no test can notice: assertions, which hold, the room that is reserved for elements, and the zero
+    that a member holds until it gets its value."""
+    for first, last, is_statement in ends_of_semicolons(tokens):
+        if not is_statement and [t.text for t in tokens[last - 2:last]] == ["=", "0"] and tokens[first].text not in KEPT:
+            yield tokens[last - 1].start, tokens[last - 1].end
     for index, token in enumerate(tokens[:-1]):
         if token.text in ("assert", "reserve") and tokens[index + 1].text == "(":
             first = index

@@ -26,7 +26,6 @@ CursorGraphReport::CursorGraphReport(const char* name, ReportContext context, co
 }
 
 void CursorGraphReport::ActiveReport_ReportStart() {
-  Row = 0;
   imgGraph.Picture = LoadGraph(data_.Graph);
   imgNote.Picture = LoadLegend(data_.Note);
   if (imgIONote != nullptr && data_.IONote) imgIONote->Picture = LoadLegend(*data_.IONote);

@@ -68,6 +68,12 @@ class Changes(unittest.TestCase):
                      "virtual void A() = 0;", 'R"(1 + 2)";', "\n#define ONE 1\n"):
             self.assertEqual(changes(code) - {"statement: without R\"(1 + 2)\";"}, set(), code)
 
+    def test_the_zero_that_a_member_holds_until_it_is_set_stays(self):
+        self.assertEqual(changes("struct A {\n  int b = 0;\n};\n"), set())
+        self.assertEqual(changes("struct A {\n  int b = 1;\n};\n"), {"number: 1 -> 2"})
+        self.assertEqual(changes("struct A {\n  static constexpr int b = 0;\n};\n"), {"number: 0 -> 1"})
+        self.assertEqual(changes("void F() {\n  int b = 0;\n}\n"), {"number: 0 -> 1"})
+
     def test_assertions_and_room_for_elements_stay(self):
         self.assertEqual(changes("assert(a >= 0 && a < 255);"), set())
         self.assertEqual(changes("line.reserve(size + 2);"), set())

@@ -19,7 +19,7 @@ namespace tarvis {
 // A row of a section that holds a sub-report; its inner bands flow.
 struct FlowRow {
   float OwnHeight = 0;
-  int Page = -1;  // where it begins
+  int Page = 0;  // where it begins
   float Top = 0;
 };
 

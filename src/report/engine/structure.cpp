@@ -17,7 +17,7 @@ std::vector<TableLine> CellsByLine(std::span<const BandPart> parts) {
     if (!IsCell(part)) continue;
     if (part.Line != line) lines.emplace_back();
     line = part.Line;
-    lines.back().push_back({&part, part.Columns, 1});
+    lines.back().push_back({.Part = &part, .Columns = part.Columns});
   }
   return lines;
 }

@@ -89,7 +89,7 @@ inline bool IsRow(const BandLayout& layout) {
 
 struct TableCell {
   const BandPart* Part = nullptr;
-  int Columns = 1;
+  int Columns = 0;
   int Lines = 1;
 };
 using TableLine = std::vector<TableCell>;

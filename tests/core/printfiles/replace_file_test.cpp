@@ -30,7 +30,7 @@ class ReplacedFile : public testing::Test {
   // A file that was last written so long ago that nobody writes it any more.
   void Leave(const std::string& name) {
     Folder.Write(name, "cut");
-    fs::last_write_time(Folder.Path() / name, fs::file_time_type::clock::now() - std::chrono::minutes(2));
+    fs::last_write_time(Folder.Path() / name, fs::file_time_type::clock::now() - std::chrono::seconds(61));
   }
   int FileCount() const {
     return static_cast<int>(std::distance(fs::directory_iterator(Folder.Path()), fs::directory_iterator()));

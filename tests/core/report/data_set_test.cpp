@@ -47,6 +47,12 @@ struct DataSets : HostRun {
   }
 };
 
+TEST_F(DataSets, AreNoneWithoutAFunctionButTheMasterStillHasARow) {
+  EXPECT_EQ(CountMasterRows(Run, nullptr), 1);
+  Run.Options.Cover = 1;
+  EXPECT_EQ(CountMasterRows(Run, nullptr), 2);
+}
+
 TEST_F(DataSets, ListAReportForEachElementThatIsOne) {
   PrintOptions& options = Run.Options;
   ExpectLists("User", options.UserOption, {"rptUserPrm"}, {{5, "rptUserComment"}});

@@ -283,6 +283,17 @@ TEST_F(OverlappedTrace, PrintsTheResultOnlyWithoutDetails) {
   EXPECT_THAT(Compose(), ElementsAre("1: rptTraceGraph rptTraceObjrctOverlap"));
 }
 
+TEST_F(OverlappedTrace, HasTheNumberOfDataSetsThatItsFileGivesFirst) {
+  const auto numberOf = [this](const std::string& lines) {
+    Session.OverlapNum = 0;
+    Folder.Write("Trace.tmp", lines);
+    ScanOverlap(Report.Run, "Trace.tmp");
+    return Session.OverlapNum;
+  };
+  EXPECT_EQ(numberOf("OverlapMode,1\r\nOverlapNum,3\r\nOverlapNum,5\r\n"), 3);
+  EXPECT_EQ(numberOf("OverlapNum,3\r\nOverlapMode,1\r\nOverlapNum,5\r\n"), 3);
+}
+
 TEST_F(OverlappedTrace, StopsAtANumberOfDataSetsThatCannotBeCounted) {
   const auto failureOf = [this](const std::string& number) {
     Folder.Write("Trace.tmp", "OverlapMode,1\r\nOverlapNum," + number + "\r\n");

@@ -67,6 +67,20 @@ TEST(EnginePages, AnEmptyFirstRowOpensNoPage) {
   EXPECT_THAT(Places(ComposeSample(outer, 1000)), ElementsAre("1:row@0"));
 }
 
+TEST(EnginePages, AnEmptyRowLeavesNoRoomAboveTheRowThatBreaksThePage) {
+  SampleReport outer;
+  outer.Fixed(SectionKind::GroupHeader, "header without height", 0);
+  Section& detail = outer.Fixed(SectionKind::Detail, "d", 300);
+  detail.NewPageBefore = true;
+  SubReport& region = detail.AddSubReport("region", {0, 0, 1000, 10});
+  outer.Rows(2, [&](int pass) {
+    auto inner = std::make_shared<SampleReport>();
+    AddBlock(inner->Growing(SectionKind::Detail, "d"), "row", 100);
+    region.object = pass == 0 ? nullptr : inner;
+  });
+  EXPECT_THAT(Places(ComposeSample(outer, 1000)), ElementsAre("1:row@0"));
+}
+
 TEST(EnginePages, NestsThreeDeepOverFourPages) {
   SampleReport master;
   SubReport& module = master.Fixed(SectionKind::Detail, "d", 100).AddSubReport("module", {0, 0, 1000, 10});
