@@ -3,11 +3,13 @@ asked for. All take turns, so that what else the machine does strikes all of the
 import os
 import statistics
 import subprocess
+import sys
 import time
 from dataclasses import dataclass
 from pathlib import Path
 
 PEERS = Path(__file__).resolve().parent / "peers"
+KREPORT = Path("/usr/include/KReport3")
 ROWS = 16000
 
 
@@ -18,22 +20,35 @@ class Way:
     environment: dict
 
 
-def compiled(source, packages, folder):
-    """A peer in C, built in `folder`."""
-    flags = [flag for package in packages
-             for flag in subprocess.run(["pkg-config", "--cflags", "--libs", package], capture_output=True, text=True,
-                                        check=True).stdout.split()]
+def compiled(source, flags, folder, compiler="cc"):
+    """A peer, built in `folder`."""
     program = folder / source.stem
-    subprocess.run(["cc", "-O2", "-o", program, source, *flags, *([] if flags else ["-lhpdf"])], check=True)
+    subprocess.run([compiler, "-O2", "-o", program, source, *flags], check=True)
     return program
+
+
+def flags_of(*packages):
+    """What a compiler needs for these libraries, as pkg-config knows them."""
+    return subprocess.run(["pkg-config", "--cflags", "--libs", *packages], capture_output=True, text=True,
+                          check=True).stdout.split()
+
+
+def kreport(folder):
+    """Nothing where it is not installed: not every release has it."""
+    if not KREPORT.is_dir():
+        print("KReport is not installed, so it is left out", file=sys.stderr)
+        return []
+    flags = ["-w", "-fPIC", "-I", KREPORT, *flags_of("Qt5PrintSupport", "Qt5Xml"), "-lKReport3"]
+    program = compiled(PEERS / "kreport_table.cpp", flags, folder, "c++")
+    return [Way("KReport", (program, ROWS), {"QT_QPA_PLATFORM": "offscreen"})]
 
 
 def peers(folder):
     python = "/usr/bin/python3"  # the one that knows the system's modules
-    return [Way("libharu", (compiled(PEERS / "libharu_table.c", [], folder), ROWS), {}),
-            Way("cairo", (compiled(PEERS / "cairo_table.c", ["cairo-pdf"], folder), ROWS), {}),
+    return [Way("libharu", (compiled(PEERS / "libharu_table.c", ["-lhpdf"], folder), ROWS), {}),
+            Way("cairo", (compiled(PEERS / "cairo_table.c", flags_of("cairo-pdf"), folder), ROWS), {}),
             Way("ReportLab", (python, PEERS / "reportlab_table.py", ROWS), {}),
-            Way("groff", (PEERS / "groff_table.sh", ROWS), {})]
+            Way("groff", (PEERS / "groff_table.sh", ROWS), {}), *kreport(folder)]
 
 
 def measured_once(way, pdf):
