@@ -1,4 +1,4 @@
-"""Whether a long test has passed before with just the same program, tests and system."""
+"""Whether a long test has passed before with just the same programs, tests and system."""
 import hashlib
 from pathlib import Path
 
@@ -8,13 +8,13 @@ INSTALLED_PACKAGES = Path("/var/lib/dpkg/status")
 
 
 class PassedBefore:
-    """The note of the last pass lies beside the program. It holds a digest of all that the test depends on."""
+    """The note of the last pass lies beside the first program. It holds a digest of all that the test depends on."""
 
-    def __init__(self, program):
-        self.note = Path(program).with_name("roads.passed")
+    def __init__(self, *programs):
+        self.note = Path(programs[0]).with_name("roads.passed")
         digest = hashlib.sha256()
         scripts = sorted(path for folder in DEPENDS_ON for path in folder.glob("*.py"))
-        for path in (Path(program), INSTALLED_PACKAGES, *scripts):
+        for path in (*map(Path, programs), INSTALLED_PACKAGES, *scripts):
             digest.update(hashlib.sha256(path.read_bytes()).digest())
         self._digest = digest.hexdigest()
 

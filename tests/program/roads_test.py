@@ -1,4 +1,4 @@
-"""Every road of roads.py from the host's start to the end of the run, on two displays at once."""
+"""Every road of roads.py from the host's start to the end of the run, on two displays at once; most documents without."""
 import os
 import re
 import subprocess
@@ -8,6 +8,7 @@ from pathlib import Path
 
 import roads
 from passed_before import PassedBefore
+from pdf_case import PdfCase
 from program_case import ProgramCase
 from desktop import end_with_parent, wait_until
 from saved_pdf import is_colourful, outline_of, page_count, words_in_a_row
@@ -19,19 +20,19 @@ COVER_TEXTS = ("Meridian Packaging", "SUBJECT: Commissioning of axis 1", "Sincer
 OF_OTHERS = ("GRAPH.EMF", "left by another run.tmp")  # what no mode reads, and each run deletes
 
 
-class Roads(ProgramCase):
-    """Its tests are made of the table below."""
+class Documents:
+    """What each mode prints, however it is made."""
 
     drawn = {}  # the data files of a mode, with "<host>" for the host's folder: drawing their curves takes long
 
     def write_data(self, mode, sets=0):
+        folder = self.host.folder
         if (mode, sets) not in self.drawn:
             self.host.write_data(mode, sets)
-            self.drawn[mode, sets] = {
-                path.relative_to(self.folder): path.read_bytes().replace(bytes(self.folder), b"<host>")
-                for path in self.host.temp_folder.iterdir()}
+            self.drawn[mode, sets] = {path.relative_to(folder): path.read_bytes().replace(bytes(folder), b"<host>")
+                                      for path in self.host.temp_folder.iterdir()}
         for path, data in self.drawn[mode, sets].items():
-            (self.folder / path).write_bytes(data.replace(b"<host>", bytes(self.folder)))
+            (folder / path).write_bytes(data.replace(b"<host>", bytes(folder)))
 
     def prepare(self, road):
         self.host.prepare(version=road.version)
@@ -50,6 +51,36 @@ class Roads(ProgramCase):
         if not road.detail:
             options = re.sub(rb"((Trace|Sim)Option,.*),1\r", rb"\1,0\r", options)
         self.host.options_file.write_bytes(options)
+
+    def check_document(self, pdf, road):
+        self.assertEqual(page_count(pdf), road.pages())
+        self.assertEqual([(level, title) for level, title, _ in outline_of(pdf)], road.contents())
+        self.check_texts(words_in_a_row(pdf), road)
+        if road.mode in roads.WITH_GRAPHS:
+            self.assertEqual(is_colourful(pdf, 1 + road.cover), road.colour)
+
+    def check_texts(self, text, road):
+        in_order = [*COVER_TEXTS] if road.cover else []
+        for title, _, bands, _ in road.headings():
+            in_order += [title, *bands]
+        self.expect_in_order(text, in_order)
+        self.expect_in_order(text, [f"Page {page}/ {road.pages()}" for page in range(1, road.pages() + 1)])
+        document = roads.DOCUMENTS[road.mode]
+        self.assertEqual("File Name : " in text, bool(document.file))
+        for words in ("Printing Date : ", document.file, *(document.texts if road.detail else ())):
+            self.assertIn(words, text)
+        self.assertEqual("Sincerely yours," in text, road.cover)
+
+    def expect_in_order(self, text, captions):
+        place = 0
+        for caption in captions:
+            found = text.find(caption, place)
+            self.assertGreaterEqual(found, 0, f"'{caption}' is missing or out of order")
+            place = found + len(caption)
+
+
+class Roads(Documents, ProgramCase):
+    """Its tests are made of the table of roads: through the windows, by keys."""
 
     def options(self):
         lines = self.host.options_file.read_bytes().decode("cp1252").split("\r\n")
@@ -90,32 +121,6 @@ class Roads(ProgramCase):
                 self.user.press(key)
                 wait_until(lambda box=box: box.has("checked"), f"the mark of '{name}'")
 
-    def check_document(self, pdf, road):
-        self.assertEqual(page_count(pdf), road.pages())
-        self.assertEqual([(level, title) for level, title, _ in outline_of(pdf)], road.contents())
-        self.check_texts(words_in_a_row(pdf), road)
-        if road.mode in roads.WITH_GRAPHS:
-            self.assertEqual(is_colourful(pdf, 1 + road.cover), road.colour)
-
-    def check_texts(self, text, road):
-        in_order = [*COVER_TEXTS] if road.cover else []
-        for title, _, bands, _ in road.headings():
-            in_order += [title, *bands]
-        self.expect_in_order(text, in_order)
-        self.expect_in_order(text, [f"Page {page}/ {road.pages()}" for page in range(1, road.pages() + 1)])
-        document = roads.DOCUMENTS[road.mode]
-        self.assertEqual("File Name : " in text, bool(document.file))
-        for words in ("Printing Date : ", document.file, *(document.texts if road.detail else ())):
-            self.assertIn(words, text)
-        self.assertEqual("Sincerely yours," in text, road.cover)
-
-    def expect_in_order(self, text, captions):
-        place = 0
-        for caption in captions:
-            found = text.find(caption, place)
-            self.assertGreaterEqual(found, 0, f"'{caption}' is missing or out of order")
-            place = found + len(caption)
-
     def check_options(self, before, road):
         written = self.options()
         chosen = {"Cover": str(int(road.cover)), "SelectCover": str(int(road.cover)), "ColorType": str(int(road.colour))}
@@ -139,14 +144,31 @@ class Roads(ProgramCase):
         self.assertEqual(self.files_left(), ["User.tmp"])
 
 
+class QuietRoads(Documents, PdfCase):
+    """The same table where it is about the documents alone: they are made without windows."""
+
+    def make_document(self, road):
+        self.prepare(road)
+        self.check_document(self.make(road.mode, *settings_of(road), edition=road.edition), road)
+
+
+def settings_of(road):
+    """The options that the user of the dialog would choose."""
+    chosen = {"Cover": road.cover, "SelectCover": road.cover, "ColorType": road.colour}
+    return [f"--set={name}={int(value)}" for name, value in chosen.items()]
+
+
 def add_tests(shard):
     """Makes a test of each road of this part of all."""
-    tests = [(str(road), Roads.drive, (road,)) for road in roads.roads()]
-    tests += [("_".join(map(str, ("refused", *case))), Roads.refuse, case) for case in roads.refused()]
-    tests += [("_".join(map(str, ("beyond_the_list", *case))), Roads.run_beyond_the_list, case)
-              for case in roads.beyond_the_list()]
-    for name, drive, arguments in tests[shard::SHARDS]:
-        setattr(Roads, f"test_{name}", lambda self, drive=drive, arguments=arguments: drive(self, *arguments))
+    every = list(roads.roads())
+    driven = [(str(road), Roads.drive, (road,)) for road in every if road.in_windows]
+    driven += [("_".join(map(str, ("refused", *case))), Roads.refuse, case) for case in roads.refused()]
+    driven += [("_".join(map(str, ("beyond_the_list", *case))), Roads.run_beyond_the_list, case)
+               for case in roads.beyond_the_list()]
+    made = [(str(road), QuietRoads.make_document, (road,)) for road in every if not road.in_windows]
+    for case, tests in ((Roads, driven), (QuietRoads, made)):
+        for name, run, arguments in tests[shard::SHARDS]:
+            setattr(case, f"test_{name}", lambda self, run=run, arguments=arguments: run(self, *arguments))
 
 
 def run_all_shards():
@@ -160,7 +182,7 @@ def run_all_shards():
 def run_what_changed():
     """Every road takes a while, so that all are driven only when something has changed since they were. The exit
     status."""
-    passed = PassedBefore(os.environ["TARVIS_PROGRAM"])
+    passed = PassedBefore(os.environ["TARVIS_PROGRAM"], os.environ["TARVIS_PDF"])
     if passed.is_same():
         print(f"every road was driven with this program and these tests before; to drive them again, delete {passed.note}")
         return SKIPPED

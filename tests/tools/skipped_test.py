@@ -16,11 +16,12 @@ from passed_before import PassedBefore  # noqa: E402
 class Skipped(unittest.TestCase):
     def test_roads_that_were_driven_before_are_skipped_in_the_list_of_tests(self):
         with tempfile.TemporaryDirectory() as folder:
-            program = Path(folder) / "tarvis"
-            program.write_text("a program that is never started")
-            PassedBefore(program).keep()
+            programs = [Path(folder) / name for name in ("tarvis", "tarvis-pdf")]
+            for program in programs:
+                program.write_text("a program that is never started")
+            PassedBefore(*programs).keep()
             done = subprocess.run([PROGRAM_TESTS / "run", PROGRAM_TESTS / "roads_test.py"], check=False,
-                                  env={**os.environ, "TARVIS_PROGRAM": str(program)}, capture_output=True, text=True)
+                                  env={**os.environ, **dict(zip(("TARVIS_PROGRAM", "TARVIS_PDF"), map(str, programs)))}, capture_output=True, text=True)
         self.assertIn("was driven with this program", done.stdout)
         self.assertEqual(done.returncode, self.skipped_status("roads_test"))
 
