@@ -10,6 +10,8 @@
 #include <system_error>
 #include <vector>
 
+#include "platform/files/closed_file.h"
+
 namespace tarvis {
 namespace {
 
@@ -79,22 +81,10 @@ std::error_code LastError() {
                     : std::error_code(errno, std::generic_category());
 }
 
-constexpr fs::perms Closed = fs::perms::owner_read | fs::perms::owner_write;
-
-// A file that takes the place of another may hold what that one kept from other users. A copy has the rights
-// of its original from its first moment on, so nobody else can open it before it is closed.
-void MakeClosed(const fs::path& fresh, const fs::path& old) {
-  std::error_code ignored;  // what can't be read is not copied, and not every file system has modes
-  fs::copy_file(old, fresh, ignored);
-  fs::permissions(fresh, Closed, ignored);
-}
-
-std::error_code WriteFresh(const fs::path& fresh, std::string_view bytes, bool replaces) {
+std::error_code WriteFresh(const fs::path& fresh, std::string_view bytes) {
   errno = 0;
   std::ofstream file(fresh, std::ios::binary | std::ios::trunc);
   if (!file) return LastError();
-  std::error_code ignored;
-  if (replaces) fs::permissions(fresh, Closed, ignored);  // for an old file that couldn't be copied
   errno = 0;
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   file.close();
@@ -120,8 +110,9 @@ std::error_code Replace(const fs::path& fresh, const fs::path& destination, std:
   const fs::file_status old = fs::status(destination, error);
   if (!fs::status_known(old)) return error;
   const bool replaces = fs::exists(old);
-  if (replaces) MakeClosed(fresh, destination);
-  error = WriteFresh(fresh, bytes, replaces);
+  // A file that takes the place of another may hold what that one kept from other users.
+  error = replaces ? MakeClosedFile(fresh) : std::error_code();
+  if (!error) error = WriteFresh(fresh, bytes);
   if (!error) error = Settle(settle, fresh, destination);
   if (!error && replaces) TakeModeOf(old, fresh);
   if (!error) fs::rename(fresh, destination, error);

@@ -55,8 +55,16 @@ class SavedPdf(PdfCase):
         log = self.folder / "calls"
         self.make("JogTbl", through=(*with_mask(0), *tracing(call="openat", log=log)))
         made = [line for line in log.read_text().splitlines() if ".new\"" in line and "O_CREAT" in line]
-        self.assertRegex(made[0], r"O_CREAT\|O_EXCL.*, 0200\)")  # by its owner alone
+        self.assertRegex(made[0], r"O_CREAT\|O_EXCL.*, 0600\)")  # by its owner alone
         self.assertEqual([line for line in made[1:] if "O_EXCL" in line], [])
+
+    def test_is_written_without_a_look_into_the_file_that_it_replaces(self):
+        self.pdf.write_bytes(b"older")
+        log = self.folder / "calls"
+        self.make("JogTbl", through=tracing(call="openat,copy_file_range,sendfile", log=log))
+        calls = log.read_text()
+        self.assertIn('.pdf.', calls)  # the new one
+        self.assertNotIn(f'{self.pdf}"', calls)
 
 
 class OtherFolders(PdfCase):
