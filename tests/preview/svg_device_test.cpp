@@ -51,6 +51,20 @@ TEST(SvgDevice, HasTheSizeOfThePage) {
   EXPECT_EQ(elements.at(0)["viewBox"], QStringLiteral("0 0 1440 720"));
 }
 
+TEST(SvgDevice, IsReadableWhateverCharactersItsTextsHave) {
+  const SvgDevice device({1440, 720});
+  const QString noText = QStringLiteral("A\x01\x1F\uFFFE\uFFFFZ");
+  QXmlStreamReader reader(QByteArray::fromStdString(device.File(noText, QStringLiteral("one\n") + noText)));
+  QStringList texts;
+  while (!reader.atEnd()) {
+    const bool isText = reader.readNext() == QXmlStreamReader::StartElement &&
+                        (reader.name() == QLatin1String("title") || reader.name() == QLatin1String("desc"));
+    if (isText) texts.append(reader.readElementText());
+  }
+  EXPECT_FALSE(reader.hasError()) << reader.errorString().toStdString();
+  EXPECT_EQ(texts, QStringList({QStringLiteral("A    Z"), QStringLiteral("one\nA    Z")}));
+}
+
 TEST(SvgDevice, KeepsLinesWithTheirPens) {
   const auto paths = Named(Painted([](QPainter& painter) {
                              QPen pen(QColor(255, 0, 0, 51), 20);

@@ -2,22 +2,13 @@
 
 #include <QTimeZone>
 
+#include "preview/output/xml_text.h"
+
 namespace tarvis {
 namespace {
 
 constexpr const char* Creator = "Tarvis";
 constexpr const char* Producer = "Tarvis " TARVIS_VERSION;
-
-// XML has no form for most control characters and for what is no character; a blank is shown in their place.
-QString Clean(const QString& text) {
-  std::u32string characters;
-  for (const char32_t character : text.toStdU32String()) {
-    const bool isControl = character < 0x20 || character == 0x7F;
-    const bool isNone = (character & 0xFFFEU) == 0xFFFE || (character >= 0xD800 && character <= 0xDFFF);
-    characters += isControl || isNone ? U' ' : character;
-  }
-  return QString::fromStdU32String(characters).normalized(QString::NormalizationForm_C);
-}
 
 QPDFObjectHandle TextString(const QString& text) {
   return QPDFObjectHandle::newUnicodeString(text.toStdString());
@@ -116,7 +107,7 @@ QString PdfDate(const QDateTime& date) {
 }
 
 void AddMetadata(QPDF& pdf, const PdfInfo& info, std::optional<PdfConformance> conformance) {
-  const PdfInfo clean{Clean(info.Title), Clean(info.Author), info.Created, {}};
+  const PdfInfo clean{XmlLine(info.Title), XmlLine(info.Author), info.Created, {}};
   AddDictionary(pdf, clean);
   AddXmp(pdf, clean, conformance);
 }

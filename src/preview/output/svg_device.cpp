@@ -1,9 +1,11 @@
 #include "preview/output/svg_device.h"
 
+#include <QStringList>
 #include <limits>
 
 #include "preview/output/svg_engine.h"
 #include "preview/output/svg_inks.h"
+#include "preview/output/xml_text.h"
 #include "preview/paint/toolkit_geometry.h"
 
 namespace tarvis {
@@ -15,7 +17,9 @@ constexpr double MillimetresPerInch = 25.4;
 constexpr int BitsPerColor = 24;
 
 std::string Escaped(const QString& text) {
-  return text.toHtmlEscaped().toStdString();
+  QStringList lines = text.split(QLatin1Char('\n'));
+  for (QString& line : lines) line = XmlLine(line).toHtmlEscaped();
+  return lines.join(QLatin1Char('\n')).toStdString();
 }
 
 }  // namespace
