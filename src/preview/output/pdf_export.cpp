@@ -17,7 +17,7 @@ std::string MakePdf(const Document& document, const PdfSheets& sheets, const Pdf
   int done = 0;
   for (const int page : sheets.Pages) {
     if (!progress(done++, count)) return {};
-    pdf.Add(document, static_cast<std::size_t>(page));
+    pdf.Add(document, static_cast<std::size_t>(page), static_cast<std::size_t>(page));
   }
   std::string bytes = pdf.Finish(document, info);
   if (!progress(count, count)) return {};

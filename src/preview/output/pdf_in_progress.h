@@ -17,8 +17,11 @@ class PdfInProgress {
   // `codePage` is that of the texts. The PDF is tagged if there are `tags`, which must outlive it.
   PdfInProgress(const PdfLook& look, int codePage, const PdfTagPlan* tags = nullptr);
 
-  // Adds a sheet with that page.
-  void Add(const Document& document, std::size_t page) { pages_.Add(document, page); }
+  // Adds a sheet with that page of `document`, which is page `number` of the whole document; both count from
+  // 0.
+  void Add(const Document& document, std::size_t page, std::size_t number) {
+    pages_.Add(document, page, number);
+  }
 
   // The bytes of the PDF. `document` has at least contents and page totals. To be called once, as the last
   // one.

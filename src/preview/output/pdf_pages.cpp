@@ -15,13 +15,13 @@ QPDFObjectHandle Points(double twips) {
 PdfPages::PdfPages(QPDF& pdf, const PdfLook& look, int codePage, const PdfTagPlan* tags)
     : pdf_(pdf), look_(look), glyphs_(ReportFont::OfThisThread(codePage)), tags_(tags) {}
 
-void PdfPages::Add(const Document& document, std::size_t page) {
-  sheets_.push_back(static_cast<int>(page));
+void PdfPages::Add(const Document& document, std::size_t page, std::size_t number) {
+  sheets_.push_back(static_cast<int>(number));
   const auto [content, isNew] = contents_.try_emplace(sheets_.back());
-  if (isNew) content->second = NewStream(ContentOf(document, page));
+  if (isNew) content->second = NewStream(ContentOf(document, page, sheets_.back()));
 }
 
-std::string PdfPages::ContentOf(const Document& document, std::size_t page) {
+std::string PdfPages::ContentOf(const Document& document, std::size_t page, int number) {
   if (tags_ == nullptr) {
     PdfCanvas canvas(look_.Paper.height(), look_.Scale, glyphs_, pictures_);
     PaintWithoutPageTotals(document, page, canvas);
@@ -30,7 +30,7 @@ std::string PdfPages::ContentOf(const Document& document, std::size_t page) {
   TaggedCanvas canvas(look_.Paper.height(), look_.Scale, glyphs_, pictures_, *tags_);
   PaintWithoutPageTotals(document, page, canvas);
   std::string content = canvas.Finish();
-  marks_[static_cast<int>(page)] = canvas.TakeMarks();
+  marks_[number] = canvas.TakeMarks();
   return content;
 }
 

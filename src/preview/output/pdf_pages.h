@@ -30,9 +30,9 @@ class PdfPages {
   // any; they must outlive it, too.
   PdfPages(QPDF& pdf, const PdfLook& look, int codePage, const PdfTagPlan* tags);
 
-  // Adds a sheet. Its page is painted but for the page total; further sheets with the same page share its
-  // content.
-  void Add(const Document& document, std::size_t page);
+  // Adds a sheet with page `page` of `document`, which is page `number` of the whole document. It is painted
+  // but for the page total; further sheets with the same number share its content.
+  void Add(const Document& document, std::size_t page, std::size_t number);
   // Completes the sheets, of whose pages `document` has at least the page totals, and puts them into the PDF.
   // Returns whether it has a glyph for each character. To be called once, as the last one.
   [[nodiscard]] bool Finish(const Document& document);
@@ -42,7 +42,7 @@ class PdfPages {
   const PdfMarks& Marks() const { return marks_; }
 
  private:
-  std::string ContentOf(const Document& document, std::size_t page);
+  std::string ContentOf(const Document& document, std::size_t page, int number);
   QPDFObjectHandle NewStream(std::string content);
   QPDFObjectHandle WholeContent(const Document& document, int page);
   QPDFObjectHandle NewPage(const QPDFObjectHandle& content, const QPDFObjectHandle& resources);

@@ -29,14 +29,12 @@ void TakeTexts(const Document& document, Document& one) {
   }
 }
 
-// A document whose only page that isn't empty is the given one.
-std::shared_ptr<const Document> WithThisPage(const Document& document, std::size_t number) {
-  const Page& page = document.Pages[number];
+// A document of which the given page is the only one.
+std::shared_ptr<const Document> WithThisPage(const Document& document, const Page& page) {
   auto one = std::make_shared<Document>();
   one->Setup = document.Setup;
   one->CodePage = document.CodePage;
   one->Styles = document.Styles;
-  one->Pages.resize(number);
   one->Pages.push_back({0, page.ItemCount});
   const auto first = document.Items.begin() + static_cast<std::ptrdiff_t>(page.FirstItem);
   one->Items.assign(first, first + static_cast<std::ptrdiff_t>(page.ItemCount));
@@ -59,14 +57,13 @@ PdfPress::PdfPress(const PdfLook& look, int codePage, Progress progress) : progr
 }
 
 void PdfPress::Take(const Document& document, std::size_t page) {
-  painter_.Add([this, taken = WithThisPage(document, page)] { Paint(*taken); });
+  painter_.Add([this, taken = WithThisPage(document, document.Pages[page]), page] { Paint(*taken, page); });
 }
 
-void PdfPress::Paint(const Document& document) {
-  const std::size_t page = document.Pages.size() - 1;
-  isCancelled_ = isCancelled_ || !progress_(static_cast<int>(page), 0);
+void PdfPress::Paint(const Document& document, std::size_t number) {
+  isCancelled_ = isCancelled_ || !progress_(static_cast<int>(number), 0);
   if (isCancelled_) return;
-  pdf_->Add(document, page);
+  pdf_->Add(document, 0, number);
 }
 
 std::string PdfPress::Finish(const Document& document, const PdfInfo& info) {

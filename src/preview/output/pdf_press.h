@@ -30,7 +30,8 @@ class PdfPress : public PageTaker {
   std::string Finish(const Document& document, const PdfInfo& info);
 
  private:
-  void Paint(const Document& document);
+  // `document` has one page, which is that number of the whole.
+  void Paint(const Document& document, std::size_t number);
 
   static constexpr std::size_t MostWaiting = 8;  // pages
 
