@@ -25,7 +25,8 @@ class CanvasOfPdf : public testing::Test {
 
   PdfGlyphs glyphs_{ReportFont::OfThisThread()};
   PdfPictures pictures_;
-  PdfCanvas canvas_{2000, 1, glyphs_, pictures_};
+  PdfLook look_{.Paper = QSizeF(1000, 2000)};
+  PdfCanvas canvas_{look_, glyphs_, pictures_};
 };
 
 TEST_F(CanvasOfPdf, FillsAndFramesTheSameBoxesAsOnePath) {
@@ -61,6 +62,16 @@ TEST_F(CanvasOfPdf, FillsBeforeWhatComesAfter) {
 TEST_F(CanvasOfPdf, FillsAtItsEndWhatIsLeft) {
   canvas_.Fill({Left}, White);
   EXPECT_EQ(Content(), "1 1 1 rg\n" + LeftPath + "f\n");
+}
+
+TEST_F(CanvasOfPdf, HasGreysForColoursIfThatIsAskedFor) {
+  look_.Greys = true;
+  PdfCanvas canvas(look_, glyphs_, pictures_);
+  canvas.Fill({Left}, 0xFF0000);
+  canvas.Fill({Right}, 0x00FF00);
+  const std::string content = canvas.Finish();
+  EXPECT_TRUE(content.ends_with("0.3 0.3 0.3 rg\n" + LeftPath + "f\n0.59 0.59 0.59 rg\n" + RightPath + "f\n"))
+      << content;
 }
 
 TEST(TextInBrackets, IsReadBackAsTheCodesThatWereWritten) {

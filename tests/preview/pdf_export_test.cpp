@@ -296,6 +296,17 @@ TEST_F(PdfExport, GreysReachTextFillsBitmapsAndGradientsAndThePageStaysTheSameOt
                   .contains(QStringLiteral("No syntax or stream encoding errors")));
 }
 
+// To read all contents again for their colours would take several times as long as to write them.
+TEST_F(PdfExport, ADocumentWithoutColoursIsTheSameInGreys) {
+  const auto document = DocumentBuilder().TablePages(20).Build();
+  PdfSheets sheets = PdfSheets::AllOf(*document);
+  ASSERT_EQ(ExportPdf(*document, sheets, Path(), {}, GoOn), QString());
+  const QByteArray colours = FileBytes();
+  sheets.Greys = true;
+  ASSERT_EQ(ExportPdf(*document, sheets, Path(), {}, GoOn), QString());
+  EXPECT_EQ(FileBytes(), colours);
+}
+
 TEST_F(PdfExport, AFolderThatIsGoneIsReported) {
   const auto document = DocumentBuilder().TablePages(1).Build();
   const QString error = ExportPdf(*document, folder_.filePath(QStringLiteral("gone/out.pdf")), {}, GoOn);

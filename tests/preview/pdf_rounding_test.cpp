@@ -56,6 +56,16 @@ TEST(RoundedContent, WritesNoExponents) {
   EXPECT_EQ(Rounded("0.00000512345 0 0 1 0 0 cm"), "0.00000512345 0 0 1 0 0 cm\n");
 }
 
+TEST(RoundedContent, HasGreysForColoursIfThatIsAskedFor) {
+  const auto greyOf = [](const char* content) {
+    return RoundedContent(content, Inks::Greys).value_or("refused");
+  };
+  EXPECT_EQ(greyOf("1 0 0 rg 0 1 0 RG 0 0 1 scn"),
+            "0.299 0.299 0.299 rg\n0.587 0.587 0.587 RG\n0.114 0.114 0.114 scn\n");
+  EXPECT_EQ(greyOf("/CSp cs 1 0 0 /Pat5 scn /Pat6 scn 0.4 g"),
+            "/CSp cs\n0.299 0.299 0.299 /Pat5 scn\n/Pat6 scn\n0.4 g\n");
+}
+
 TEST(RoundedContent, RefusesWhatItDoesNotKnow) {
   for (const char* content :
        {"BI /W 1 ID x EI", "(text) Tj", "1 0 0 1 cm", "Q", "1 2", "0 0 0 0 0 0 cm", "% word"})

@@ -2,7 +2,9 @@
 
 #include <QByteArray>
 #include <algorithm>
+#include <array>
 
+#include "preview/output/pdf_greys.h"
 #include "preview/output/pdf_numbers.h"
 #include "report/engine/text_measurer.h"
 #include "report/engine/utf8.h"
@@ -22,18 +24,19 @@ std::size_t PdfPictures::Number(const Picture& picture, float width, float heigh
   return place->second;
 }
 
-PdfCanvas::PdfCanvas(double height, double scale, PdfGlyphs& glyphs, PdfPictures& pictures)
-    : glyphs_(glyphs), pictures_(pictures) {
+PdfCanvas::PdfCanvas(const PdfLook& look, PdfGlyphs& glyphs, PdfPictures& pictures)
+    : glyphs_(glyphs), pictures_(pictures), greys_(look.Greys) {
   content_.reserve(std::size_t{20} * 1024);
   // With more decimals than other numbers: an error would grow over the whole page.
-  const std::string factor = QByteArray::number(scale / TwipsPerPoint, 'g', 7).toStdString();
+  const std::string factor = QByteArray::number(look.Scale / TwipsPerPoint, 'g', 7).toStdString();
   Add(factor + " 0 0 -" + factor + " 0 ");
-  AppendNumber(content_, height / TwipsPerPoint);
+  AppendNumber(content_, look.Paper.height() / TwipsPerPoint);
   Add("cm\n");
 }
 
 // What the content before has set isn't known, but for the matrix.
-PdfCanvas::PdfCanvas(PdfGlyphs& glyphs, PdfPictures& pictures) : glyphs_(glyphs), pictures_(pictures) {
+PdfCanvas::PdfCanvas(PdfGlyphs& glyphs, PdfPictures& pictures)
+    : glyphs_(glyphs), pictures_(pictures), greys_(false) {
   ForgetTextState();
 }
 
@@ -47,7 +50,10 @@ void PdfCanvas::AddRects(std::span<const Rect> boxes) {
 void PdfCanvas::UseInk(Color color) {
   if (color == ink_) return;
   ink_ = color;
-  for (const unsigned shift : {16U, 8U, 0U}) AppendNumber(content_, ((color >> shift) & 0xFFU) / 255.0);
+  const auto part = [color](unsigned shift) { return ((color >> shift) & 0xFFU) / 255.0; };
+  std::array<double, 3> ink{part(16), part(8), part(0)};
+  if (greys_) ink.fill(GreyOf(ink[0], ink[1], ink[2]));
+  for (const double value : ink) AppendNumber(content_, value);
   Add("rg\n");
 }
 

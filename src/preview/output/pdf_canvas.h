@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "preview/output/pdf_glyphs.h"
+#include "preview/output/pdf_sheets.h"
 #include "preview/paint/page_painter.h"
 #include "report/engine/units.h"
 
@@ -60,9 +61,8 @@ class ContentMarker {
 // Makes the content of one page. Glyphs and pictures are collected for the resources that all pages share.
 class PdfCanvas : public Canvas, protected ContentMarker {
  public:
-  // `height` of the paper in twips; `scale` below 1 shrinks the page towards its top left corner.
-  PdfCanvas(double height, double scale, PdfGlyphs& glyphs, PdfPictures& pictures);
-  // For content that follows another one of the same page.
+  PdfCanvas(const PdfLook& look, PdfGlyphs& glyphs, PdfPictures& pictures);
+  // For text that follows another content of the same page.
   PdfCanvas(PdfGlyphs& glyphs, PdfPictures& pictures);
 
   void Fill(const std::vector<Rect>& boxes, Color color) override;
@@ -99,6 +99,7 @@ class PdfCanvas : public Canvas, protected ContentMarker {
 
   PdfGlyphs& glyphs_;
   PdfPictures& pictures_;
+  const bool greys_;
   std::string content_;
   std::vector<Rect> filled_;  // boxes that are not in the content yet, since they may be framed, too
   Color fill_ = Black;        // for them

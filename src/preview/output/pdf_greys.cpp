@@ -15,11 +15,6 @@ namespace {
 
 using Token = QPDFTokenizer::Token;
 
-// The usual weights of red, green and blue in the brightness of a colour.
-double Grey(double red, double green, double blue) {
-  return 0.299 * red + 0.587 * green + 0.114 * blue;
-}
-
 // Independent of any locale, unlike the library's own way.
 double NumberOf(const std::string& text) {
   double number = 0;
@@ -55,8 +50,8 @@ class GreyInks : public QPDFObjectHandle::TokenFilter {
     if (operands_.size() < 3 || !IsNumber(operands_[0]) || !IsNumber(operands_[1]) || !IsNumber(operands_[2]))
       return;
     std::string number;
-    AppendNumber(number, Grey(NumberOf(operands_[0].getValue()), NumberOf(operands_[1].getValue()),
-                              NumberOf(operands_[2].getValue())));
+    AppendNumber(number, GreyOf(NumberOf(operands_[0].getValue()), NumberOf(operands_[1].getValue()),
+                                NumberOf(operands_[2].getValue())));
     write(number + number + number);
     operands_.erase(operands_.begin(), operands_.begin() + 3);
   }
@@ -77,7 +72,7 @@ void TurnPictureIntoGreys(QPDFObjectHandle picture) {
   std::string greys(colours->getSize() / 3, '\0');
   for (std::size_t index = 0; index < greys.size(); ++index) {
     const unsigned char* dot = bytes + 3 * index;
-    greys[index] = static_cast<char>(static_cast<unsigned char>(Grey(dot[0], dot[1], dot[2]) + 0.5));
+    greys[index] = static_cast<char>(static_cast<unsigned char>(GreyOf(dot[0], dot[1], dot[2]) + 0.5));
   }
   picture.getDict().replaceKey("/ColorSpace", QPDFObjectHandle::newName("/DeviceGray"));
   picture.getDict().removeKey("/DecodeParms");
@@ -90,8 +85,8 @@ void TurnStepIntoGreys(QPDFObjectHandle step) {
     QPDFObjectHandle ink = step.getKey(key);
     if (!ink.isArray() || ink.getArrayNItems() != 3) continue;
     const QPDFObjectHandle grey = QPDFObjectHandle::newReal(
-        Grey(NumberOf(ink.getArrayItem(0).unparse()), NumberOf(ink.getArrayItem(1).unparse()),
-             NumberOf(ink.getArrayItem(2).unparse())),
+        GreyOf(NumberOf(ink.getArrayItem(0).unparse()), NumberOf(ink.getArrayItem(1).unparse()),
+               NumberOf(ink.getArrayItem(2).unparse())),
         4);
     step.replaceKey(key, QPDFObjectHandle::newArray({grey, grey, grey}));
   }
@@ -113,16 +108,10 @@ void TurnStreamIntoGreys(QPDFObjectHandle stream) {
 
 }  // namespace
 
-void TurnIntoGreys(QPDF& pdf) {
+void TurnIntoGreys(QPDF& pdf, const std::set<QPDFObjGen>& greyForms) {
   for (QPDFObjectHandle& object : pdf.getAllObjects()) {
-    if (object.isStream()) TurnStreamIntoGreys(object);
+    if (object.isStream() && !greyForms.contains(object.getObjGen())) TurnStreamIntoGreys(object);
     if (object.isDictionary() && object.getKey("/FunctionType").isInteger()) TurnStepIntoGreys(object);
-  }
-  std::set<QPDFObjGen> done;  // pages that are there more than once share their content
-  for (QPDFObjectHandle page : pdf.getAllPages()) {
-    for (QPDFObjectHandle& content : page.getPageContents()) {
-      if (done.insert(content.getObjGen()).second) content.addTokenFilter(std::make_shared<GreyInks>());
-    }
   }
 }
 

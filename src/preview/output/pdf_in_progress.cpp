@@ -7,7 +7,6 @@
 
 #include "preview/output/pdf_archive.h"
 #include "preview/output/pdf_attachments.h"
-#include "preview/output/pdf_greys.h"
 #include "preview/output/pdf_metadata.h"
 #include "preview/output/pdf_structure.h"
 
@@ -158,7 +157,6 @@ std::string PdfInProgress::Finish(const Document& document, const PdfInfo& info)
   MakeArchive(pdf_, document.CodePage);
   AttachData(pdf_, info.Data, info.Created);
   AddMetadata(pdf_, info, hasAllGlyphs ? std::optional(ConformanceOf(info, tags_ != nullptr)) : std::nullopt);
-  if (look_.Greys) TurnIntoGreys(pdf_);
   return Written(pdf_);
 }
 

@@ -3,6 +3,7 @@
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <utility>
 
+#include "preview/output/pdf_greys.h"
 #include "preview/output/pdf_resources.h"
 #include "preview/output/reading_order.h"
 
@@ -23,11 +24,11 @@ void PdfPages::Add(const Document& document, std::size_t page, std::size_t numbe
 
 std::string PdfPages::ContentOf(const Document& document, std::size_t page, int number) {
   if (tags_ == nullptr) {
-    PdfCanvas canvas(look_.Paper.height(), look_.Scale, glyphs_, pictures_);
+    PdfCanvas canvas(look_, glyphs_, pictures_);
     PaintWithoutPageTotals(document, page, canvas);
     return canvas.Finish();
   }
-  TaggedCanvas canvas(look_.Paper.height(), look_.Scale, glyphs_, pictures_, *tags_);
+  TaggedCanvas canvas(look_, glyphs_, pictures_, *tags_);
   PaintWithoutPageTotals(document, page, canvas);
   std::string content = canvas.Finish();
   marks_[number] = canvas.TakeMarks();
@@ -37,8 +38,10 @@ std::string PdfPages::ContentOf(const Document& document, std::size_t page, int 
 bool PdfPages::Finish(const Document& document) {
   std::vector<QPDFObjectHandle> contents;
   for (const int page : sheets_) contents.push_back(WholeContent(document, page));
-  const PdfResources resources = MakeResources(pdf_, glyphs_, pictures_, glyphs_.Font(), compressed_);
+  const Inks inks = look_.Greys ? Inks::Greys : Inks::AsTheyAre;
+  const PdfResources resources = MakeResources(pdf_, glyphs_, pictures_, glyphs_.Font(), compressed_, inks);
   compressed_.Finish();
+  if (look_.Greys) TurnIntoGreys(pdf_, resources.InkedForms);
   QPDFPageDocumentHelper pages(pdf_);
   for (const QPDFObjectHandle& content : contents)
     pages.addPage(NewPage(content, resources.Dictionary), false);

@@ -43,14 +43,15 @@ constexpr std::string_view BoxOfToolkit = "<0000>";
 struct TakenForm {
   QPDFObjectHandle Stream;
   bool HasAllGlyphs = true;
+  bool IsRounded = true;
 };
 
 // A helper page as a form, with no more digits than can be seen. Content that can't be rounded is taken as it
 // is compressed.
-TakenForm TakeForm(QPDF& pdf, QPDFPageObjectHelper& page, PdfContents& contents) {
+TakenForm TakeForm(QPDF& pdf, QPDFPageObjectHelper& page, PdfContents& contents, Inks inks) {
   QPDFObjectHandle content = page.getObjectHandle().getKey("/Contents");
   const std::string text = TextOf(content);
-  std::optional<std::string> rounded = RoundedContent(text);
+  std::optional<std::string> rounded = RoundedContent(text, inks);
   QPDFObjectHandle form = rounded ? pdf.newStream() : pdf.copyForeignObject(content);
   QPDFObjectHandle dictionary = form.getDict();
   dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/XObject"));
@@ -58,7 +59,7 @@ TakenForm TakeForm(QPDF& pdf, QPDFPageObjectHelper& page, PdfContents& contents)
   dictionary.replaceKey("/BBox", page.getMediaBox().shallowCopy());
   dictionary.replaceKey("/Resources", pdf.copyForeignObject(page.getAttribute("/Resources", false)));
   if (rounded) contents.Add(form, std::move(*rounded));
-  return {form, text.find(BoxOfToolkit) == text.npos};
+  return {form, text.find(BoxOfToolkit) == text.npos, rounded.has_value()};
 }
 
 // How many glyphs the toolkit has put into a font: it writes a bit for each, the highest first.
@@ -91,9 +92,10 @@ void CompleteTexts(QPDFObjectHandle resources, std::set<QPDFObjGen>& done) {
 struct TakenForms {
   QPDFObjectHandle Dictionary;
   bool HaveAllGlyphs = true;
+  std::set<QPDFObjGen> Rounded;
 };
 
-TakenForms MakeForms(QPDF& pdf, const PdfPictures& pictures, PdfContents& contents) {
+TakenForms MakeForms(QPDF& pdf, const PdfPictures& pictures, PdfContents& contents, Inks inks) {
   TakenForms forms{QPDFObjectHandle::newDictionary()};
   if (pictures.All().empty()) return forms;
   HelperFile file(PaintHelperFile(
@@ -101,7 +103,8 @@ TakenForms MakeForms(QPDF& pdf, const PdfPictures& pictures, PdfContents& conten
   std::vector<QPDFPageObjectHelper> pages = file.Pages();
   std::set<QPDFObjGen> completed;
   for (std::size_t number = 0; number < pictures.All().size(); ++number) {
-    TakenForm form = TakeForm(pdf, pages.at(number + 1), contents);
+    TakenForm form = TakeForm(pdf, pages.at(number + 1), contents, inks);
+    if (form.IsRounded) forms.Rounded.insert(form.Stream.getObjGen());
     forms.HaveAllGlyphs = forms.HaveAllGlyphs && form.HasAllGlyphs;
     CompleteTexts(form.Stream.getDict().getKey("/Resources"), completed);
     forms.Dictionary.replaceKey("/P" + std::to_string(number), form.Stream);
@@ -112,13 +115,13 @@ TakenForms MakeForms(QPDF& pdf, const PdfPictures& pictures, PdfContents& conten
 }  // namespace
 
 PdfResources MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPictures& pictures, ReportFont& font,
-                           PdfContents& contents) {
-  const TakenForms forms = MakeForms(pdf, pictures, contents);
+                           PdfContents& contents, Inks inks) {
+  const TakenForms forms = MakeForms(pdf, pictures, contents, inks);
   const PdfFonts fonts = MakeFonts(pdf, glyphs, font);
   QPDFObjectHandle resources = QPDFObjectHandle::newDictionary();
   resources.replaceKey("/Font", fonts.Dictionary);
   resources.replaceKey("/XObject", forms.Dictionary);
-  return {pdf.makeIndirectObject(resources), fonts.HaveAllGlyphs && forms.HaveAllGlyphs};
+  return {pdf.makeIndirectObject(resources), fonts.HaveAllGlyphs && forms.HaveAllGlyphs, forms.Rounded};
 }
 
 }  // namespace tarvis

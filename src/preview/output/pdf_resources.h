@@ -3,21 +3,24 @@
 #pragma once
 
 #include <qpdf/QPDF.hh>
+#include <set>
 
 #include "preview/output/pdf_canvas.h"
 #include "preview/output/pdf_contents.h"
 #include "preview/output/pdf_glyphs.h"
+#include "preview/output/pdf_rounding.h"
 
 namespace tarvis {
 
 // The resources of pages: fonts "F" and pictures "P" with their numbers.
 struct PdfResources {
-  QPDFObjectHandle Dictionary;  // all pages of a document share it
-  bool HasAllGlyphs = true;     // of pages and pictures; see PdfFonts
+  QPDFObjectHandle Dictionary;      // all pages of a document share it
+  bool HasAllGlyphs = true;         // of pages and pictures; see PdfFonts
+  std::set<QPDFObjGen> InkedForms;  // pictures whose inks are as they were asked for
 };
 
-// The contents of pictures are added to `contents`.
+// The contents of pictures are added to `contents`, with these inks as far as their content is understood.
 PdfResources MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPictures& pictures, ReportFont& font,
-                           PdfContents& contents);
+                           PdfContents& contents, Inks inks);
 
 }  // namespace tarvis

@@ -7,6 +7,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "preview/output/pdf_greys.h"
 #include "report/engine/units.h"
 
 namespace tarvis {
@@ -81,7 +82,9 @@ struct Operand {
 
 class Rounding {
  public:
-  explicit Rounding(std::string_view content) : rest_(content) { out_.reserve(content.size()); }
+  Rounding(std::string_view content, Inks inks) : inks_(inks), rest_(content) {
+    out_.reserve(content.size());
+  }
 
   std::optional<std::string> Run();
 
@@ -91,6 +94,7 @@ class Rounding {
   bool CarryMatrix(std::string_view name, Meaning meaning);
   bool CarryOther(std::string_view name, Meaning meaning);
   void StartText(double scale);
+  void MakeGrey();
   template <typename DecimalsOfNumber>
   void WriteOperands(DecimalsOfNumber decimalsOf);
   bool WriteMatrix();
@@ -103,6 +107,7 @@ class Rounding {
   static int DecimalsFor(double scale) { return static_cast<int>(std::ceil(std::log10(scale / FinestStep))); }
   double MatrixScale() const;
 
+  const Inks inks_;
   std::string_view rest_;
   std::string out_;
   std::vector<Operand> operands_;
@@ -191,6 +196,7 @@ bool Rounding::CarryOther(std::string_view name, Meaning meaning) {
       WriteOperands([this](double) { return std::max(WidthDecimals, PlaceDecimals()); });
       break;
     case Meaning::Colour:
+      if (inks_ == Inks::Greys) MakeGrey();
       WriteOperands([](double) { return ColourDecimals; });
       break;
     case Meaning::Move:
@@ -204,6 +210,16 @@ bool Rounding::CarryOther(std::string_view name, Meaning meaning) {
   }
   WriteName(name);
   return true;
+}
+
+// The name of a pattern can follow its colour.
+void Rounding::MakeGrey() {
+  constexpr std::size_t Parts = 3;
+  const auto end = operands_.begin() + std::min(Parts, operands_.size());
+  const auto hasNumber = [](const Operand& operand) { return operand.Number.has_value(); };
+  if (operands_.size() < Parts || !std::all_of(operands_.begin(), end, hasNumber)) return;
+  const double grey = GreyOf(*operands_[0].Number, *operands_[1].Number, *operands_[2].Number);
+  for (auto operand = operands_.begin(); operand != end; ++operand) operand->Number = grey;
 }
 
 template <typename DecimalsOfNumber>
@@ -277,8 +293,8 @@ bool Rounding::Restore() {
 
 }  // namespace
 
-std::optional<std::string> RoundedContent(std::string_view content) {
-  return Rounding(content).Run();
+std::optional<std::string> RoundedContent(std::string_view content, Inks inks) {
+  return Rounding(content, inks).Run();
 }
 
 }  // namespace tarvis

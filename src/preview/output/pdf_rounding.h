@@ -7,8 +7,12 @@
 
 namespace tarvis {
 
-// The content with all places rounded to a tenth of a twip or finer, whatever matrix they are under. Nothing
-// if it has anything that the toolkit doesn't write for pictures, such as an image within the content.
-[[nodiscard]] std::optional<std::string> RoundedContent(std::string_view content);
+enum class Inks { AsTheyAre, Greys };
+
+// The content with all places rounded to a tenth of a twip or finer, whatever matrix they are under, and with
+// these inks. Nothing if it has anything that the toolkit doesn't write for pictures, such as an image within
+// the content.
+[[nodiscard]] std::optional<std::string> RoundedContent(std::string_view content,
+                                                        Inks inks = Inks::AsTheyAre);
 
 }  // namespace tarvis

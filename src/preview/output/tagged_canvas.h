@@ -20,8 +20,8 @@ struct PdfMark {
 class TaggedCanvas : public PdfCanvas {
  public:
   // `plan` must outlive the canvas; the others as in PdfCanvas.
-  TaggedCanvas(double height, double scale, PdfGlyphs& glyphs, PdfPictures& pictures, const PdfTagPlan& plan)
-      : PdfCanvas(height, scale, glyphs, pictures), plan_(plan) {}
+  TaggedCanvas(const PdfLook& look, PdfGlyphs& glyphs, PdfPictures& pictures, const PdfTagPlan& plan)
+      : PdfCanvas(look, glyphs, pictures), plan_(plan) {}
 
   void BeginItem(const Item& item) override;
   void EndItem() override;
