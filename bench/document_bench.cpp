@@ -1,7 +1,9 @@
 // The road of one document, step by step and once each as in a real run, by this program's parts and by the
 // toolkit's own text document. Prints a JSON object of milliseconds, and of the peak memory in megabytes.
 //
-//   document_bench tarvis|toolkit MODE FOLDER OVERLAPPED    FOLDER ends in a backslash
+//   document_bench tarvis|toolkit MODE FOLDER OVERLAPPED [QUEUE]   FOLDER ends in a backslash; QUEUE is a
+//   print
+//                                                           queue that takes PDFs
 //   document_bench dialog                                   shows an empty dialog until it is killed
 #include <QApplication>
 #include <QDialog>
@@ -17,7 +19,26 @@ namespace {
 
 constexpr int PagesPainted = 20;  // at most
 
-void Measure(DocumentRoad& road) {
+// What a queue of the print system gets. The PDF is saved once more, since each step after the first one
+// finds fonts that are open.
+void MeasureQueue(DocumentRoad& road, const QString& queue, Stopwatch& notes) {
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setPrinterName(queue);
+  if (printer.printerName() != queue) qFatal("no print queue %s", qPrintable(queue));
+  Stopwatch watch;
+  road.Print(printer);
+  notes.Note("handed to a print queue [ms]", watch.Milliseconds());
+  printer.setColorMode(QPrinter::GrayScale);
+  watch = Stopwatch();
+  road.Print(printer);
+  notes.Note("the same in greys [ms]", watch.Milliseconds());
+  const QTemporaryDir folder;
+  watch = Stopwatch();
+  road.SavePdf(folder.filePath(QStringLiteral("again.pdf")));
+  notes.Note("PDF, once more [ms]", watch.Milliseconds());
+}
+
+void Measure(DocumentRoad& road, const QString& queue) {
   Stopwatch watch;
   road.Read();
   watch.Report("read [ms]");
@@ -38,6 +59,7 @@ void Measure(DocumentRoad& road) {
   watch.Report("painting for a printer [ms]");
   watch.Note("peak memory of these steps [MB]", PeakMegabytes());
   watch.Note("pages", road.PageCount());
+  if (!queue.isEmpty()) MeasureQueue(road, queue, watch);
   std::puts(watch.Json().c_str());
 }
 
@@ -54,10 +76,11 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   const QStringList arguments = QApplication::arguments();
   if (arguments.size() == 2 && arguments[1] == QStringLiteral("dialog")) return tarvis::ShowDialog();
-  if (arguments.size() != 5) return std::fputs("usage: document_bench WAY MODE FOLDER OVERLAPPED\n", stderr);
+  if (arguments.size() != 5 && arguments.size() != 6)
+    return std::fputs("usage: document_bench WAY MODE FOLDER OVERLAPPED [QUEUE]\n", stderr);
   const tarvis::BenchJob job{arguments[2].toStdString(), arguments[3].toStdString(), arguments[4].toShort()};
   const auto road =
       arguments[1] == QStringLiteral("toolkit") ? tarvis::ToolkitRoad(job) : tarvis::TarvisRoad(job);
-  tarvis::Measure(*road);
+  tarvis::Measure(*road, arguments.value(5));
   return 0;
 }

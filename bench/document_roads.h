@@ -27,7 +27,7 @@ class DocumentRoad {
   virtual int PageCount() const = 0;
   virtual void PaintPage(int page) = 0;  // into a picture of 96 dots to the inch
   virtual void SavePdf(const QString& path) = 0;
-  virtual void Print(QPrinter& printer) = 0;  // of no queue, so the pages are painted
+  virtual void Print(QPrinter& printer) = 0;  // pages for a printer that is no queue are painted
 };
 
 std::unique_ptr<DocumentRoad> TarvisRoad(const BenchJob& job);
@@ -41,9 +41,10 @@ class Stopwatch {
 
   // Milliseconds since the last call, divided by `times`.
   void Report(const char* step, int times = 1) {
-    Note(step, static_cast<double>(timer_.nsecsElapsed()) / 1e6 / times);
+    Note(step, Milliseconds() / times);
     timer_.start();
   }
+  double Milliseconds() const { return static_cast<double>(timer_.nsecsElapsed()) / 1e6; }
   void Note(const char* what, double value) {
     json_ += (json_.empty() ? "{" : ", ") + ("\"" + std::string(what)) + "\": " + std::to_string(value);
   }

@@ -20,14 +20,17 @@ ROOT = Path(__file__).resolve().parent.parent
 sys.path.insert(0, str(ROOT / "tests/host"))
 
 import whole_process  # noqa: E402
-from desktop import User, VirtualDisplay  # noqa: E402
+from desktop import Timeout, User, VirtualDisplay  # noqa: E402
 from host import Host  # noqa: E402
 from large_files import write_parameter_file  # noqa: E402
+from print_queue import QUEUE, PrintQueue  # noqa: E402
 from session import DIALOG, PREVIEW, Session  # noqa: E402
 
 DIALOG_GREY = b"\xef\xef\xef"  # background of the toolkit's windows, seen as soon as they are painted
 BLACK = b"\0\0\0"              # the rule under a page's title
 START = "start to visible dialog [ms]"
+PDF = "PDF, once more [ms]"
+SPOOLED = ("handed to a print queue [ms]", "the same in greys [ms]")
 PATIENCE = 30  # seconds for anything to come up on the screen
 TRIES = 3      # of one measurement, before the table goes without it
 
@@ -148,7 +151,29 @@ def measure_document(options, job, way):
         command = [str(options.build / "bench/document_bench"), way, job.record, f"{host.temp_folder}\\",
                    str(job.overlapped)]
         environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen", "XDG_RUNTIME_DIR": name}
-        return json.loads(subprocess.run(command, env=environment, capture_output=True, text=True, check=True).stdout)
+        if options.queue and way == "tarvis":  # the toolkit would take minutes
+            command.append(QUEUE)
+            environment.update(options.queue.environment)
+        measured = json.loads(subprocess.run(command, env=environment, capture_output=True, text=True, check=True).stdout)
+        return measured | beside_pdf(measured)
+
+
+def beside_pdf(measured):
+    """How many times as long as the PDF it takes to hand the document to a print queue."""
+    return {step.replace("[ms]", "[times as long as the PDF]"): measured[step] / measured[PDF]
+            for step in SPOOLED if step in measured}
+
+
+def open_held_queue():
+    """A print queue that takes jobs and prints none, so that printing doesn't disturb what is measured next; None where
+    this user may start no print server."""
+    try:
+        queue = PrintQueue()
+        queue.hold_jobs()
+        return queue
+    except (OSError, subprocess.SubprocessError, Timeout) as failure:
+        print(f"no print queue: {failure}; left out", file=sys.stderr)
+        return None
 
 
 def measured_with_patience(measure, options, job, *arguments):
@@ -183,7 +208,7 @@ def part_benchmarks(folder, bench_folder):
 
 
 def shown(value):
-    return f"{value:.1f}" if value < 100 else f"{value:.0f}"
+    return f"{value:.2f}" if value < 3 else f"{value:.1f}" if value < 100 else f"{value:.0f}"
 
 
 def compared(ours, toolkits):
@@ -209,13 +234,7 @@ def measure_whole_process(options):
     print()
 
 
-def main():
-    parser = argparse.ArgumentParser(description=__doc__)
-    parser.add_argument("--build", type=Path, default=ROOT / "build/bench")
-    parser.add_argument("--runs", type=int, default=5, help="runs of each document; the table holds the medians")
-    parser.add_argument("--peers", action="store_true", help="measures other ways to a PDF beside tarvis-pdf")
-    options = parser.parse_args()
-    measure_whole_process(options)
+def measure_whole_documents(options):
     ours, toolkits = [], []
     for job in JOBS:
         ours.append(medians(options.runs, measure_program, options, job) |
@@ -226,6 +245,21 @@ def main():
     print_table(["whole documents (x toolkit's own way)", *(job.title for job in JOBS)],
                 [[name, *(compared(own.get(name), other.get(name)) for own, other in zip(ours, toolkits))] for name in names])
     print()
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("--build", type=Path, default=ROOT / "build/bench")
+    parser.add_argument("--runs", type=int, default=5, help="runs of each document; the table holds the medians")
+    parser.add_argument("--peers", action="store_true", help="measures other ways to a PDF beside tarvis-pdf")
+    options = parser.parse_args()
+    options.queue = open_held_queue()
+    try:
+        measure_whole_process(options)
+        measure_whole_documents(options)
+    finally:
+        if options.queue:
+            options.queue.close()
     with tempfile.TemporaryDirectory() as folder:
         write_parameter_file(Path(folder), JOBS[1].parameters)
         print_table(["parts", "value"], [[name, f"{value:.2f}"] for name, value in part_benchmarks(folder, options.build / "bench")])

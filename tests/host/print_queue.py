@@ -127,6 +127,10 @@ class PrintQueue:
         """As an administrator may do at any moment."""
         self._run("lpadmin", "-x", QUEUE)
 
+    def hold_jobs(self):
+        """From now on jobs are taken and none is printed."""
+        self._run("cupsdisable", QUEUE)
+
     def _run(self, *command):
         environment = {**os.environ, "CUPS_SERVER": self.environment["CUPS_SERVER"],
                 "CUPS_USER": pwd.getpwuid(0).pw_name}

@@ -52,13 +52,17 @@ class ProgramBench(unittest.TestCase):
     def test_prints_the_table_of_what_it_has(self):
         good, wrong = Measurements(wrong=()), Measurements(wrong=range(100))
         measures = {"measure_program": wrong, "measure_document": good, "measure_empty_dialog": wrong,
-                "measure_whole_process": lambda _: None,
+                "measure_whole_process": lambda _: None, "open_held_queue": lambda: None,
                 "part_benchmarks": lambda *_: [("a part [ms]", 1.0)]}
         with mock.patch.multiple(program_bench, **measures), mock.patch.object(sys, "argv", ["bench"]), \
                 contextlib.redirect_stderr(io.StringIO()), contextlib.redirect_stdout(io.StringIO()) as printed:
             program_bench.main()
         self.assertRegex(printed.getvalue(), r"start to visible dialog \[ms\] +\|( +100 \(x 1\.00\) \|){3}")
         self.assertIn("a part [ms]", printed.getvalue())
+
+    def test_compares_what_a_print_queue_gets_with_the_pdf(self):
+        measured = {"PDF [ms]": 50.0, program_bench.PDF: 40.0, program_bench.SPOOLED[0]: 44.0}
+        self.assertEqual(program_bench.beside_pdf(measured), {"handed to a print queue [times as long as the PDF]": 1.1})
 
     def test_does_not_wait_for_a_program_that_has_ended(self):
         screen = program_bench.Screen(None)
