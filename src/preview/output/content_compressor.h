@@ -1,4 +1,4 @@
-// Compresses the contents of pages in other threads than the one that makes them.
+// Compresses the contents of pages in another thread than the one that makes them.
 #pragma once
 
 #include <condition_variable>
@@ -7,14 +7,13 @@
 #include <mutex>
 #include <string>
 #include <thread>
-#include <vector>
 
 namespace tarvis {
 
-// Each content is compressed by itself, so the result does not depend on the number of threads.
+// Each content is compressed by itself, so the result does not depend on whether there is a thread for it.
 class ContentCompressor {
  public:
-  // Starts a thread for each further processor, up to a few; without any, `Finish` does the work.
+  // Starts a thread if there is a further processor; without one, `Finish` does the work.
   ContentCompressor();
   // Leaves out what is not compressed yet.
   ~ContentCompressor();
@@ -31,13 +30,13 @@ class ContentCompressor {
   std::string* TakeNext();
   void End();
 
-  std::mutex mutex_;  // guards all but the threads
+  std::mutex mutex_;  // guards all but the thread
   std::condition_variable changed_;
   std::deque<std::string> contents_;  // an element stays in its place while others are added
   std::size_t next_ = 0;              // the first one that no thread has taken
   bool isComplete_ = false;
   std::exception_ptr failure_;
-  std::vector<std::thread> threads_;
+  std::thread thread_;
 };
 
 }  // namespace tarvis
