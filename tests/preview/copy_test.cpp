@@ -15,6 +15,8 @@
 
 #include "preview/pages/page_places.h"
 #include "preview/sample_picture.h"
+#include "preview/text/column_selection.h"
+#include "preview/window/selector.h"
 #include "preview/window_fixture.h"
 
 namespace tarvis {
@@ -117,6 +119,43 @@ TEST_F(Copying, AColumnOfATableIsCopiedAsTextOverAllPagesWithItsEmptyCells) {
   EXPECT_FALSE(CanCopy());
   Press(Qt::Key_Space, Qt::ControlModifier);
   EXPECT_EQ(CopiedText(), QStringLiteral("Pn100\nPn101\nPn102"));
+}
+
+TEST_F(Copying, TheColumnIsThatOfTheClickedCellNotThatOfTheNearestText) {
+  Open(DocumentBuilder().Page().Row({"Pn100", "Gain", "40.0"}, 1000).Row({"Pn101", "", "8"}, 1283).Build());
+  const auto copyColumnAfterClick = [this](double x, double y) {
+    QTest::mouseClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, At(0, x, y));
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    return CopiedText();
+  };
+  const double secondCell = 1440 + 1700;
+  EXPECT_EQ(copyColumnAfterClick(secondCell + 900, 1420), QStringLiteral("Gain\n")) << "empty";
+  EXPECT_EQ(copyColumnAfterClick(secondCell + 1640, 1140), QStringLiteral("Gain\n")) << "right of its text";
+}
+
+TEST_F(Copying, TheColumnFollowsTextThatWasSelectedSinceTheClick) {
+  Open(DocumentBuilder().Page().Row({"Pn100", "Gain", "40.0"}, 1000).Build());
+  QTest::mouseClick(View().viewport(), Qt::LeftButton, Qt::NoModifier, At(0, 1500, 1140));
+  Find<Selector>("selector").Select({0, 2, 0}, {0, 2, 1});
+  Press(Qt::Key_Space, Qt::ControlModifier);
+  EXPECT_EQ(CopiedText(), QStringLiteral("40.0"));
+}
+
+TEST_F(Copying, AColumnIsMarkedOnEachOfItsPages) {
+  const auto document = DocumentBuilder()
+                            .Page()
+                            .Row({"Pn100", "Gain"}, 9000)
+                            .Page()
+                            .Row({"Pn101", "Ratio"}, 720)
+                            .Row({"Pn102", "Limit"}, 1003)
+                            .Page()
+                            .Text("The end", 1440, 720)
+                            .Build();
+  ColumnSelection column(*document);
+  column.Select(0, {1500, 9100});
+  EXPECT_EQ(column.Boxes(0), std::vector({QRectF(1440, 9000, 1700, 283)}));
+  EXPECT_EQ(column.Boxes(1), std::vector({QRectF(1440, 720, 1700, 283), QRectF(1440, 1003, 1700, 283)}));
+  EXPECT_TRUE(column.Boxes(2).empty());
 }
 
 TEST_F(Copying, NoColumnIsSelectedWhereNoTableIs) {

@@ -91,9 +91,8 @@ QString ColumnSelection::TextIn(const Cell& cell) const {
 
 std::vector<QRectF> ColumnSelection::Boxes(int page) const {
   std::vector<QRectF> boxes;
-  for (const Cell& cell : cells_) {
-    if (cell.Page == page) boxes.push_back(ToRectF(cell.Frame->Box));
-  }
+  for (const Cell& cell : std::ranges::equal_range(cells_, page, {}, &Cell::Page))
+    boxes.push_back(ToRectF(cell.Frame->Box));
   return boxes;
 }
 

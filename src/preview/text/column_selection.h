@@ -38,7 +38,7 @@ class ColumnSelection {
   QString TextIn(const Cell& cell) const;
 
   const Document& document_;
-  std::vector<Cell> cells_;
+  std::vector<Cell> cells_;  // in the order of the pages
 };
 
 }  // namespace tarvis

@@ -24,34 +24,40 @@ Selector::Selector(DocumentText& text, PageView& view, PageInput& input, QObject
 void Selector::Start(const PageView::Spot& spot) {
   column_.Clear();
   selection_.Clear();
+  pointedAt_ = spot;
   if (spot.Page >= 0) selection_.Start(spot.Page, spot.Point);
   NoticeChange();
 }
 
 void Selector::Extend(const PageView::Spot& spot) {
+  pointedAt_ = spot;
   if (spot.Page >= 0) selection_.ExtendTo(spot.Page, spot.Point);
   NoticeChange();
 }
 
 void Selector::SelectWord(const PageView::Spot& spot) {
   column_.Clear();
+  pointedAt_ = spot;
   if (spot.Page >= 0) selection_.SelectWord(spot.Page, spot.Point);
   NoticeChange();
 }
 
 void Selector::SelectRow(const PageView::Spot& spot) {
+  pointedAt_ = spot;
   if (spot.Page >= 0) selection_.SelectRow(spot.Page, spot.Point);
   NoticeChange();
 }
 
 void Selector::SelectAll() {
   column_.Clear();
+  pointedAt_ = {};
   selection_.SelectAll();
   NoticeChange();
 }
 
 void Selector::Select(const TextPosition& from, const TextPosition& to) {
   column_.Clear();
+  pointedAt_ = {};
   selection_.Select(from, to);
   NoticeChange();
 }
@@ -65,13 +71,14 @@ void Selector::Clear() {
 
 void Selector::SelectColumn(const PageView::Spot& spot) {
   if (spot.Page < 0) return;
-  selection_.Clear();
+  pointedAt_ = spot;
   selection_.Start(spot.Page, spot.Point);
   column_.Select(spot.Page, spot.Point);
   NoticeChange();
 }
 
 void Selector::SelectColumn() {
+  if (pointedAt_.Page >= 0) return SelectColumn(pointedAt_);
   const auto [page, point] = selection_.EndPlace();
   SelectColumn({page, point});
 }

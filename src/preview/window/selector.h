@@ -25,7 +25,8 @@ class Selector : public QObject {
   std::pair<TextPosition, TextPosition> Ends() const { return {selection_.Anchor(), selection_.End()}; }
   // The column of the cell at `spot`.
   void SelectColumn(const PageView::Spot& spot);
-  // The column of the cell where the selection ends or the mouse was clicked.
+  // The column of the cell that was pointed at last; if text was selected since by other means, of the cell
+  // where it ends.
   void SelectColumn();
   // Puts the selected text on the clipboard; does nothing without a selection.
   void Copy() const;
@@ -45,6 +46,7 @@ class Selector : public QObject {
   PageView& view_;
   TextSelection selection_;
   ColumnSelection column_;
+  PageView::Spot pointedAt_;  // where the mouse or a finger selected last; no page after selecting otherwise
 };
 
 }  // namespace tarvis
