@@ -277,6 +277,23 @@ TEST_F(Copying, EscEndsMarkingAndTakesTheMarkAway) {
   EXPECT_FALSE(CanCopy());
 }
 
+TEST_F(Copying, EscInTheMidstOfADragEndsMarking) {
+  Open(WithGraphs());
+  QWidget* viewport = View().viewport();
+  for (const Qt::KeyboardModifier held : {Qt::NoModifier, Qt::ControlModifier}) {
+    if (held == Qt::NoModifier) Press(Qt::Key_M, Qt::ControlModifier);
+    QTest::mousePress(viewport, Qt::LeftButton, held, At(0, 2000, 2000));
+    QTest::mouseMove(viewport, At(0, 3000, 2500));
+    ASSERT_TRUE(CanCopy());
+    Press(Qt::Key_Escape);
+    EXPECT_FALSE(CanCopy());
+    QTest::mouseMove(viewport, At(0, 4880, 3440));
+    QTest::mouseRelease(viewport, Qt::LeftButton, held, At(0, 4880, 3440));
+    EXPECT_FALSE(CanCopy()) << "what follows marks nothing";
+    EXPECT_FALSE(window_->ActionOf(Command::MarkArea)->isChecked());
+  }
+}
+
 TEST_F(Copying, AMarkedAreaEndsAtTheEdgeOfItsPage) {
   Open(WithGraphs());
   Press(Qt::Key_0, Qt::ControlModifier);

@@ -22,7 +22,9 @@ void AreaMarker::Start() {
 }
 
 void AreaMarker::Stop() {
-  if (!waiting_) return;
+  if (!IsMarking()) return;
+  if (start_) area_.reset();
+  start_.reset();
   waiting_ = false;
   view_.viewport()->unsetCursor();
   emit Changed();

@@ -24,10 +24,13 @@ class AreaMarker : public QObject {
   // Gets the mouse on `view` before `input` does. The view must outlive it.
   AreaMarker(PageView& view, PageInput& input, QObject* parent);
 
-  // The next drag marks an area, until it is done or `Stop` is called.
+  // The next drag marks an area, until it is done or `Stop` is called, which also ends a drag that goes on
+  // and takes away what it has marked.
   void Start();
   void Stop();
   bool IsWaiting() const { return waiting_; }
+  // Whether an area is waited for or being dragged.
+  bool IsMarking() const { return waiting_ || start_; }
 
   const std::optional<PageArea>& Area() const { return area_; }
   void Clear();

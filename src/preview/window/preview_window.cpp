@@ -239,7 +239,7 @@ void PreviewWindow::Connect() {
   escape->setContext(Qt::WidgetShortcut);
   connect(escape, &QShortcut::activated, this, [this] {
     if (overview_->IsOpen()) return overview_->Close();
-    if (marker_->IsWaiting()) return marker_->Stop();
+    if (marker_->IsMarking()) return marker_->Stop();
     if (marker_->Area()) return marker_->Clear();
     setWindowState(windowState() & ~Qt::WindowFullScreen);
   });
