@@ -150,5 +150,18 @@ TEST(SearchOfScripts, AHitAfterFoldedLettersIsMarkedAtItsPlace) {
   EXPECT_NEAR(hits[0].Boxes.at(0).width(), 0.667 * 170, 1);
 }
 
+TEST(TextSearch, TellsWhereAHitBegins) {
+  const auto document = DocumentBuilder().Page().Lines({"a ﬁrst gain", "second"}, 1440, 720).Build();
+  DocumentText text(*document);
+  const auto begin = [&](const char* wanted) {
+    const std::vector<SearchHit> hits = Search(text, QString::fromUtf8(wanted), {});
+    return hits.size() == 1 ? std::pair(hits[0].Piece, hits[0].Character)
+                            : std::pair(std::size_t{99}, std::size_t{99});
+  };
+  EXPECT_EQ(begin("gain"), std::pair(std::size_t{0}, std::size_t{7})) << "a ligature is one character";
+  EXPECT_EQ(begin("second"), std::pair(std::size_t{1}, std::size_t{0}));
+  EXPECT_EQ(begin(" second"), std::pair(std::size_t{1}, std::size_t{0})) << "the blank is the end of a line";
+}
+
 }  // namespace
 }  // namespace tarvis

@@ -54,12 +54,7 @@ int LinearText::OffsetOf(const TextPosition& position) {
       pieces_, place, {}, [](const Piece& entry) { return std::pair(entry.Page, entry.Index); });
   if (piece == pieces_.end()) return static_cast<int>(text_.size());
   if (std::pair(piece->Page, piece->Index) != place) return piece->Start;
-  const QList<uint> characters = text_.mid(piece->Start, piece->Length).toUcs4();
-  const auto count = std::min(static_cast<qsizetype>(position.Character), characters.size());
-  int offset = piece->Start;
-  for (qsizetype index = 0; index < count; ++index)
-    offset += QChar::requiresSurrogates(characters[index]) ? 2 : 1;
-  return offset;
+  return piece->Start + static_cast<int>(UnitsOf(text_.mid(piece->Start, piece->Length), position.Character));
 }
 
 TextPosition LinearText::PositionOf(int offset) {

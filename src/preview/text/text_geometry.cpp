@@ -151,6 +151,16 @@ QString StringOf(const Document& document, const ReadPiece& piece) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+qsizetype UnitsOf(const QString& text, std::size_t count) {
+  qsizetype units = 0;
+  for (; count > 0 && units < text.size(); --count) {
+    const bool isPair =
+        text[units].isHighSurrogate() && units + 1 < text.size() && text[units + 1].isLowSurrogate();
+    units += isPair ? 2 : 1;
+  }
+  return units;
+}
+
 bool IsWordCharacter(char32_t character) {
   return QChar::isLetterOrNumber(character) || character == U'_';
 }

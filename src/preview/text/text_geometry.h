@@ -17,6 +17,9 @@ std::string_view TextOf(const Document& document, const ReadPiece& piece);
 // The same as a string of the toolkit.
 QString StringOf(const Document& document, const ReadPiece& piece);
 
+// The number of UTF-16 units that the first `count` characters of `text` take; those of all if it has fewer.
+qsizetype UnitsOf(const QString& text, std::size_t count);
+
 // Whether a character is part of a word, both for selecting words and for finding whole ones.
 bool IsWordCharacter(char32_t character);
 

@@ -62,15 +62,18 @@ class Searcher {
     if (wanted_.isEmpty()) return;
     for (qsizetype at = cell.Text.indexOf(wanted_); at >= 0;) {
       const bool counts = !options_.WholeWords || IsWholeWord(cell.Text, at, wanted_.size());
-      if (counts) hits.push_back({page, BoxesOf(cell, at, at + wanted_.size()), PieceAt(cell, at)});
+      if (counts) hits.push_back(HitAt(page, cell, at));
       at = cell.Text.indexOf(wanted_, counts ? at + wanted_.size() : at + 1);
     }
   }
 
-  static std::size_t PieceAt(const CellText& cell, qsizetype place) {
-    std::size_t line = 0;
-    while (line + 1 < cell.Lines.size() && cell.Lines[line + 1].Start <= place) ++line;
-    return cell.Lines[line].Index;
+  // A hit may begin with the blank before a line.
+  SearchHit HitAt(int page, const CellText& cell, qsizetype place) const {
+    std::size_t index = 0;
+    while (index + 1 < cell.Lines.size() && cell.Lines[index + 1].Start <= place + 1) ++index;
+    const CellText::Line& line = cell.Lines[index];
+    const auto unit = static_cast<std::size_t>(std::max<qsizetype>(0, place - line.Start));
+    return {page, BoxesOf(cell, place, place + wanted_.size()), line.Index, line.Folded.FirstOf(unit)};
   }
 
   std::vector<QRectF> BoxesOf(const CellText& cell, qsizetype start, qsizetype end) const {

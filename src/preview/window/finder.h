@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <memory>
 
 #include "preview/pages/page_view.h"
 #include "preview/text/text_search.h"
@@ -22,8 +23,9 @@ class Finder : public QObject {
   void Step(int direction);
   // The marks of a page; the current hit has a colour of its own.
   std::vector<Highlight> Marks(int page) const;
-  const std::vector<SearchHit>& Hits() const { return hits_; }
-  // Shows a hit by its number, counted from 0.
+  // Others take their place at the next search; these stay as they are.
+  const SearchHits& Hits() const { return hits_; }
+  // Shows a hit by its number, counted from 0, also if it was shown last.
   void GoTo(int hit);
 
  signals:
@@ -36,11 +38,12 @@ class Finder : public QObject {
  private:
   void SearchAgain();
   void ShowCurrent();
+  bool IsInSight(const SearchHit& hit) const;
 
   FindBar& bar_;
   DocumentText& text_;
   PageView& view_;
-  std::vector<SearchHit> hits_;
+  SearchHits hits_ = std::make_shared<std::vector<SearchHit>>();
   int current_ = -1;
 };
 

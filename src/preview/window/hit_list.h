@@ -1,4 +1,5 @@
-// The list of all places where a text was found: page and row of each.
+// The list of all places where a text was found: page and row of each. Where the row has no room, its ends
+// are cut, not what was found.
 #pragma once
 
 #include <QListView>
@@ -16,8 +17,7 @@ class HitList : public QListView {
   // `text` must outlive it.
   explicit HitList(DocumentText& text, QWidget* parent = nullptr);
 
-  // `hits` must stay as they are until the next call.
-  void ShowHits(const std::vector<SearchHit>& hits);
+  void ShowHits(SearchHits hits);
   // Marks one of them.
   void ShowCurrent(int hit);
 

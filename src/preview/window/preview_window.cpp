@@ -253,7 +253,7 @@ void PreviewWindow::Connect() {
   connect(output_, &DocumentOutput::Saved, savedBar_, &SavedBar::Show);
   connect(finder_, &Finder::HitsChanged, this, [this] {
     pane_->Found().ShowHits(finder_->Hits());
-    pane_->ShowFound(!finder_->Hits().empty());
+    pane_->ShowFound(!finder_->Hits()->empty());
   });
   connect(finder_, &Finder::CurrentChanged, &pane_->Found(), &HitList::ShowCurrent);
   connect(&pane_->Found(), &HitList::HitChosen, finder_, &Finder::GoTo);

@@ -39,6 +39,9 @@ SidePane::SidePane(std::shared_ptr<const Document> document, DocumentText& text,
       found_(new HitList(text, this)) {
   setObjectName(QStringLiteral("sidePane"));
   setDocumentMode(true);
+  // The pane is never narrower than its tabs.
+  setUsesScrollButtons(false);
+  setElideMode(Qt::ElideNone);
   contents_->setObjectName(QStringLiteral("contents"));
   contents_->setAccessibleName(tr("Contents"));
   contents_->setHeaderHidden(true);
