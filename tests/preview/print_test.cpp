@@ -56,6 +56,17 @@ TEST_F(Print, AServerThatStopsWhilePrintingIsReportedAndThePreviewCanPrintAgain)
   ExpectPrinting();
 }
 
+TEST_F(Print, NothingElseIsPrintedOrSavedWhileAPrintRuns) {
+  const auto picture = StartAndHold();
+  for (const Command command : {Command::Print, Command::SavePdf})
+    EXPECT_FALSE(window_->ActionOf(command)->isEnabled());
+  picture->Release();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !window_->IsBusy(); }, 20'000));
+  for (const Command command : {Command::Print, Command::SavePdf})
+    EXPECT_TRUE(window_->ActionOf(command)->isEnabled());
+  TakeJob();
+}
+
 TEST_F(Print, ClosingTheWindowWhileAPrintRunsCancelsIt) {
   const auto picture = StartAndHold();
   const auto* job = window_->findChild<BackgroundJob*>();

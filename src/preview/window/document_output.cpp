@@ -57,6 +57,12 @@ DocumentOutput::DocumentOutput(std::shared_ptr<const Document> document, Documen
 
 DocumentOutput::~DocumentOutput() = default;
 
+void DocumentOutput::Cancel() {
+  if (!IsBusy()) return;
+  job_.reset();
+  emit BusyChanged();
+}
+
 QString DocumentOutput::ProposedPath(const QString& title, const QString& ending) const {
   QDir folder(memory_->Folder.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
                                         : memory_->Folder);
@@ -69,6 +75,7 @@ QString DocumentOutput::ProposedPdf() const {
 }
 
 void DocumentOutput::SavePdf() {
+  if (IsBusy()) return;
   PdfFileDialog dialog(window_, ProposedPdf());
   if (origin_.ReadData) dialog.OfferData(memory_->AttachesData);
   dialog.OfferTags(memory_->IsTagged);
@@ -119,6 +126,7 @@ void DocumentOutput::SaveGraph(const PlacedGraph& graph) {
 }
 
 void DocumentOutput::Print() {
+  if (IsBusy()) return;
   auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
   const int count = static_cast<int>(document_->Pages.size());
   printer->setDocName(QString::fromStdString(document_->Title));
@@ -158,11 +166,12 @@ bool DocumentOutput::AskForScale(const QSizeF& missing, PrintScale& scale) {
 
 void DocumentOutput::StartJob(const QString& caption, const QString& failure, BackgroundJob::Work work,
                               const std::function<void()>& done) {
-  if (job_) return;
   job_ = std::make_unique<BackgroundJob>(caption, std::move(work), window_);
+  emit BusyChanged();
   connect(job_.get(), &BackgroundJob::Finished, this, [this, failure, done](const QString& error) {
     const bool cancelled = job_->Cancelled();
     job_.release()->deleteLater();
+    emit BusyChanged();
     if (!error.isEmpty()) return ShowFailure(failure, error);
     if (!cancelled) done();
   });

@@ -6,8 +6,8 @@
 #include <memory>
 
 #include "preview/jobs/background_job.h"
-#include "preview/output/graph_forms.h"
 #include "preview/jobs/printing.h"
+#include "preview/output/graph_forms.h"
 #include "preview/window/preview_memory.h"
 #include "report/engine/document.h"
 
@@ -34,6 +34,7 @@ class DocumentOutput : public QObject {
   // Cancels what is under way and waits for it.
   ~DocumentOutput() override;
 
+  // Both do nothing while one of them is under way.
   void Print();
   void SavePdf();
   // As SVG or PNG.
@@ -41,11 +42,13 @@ class DocumentOutput : public QObject {
   // Whether a print or an export is under way.
   bool IsBusy() const { return job_ != nullptr; }
   // Ends what is under way and waits for it.
-  void Cancel() { job_.reset(); }
+  void Cancel();
 
  signals:
   // A file is complete.
   void Saved(const QString& path);
+  // A print or an export begins or is over.
+  void BusyChanged();
 
  private:
   // In the folder where the last file was saved; `title` and `ending` are parts of the name.

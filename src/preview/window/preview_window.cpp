@@ -254,6 +254,10 @@ void PreviewWindow::Connect() {
   connect(finder_, &Finder::HitsChanged, this, [this] {
     pane_->Found().ShowHits(finder_->Hits());
     pane_->ShowFound(!finder_->Hits()->empty());
+  connect(output_, &DocumentOutput::BusyChanged, this, [this] {
+    for (const Command command : {Command::Print, Command::SavePdf})
+      ActionOf(command)->setDisabled(output_->IsBusy());
+  });
   });
   connect(finder_, &Finder::CurrentChanged, &pane_->Found(), &HitList::ShowCurrent);
   connect(&pane_->Found(), &HitList::HitChosen, finder_, &Finder::GoTo);
