@@ -43,6 +43,16 @@ TEST_F(NextPreview, KeepsZoomAndSinglePages) {
   EXPECT_TRUE(window_->ActionOf(Command::FitPage)->isChecked());
 }
 
+TEST_F(NextPreview, KeepsWhatIsSeenOfAPageThatIsWiderThanTheWindow) {
+  OpenTable(3);
+  View().SetZoom(2);
+  View().horizontalScrollBar()->setValue(37);
+  View().GoTo({1, 3000});
+  OpenAgain(DocumentBuilder().TablePages(3).Build());
+  EXPECT_EQ(View().horizontalScrollBar()->value(), 37);
+  EXPECT_NEAR(View().CurrentPlace().Top, 3000, 20);
+}
+
 TEST_F(NextPreview, KeepsTheSidePaneItsWidthAndItsTab) {
   OpenTable(3);
   auto* pane = &Find<QTabWidget>("sidePane");

@@ -31,6 +31,7 @@ struct WindowState {
   ZoomMode Zoom = ZoomMode::FitWidth;
   double Factor = 1;
   ReadingPlace Place = {};
+  int Across = 0;  // logical pixels that the pages are scrolled sideways
 };
 
 struct PreviewMemory {

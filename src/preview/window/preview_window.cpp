@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QMenu>
 #include <QScreen>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QSplitter>
 #include <QToolBar>
@@ -160,13 +161,15 @@ WindowState PreviewWindow::State() const {
           .Side = layout.Side(),
           .Zoom = layout.Mode(),
           .Factor = layout.Zoom(),
-          .Place = Remember(*document_, view_->CurrentPlace())};
+          .Place = Remember(*document_, view_->CurrentPlace()),
+          .Across = view_->horizontalScrollBar()->value()};
 }
 
 void PreviewWindow::showEvent(QShowEvent* event) {
   QMainWindow::showEvent(event);
   if (!place_) return;
   view_->GoTo(FindAgain(*document_, *place_));
+  view_->horizontalScrollBar()->setValue(memory_->Window->Across);
   place_.reset();
 }
 
@@ -251,13 +254,13 @@ void PreviewWindow::Connect() {
   connect(view_, &PageView::ZoomChanged, this, &PreviewWindow::ShowZoom);
   connect(pane_, &SidePane::PlaceChosen, this, &PreviewWindow::Jump);
   connect(output_, &DocumentOutput::Saved, savedBar_, &SavedBar::Show);
-  connect(finder_, &Finder::HitsChanged, this, [this] {
-    pane_->Found().ShowHits(finder_->Hits());
-    pane_->ShowFound(!finder_->Hits()->empty());
   connect(output_, &DocumentOutput::BusyChanged, this, [this] {
     for (const Command command : {Command::Print, Command::SavePdf})
       ActionOf(command)->setDisabled(output_->IsBusy());
   });
+  connect(finder_, &Finder::HitsChanged, this, [this] {
+    pane_->Found().ShowHits(finder_->Hits());
+    pane_->ShowFound(!finder_->Hits()->empty());
   });
   connect(finder_, &Finder::CurrentChanged, &pane_->Found(), &HitList::ShowCurrent);
   connect(&pane_->Found(), &HitList::HitChosen, finder_, &Finder::GoTo);
