@@ -111,6 +111,17 @@ TEST_F(Reading, BoldTextHasAWeightOfItsOwn) {
       Text().attributes(OffsetOf("40.0"), &start, &end).contains(QStringLiteral("font-weight:normal")));
 }
 
+TEST_F(Reading, LooksAreAskedForAtTheCaretAndAtTheEndToo) {
+  Open(Table());
+  Text().setCursorPosition(OffsetOf("40.0"));
+  int start = 0, end = 0;
+  constexpr int AtCaret = -2, AtEnd = -1;
+  EXPECT_TRUE(Text().attributes(AtCaret, &start, &end).contains(QStringLiteral("font-weight:normal")));
+  EXPECT_EQ(start, OffsetOf("40.0"));
+  Text().attributes(AtEnd, &start, &end);
+  EXPECT_EQ(end, Text().characterCount());
+}
+
 TEST_F(Reading, ThumbnailsAreAListOfPagesWithNamesOfWhichOneIsSelected) {
   OpenTable(12);
   Find<QTabWidget>("sidePane").setCurrentIndex(1);

@@ -1,4 +1,6 @@
 """Reads the program's windows as assistive tools do: by role, name and state, through the accessibility bus."""
+import re
+
 import gi
 
 gi.require_version("Atspi", "2.0")
@@ -33,6 +35,31 @@ class Widget:
         """The text of a text box."""
         return self._ask(lambda a: Atspi.Text.get_text(a, 0, -1), "") or ""
 
+    @property
+    def caret(self):
+        return self._ask(Atspi.Text.get_caret_offset, -1)
+
+    def move_caret(self, offset):
+        self._ask(lambda a: Atspi.Text.set_caret_offset(a, offset), False)
+
+    def line_at(self, offset):
+        return self._unit_at(offset, Atspi.TextBoundaryType.LINE_START)
+
+    def cell_at(self, offset):
+        """Of the pages of a document, whose cells are what assistive tools call sentences."""
+        return self._unit_at(offset, Atspi.TextBoundaryType.SENTENCE_START)
+
+    def _unit_at(self, offset, kind):
+        return self._ask(lambda a: Atspi.Text.get_text_at_offset(a, offset, kind).content, "") or ""
+
+    def place_of(self, offset):
+        """Of a character: left, top, width and height on the screen."""
+        place = self._ask(lambda a: Atspi.Text.get_character_extents(a, offset, Atspi.CoordType.SCREEN), None)
+        return (place.x, place.y, place.width, place.height) if place else None
+
+    def offset_at(self, x, y):
+        return self._ask(lambda a: Atspi.Text.get_offset_at_point(a, x, y, Atspi.CoordType.SCREEN), -1)
+
     def has(self, state):
         """`state` is a word such as "checked", "focused", "enabled", "showing"."""
         kind = getattr(Atspi.StateType, state.upper())
@@ -61,6 +88,42 @@ class Widget:
             if (role is None or widget.role == role) and (name is None or widget.name == name) and widget.has("showing"):
                 return widget
         return None
+
+
+class Announcements:
+    """What programs announce of some kinds, as long as it is the context; `said` and the others let it arrive."""
+
+    def __init__(self, *kinds):
+        self._kinds = kinds
+        self._heard = []  # kind, role and name of the source, at the time
+        self._listener = Atspi.EventListener.new(self._note)
+
+    def _note(self, event):
+        source = Widget(event.source)
+        self._heard.append((event.type, source.role, source.name))
+
+    def __enter__(self):
+        for kind in self._kinds:
+            self._listener.register(kind)
+        return self
+
+    def __exit__(self, *_):
+        for kind in self._kinds:
+            self._listener.deregister(kind)
+
+    def of(self, kind):
+        context = GLib.MainContext.default()
+        while context.iteration(False):
+            pass
+        return [entry for entry in self._heard if entry[0].startswith(kind)]
+
+    def said(self, pattern):
+        """Whether something has got a name like this."""
+        return any(re.search(pattern, name) for _, _, name in self.of("object:property-change:accessible-name"))
+
+    def sources(self, kind):
+        """Role and name of all that announced this kind."""
+        return {(role, name) for _, role, name in self.of(kind)}
 
 
 class AccessibleProgram:

@@ -55,10 +55,11 @@ class AccessiblePages : public QAccessibleWidget, public QAccessibleTextInterfac
     return Pass(reader_.Text().UnitAfter(Known(offset), UnitOf(type)), start, end);
   }
   QString attributes(int offset, int* start, int* end) const override {
-    const LinearText::Piece* piece = reader_.Text().PieceAt(offset);
+    const int known = Known(offset);
+    const LinearText::Piece* piece = reader_.Text().PieceAt(known);
     *start = piece != nullptr ? piece->Start : 0;
     *end = piece != nullptr ? piece->Start + piece->Length : 0;
-    return reader_.LookAt(offset);
+    return reader_.LookAt(known);
   }
 
   int cursorPosition() const override { return reader_.Caret(); }

@@ -90,14 +90,26 @@ void PageReader::FollowSelection() {
   }
 }
 
-// The name of the view is announced when it changes, and the caret goes along, so that reading continues on
-// the page that is looked at.
+void PageReader::Announce(const QString& words) {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)  // before that, tools learn of it by the name that changes
+  QAccessibleAnnouncementEvent event(&view_, words);
+  QAccessible::updateAccessibility(&event);
+#else
+  Q_UNUSED(words)
+#endif
+}
+
+// The page is the name of the view, whose change is made known, and the caret goes along, so that reading
+// continues on the page that is looked at.
 void PageReader::FollowPage() {
   const int page = view_.CurrentPage();
   const int count = view_.Layout().PageCount();
   if (page == page_) return;
+  const bool isFirst = page_ < 0;
   page_ = page;
-  view_.setAccessibleName(count == 0 ? tr("No pages") : tr("Page %1 of %2").arg(page + 1).arg(count));
+  const QString name = count == 0 ? tr("No pages") : tr("Page %1 of %2").arg(page + 1).arg(count);
+  view_.setAccessibleName(name);
+  if (!isFirst && QAccessible::isActive()) Announce(name);
   if (caret_.Page == page) return;
   caret_ = {page, 0, 0};
   if (!QAccessible::isActive()) return;

@@ -37,6 +37,7 @@ class PageReader : public QObject {
  private:
   void FollowSelection();
   void FollowPage();
+  void Announce(const QString& words);
 
   DocumentText& text_;
   PageView& view_;
