@@ -6,6 +6,18 @@
 namespace tarvis {
 namespace {
 
+// Chooses an option of the printer by its name, wherever the dialog has it.
+void ChooseEntry(QDialog& properties, const char* name) {
+  int found = 0;
+  for (QComboBox* choice : properties.findChildren<QComboBox*>()) {
+    const int entry = choice->findText(QString::fromLatin1(name));
+    if (entry < 0) continue;
+    ++found;
+    choice->setCurrentIndex(entry);
+  }
+  EXPECT_EQ(found, 1) << name;
+}
+
 TEST_F(Print, APageRangeInTwoCopiesArrivesAtTheQueue) {
   OpenTable(5);
   EXPECT_EQ(PagesPrintedWith([](QPrintDialog& dialog) {
@@ -161,15 +173,21 @@ TEST_F(Print, ThePrintersPropertiesAreOfferedAndArriveAtTheQueue) {
     EXPECT_TRUE(In<QPushButton>(dialog, "properties").isVisible());
     UsePaper(dialog, [](QDialog& properties) {
       In<QComboBox>(properties, "pagesPerSheetCombo").setCurrentIndex(1);
-      for (QComboBox* choice : properties.findChildren<QComboBox*>()) {
-        const int tray = choice->findText(QStringLiteral("Lower Tray"));
-        if (tray >= 0) choice->setCurrentIndex(tray);
-      }
+      ChooseEntry(properties, "Lower Tray");
+      ChooseEntry(properties, "Upper Left");
     });
   });
   TakeJob();
   EXPECT_EQ(Asked("number-up"), QStringLiteral("2"));
   EXPECT_EQ(Asked("InputSlot"), QStringLiteral("Lower"));
+  EXPECT_EQ(Asked("StapleLocation"), QStringLiteral("UpperLeft"));
+}
+
+TEST_F(Print, NoOptionOfThePrinterIsAskedForThatNobodyHasChosen) {
+  OpenTable(1);
+  ExpectPrinting();
+  for (const char* option : {"InputSlot", "StapleLocation"}) EXPECT_EQ(Asked(option), QString()) << option;
+  EXPECT_EQ(Asked("number-up"), QStringLiteral("1"));
 }
 
 TEST_F(Print, PagesPerSheetGoTogetherWithAPageSet) {

@@ -31,6 +31,13 @@ OPTIONS = """\
 *Duplex DuplexTumble/Short Edge: ""
 *CloseUI: *Duplex
 
+*OpenUI *StapleLocation/Staple: PickOne
+*OrderDependency: 20 AnySetup *StapleLocation
+*DefaultStapleLocation: None
+*StapleLocation None/No Staple: ""
+*StapleLocation UpperLeft/Upper Left: ""
+*CloseUI: *StapleLocation
+
 *OpenUI *ColorModel/Colour: PickOne
 *OrderDependency: 20 AnySetup *ColorModel
 *DefaultColorModel: RGB
