@@ -207,6 +207,24 @@ def part_benchmarks(folder, bench_folder):
                     yield f"{row['name']} [{counter}]", row[counter]
 
 
+def measure_wide_screen(options):
+    """Frames of scrolling on a display of 3840 by 2160, and the peak of memory."""
+    with tempfile.TemporaryDirectory() as folder:
+        display = VirtualDisplay(size="3840x2160")
+        try:
+            environment = {**os.environ, **display.environment, "XDG_RUNTIME_DIR": folder}
+            measured = json.loads(subprocess.run([str(options.build / "bench/wide_screen_bench")], env=environment,
+                                                 capture_output=True, text=True, check=True).stdout)
+        finally:
+            display.close()
+    size = f"{measured.pop('width')} x {measured.pop('height')}"
+    peak = measured.pop("peak_megabytes")
+    print_table([f"400 pages at {size}", "frames", "median [ms]", "longest [ms]", "over 16.7 ms"],
+                [[way, str(of["frames"]), f"{of['median_ms']:.1f}", f"{of['longest_ms']:.1f}", str(of["late"])]
+                 for way, of in measured.items()])
+    print(f"peak memory with all pages visited: {peak:.0f} MB\n")
+
+
 def shown(value):
     return f"{value:.2f}" if value < 3 else f"{value:.1f}" if value < 100 else f"{value:.0f}"
 
@@ -257,6 +275,7 @@ def main():
     try:
         measure_whole_process(options)
         measure_whole_documents(options)
+        measure_wide_screen(options)
     finally:
         if options.queue:
             options.queue.close()

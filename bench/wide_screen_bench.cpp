@@ -1,0 +1,88 @@
+// Scrolls a list of 400 pages in a window as large as its screen, and prints what a frame takes and the peak
+// of memory as JSON. A display is needed: program_bench.py gives it one of 3840 by 2160.
+#include <QAction>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTabWidget>
+#include <algorithm>
+#include <cstdio>
+#include <vector>
+
+#include "memory.h"
+#include "preview/document_builder.h"
+#include "preview/pages/page_view.h"
+#include "preview/paint/toolkit_geometry.h"
+#include "preview/window/preview_window.h"
+
+namespace tarvis {
+namespace {
+
+constexpr int PageCount = 400;
+constexpr int WheelNotch = 144;       // logical pixels
+constexpr double FrameLength = 16.7;  // milliseconds, as long as a screen shows a picture
+
+double MillisecondsOf(const QElapsedTimer& timer) {
+  return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+}
+
+// Runs `step` and all that the window does at once because of it.
+template <typename Step>
+double FrameOf(Step step) {
+  QElapsedTimer timer;
+  timer.start();
+  step();
+  QCoreApplication::processEvents();
+  return MillisecondsOf(timer);
+}
+
+// Scrolls from the first page to page `last`, counted from 0, or to the end by steps of `distance` logical
+// pixels, one in the time that a screen shows a picture. In the rest of that time pages that have been
+// rendered meanwhile are painted, which is timed, too.
+std::vector<double> Scroll(PageView& view, int distance, int last) {
+  QScrollBar& bar = *view.verticalScrollBar();
+  bar.setValue(0);
+  QCoreApplication::processEvents();
+  std::vector<double> frames;
+  while (bar.value() < bar.maximum() && view.CurrentPage() < last) {
+    QElapsedTimer frame;
+    frame.start();
+    frames.push_back(FrameOf([&] { bar.setValue(bar.value() + distance); }));
+    while (MillisecondsOf(frame) < FrameLength) frames.back() = std::max(frames.back(), FrameOf([] {}));
+  }
+  return frames;
+}
+
+void Print(const char* name, std::vector<double> frames) {
+  std::ranges::sort(frames);
+  const auto late = frames.end() - std::ranges::upper_bound(frames, FrameLength);
+  std::printf("\"%s\": {\"frames\": %zu, \"median_ms\": %.2f, \"longest_ms\": %.2f, \"late\": %td},\n", name,
+              frames.size(), frames[frames.size() / 2], frames.back(), late);
+}
+
+void ScrollWideScreen() {
+  PreviewWindow window(DocumentBuilder().TablePages(PageCount).Build());
+  window.showFullScreen();
+  window.findChild<QTabWidget*>(QStringLiteral("sidePane"))->setCurrentIndex(1);
+  PageView& view = window.View();
+  QElapsedTimer waited;
+  waited.start();
+  while (view.width() < window.screen()->size().width() / 2 && waited.elapsed() < 10'000)
+    QCoreApplication::processEvents();
+  std::printf("{\"width\": %d, \"height\": %d,\n", window.width(), window.height());
+  Print("full width, by the wheel", Scroll(view, WheelNotch, PageCount / 10));
+  Print("full width, ten pages a second",
+        Scroll(view, NearestPixel(view.Layout().PageSize().height() / 6), PageCount));
+  window.ActionOf(Command::ManyColumns)->trigger();
+  Print("as many columns as fit, by the wheel", Scroll(view, WheelNotch, PageCount));
+  std::printf("\"peak_megabytes\": %.1f}\n", PeakMegabytes());
+}
+
+}  // namespace
+}  // namespace tarvis
+
+int main(int argc, char** argv) {
+  const QApplication application(argc, argv);
+  tarvis::ScrollWideScreen();
+}
