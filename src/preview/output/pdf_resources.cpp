@@ -96,7 +96,7 @@ struct TakenForms {
 };
 
 TakenForms MakeForms(QPDF& pdf, const PdfPictures& pictures, PdfContents& contents, Inks inks) {
-  TakenForms forms{QPDFObjectHandle::newDictionary()};
+  TakenForms forms{QPDFObjectHandle::newDictionary(), true, {}};
   if (pictures.All().empty()) return forms;
   HelperFile file(PaintHelperFile(
       [&](QPdfWriter& writer, QPainter& painter) { PaintPictures(pictures, writer, painter); }));
