@@ -2,7 +2,6 @@
 #include "printfiles/host_files.h"
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include <filesystem>
 #include <string>
@@ -112,17 +111,6 @@ TEST(LoadLines, RefusesAFileThatIsTooLargeByItsSizeAndReadsNothingOfIt) {
   EXPECT_EQ(test.Run.Session.Diagnosis,
             "User.tmp: too large: 5000000000 bytes, where 33554432 are read at most");
   EXPECT_EQ(LoadLines(test.Run, folder.HostPath("Trace.tmp")), 1);
-}
-
-TEST(LoadLines, FailsOnAPipeAndOnADeviceAndNobodyWaits) {
-  const TempFolder folder;
-  ASSERT_EQ(mkfifo((folder.Path() / "User.tmp").c_str(), 0600), 0);
-  std::filesystem::create_symlink("/dev/zero", folder.Path() / "Trace.tmp");
-  TestRun test;
-  for (const std::string name : {"User.tmp", "Trace.tmp"}) {
-    EXPECT_EQ(LoadLines(test.Run, folder.HostPath(name)), -1);
-    EXPECT_EQ(test.Run.Session.Diagnosis, name + ": can't be read");
-  }
 }
 
 TEST(LoadLines, FailsOnAFolder) {
