@@ -1,5 +1,6 @@
 #include "printfiles/replace_file.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <cstdint>
@@ -36,9 +37,13 @@ std::optional<fs::path> Destination(const fs::path& path) {
   return target;
 }
 
-// What the names of all files start with that are written to replace this one.
+// What the names of all files start with that are written to replace this one. No character is cut: not every
+// system takes a half one in a name.
 std::u8string StartOfNames(const fs::path& file) {
-  return file.filename().u8string().substr(0, LongestStart) + u8'.';
+  const std::u8string name = file.filename().u8string();
+  std::size_t end = std::min(name.size(), LongestStart);
+  while (end > 0 && end < name.size() && (name[end] & 0xC0) == 0x80) --end;
+  return name.substr(0, end) + u8'.';
 }
 
 // "PrintOption.ToT.0123456789abcdef.new"; no two processes choose the same number.

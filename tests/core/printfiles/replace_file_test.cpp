@@ -84,6 +84,19 @@ TEST_F(ReplacedFile, TakesAwayFilesWithTheNamesThatItGivesItself) {
   }
 }
 
+TEST_F(ReplacedFile, IsWrittenUnderANameThatHasNoHalfCharacter) {
+  std::u8string name = u8"n";
+  while (name.size() < 250) name += u8"\u00E4\u8868";
+  std::u8string given;
+  ASSERT_TRUE(ReplaceFile(Folder.Path() / name, "new", [&](const fs::path& fresh, const fs::path&) {
+    given = fresh.filename().u8string();
+    return true;
+  }));
+  const std::u8string start = given.substr(0, given.find(u8'.'));
+  EXPECT_TRUE(name.starts_with(start));
+  EXPECT_EQ(start.size(), 198U) << "whole characters of 200 bytes";
+}
+
 TEST_F(ReplacedFile, TakesAwayNothingElse) {
   const auto names = {"options.old", "options.new", "options.0123456789abcdeg.new",
                       "other.0123456789abcdef.new", "options.0123456789abcdef.new.old"};
