@@ -15,6 +15,12 @@ bool IsProtected(const std::filesystem::path& path) {
   return old.exists() && !old.isWritable();
 }
 
+// The characters of the name, whatever code page the system has.
+QString NameOf(const std::filesystem::path& path) {
+  const std::u8string name = path.u8string();
+  return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+}
+
 QString Translated(const char* text) {
   return QCoreApplication::translate("WholeFile", text);
 }
@@ -22,7 +28,7 @@ QString Translated(const char* text) {
 }  // namespace
 
 QString WriteWholeFile(std::string_view bytes, const std::filesystem::path& path) {
-  const QString name = QString::fromStdString(path.string());
+  const QString name = NameOf(path);
   if (!CanBeReplaced(path))
     return Translated("\"%1\" is not an ordinary file and is not replaced.").arg(name);
   std::error_code error = std::make_error_code(std::errc::permission_denied);
