@@ -7,12 +7,8 @@
 
 namespace tarvis {
 
-// The raw line without the program's name; only the name may be enclosed in quotation marks.
 std::string CommandLineText(int, char* const*) {
-  const QString line = QString::fromWCharArray(GetCommandLineW());
-  const QChar nameEnd = line.startsWith('"') ? '"' : ' ';
-  const qsizetype end = line.indexOf(nameEnd, 1);
-  return end < 0 ? std::string() : line.mid(end + 1).toStdString();
+  return std::string(ArgumentsOf(QString::fromWCharArray(GetCommandLineW()).toStdString()));
 }
 
 }  // namespace tarvis

@@ -18,5 +18,21 @@ TEST(CommandLine, IsEmptyWithoutArguments) {
   EXPECT_EQ(CommandLineText(1, argv), "");
 }
 
+TEST(ArgumentsOfALine, FollowANameUpToABlankOrATab) {
+  EXPECT_EQ(ArgumentsOf(R"(C:\Host\bin\tarvis.exe User help.chm 1 1)"), "User help.chm 1 1");
+  EXPECT_EQ(ArgumentsOf("tarvis.exe\tUser \t7"), "User \t7");
+  EXPECT_EQ(ArgumentsOf("tarvis.exe  User"), " User");
+}
+
+TEST(ArgumentsOfALine, FollowANameInQuotationMarksThatHoldsBlanks) {
+  EXPECT_EQ(ArgumentsOf(R"("C:\Program Files\tarvis.exe" User "help.chm")"), R"( User "help.chm")");
+  EXPECT_EQ(ArgumentsOf(R"("tarvis.exe"User)"), "User");
+}
+
+TEST(ArgumentsOfALine, AreEmptyWhereNothingFollows) {
+  for (const char* line : {"", "tarvis.exe", "\"tarvis.exe\"", "\"tarvis.exe", "tarvis.exe "})
+    EXPECT_EQ(ArgumentsOf(line), "") << line;
+}
+
 }  // namespace
 }  // namespace tarvis
