@@ -1,23 +1,72 @@
 // Host settings on Windows: the registry.
 #include <windows.h>
 
-#include <QSettings>
+#include <array>
+#include <optional>
+#include <string_view>
 
 #include "platform/system/host_settings.h"
 
 namespace tarvis {
 namespace {
 
-constexpr qsizetype LongestValue = 1024;
+constexpr std::size_t LongestValue = 1024;  // the registry buffer of the system
 
-// The host is a 32-bit program, so its keys are in the 32-bit view of the registry.
+// A 32-bit host writes in the 32-bit view of the registry, which is another one than that of this program.
+constexpr std::array Views = {REGSAM{KEY_WOW64_32KEY}, REGSAM{KEY_WOW64_64KEY}};
+
+std::wstring Wide(const std::string& text) {
+  const int size = static_cast<int>(text.size());
+  std::wstring wide(text.size(), L'\0');  // UTF-8 never has fewer bytes than UTF-16 has units
+  wide.resize(static_cast<std::size_t>(
+      MultiByteToWideChar(CP_UTF8, 0, text.data(), size, wide.data(), static_cast<int>(wide.size()))));
+  return wide;
+}
+
+std::string Utf8(std::wstring_view wide) {
+  std::string text(wide.size() * 3, '\0');
+  text.resize(static_cast<std::size_t>(WideCharToMultiByte(CP_UTF8, 0, wide.data(),
+                                                           static_cast<int>(wide.size()), text.data(),
+                                                           static_cast<int>(text.size()), nullptr, nullptr)));
+  return text;
+}
+
+// A key that is only read. Nothing is made where it is missing.
+class RegistryKey {
+ public:
+  RegistryKey(const std::wstring& name, REGSAM view) {
+    if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, name.c_str(), 0, KEY_QUERY_VALUE | view, &key_) != ERROR_SUCCESS)
+      key_ = nullptr;
+  }
+  ~RegistryKey() {
+    if (key_ != nullptr) RegCloseKey(key_);
+  }
+  RegistryKey(const RegistryKey&) = delete;
+  RegistryKey& operator=(const RegistryKey&) = delete;
+
+  // Up to the first NUL; nothing if there is no such value, or one that the buffer can't hold.
+  std::optional<std::string> Value(const std::wstring& name) const {
+    std::array<wchar_t, LongestValue> buffer{};
+    DWORD size = sizeof(buffer);
+    const auto bytes = reinterpret_cast<BYTE*>(buffer.data());
+    if (key_ == nullptr ||
+        RegQueryValueExW(key_, name.c_str(), nullptr, nullptr, bytes, &size) != ERROR_SUCCESS)
+      return std::nullopt;
+    const std::wstring_view value(buffer.data(), size / sizeof(wchar_t));
+    return Utf8(value.substr(0, value.find(L'\0')));
+  }
+
+ private:
+  HKEY key_ = nullptr;
+};
+
 class WindowsRegistry : public HostSettings {
  public:
   std::string Value(const std::string& key, const std::string& valueName) override {
-    const QSettings registry("HKEY_LOCAL_MACHINE\\" + QString::fromStdString(key),
-                             QSettings::Registry32Format);
-    const QString value = registry.value(QString::fromStdString(valueName)).toString();
-    return value.size() > LongestValue ? std::string() : value.toStdString();
+    for (const REGSAM view : Views) {
+      if (auto value = RegistryKey(Wide(key), view).Value(Wide(valueName))) return *std::move(value);
+    }
+    return {};
   }
   CodePage SystemCodePage() const override { return CodePage(static_cast<int>(GetACP())); }
   bool CountsPdfPrinter() const override { return false; }
