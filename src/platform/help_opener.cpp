@@ -8,6 +8,7 @@
 #include <string>
 
 #include "dialogs/controls/help_context.h"
+#include "platform/help_viewer.h"
 #include "text/native_path.h"
 
 namespace tarvis {
@@ -26,11 +27,12 @@ QUrl AddressOf(const std::filesystem::path& file) {
 }  // namespace
 
 void HelpOpener::Open() const {
-  QUrl place = AddressOf(NativePath(helpFile_));
-  if (place.path().endsWith(".html", Qt::CaseInsensitive)) {
-    const std::int32_t own = HelpContextOf(QApplication::focusWidget());
-    place.setFragment(QString::number(own != 0 ? own : context_));
-  }
+  const std::filesystem::path file = NativePath(helpFile_);
+  const std::int32_t own = HelpContextOf(QApplication::focusWidget());
+  const std::int32_t context = own != 0 ? own : context_;
+  if (OpenInHelpViewer(file, context)) return;
+  QUrl place = AddressOf(file);
+  if (place.path().endsWith(".html", Qt::CaseInsensitive)) place.setFragment(QString::number(context));
   QDesktopServices::openUrl(place);
 }
 
