@@ -1,9 +1,11 @@
 // tarvis-check: says to the host's developers whether their files are good. Exit status 0 if all are, 1 if
 // not.
-#include <cstring>
 #include <iostream>
+#include <string>
+#include <vector>
 
 #include "check/check_file.h"
+#include "platform/files/program_arguments.h"
 #include "text/code_page.h"
 #include "text/run_time_failure.h"
 
@@ -18,14 +20,10 @@ constexpr const char* Usage =
     "Sim.tmp, Sim1.tmp, IdxIdxTbl.tmp, IdxZoneTbl.tmp, IdxJogTbl.tmp, PrintOption.ToT. The code page is 1252 "
     "by default.\n";
 
-bool Is(const char* argument, const char* option) {
-  return std::strcmp(argument, option) == 0;
-}
-
-int CheckFiles(int codePage, char** first, char** end) {
+int CheckFiles(int codePage, const std::vector<std::string>& paths) {
   bool allGood = true;
-  for (char** path = first; path != end; ++path) {
-    const tarvis::FileCheck check = tarvis::CheckFile(*path, tarvis::CodePage(codePage));
+  for (const std::string& path : paths) {
+    const tarvis::FileCheck check = tarvis::CheckFile(path, tarvis::CodePage(codePage));
     std::cout << check.Line << '\n';
     allGood = allGood && check.IsGood;
   }
@@ -35,23 +33,22 @@ int CheckFiles(int codePage, char** first, char** end) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  char** end = argv + argc;
-  char** first = argv + 1;
+  std::vector<std::string> arguments = tarvis::ProgramArguments(argc, argv);
   int codePage = 1252;
   try {
-    if (end - first == 1 && Is(*first, "--help")) {
+    if (arguments == std::vector<std::string>{"--help"}) {
       std::cout << Usage;
       return 0;
     }
-    if (end - first >= 2 && Is(*first, "--code-page")) {
-      codePage = tarvis::CodePageNumber(first[1]);
-      first += 2;
+    if (arguments.size() >= 2 && arguments.front() == "--code-page") {
+      codePage = tarvis::CodePageNumber(arguments[1]);
+      arguments.erase(arguments.begin(), arguments.begin() + 2);
     }
-    if (first >= end || std::strncmp(*first, "--", 2) == 0) {
+    if (arguments.empty() || arguments.front().starts_with("--")) {
       std::cerr << Usage;
       return 1;
     }
-    return CheckFiles(codePage, first, end);
+    return CheckFiles(codePage, arguments);
   } catch (const tarvis::RunTimeFailure& failure) {
     std::cerr << "tarvis-check: " << failure.what() << '\n';
     return 1;

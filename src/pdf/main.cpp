@@ -10,6 +10,7 @@
 #include "pdf/pdf_desktop.h"
 #include "pdf/pdf_error.h"
 #include "pdf/program.h"
+#include "platform/files/program_arguments.h"
 #include "platform/system/process_guard.h"
 #include "platform/system/standard_output.h"
 #include "run/failures.h"
@@ -104,8 +105,7 @@ int main(int argc, char** argv) {
   UseOneMemoryPool();
   NoteInterruptions();
   PdfDesktop desktop;
-  const std::vector<std::string> arguments(argc > 0 ? argv + 1 : argv, argv + argc);
-  const Outcome outcome = Serve(arguments, process, desktop);
+  const Outcome outcome = Serve(ProgramArguments(argc, argv), process, desktop);
   Report(outcome, desktop);
   std::fflush(nullptr);
   std::_Exit(outcome.ExitStatus);

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string_view>
 
+#include "platform/files/windows_text.h"
 #include "platform/system/host_settings.h"
 
 namespace tarvis {
@@ -14,22 +15,6 @@ constexpr std::size_t LongestValue = 1024;  // the registry buffer of the system
 
 // A 32-bit host writes in the 32-bit view of the registry, which is another one than that of this program.
 constexpr std::array Views = {REGSAM{KEY_WOW64_32KEY}, REGSAM{KEY_WOW64_64KEY}};
-
-std::wstring Wide(const std::string& text) {
-  const int size = static_cast<int>(text.size());
-  std::wstring wide(text.size(), L'\0');  // UTF-8 never has fewer bytes than UTF-16 has units
-  wide.resize(static_cast<std::size_t>(
-      MultiByteToWideChar(CP_UTF8, 0, text.data(), size, wide.data(), static_cast<int>(wide.size()))));
-  return wide;
-}
-
-std::string Utf8(std::wstring_view wide) {
-  std::string text(wide.size() * 3, '\0');
-  text.resize(static_cast<std::size_t>(WideCharToMultiByte(CP_UTF8, 0, wide.data(),
-                                                           static_cast<int>(wide.size()), text.data(),
-                                                           static_cast<int>(text.size()), nullptr, nullptr)));
-  return text;
-}
 
 // A key that is only read. Nothing is made where it is missing.
 class RegistryKey {
@@ -53,7 +38,7 @@ class RegistryKey {
         RegQueryValueExW(key_, name.c_str(), nullptr, nullptr, bytes, &size) != ERROR_SUCCESS)
       return std::nullopt;
     const std::wstring_view value(buffer.data(), size / sizeof(wchar_t));
-    return Utf8(value.substr(0, value.find(L'\0')));
+    return Utf8OfWide(value.substr(0, value.find(L'\0')));
   }
 
  private:
@@ -64,7 +49,8 @@ class WindowsRegistry : public HostSettings {
  public:
   std::string Value(const std::string& key, const std::string& valueName) override {
     for (const REGSAM view : Views) {
-      if (auto value = RegistryKey(Wide(key), view).Value(Wide(valueName))) return *std::move(value);
+      if (auto value = RegistryKey(WideOfUtf8(key), view).Value(WideOfUtf8(valueName)))
+        return *std::move(value);
     }
     return {};
   }
