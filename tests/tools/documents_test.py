@@ -63,6 +63,8 @@ LONG = {
     "./bench.sh --peers": ["./bench.sh --runs 1 --peers"],
     "tools/compare_pictures FOLDER FILE...": ["tools/compare_pictures build/compared tests/pictures/data/ink_bars.emf"],
     "tools/compare_scripts FOLDER": ["tools/compare_scripts build/scripts"],
+    "./windows.sh": ["./windows.sh core"],
+    "./windows.sh core": ["./windows.sh core"],
     "tools/make_pictures": ["tools/make_pictures --output build/pictures"],
 }
 
