@@ -24,6 +24,7 @@ CHECKER = Path(os.environ["TARVIS_CHECK"])
 # Commands that a script of the tree runs: the script, and the words in it that do so.
 RUN_BY = {
     "./test.sh": (".ci/run", "test.sh"),
+    "./test.sh --again": ("tests/tools/tree_state_test.py", '"--again"'),
     "tools/build dev-asan": ("test.sh", "tools/build dev-asan"),
     "ctest --preset dev-asan": ("test.sh", "ctest --preset dev-asan"),
     "ctest --preset dev-asan -C long -L long": ("tests/CMakeLists.txt", "CONFIGURATIONS long"),
