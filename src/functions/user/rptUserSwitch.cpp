@@ -53,12 +53,15 @@ void rptUserSwitch::PlaceWithNames(float& x) {
   PlaceRows(0, txtValueName.Top + txtValueName.Height);
 }
 
-// The values of the whole parameter keep their place and lie under row 0, which covers them.
+// The values of the whole parameter keep their place and lie under row 0, which covers them. So nobody sees
+// them, and the number is read beside row 0.
 void rptUserSwitch::PlaceWithoutNames(float& x) {
   txtTitleName.Visible = false;
   txtValueName.Visible = false;
   txtTitleValue.Left = x;
   txtValueVal.Left = x;
+  txtValueVal.Reads.As = PartRole::None;
+  txtValueDefault.Reads.As = PartRole::None;
   for (std::size_t row = 0; row < Rows; ++row) {
     txtValueBitName[row]->Visible = false;
     txtValueBitVal[row]->Left = x;

@@ -9,13 +9,19 @@ bool IsCell(const BandPart& part) {
   return part.Within == part.Control;
 }
 
-// The cells of each line that has any; parts come line by line.
+bool SpansLines(const TableCell& cell) {
+  return cell.Part->SpansLines;
+}
+
+// The cells of each line that has any; parts come line by line. A cell that is beside lines that follow needs
+// one that it is beside, so a line that has only such cells is one with the next.
 std::vector<TableLine> CellsByLine(std::span<const BandPart> parts) {
   std::vector<TableLine> lines;
   int line = -1;
   for (const BandPart& part : parts) {
     if (!IsCell(part)) continue;
-    if (part.Line != line) lines.emplace_back();
+    const bool isOpen = !lines.empty() && std::ranges::all_of(lines.back(), SpansLines);
+    if (part.Line != line && !isOpen) lines.emplace_back();
     line = part.Line;
     lines.back().push_back({.Part = &part, .Columns = part.Columns});
   }
@@ -39,6 +45,13 @@ std::vector<int> TakenFromAbove(const std::vector<TableLine>& lines) {
     }
   }
   return taken;
+}
+
+// The cell that takes the columns that are left. One that is beside lines below must not, since it would take
+// them from these, too.
+TableCell& WidenedCell(TableLine& line) {
+  const auto last = std::ranges::find_if_not(line.rbegin(), line.rend(), SpansLines);
+  return last == line.rend() ? line.back() : *last;
 }
 
 }  // namespace
@@ -65,7 +78,7 @@ std::vector<TableLine> TableLinesOf(const DocumentStructure& structure, const Ba
   const std::vector<int> taken = TakenFromAbove(lines);
   const int columns = structure.Tables[layout.Table].Columns;
   for (std::size_t line = 0; line < lines.size(); ++line) {
-    lines[line].back().Columns += columns - taken[line] - Width(lines[line]);
+    WidenedCell(lines[line]).Columns += columns - taken[line] - Width(lines[line]);
     for (TableCell& cell : lines[line]) {
       if (cell.Part->SpansLines) cell.Lines = static_cast<int>(lines.size() - line);
     }

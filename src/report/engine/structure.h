@@ -95,7 +95,7 @@ struct TableCell {
 using TableLine = std::vector<TableCell>;
 
 // The rows of a table that a band of this layout prints, each as wide as the table: the last cell of a line
-// that has too few takes the columns that are left.
+// that has too few takes the columns that are left, or the last one that isn't beside other lines.
 [[nodiscard]] std::vector<TableLine> TableLinesOf(const DocumentStructure& structure,
                                                   const BandLayout& layout);
 // The columns that the widest line needs.

@@ -92,6 +92,17 @@ TEST_F(SwitchList, TheRowsStartAtTheTopAndTheColumnsCloseUpWithoutNames) {
   EXPECT_EQ(BoxOf(document, "txtValueVal").Top, Row + 135) << "covered by row 0, which is drawn after it";
 }
 
+TEST_F(SwitchList, TheCoveredValuesAreNotReadWithoutNames) {
+  Session.ShowPrmName = 0;
+  Add("Pn000", {Digit("0", "1", "Direction"), Digit("2", "2", "Method"), NoDigit, NoDigit});
+  const std::string read = StructureOf(Compose());
+  EXPECT_EQ(read.substr(read.find("rptUserSwitch.Detail")),
+            "rptUserSwitch.Detail in table 0\n"
+            "  cell of 2 rows 'Pn000' cell '0' cell '1' cell '0'\n"
+            "  cell '2, 3' cell '1' cell '0'\n")
+      << read;
+}
+
 TEST_F(SwitchList, OneEmptyRowStillPrintsWithoutNamesAndDigits) {
   Session.ShowPrmName = 0;
   Add("Pn000", {NoDigit, NoDigit, NoDigit, NoDigit});

@@ -164,6 +164,37 @@ TEST(EngineStructure, ReadsLinesOfARowOneAfterTheOther) {
             "  cell 'deep' cell '1'\n");
 }
 
+TEST(EngineStructure, WidensNoCellThatIsBesideOtherLines) {
+  SampleReport report;
+  Section& guide = AddGuide(report);
+  for (const char* name : {"title1", "title2", "title3"}) AddCell(guide, name, 0, name);
+  Section& rows = AddRows(report);
+  AddCell(rows, "name", 0, "Gain");
+  AddCell(rows, "number", 0, "Pn000").Reads.SpansLines = true;
+  AddCell(rows, "meaning", 0, "deep").Reads.Line = 1;
+  AddCell(rows, "value", 0, "1").Reads.Line = 1;
+  EXPECT_EQ(StructureOnOnePage(report),
+            "sample.guide in table 0\n"
+            "  column 'title1' column 'title2' column 'title3'\n"
+            "sample.rows in table 0\n"
+            "  cell of 2 columns 'Gain' cell of 2 rows 'Pn000'\n"
+            "  cell 'deep' cell '1'\n");
+}
+
+TEST(EngineStructure, ReadsACellBesideLinesInTheFirstOfThem) {
+  SampleReport report;
+  Section& rows = AddRows(report);
+  AddCell(rows, "number", 0, "Pn000").Reads.SpansLines = true;
+  for (int line = 1; line < 3; ++line) {
+    AddCell(rows, line == 1 ? "first" : "second", 0, "digit").Reads.Line = static_cast<std::uint8_t>(line);
+    AddCell(rows, line == 1 ? "value1" : "value2", 0, "1").Reads.Line = static_cast<std::uint8_t>(line);
+  }
+  EXPECT_EQ(StructureOnOnePage(report),
+            "sample.rows in table 0\n"
+            "  cell of 2 rows 'Pn000' cell 'digit' cell '1'\n"
+            "  cell 'digit' cell '1'\n");
+}
+
 TEST(EngineStructure, PutsTicksAndPicturesIntoTheirCells) {
   SampleReport report;
   Section& rows = AddRows(report);
