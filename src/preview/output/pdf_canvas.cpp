@@ -12,6 +12,13 @@
 namespace tarvis {
 namespace {
 
+constexpr std::string_view EndOfShownText = ")Tj\n";
+constexpr std::string_view EndOfActualText = "EMC\n";
+
+bool IsPrivate(char32_t character) {
+  return (character >= 0xE000 && character <= 0xF8FF) || character >= 0xF0000;
+}
+
 bool EndsWith(const std::vector<Rect>& boxes, const std::vector<Rect>& last) {
   return boxes.size() >= last.size() && std::equal(last.rbegin(), last.rend(), boxes.rbegin());
 }
@@ -130,6 +137,7 @@ void PdfCanvas::Text(const TextPiece& piece, const TextStyle& style, const Rect&
   BeginText();
   OnText();
   ShowText(piece, style, box.Left, baseline, fit.Stretch);
+  if (piece.BlankFollows && ReadsText()) ShowBlank(piece, style, box.Left, baseline, fit.Stretch);
   if (clip) {
     EndText();
     Add("Q\n");
@@ -164,10 +172,18 @@ void PdfCanvas::ShowPlain(const TextPiece& piece, const TextStyle& style, double
   const double em = style.Size * TwipsPerPoint * stretch;
   bool open = false;
   for (std::size_t offset = 0; offset < piece.Text.size();) {
-    const PdfGlyph& glyph = glyphs_.Use(NextCharacter(piece.Text, offset), style.Bold);
+    const char32_t character = NextCharacter(piece.Text, offset);
+    const PdfGlyph& glyph = glyphs_.Use(character, style.Bold);
     if (!glyph.Inks) continue;
+    if (NamesPrivateCharacters() && IsPrivate(character)) {
+      if (open) Add(EndOfShownText);
+      open = false;
+      ShowPrivate(character, glyph, style, x, y);
+      x += glyph.AdvanceEm * em;
+      continue;
+    }
     if (!open || glyph.Font != font_) {
-      if (open) Add(")Tj\n");
+      if (open) Add(EndOfShownText);
       UseFont(glyph.Font, style.Size);
       MoveTo(x, y);
       Add("(");
@@ -176,7 +192,31 @@ void PdfCanvas::ShowPlain(const TextPiece& piece, const TextStyle& style, double
     AppendCode(content_, glyph.Code);
     x += glyph.AdvanceEm * em;
   }
-  if (open) Add(")Tj\n");
+  if (open) Add(EndOfShownText);
+}
+
+void PdfCanvas::ShowPrivate(char32_t character, const PdfGlyph& glyph, const TextStyle& style, double x,
+                            double y) {
+  StartActualText(std::u32string(1, character));
+  ShowGlyph(glyph, style, x, y);
+  Add(EndOfActualText);
+}
+
+// The blank at which the text was broken shows nothing where the line ends.
+void PdfCanvas::ShowBlank(const TextPiece& piece, const TextStyle& style, double x, double y,
+                          double stretch) {
+  const PdfGlyph& blank = glyphs_.Use(U' ', style.Bold);
+  const double width = blank.AdvanceEm * style.Size * TwipsPerPoint;
+  if (piece.Flow == TextFlow::RightToLeft) return ShowGlyph(blank, style, x - width * stretch, y);
+  if (piece.Flow == TextFlow::LeftToRight) return ShowGlyph(blank, style, x + piece.Advance * stretch, y);
+  UseFont(blank.Font, style.Size);
+  if (content_.ends_with(EndOfShownText)) {
+    content_.resize(content_.size() - EndOfShownText.size());
+  } else {
+    Add("(");
+  }
+  AppendCode(content_, blank.Code);
+  Add(EndOfShownText);
 }
 
 // Clusters come in the order in which they are read: some viewers sort them by their places, others take them
@@ -195,15 +235,20 @@ void PdfCanvas::ShowCluster(const TextCluster& cluster, const TextStyle& style, 
                             double stretch) {
   const double em = style.Size * TwipsPerPoint;
   const PdfCluster used = glyphs_.Use(cluster);
-  if (used.NeedsText) StartActualText(cluster.Text);
-  for (const PdfPlacedGlyph& placed : used.Glyphs) {
-    UseFont(placed.Glyph.Font, style.Size);
-    MoveTo(x + placed.X * em * stretch, y + placed.Y * em);
-    Add("(");
-    AppendCode(content_, placed.Glyph.Code);
-    Add(")Tj\n");
-  }
-  if (used.NeedsText) Add("EMC\n");
+  const bool isNamed =
+      used.NeedsText || (NamesPrivateCharacters() && std::ranges::any_of(cluster.Text, IsPrivate));
+  if (isNamed) StartActualText(cluster.Text);
+  for (const PdfPlacedGlyph& placed : used.Glyphs)
+    ShowGlyph(placed.Glyph, style, x + placed.X * em * stretch, y + placed.Y * em);
+  if (isNamed) Add(EndOfActualText);
+}
+
+void PdfCanvas::ShowGlyph(const PdfGlyph& glyph, const TextStyle& style, double x, double y) {
+  UseFont(glyph.Font, style.Size);
+  MoveTo(x, y);
+  Add("(");
+  AppendCode(content_, glyph.Code);
+  Add(EndOfShownText);
 }
 
 void PdfCanvas::StartActualText(const std::u32string& text) {

@@ -56,6 +56,11 @@ class ContentMarker {
   // Fills or lines are about to be painted, and have been.
   virtual void OnPaths() {}
   virtual void OnEndOfPaths() {}
+  // Whether the piece of text is read, so that lines of one text must not run together.
+  virtual bool ReadsText() const { return false; }
+  // Whether each character of private use needs to say what it is in a text of its own, as level A of the
+  // archives asks.
+  virtual bool NamesPrivateCharacters() const { return false; }
 };
 
 // Makes the content of one page. Glyphs and pictures are collected for the resources that all pages share.
@@ -90,7 +95,10 @@ class PdfCanvas : public Canvas, protected ContentMarker {
   void ShowText(const TextPiece& piece, const TextStyle& style, double x, double y, double stretch);
   void ShowPlain(const TextPiece& piece, const TextStyle& style, double x, double y, double stretch);
   void ShowShaped(const TextPiece& piece, const TextStyle& style, double x, double y, double stretch);
+  void ShowPrivate(char32_t character, const PdfGlyph& glyph, const TextStyle& style, double x, double y);
+  void ShowBlank(const TextPiece& piece, const TextStyle& style, double x, double y, double stretch);
   void ShowCluster(const TextCluster& cluster, const TextStyle& style, double x, double y, double stretch);
+  void ShowGlyph(const PdfGlyph& glyph, const TextStyle& style, double x, double y);
   void StartActualText(const std::u32string& text);
   void MoveTo(double x, double y);
   void UseFont(std::uint16_t font, float size);

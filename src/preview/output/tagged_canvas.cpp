@@ -66,7 +66,8 @@ void TaggedCanvas::OnText() {
 void TaggedCanvas::Open(const Item& item) {
   open_ = &item;
   const BandPart* const part = plan_.PartOf(item);
-  if (part == nullptr) return Add(plan_.DecorationMark(item));
+  isRead_ = part != nullptr;
+  if (!isRead_) return Add(plan_.DecorationMark(item));
   Add(TypeOf(part->Role) + ("<</MCID " + std::to_string(marks_.size())) + ">>BDC\n");
   marks_.push_back({item.Band, item.Control, item.Ticked, item.Box});
 }

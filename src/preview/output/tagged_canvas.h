@@ -34,6 +34,8 @@ class TaggedCanvas : public PdfCanvas {
   void OnEndOfText() override { Close(); }
   void OnPaths() override;
   void OnEndOfPaths() override;
+  bool ReadsText() const override { return isRead_; }
+  bool NamesPrivateCharacters() const override { return true; }
 
  private:
   void Open(const Item& item);
@@ -43,6 +45,7 @@ class TaggedCanvas : public PdfCanvas {
   std::vector<PdfMark> marks_;
   const Item* item_ = nullptr;  // that is being painted
   const Item* open_ = nullptr;  // that the open marked content shows
+  bool isRead_ = false;         // the open one is no decoration
 };
 
 }  // namespace tarvis

@@ -32,12 +32,13 @@ struct TextStyle {
   bool operator==(const TextStyle&) const = default;
 };
 
-// A piece of text in one style; each distinct pair is held once.
+// A piece of text in one style; those that are alike are held once.
 struct TextPiece {
   std::string_view Text;  // UTF-8 in normal form C, without line ends; lives as long as the document
   std::uint16_t Style = 0;
   TextFlow Flow = TextFlow::Plain;
-  float Advance = 0;  // natural width in twips
+  bool BlankFollows = false;  // blanks or a line end separate it from the next line of its text
+  float Advance = 0;          // natural width in twips
 };
 
 // One thing to paint. `Box` is in twips from the top left corner of the paper.

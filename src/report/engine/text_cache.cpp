@@ -129,13 +129,14 @@ std::uint32_t TextCache::FindInPlace(std::string_view text, std::uint16_t style)
   return last;
 }
 
-std::uint32_t TextCache::PieceOf(std::uint32_t whole) {
-  Whole& entry = wholes_[whole];
-  if (entry.Piece < 0) {
-    entry.Piece = static_cast<std::int64_t>(document_.Texts.size());
-    document_.Texts.push_back({entry.Text, entry.Style, entry.Flow, entry.Advance});
+std::uint32_t TextCache::PieceOf(std::uint32_t whole, bool blankFollows) {
+  const Whole& entry = wholes_[whole];
+  std::uint32_t& piece = wholes_[whole].Pieces[blankFollows ? 1 : 0];
+  if (piece == NoPiece) {
+    piece = static_cast<std::uint32_t>(document_.Texts.size());
+    document_.Texts.push_back({entry.Text, entry.Style, entry.Flow, blankFollows, entry.Advance});
   }
-  return static_cast<std::uint32_t>(entry.Piece);
+  return piece;
 }
 
 const TextCache::Broken& TextCache::Break(std::uint32_t whole, float width) {
@@ -146,19 +147,18 @@ const TextCache::Broken& TextCache::Break(std::uint32_t whole, float width) {
   const std::uint16_t style = wholes_[whole].Style;
   std::string_view rest = wholes_[whole].Text;
   while (!rest.empty()) {
-    const std::size_t end = std::min(rest.find("\r\n"), rest.size());
-    BreakParagraph(rest.substr(0, end), style, width);
-    rest.remove_prefix(std::min(end + 2, rest.size()));
+    const std::string_view paragraph = rest.substr(0, rest.find("\r\n"));
+    rest.remove_prefix(std::min(paragraph.size() + 2, rest.size()));
+    BreakParagraph(paragraph, {style, FlowOf(paragraph), width}, rest.empty());
   }
   const Broken broken{first, static_cast<std::uint32_t>(linePieces_.size()) - first};
   return broken_.emplace(key, broken).first->second;
 }
 
-void TextCache::BreakParagraph(std::string_view paragraph, std::uint16_t style, float width) {
-  const Setting setting{style, FlowOf(paragraph), width};
+void TextCache::BreakParagraph(std::string_view paragraph, const Setting& setting, bool isLast) {
   std::string_view line = paragraph.substr(0, 0);
   std::size_t start = 0;
-  if (Advance(paragraph, style, setting.Flow) <= width + FitTolerance) {
+  if (Advance(paragraph, setting.Style, setting.Flow) <= setting.Width + FitTolerance) {
     line = paragraph;
   } else {
     for (const int opportunity : breaker_->Opportunities(paragraph)) {
@@ -167,7 +167,7 @@ void TextCache::BreakParagraph(std::string_view paragraph, std::uint16_t style, 
       start = end;
     }
   }
-  EndLine(line, setting);
+  EndLine(line, setting, !isLast && !line.ends_with(' '));
 }
 
 bool TextCache::Fits(std::string_view line, const Setting& setting) const {
@@ -181,12 +181,15 @@ void TextCache::BreakPiece(std::string_view piece, const Setting& setting, std::
     line = longer;
     return;
   }
-  if (!line.empty()) EndLine(WithoutTrailingBlanks(line), setting);
+  if (!line.empty()) {
+    const std::string_view shown = WithoutTrailingBlanks(line);
+    EndLine(shown, setting, shown.size() < line.size());
+  }
   line = piece;
   for (;;) {
     const std::size_t end = FittingStart(line, setting);
     if (end >= line.size()) return;
-    EndLine(line.substr(0, end), setting);
+    EndLine(line.substr(0, end), setting, false);
     line.remove_prefix(end);
   }
 }
@@ -208,8 +211,8 @@ std::size_t TextCache::ClusterEnd(std::string_view text, std::size_t offset, Tex
   return offset;
 }
 
-void TextCache::EndLine(std::string_view line, const Setting& setting) {
-  linePieces_.push_back(PieceOf(Find(line, setting.Style, FlowOfLine(line, setting.Flow))));
+void TextCache::EndLine(std::string_view line, const Setting& setting, bool blankFollows) {
+  linePieces_.push_back(PieceOf(Find(line, setting.Style, FlowOfLine(line, setting.Flow)), blankFollows));
 }
 
 float TextCache::Advance(std::string_view text, std::uint16_t style, TextFlow flow) const {

@@ -42,6 +42,8 @@ class TextCache {
   std::uint32_t OneLine(std::string_view text, std::uint16_t style);
 
  private:
+  static constexpr std::uint32_t NoPiece = 0xFFFFFFFF;
+
   // A text in one style as a handler gave it.
   struct Whole {
     std::string_view Text;
@@ -50,7 +52,9 @@ class TextCache {
     TextFlow Flow = TextFlow::Plain;
     bool HasLineEnds = false;
     bool IsParagraph = true;  // false for a line of a paragraph that was broken in its own direction
-    std::int64_t Piece = -1;  // index of Document::Texts, once it has been set on one line
+    // Indexes of Document::Texts, once it has been set on one line: as a whole text or the last line of one,
+    // and as a line that a blank follows.
+    std::array<std::uint32_t, 2> Pieces{NoPiece, NoPiece};
   };
   struct Broken {
     std::uint32_t First = 0;
@@ -68,14 +72,15 @@ class TextCache {
   std::uint32_t Find(std::string_view text, std::uint16_t style, TextFlow paragraph = TextFlow::Plain);
   // The same as Find, for a text that stays in its place from one call to the next, as that of a control.
   std::uint32_t FindInPlace(std::string_view text, std::uint16_t style);
-  std::uint32_t PieceOf(std::uint32_t whole);
+  std::uint32_t PieceOf(std::uint32_t whole, bool blankFollows = false);
   const Broken& Break(std::uint32_t whole, float width);
-  void BreakParagraph(std::string_view paragraph, std::uint16_t style, float width);
+  // `isLast`: no other line of the text follows.
+  void BreakParagraph(std::string_view paragraph, const Setting& setting, bool isLast);
   void BreakPiece(std::string_view piece, const Setting& setting, std::string_view& line);
   bool Fits(std::string_view line, const Setting& setting) const;
   std::size_t FittingStart(std::string_view piece, const Setting& setting);
   std::size_t ClusterEnd(std::string_view text, std::size_t offset, TextFlow flow);
-  void EndLine(std::string_view line, const Setting& setting);
+  void EndLine(std::string_view line, const Setting& setting, bool blankFollows);
   float Advance(std::string_view text, std::uint16_t style, TextFlow flow) const;
   float CharacterAdvance(char32_t character, std::uint16_t style) const;
   std::string_view Keep(std::string_view text);

@@ -33,6 +33,32 @@ TEST(EngineBlanks, ALoneLineFeedIsABlank) {
   EXPECT_THAT(LinesOf(SetInField("one\n\r\n\ntwo", {0, 0, 2000, 283}), "text"), ElementsAre("one ", " two"));
 }
 
+// The lines of a field, with the blank that is between one and the next.
+std::string LinesInARow(const std::string& text, float width) {
+  const Document document = SetInField(text, {0, 0, width, 283});
+  std::string lines;
+  for (const Item& item : TextsOf(document, "text")) {
+    const TextPiece& piece = document.Texts[item.Source];
+    lines += std::string(piece.Text) + (piece.BlankFollows ? "_|" : "|");
+  }
+  return lines;
+}
+
+TEST(EngineBlanks, ALineKnowsWhetherABlankSeparatesItFromTheNext) {
+  constexpr float Narrow = 6 * Letter;
+  EXPECT_EQ(LinesInARow("one   two", Narrow), "one_|two|") << "where a blank was the text was broken";
+  EXPECT_EQ(LinesInARow("one\r\ntwo\r\n", 2000), "one_|two|") << "a line end separates, too";
+  EXPECT_EQ(LinesInARow("one \r\ntwo", 2000), "one |two|") << "which has one already";
+  EXPECT_EQ(LinesInARow("one\r\n\r\ntwo", 2000), "one_|two|") << "with an empty line between them";
+  EXPECT_EQ(LinesInARow("abcdeabcde", Narrow - Letter), "abcde|abcde|") << "in the middle of a word";
+  EXPECT_EQ(LinesInARow("high-speed", Narrow), "high-|speed|") << "behind a hyphen";
+}
+
+TEST(EngineBlanks, TheSameWordsMayOrMayNotBeSeparated) {
+  constexpr float Narrow = 5 * Letter;
+  EXPECT_EQ(LinesInARow("abcde abcdeabcde abcde", Narrow), "abcde_|abcde|abcde_|abcde|");
+}
+
 TEST(EngineBlanks, TabsWrapAndStayInTheirBox) {
   std::string comment = "x";
   for (int word = 0; word < 40; ++word) comment += "\t\tx";
