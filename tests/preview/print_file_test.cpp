@@ -6,6 +6,7 @@
 
 #include "preview/print_fixture.h"
 #include "support/full_disk.h"
+#include "text/run_time_failure.h"
 
 namespace tarvis {
 namespace {
@@ -80,6 +81,33 @@ TEST_F(PrintFile, HasBookmarksAuthorAndTitleAsASavedOneHas) {
   EXPECT_EQ(PdfFact(Path("printed.pdf"), "Author"), QStringLiteral("Korvane"));
   EXPECT_EQ(PdfFact(Path("printed.pdf"), "Title"), QStringLiteral("Parameter List"));
   EXPECT_TRUE(PdfFact(Path("printed.pdf"), "Page size").startsWith(QStringLiteral("595.3 x 841.9")));
+}
+
+TEST_F(PrintFile, HasTheTagsAndDataThatWereChosenWhenSavingLast) {
+  readData_ = [] { return std::vector<NamedBytes>{{"User.tmp", "File-Spec,3\r\n"}}; };
+  OpenTable(2);
+  PrintInto([](QPrintDialog&) {});
+  EXPECT_EQ(PdfFact(Path("printed.pdf"), "Tagged"), QStringLiteral("no"));
+  QFile::remove(Path("printed.pdf"));
+  memory_->IsTagged = true;
+  memory_->AttachesData = true;
+  OpenTable(2);
+  PrintInto([](QPrintDialog& dialog) { EnterPages(dialog, "2"); });
+  EXPECT_EQ(PdfFact(Path("printed.pdf"), "Tagged"), QStringLiteral("yes"));
+  EXPECT_TRUE(RunTool("pdfdetach", {QStringLiteral("-list"), Path("printed.pdf")})
+                  .contains(QStringLiteral("User.tmp")));
+  EXPECT_EQ(Pages("printed.pdf"), QStringList({"2"}));
+}
+
+TEST_F(PrintFile, IsNotWrittenIfTheDataThatBelongToItHaveChanged) {
+  readData_ = []() -> std::vector<NamedBytes> {
+    throw RunTimeFailure("changed", {.File = "User.tmp", .Line = 0, .Key = {}, .Text = {}});
+  };
+  memory_->AttachesData = true;
+  OpenTable(1);
+  PrintInto([](QPrintDialog&) {});
+  EXPECT_TRUE(ReadFailure().contains(QStringLiteral("User.tmp")));
+  EXPECT_FALSE(QFile::exists(Path("printed.pdf")));
 }
 
 TEST_F(PrintFile, BookmarksLeadToThePagesThatWereChosenAndToNoOthers) {

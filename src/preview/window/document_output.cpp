@@ -82,25 +82,28 @@ void DocumentOutput::SavePdf() {
   if (dialog.exec() != QDialog::Accepted) return;
   memory_->AttachesData = dialog.AttachesData();
   memory_->IsTagged = dialog.IsTagged();
-  PdfInfo info = Info();
+  WritePdf(PdfSheets::AllOf(*document_), dialog.Path());
+}
+
+std::optional<PdfInfo> DocumentOutput::Info() {
+  PdfInfo info{QString::fromStdString(document_->Title), origin_.Author, QDateTime::currentDateTime()};
   info.IsTagged = memory_->IsTagged;
   try {
-    if (memory_->AttachesData) info.Data = origin_.ReadData();
+    if (memory_->AttachesData && origin_.ReadData) info.Data = origin_.ReadData();
   } catch (const RunTimeFailure& failure) {
-    return ShowFailure(tr("The PDF was not saved."), QString::fromStdString(failure.what()));
+    ShowFailure(tr("The PDF was not saved."), QString::fromStdString(failure.what()));
+    return std::nullopt;
   }
-  WritePdf(PdfSheets::AllOf(*document_), dialog.Path(), info);
+  return info;
 }
 
-PdfInfo DocumentOutput::Info() const {
-  return {QString::fromStdString(document_->Title), origin_.Author, QDateTime::currentDateTime()};
-}
-
-void DocumentOutput::WritePdf(PdfSheets sheets, const QString& path, const PdfInfo& info) {
+void DocumentOutput::WritePdf(PdfSheets sheets, const QString& path) {
+  const std::optional<PdfInfo> info = Info();
+  if (!info) return;
   StartJob(
       tr("Saving as PDF…"), tr("The PDF was not saved."),
       [document = document_, sheets = std::move(sheets), path, info](const Progress& progress) {
-        return ExportPdf(*document, sheets, path, info, progress);
+        return ExportPdf(*document, sheets, path, *info, progress);
       },
       [this, path] { NoteSaved(path); });
 }
@@ -141,7 +144,7 @@ void DocumentOutput::Print() {
   const QSizeF missing = MissingRoom(*document_, *printer);
   if (!missing.isNull() && !AskForScale(missing, scale)) return;
   if (dialog.IntoPdf())
-    return WritePdf(SheetsLike(*document_, *printer, pages, scale), printer->outputFileName(), Info());
+    return WritePdf(SheetsLike(*document_, *printer, pages, scale), printer->outputFileName());
   StartJob(tr("Printing…"), tr("The document was not printed."),
            [document = document_, pages, printer, scale](const Progress& progress) {
              return PrintDocument(*document, pages, *printer, scale, progress);

@@ -4,6 +4,7 @@
 #include <QObject>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "preview/jobs/background_job.h"
 #include "preview/jobs/printing.h"
@@ -55,8 +56,9 @@ class DocumentOutput : public QObject {
   QString ProposedPath(const QString& title, const QString& ending) const;
   QString ProposedPdf() const;
   void NoteSaved(const QString& path);
-  PdfInfo Info() const;
-  void WritePdf(PdfSheets sheets, const QString& path, const PdfInfo& info);
+  // With what was chosen when a PDF was saved last. Nothing if the data can't be attached, after a message.
+  std::optional<PdfInfo> Info();
+  void WritePdf(PdfSheets sheets, const QString& path);
   bool AskForScale(const QSizeF& missing, PrintScale& scale);
   // `failure` is shown with the error text if `work` fails; `done` is called if it comes to its end.
   void StartJob(
