@@ -42,6 +42,16 @@ TEST_P(MissingGlyphs, TheDocumentIsSavedAndTheTextCanBeCopiedFromIt) {
                   .contains(QStringLiteral("No syntax or stream encoding errors")));
 }
 
+TEST_P(MissingGlyphs, TheTextCanBeCopiedFromATaggedDocument) {
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("out.pdf"));
+  const auto document = DocumentBuilder().Page().Text(Text(), 1440, 720).Build();
+  PdfInfo info;
+  info.IsTagged = true;
+  ASSERT_EQ(ExportPdf(*document, path, info, GoOn), QString());
+  EXPECT_EQ(RunTool("pdftotext", {path, QStringLiteral("-")}).trimmed(), QString::fromStdString(Text()));
+}
+
 INSTANTIATE_TEST_SUITE_P(HostTexts, MissingGlyphs, testing::ValuesIn(HostTexts),
                          [](const auto& sample) { return sample.param.Name; });
 

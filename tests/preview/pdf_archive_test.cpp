@@ -30,6 +30,28 @@ class WordsPicture : public SamplePicture {
   QString words_;
 };
 
+std::string BytesOf(QPDFObjectHandle stream) {
+  const std::shared_ptr<Buffer> bytes = stream.getStreamData();
+  return {reinterpret_cast<const char*>(bytes->getBuffer()), bytes->getSize()};
+}
+
+int CountOf(const std::string& text, const std::string& part) {
+  int count = 0;
+  for (std::size_t at = text.find(part); at != text.npos; at = text.find(part, at + 1)) ++count;
+  return count;
+}
+
+// Which glyph each code of a font shows, two bytes a code, where that isn't the glyph of the same number.
+std::vector<std::string> GlyphMapsOf(QPDF& pdf) {
+  std::vector<std::string> maps;
+  for (QPDFObjectHandle object : pdf.getAllObjects()) {
+    if (!object.isDictionaryOfType("/Font", "/CIDFontType2")) continue;
+    QPDFObjectHandle map = object.getKey("/CIDToGIDMap");
+    maps.push_back(map.isStream() ? BytesOf(map) : std::string());
+  }
+  return maps;
+}
+
 // A document in memory, read by the library that takes PDFs apart.
 class PdfArchive : public testing::Test {
  protected:
@@ -70,18 +92,29 @@ TEST_F(PdfArchive, SaysWhichPartOfTheStandardItKeepsTo) {
   EXPECT_EQ(bytes_.substr(0, 8), "%PDF-1.7");
 }
 
-TEST_F(PdfArchive, DoesNotSaySoIfACharacterOfAPageHasNoGlyph) {
+TEST_F(PdfArchive, SaysSoTooIfACharacterOfAPageHasNoGlyph) {
   Make(*DocumentBuilder().Page().Text("A\xEE\x80\x80", 1440, 720).Build());
-  EXPECT_EQ(Property("pdfaid:part"), QString());
-  EXPECT_EQ(Property("xmp:CreatorTool"), QStringLiteral("Tarvis"));
+  EXPECT_EQ(Property("pdfaid:part"), QStringLiteral("2"));
+  const std::vector<std::string> maps = GlyphMapsOf(pdf_);
+  EXPECT_EQ(maps.size(), 2U) << "of the letter and of the box";
+  for (const std::string& map : maps) {
+    for (std::size_t code = 1; 2 * code < map.size(); ++code)
+      EXPECT_NE(map.substr(2 * code, 2), std::string(2, '\0')) << "the first glyph stands for no character";
+  }
 }
 
-TEST_F(PdfArchive, DoesNotSaySoIfACharacterOfAPictureHasNoGlyph) {
+TEST_F(PdfArchive, SaysSoTooIfACharacterOfAPictureHasNoGlyph) {
   Make(*DocumentBuilder()
             .Page()
-            .Picture(std::make_shared<WordsPicture>(QStringLiteral("A\uE000")), {1440, 2000, 3000, 2000})
+            .Picture(std::make_shared<WordsPicture>(QStringLiteral("A\uE000B")), {1440, 2000, 3000, 2000})
             .Build());
-  EXPECT_EQ(Property("pdfaid:part"), QString());
+  EXPECT_EQ(Property("pdfaid:part"), QStringLiteral("2"));
+  QPDFObjectHandle form = pdf_.getAllPages().at(0).getKey("/Resources").getKey("/XObject").getKey("/P0");
+  EXPECT_TRUE(form.getDict().getKey("/Resources").getKey("/Font").hasKey("/Box"));
+  const std::string content = BytesOf(form);
+  EXPECT_EQ(content.find("<0000>"), std::string::npos) << content;
+  EXPECT_EQ(CountOf(content, "Tj"), 3) << content;
+  EXPECT_EQ(CountOf(content, "/Box"), 1) << content;
 }
 
 TEST_F(PdfArchive, HoldsTheDataIfTheyAreGiven) {

@@ -32,8 +32,8 @@ class ArchiveCase(PdfCase):
         self.kept = self.folder / "kept"
         self.kept.mkdir()
 
-    def keep(self, name, mode, *options):
-        self.make(mode, "--date", DAY, *options).rename(self.kept / f"{name}.pdf")
+    def keep(self, name, mode, *options, **run):
+        self.make(mode, "--date", DAY, *options, **run).rename(self.kept / f"{name}.pdf")
 
     def kept_documents(self):
         return sorted(self.kept.glob("*.pdf"))

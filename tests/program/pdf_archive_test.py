@@ -4,12 +4,13 @@ import subprocess
 import unittest
 
 from archive_case import ArchiveCase
-from pdf_case import PRINTING_MODES
+from comment_file import write_comment
+from few_fonts import that_must_not_be_embedded, with_only
+from pdf_case import PRINTING_MODES, output_of
 from preflight import as_part_1, complaints
 
 from host import OVERLAPPED_SETS
 from png import write_png
-from print_file import PrintFile
 
 # A comment in each code page, in the letters for which it was made.
 COMMENTS = {874: "ความเร็ว", 932: "速度ループゲイン 表示", 936: "速度环增益", 949: "속도 루프 게인", 950: "速度迴路增益",
@@ -34,13 +35,21 @@ class Archive(ArchiveCase):
 
     def test_text_of_every_code_page_is_archived(self):
         for code_page, comment in COMMENTS.items():
-            file = PrintFile("Jog Speed Table File", "", "")
-            file.line("Speed-Unit", "r/min")
-            file.line("JspdCnt", 0)
-            file.line("CommentCnt", 1)
-            file.line("Comment", comment)
-            file.write(self.host.temp_folder / "IdxJogTbl.tmp", "utf-8" if code_page == 65001 else f"cp{code_page}")
+            write_comment(self.host.temp_folder, comment, code_page)
             self.keep(str(code_page), "JogTbl", "--code-page", str(code_page))
+        self.expect_archives()
+
+    def test_characters_without_a_glyph_are_archived(self):
+        """Those that no font has, and those of a font that must not be embedded."""
+        environments = {"missing": with_only(self.folder, "Liberation Sans"),
+                        "forbidden": that_must_not_be_embedded(self.folder, "Liberation Sans")}
+        comment = "A\ue000 \U0001f9be速度 Z"
+        for name, environment in environments.items():
+            for tags in ((), ("--tagged",)):
+                write_comment(self.host.temp_folder, comment, 65001)
+                self.keep(f"{name}{len(tags)}", "JogTbl", "--code-page", "65001", *tags, environment=environment)
+        for pdf in self.kept_documents():
+            self.assertIn(comment, output_of("pdftotext", pdf, "-"), pdf.name)
         self.expect_archives()
 
     def keep_with_logo(self, name, fades):

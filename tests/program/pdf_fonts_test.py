@@ -1,9 +1,8 @@
 """Documents on systems with few fonts: each is saved, and what can't be shown is a box that can be copied."""
 import dataclasses
-import shutil
 import unittest
-from pathlib import Path
 
+from few_fonts import with_only
 from pdf_case import PdfCase, output_of
 
 from languages import LANGUAGES, write_language
@@ -11,25 +10,9 @@ from languages import LANGUAGES, write_language
 SIGNS = "A🦾B ☎ 120 © Z"
 
 
-def file_of(family):
-    """The file of an installed font."""
-    wanted = f"{family}:style=Regular"
-    path, found = output_of("fc-match", "--format=%{file}|%{family}", wanted).split("|")
-    assert family in found, f"the font {family} is not installed; tools/install_packages testing"
-    return Path(path)
-
-
 class Fonts(PdfCase):
     def only(self, *families):
-        """The environment of a system that has nothing but these fonts."""
-        fonts = self.folder / "fonts"
-        shutil.rmtree(fonts, ignore_errors=True)
-        fonts.mkdir()
-        for family in families:
-            shutil.copy(file_of(family), fonts)
-        configuration = self.folder / "fonts.conf"
-        configuration.write_text(f"<fontconfig><dir>{fonts}</dir><cachedir>{self.folder / 'cache'}</cachedir></fontconfig>")
-        return {"FONTCONFIG_FILE": str(configuration)}
+        return with_only(self.folder, *families)
 
     def make_in(self, code_page, environment, **changes):
         language = next(each for each in LANGUAGES if each.code_page == code_page)

@@ -7,8 +7,9 @@ import subprocess
 import unittest
 
 from archive_case import ArchiveCase
-from pdf_case import DAY, PRINTING_MODES, ROOT
-from tagged_pdf import PAINTS, TaggedPdf
+from comment_file import write_comment
+from pdf_case import DAY, PRINTING_MODES, ROOT, output_of
+from tagged_pdf import PAINTS, TaggedPdf, content, elements_in
 from user_file import gains, write_user_file
 
 from host import OVERLAPPED_SETS
@@ -22,10 +23,6 @@ HOLDERS = {"/Document": {None}, "/Part": {"/Document"}, "/Sect": {"/Part", "/Sec
            **{f"/H{level}": {"/Part", "/Sect"} for level in range(1, 4)}}
 # What is read of these is the same as of others, or as of many of them.
 WITHOUT_GOLDEN = ("SimEx", "SimEx_overlapped")
-
-
-def without_blanks(text):
-    return re.sub(r"\s", "", text)
 
 
 class Tags(ArchiveCase):
@@ -45,15 +42,14 @@ class Tags(ArchiveCase):
 
     def expect_sound(self, tagged):
         """What the standard asks of any tagged document."""
-        self.assertEqual(tagged.at(tagged.root["/MarkInfo"]), {"/Marked": True})
+        self.assertEqual(dict(tagged.root.MarkInfo), {"/Marked": True})
         self.expect_all_content_marked(tagged)
         self.expect_parents(tagged)
         self.expect_types(tagged)
         self.expect_even_tables(tagged)
 
     def expect_all_content_marked(self, tagged):
-        for page in tagged.pages:
-            pieces = tagged.pieces(page)
+        for pieces in tagged.pieces.values():
             for piece in pieces:
                 self.assertTrue(piece.tag == "/Artifact" or piece.number is not None, (piece.tag, piece.operators))
                 self.assertTrue(set(piece.operators) <= set(PAINTS) and piece.operators, piece.tag)
@@ -62,47 +58,47 @@ class Tags(ArchiveCase):
 
     def expect_parents(self, tagged):
         """Each piece belongs to one element, and the tree from pieces to elements says the same."""
-        tree = tagged.at(tagged.at(tagged.root["/StructTreeRoot"])["/ParentTree"])["/Nums"]
-        parents = {key: tagged.at(value) for key, value in zip(tree[0::2], tree[1::2])}
+        tree = list(tagged.root.StructTreeRoot.ParentTree.Nums)
+        parents = dict(zip(tree[0::2], tree[1::2]))
         by_tree = {}
-        for page in tagged.pages:
-            self.assertEqual(tagged.at(page)["/Tabs"], "/S")
-            for number, element in enumerate(parents[tagged.at(page)["/StructParents"]]):
-                by_tree[page, number] = element
+        for number, page in tagged.pages.items():
+            self.assertEqual(page.Tabs, "/S")
+            for piece, element in enumerate(parents[page.StructParents]):
+                by_tree[number, piece] = element.objgen
         by_elements = {}
-        for reference, element, parent in tagged.elements():
-            self.assertEqual(element["/P"], parent)
-            for place in tagged.content(element):
+        for element, parent in tagged.elements():
+            self.assertEqual(element.P.objgen, parent.objgen)
+            for place in content(element):
                 self.assertNotIn(place, by_elements)
-                by_elements[place] = reference
+                by_elements[place] = element.objgen
         self.assertEqual(by_elements, by_tree)
-        self.assertEqual(set(by_tree), set(tagged.texts()))
+        self.assertEqual(set(by_tree), set(tagged.texts))
 
     def expect_types(self, tagged):
         level = 0
-        for _, element, parent in tagged.elements():
-            kind = element["/S"]
-            self.assertIn(tagged.at(parent).get("/S"), HOLDERS[kind], kind)
+        for element, parent in tagged.elements():
+            kind = str(element.S)
+            holder = parent.get("/S")
+            self.assertIn(None if holder is None else str(holder), HOLDERS[kind], kind)
             if re.fullmatch(r"/H\d", kind):
                 self.assertLessEqual(int(kind[2]), level + 1, "a level of headings is left out")
                 level = int(kind[2])
-            attributes = tagged.at(element.get("/A", {}))
             if kind == "/TH":
-                self.assertIn(attributes["/Scope"], ("/Column", "/Row"))
+                self.assertIn(element.A.Scope, ("/Column", "/Row"))
             if kind == "/Figure":
-                self.assertTrue(element["/Alt"].removeprefix("u:"))
-                left, bottom, right, top = attributes["/BBox"]
-                _, _, width, height = tagged.at(element["/Pg"])["/MediaBox"]
+                self.assertTrue(str(element.Alt))
+                left, bottom, right, top = element.A.BBox
+                _, _, width, height = element.Pg.MediaBox
                 self.assertTrue(0 <= left < right <= width and 0 <= bottom < top <= height)
 
     def expect_even_tables(self, tagged):
         """All rows of a table take the same number of columns, with cells of rows above that reach into them."""
-        for _, table, _ in tagged.elements():
-            if table["/S"] != "/Table":
+        for table, _ in tagged.elements():
+            if table.S != "/Table":
                 continue
             widths, hanging = set(), []
-            for row in tagged.kids(table):
-                cells = [tagged.at(tagged.at(cell).get("/A", {})) for cell in tagged.kids(tagged.at(row))]
+            for row in elements_in(table):
+                cells = [cell.get("/A", {}) for cell in elements_in(row)]
                 widths.add(sum(cell.get("/ColSpan", 1) for cell in cells) + sum(columns for columns, _ in hanging))
                 hanging += [(cell.get("/ColSpan", 1), cell.get("/RowSpan", 1)) for cell in cells]
                 hanging = [(columns, rows - 1) for columns, rows in hanging if rows > 1]
@@ -110,12 +106,9 @@ class Tags(ArchiveCase):
 
     def expect_same_for_others(self, pdf, tagged):
         """Another program finds the same texts in the same order, and the letters of graphs besides."""
-        found = subprocess.run(["pdfinfo", "-struct-text", pdf], capture_output=True, text=True, check=True).stdout
+        found = output_of("pdfinfo", "-struct-text", pdf)
         found = re.sub(r"^( *)Figure.*\n(?:\1 +.*\n)*", "", found, flags=re.M)
-        theirs = "".join(re.findall(r'^ *"(.*)"$', found, re.M))
-        texts = tagged.texts()
-        ours = "".join(texts[place] for _, element, _ in tagged.elements() for place in tagged.content(element))
-        self.assertEqual(without_blanks(theirs), without_blanks(ours))
+        self.assertEqual("".join(re.findall(r'^ *"(.*)"$', found, re.M)), tagged.text())
 
     def expect_golden(self, name, lines):
         golden = GOLDENS / f"{name}.txt"
@@ -124,22 +117,18 @@ class Tags(ArchiveCase):
             golden.write_text(text, encoding="utf-8")
         self.assertEqual(text, golden.read_text(encoding="utf-8"))
 
-    def test_documents_of_all_modes_are_sound_and_read_in_the_order_of_the_goldens(self):
+    def test_documents_of_all_modes_are_sound_archives_that_are_read_in_the_order_of_the_goldens(self):
         for pdf in self.keep_all():
             with self.subTest(pdf.stem):
+                words = pdf.read_bytes()
+                self.assertIn(b"<pdfaid:part>2</pdfaid:part>\n<pdfaid:conformance>A</pdfaid:conformance>", words)
+                self.assertEqual(words.count(b"<pdfuaid:part>1</pdfuaid:part>"), 1)
                 tagged = TaggedPdf(pdf)
                 self.expect_sound(tagged)
                 self.expect_same_for_others(pdf, tagged)
                 if pdf.stem not in WITHOUT_GOLDEN:
                     self.expect_golden(f"read_{pdf.stem.lower()}", tagged.read())
-
-    def test_tagged_documents_are_archives_that_say_so(self):
-        documents = self.keep_all()
         self.expect_archives()
-        for pdf in documents:
-            content = pdf.read_bytes()
-            self.assertIn(b"<pdfaid:part>2</pdfaid:part>\n<pdfaid:conformance>A</pdfaid:conformance>", content)
-            self.assertEqual(content.count(b"<pdfuaid:part>1</pdfuaid:part>"), 1)
 
     def test_attached_data_make_it_one_of_the_third_part(self):
         self.host.write_data("JogTbl")
@@ -163,20 +152,27 @@ class Tags(ArchiveCase):
         self.expect_same_for_others(pdf, tagged)
         titles, *rows = tagged.rows()
         self.assertEqual(titles, ["No.", "Name", "Setting Value", "Unit", "Default Setting"])
-        self.assertEqual([[without_blanks(cell) for cell in row] for row in rows],
-                         [[without_blanks(cell) for cell in (one.no, one.name, one.value, one.unit, one.default)]
-                          for one in parameters])
-        places = [{page for page, _ in tagged.content(element)} for _, element, _ in tagged.elements()]
-        self.assertTrue(any(len(pages) > 1 for pages in places), "no cell was cut")
+        self.assertEqual(rows, [[one.no, one.name, one.value, one.unit, one.default] for one in parameters])
+        self.assertTrue(any(len({page for page, _ in content(element)}) > 1 for element, _ in tagged.elements()),
+                        "no cell was cut")
 
     def test_repeated_titles_and_page_numbers_are_not_read(self):
         write_user_file(self.host.temp_folder, gains(200))
         tagged = TaggedPdf(self.make_tagged("User"))
         self.assertGreater(len(tagged.pages), 2)
-        skipped = [piece.text.strip() for page in tagged.pages for piece in tagged.pieces(page)
+        skipped = [piece.text.strip() for pieces in tagged.pieces.values() for piece in pieces
                    if piece.tag == "/Artifact" and piece.text]
         self.assertEqual(skipped.count("Setting Value"), len(tagged.pages) - 1)
         self.assertEqual(skipped.count("Page"), len(tagged.pages))
+
+    def test_characters_of_private_use_say_in_a_text_what_they_are(self):
+        """Level A of archives asks for it."""
+        write_comment(self.host.temp_folder, "drive \ue000 \U00100001", 65001)
+        pdf = self.make_tagged("JogTbl", "--code-page", "65001")
+        tagged = TaggedPdf(pdf)
+        self.expect_sound(tagged)
+        self.assertIn("drive \ue000 \U00100001", tagged.text())
+        self.assertEqual(tagged.named_characters(), ["\ue000", "\U00100001"])
 
     def test_nothing_of_it_is_in_a_file_without_the_option(self):
         self.host.write_data("Sim")

@@ -2,10 +2,12 @@
 
 #include <QGlyphRun>
 #include <algorithm>
+#include <cmath>
 #include <map>
 #include <qpdf/QPDFTokenizer.hh>
 #include <set>
 
+#include "preview/output/pdf_box_font.h"
 #include "preview/output/pdf_helper_file.h"
 #include "preview/output/pdf_to_unicode.h"
 
@@ -31,11 +33,11 @@ void DrawGlyphs(QPainter& painter, const QRawFont& face, const QList<quint32>& g
   painter.drawGlyphRun({}, run);
 }
 
-// The first page shows the box of a missing character, each further one a font's glyphs.
+// A page for the glyphs of each font, after an empty one. Boxes need none of the toolkit's fonts.
 void DrawFonts(QPdfWriter& writer, QPainter& painter, const PdfGlyphs& glyphs, ReportFont& font) {
-  DrawGlyphs(painter, font.AsInItsFile(0, FontPixels), {0});
   for (const PdfFont& used : glyphs.Fonts()) {
     writer.newPage();
+    if (used.ShowsBoxes) continue;
     DrawGlyphs(painter, font.AsInItsFile(used.Face, FontPixels), DistinctGlyphs(used));
   }
 }
@@ -58,10 +60,10 @@ class CodeReader : public QPDFObjectHandle::TokenFilter {
   std::string text_;
 };
 
-// A font program as the toolkit has embedded it.
+// A font with its program embedded.
 struct Program {
-  QPDFObjectHandle Font;                         // not initialized if there is none
-  std::map<std::uint32_t, std::uint16_t> Codes;  // in the program, by glyph
+  QPDFObjectHandle Font;              // not initialized if there is none
+  std::vector<std::uint16_t> Glyphs;  // of the program: what each code shows
 };
 
 bool IsEmbedded(QPDFObjectHandle font) {
@@ -70,7 +72,8 @@ bool IsEmbedded(QPDFObjectHandle font) {
 }
 
 // There is none if the toolkit may not embed the face, or shows its glyphs in another way.
-Program ReadProgram(QPDFPageObjectHelper page, const QList<quint32>& glyphs) {
+Program ReadProgram(QPDFPageObjectHelper page, const PdfFont& used) {
+  const QList<quint32> glyphs = DistinctGlyphs(used);
   CodeReader reader;
   page.filterContents(&reader);
   const std::map<std::string, QPDFObjectHandle> fonts =
@@ -79,8 +82,10 @@ Program ReadProgram(QPDFPageObjectHelper page, const QList<quint32>& glyphs) {
   if (fonts.size() != 1 || reader.Codes.size() != static_cast<std::size_t>(glyphs.size())) return program;
   if (!IsEmbedded(fonts.begin()->second)) return program;
   program.Font = fonts.begin()->second;
+  std::map<std::uint32_t, std::uint16_t> codes;
   for (qsizetype index = 0; index < glyphs.size(); ++index)
-    program.Codes[glyphs[index]] = reader.Codes[static_cast<std::size_t>(index)];
+    codes[glyphs[index]] = reader.Codes[static_cast<std::size_t>(index)];
+  for (const std::uint32_t glyph : used.Glyphs) program.Glyphs.push_back(codes.at(glyph));
   return program;
 }
 
@@ -96,13 +101,12 @@ QPDFObjectHandle Widths(const PdfFont& font) {
   return table;
 }
 
-// Which glyph of the program each code shows. What the program doesn't have is its first glyph, the box.
-QPDFObjectHandle GlyphMap(QPDF& pdf, const PdfFont& font, const Program& program) {
+// Which glyph of the program each code shows.
+QPDFObjectHandle GlyphMap(QPDF& pdf, const Program& program) {
   std::string map(2, '\0');
   bool isIdentity = true;
-  for (std::size_t index = 0; index < font.Glyphs.size(); ++index) {
-    const auto found = program.Codes.find(font.Glyphs[index]);
-    const std::uint16_t glyph = found == program.Codes.end() ? std::uint16_t{0} : found->second;
+  for (std::size_t index = 0; index < program.Glyphs.size(); ++index) {
+    const std::uint16_t glyph = program.Glyphs[index];
     isIdentity = isIdentity && glyph == index + 1;
     map += static_cast<char>(glyph >> 8U);
     map += static_cast<char>(glyph & 0xFFU);
@@ -140,47 +144,76 @@ QPDFObjectHandle MakeFont(QPDF& pdf, const PdfFont& used, const Program& program
   descendant.replaceKey("/FontDescriptor", pdf.makeIndirectObject(descriptor));
   descendant.replaceKey("/BaseFont", name);
   descendant.replaceKey("/W", Widths(used));
-  descendant.replaceKey("/CIDToGIDMap", GlyphMap(pdf, used, program));
+  descendant.replaceKey("/CIDToGIDMap", GlyphMap(pdf, program));
   font.replaceKey("/BaseFont", name);
   font.replaceKey("/DescendantFonts", QPDFObjectHandle::newArray({pdf.makeIndirectObject(descendant)}));
   font.replaceKey("/ToUnicode", pdf.newStream(ToUnicodeMap(1, used.Texts)));
   return pdf.makeIndirectObject(font);
 }
 
-// Without any program: a viewer takes a font of its own, which it finds by name.
-Program NamedFont() {
-  Program program;
-  program.Font = QPDFObjectHandle::parse(
-      "<< /Type /Font /Subtype /Type0 /BaseFont /Arial /Encoding /Identity-H /DescendantFonts [ << /Type "
-      "/Font "
-      "/Subtype /CIDFontType2 /BaseFont /Arial /CIDSystemInfo << /Registry (Adobe) /Ordering (Identity) "
-      "/Supplement 0 >> /FontDescriptor << /Type /FontDescriptor /FontName /Arial /Flags 4 /ItalicAngle 0 "
-      "/FontBBox [0 -212 1000 905] /Ascent 905 /Descent -212 /CapHeight 716 /StemV 80 >> >> ] >>");
-  return program;
+// The font that is to hold a program of boxes.
+constexpr const char* BoxFontDictionary =
+    "<< /Type /Font /Subtype /Type0 /BaseFont /Box /Encoding /Identity-H /DescendantFonts [ << /Type /Font "
+    "/Subtype /CIDFontType2 /BaseFont /Box /CIDSystemInfo << /Registry (Adobe) /Ordering (Identity) "
+    "/Supplement 0 >> /FontDescriptor << /Type /FontDescriptor /FontName /Box /Flags 4 /ItalicAngle 0 "
+    "/StemV 80 >> >> ] >>";
+
+void Describe(QPDFObjectHandle descriptor, const QPainterPath& box) {
+  const auto inThousandths = [](double units) {
+    return QPDFObjectHandle::newInteger(std::llround(units * 1000 / BoxFontUnits));
+  };
+  const QRectF area = box.controlPointRect();
+  descriptor.replaceKey(
+      "/FontBBox", QPDFObjectHandle::newArray({inThousandths(area.left()), inThousandths(-area.bottom()),
+                                               inThousandths(area.right()), inThousandths(-area.top())}));
+  for (const char* key : {"/Ascent", "/CapHeight"}) descriptor.replaceKey(key, inThousandths(-area.top()));
+  descriptor.replaceKey("/Descent", inThousandths(-area.bottom()));
 }
 
-bool ShowsBoxes(const PdfFont& font) {
-  return std::find(font.Glyphs.begin(), font.Glyphs.end(), 0U) != font.Glyphs.end();
+// Boxes with the advances of the glyphs in whose places they are shown: the box of the face that is meant to
+// show boxes, that of the report's own one in place of others.
+Program BoxProgram(QPDF& pdf, const PdfFont& used, ReportFont& font) {
+  const std::uint16_t face = used.ShowsBoxes ? used.Face : std::uint16_t{0};
+  const QPainterPath box = font.AsInItsFile(face, BoxFontUnits).pathForGlyph(0);
+  std::vector<float> advances;
+  Program program;
+  for (const float advance : used.AdvancesEm) {
+    const auto known = std::ranges::find(advances, advance);
+    program.Glyphs.push_back(static_cast<std::uint16_t>(known - advances.begin() + 1));
+    if (known == advances.end()) advances.push_back(advance);
+  }
+  const std::string bytes = BoxFont(box, advances);
+  QPDFObjectHandle file = pdf.newStream(bytes);
+  file.getDict().replaceKey("/Length1", QPDFObjectHandle::newInteger(static_cast<long long>(bytes.size())));
+  program.Font = QPDFObjectHandle::parse(BoxFontDictionary);
+  QPDFObjectHandle descriptor =
+      program.Font.getKey("/DescendantFonts").getArrayItem(0).getKey("/FontDescriptor");
+  Describe(descriptor, box);
+  descriptor.replaceKey("/FontFile2", file);
+  return program;
 }
 
 }  // namespace
 
-PdfFonts MakeFonts(QPDF& pdf, const PdfGlyphs& glyphs, ReportFont& font) {
+QPDFObjectHandle MakeFonts(QPDF& pdf, const PdfGlyphs& glyphs, ReportFont& font) {
   HelperFile file(PaintHelperFile(
       [&](QPdfWriter& writer, QPainter& painter) { DrawFonts(writer, painter, glyphs, font); }));
   const std::vector<QPDFPageObjectHelper> pages = file.Pages();
-  Program boxes = ReadProgram(pages.at(0), {0});
-  if (!boxes.Font.isInitialized()) boxes = NamedFont();
-  PdfFonts fonts{QPDFObjectHandle::newDictionary()};
+  QPDFObjectHandle fonts = QPDFObjectHandle::newDictionary();
   for (std::size_t number = 0; number < glyphs.Fonts().size(); ++number) {
     const PdfFont& used = glyphs.Fonts()[number];
-    const Program program = ReadProgram(pages.at(number + 1), DistinctGlyphs(used));
-    const bool isEmbedded = program.Font.isInitialized();
-    fonts.HaveAllGlyphs = fonts.HaveAllGlyphs && isEmbedded && !ShowsBoxes(used);
-    fonts.Dictionary.replaceKey("/F" + std::to_string(number),
-                                MakeFont(pdf, used, isEmbedded ? program : boxes, number));
+    Program program = used.ShowsBoxes ? Program() : ReadProgram(pages.at(number + 1), used);
+    if (!program.Font.isInitialized()) program = BoxProgram(pdf, used, font);
+    fonts.replaceKey("/F" + std::to_string(number), MakeFont(pdf, used, program, number));
   }
   return fonts;
+}
+
+QPDFObjectHandle MakeBoxFont(QPDF& pdf, ReportFont& font) {
+  constexpr std::size_t Number = 0xFFFF;  // no font of the pages has it
+  const FontGlyph& box = font.Drawn(0, 0);
+  const PdfFont used{0, {0}, {std::u32string(1, U'\uFFFD')}, {box.AdvanceEm}, false, true};
+  return MakeFont(pdf, used, BoxProgram(pdf, used, font), Number);
 }
 
 }  // namespace tarvis

@@ -7,14 +7,11 @@
 
 namespace tarvis {
 
-struct PdfFonts {
-  QPDFObjectHandle Dictionary;
-  // False where boxes are shown in place of glyphs: archives take no character that no font has.
-  bool HaveAllGlyphs = true;
-};
+// The fonts of all `glyphs`, a dictionary by the names that page content gives them, "F" and their number.
+// Glyphs of a face that can't be embedded are boxes, so that every document can be saved and archived.
+[[nodiscard]] QPDFObjectHandle MakeFonts(QPDF& pdf, const PdfGlyphs& glyphs, ReportFont& font);
 
-// The fonts of all `glyphs` by the names that page content gives them, "F" and their number.
-// Glyphs of a face that can't be embedded are boxes, so that every document can be saved.
-PdfFonts MakeFonts(QPDF& pdf, const PdfGlyphs& glyphs, ReportFont& font);
+// A font whose only glyph, of code 1, is the box of the report's own face; it is copied as U+FFFD.
+[[nodiscard]] QPDFObjectHandle MakeBoxFont(QPDF& pdf, ReportFont& font);
 
 }  // namespace tarvis

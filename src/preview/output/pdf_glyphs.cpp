@@ -106,11 +106,13 @@ const PdfGlyph& PdfGlyphs::Known(const FontGlyph& glyph, const std::u32string& t
 }
 
 PdfGlyph PdfGlyphs::NewCode(const FontGlyph& glyph, const std::u32string& text) {
-  const auto [place, isNew] = fontOfFace_.try_emplace(glyph.Face, static_cast<std::uint16_t>(fonts_.size()));
+  const bool isBox = glyph.Glyph == 0;
+  const auto [place, isNew] =
+      fontOfFace_.try_emplace({glyph.Face, isBox}, static_cast<std::uint16_t>(fonts_.size()));
   if (!isNew && fonts_[place->second].Glyphs.size() == MostCodes)
     place->second = static_cast<std::uint16_t>(fonts_.size());
   if (place->second == fonts_.size())
-    fonts_.push_back({glyph.Face, {}, {}, {}, font_.IsThickened(glyph.Face)});
+    fonts_.push_back({glyph.Face, {}, {}, {}, font_.IsThickened(glyph.Face), isBox});
   PdfFont& font = fonts_[place->second];
   font.Glyphs.push_back(glyph.Glyph);
   font.Texts.push_back(text);

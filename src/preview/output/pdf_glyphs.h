@@ -7,6 +7,7 @@
 #include <string>
 #include <tuple>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "preview/paint/report_font.h"
@@ -29,6 +30,7 @@ struct PdfFont {
   std::vector<std::u32string> Texts;  // what is copied for the glyph
   std::vector<float> AdvancesEm;
   bool IsThickened = false;  // by the content, since no bold font can be embedded
+  bool ShowsBoxes = false;   // all its glyphs are the face's first one, the box
 };
 
 // A glyph of a shaped line, at its place in em from the line's left edge and below its baseline.
@@ -61,7 +63,8 @@ class PdfGlyphs {
 
   ReportFont& font_;
   std::vector<PdfFont> fonts_;
-  std::map<std::uint16_t, std::uint16_t> fontOfFace_;  // the one that still has free codes
+  // The font that still has free codes; by face, and whether it shows boxes.
+  std::map<std::pair<std::uint16_t, bool>, std::uint16_t> fontOfFace_;
   std::map<std::tuple<std::uint16_t, std::uint32_t, std::u32string>, PdfGlyph> known_;
   std::array<std::array<PdfGlyph, 128>, 2> ascii_{};
   std::array<std::array<bool, 128>, 2> asciiKnown_{};

@@ -128,7 +128,8 @@ PdfConformance ConformanceOf(const PdfInfo& info, bool isTagged) {
   return {info.Data.empty() ? 2 : 3, isTagged ? 'A' : 'U', isTagged};
 }
 
-std::string Written(QPDF& pdf) {
+// With the structure, if there is one.
+std::string Written(QPDF& pdf, const PdfStructure* structure) {
   std::string bytes;
   Pl_String sink("pdf", nullptr, bytes);
   QPDFWriter writer(pdf);
@@ -138,7 +139,7 @@ std::string Written(QPDF& pdf) {
   writer.setMinimumPDFVersion("1.7");
   writer.setNewlineBeforeEndstream(true);
   writer.write();
-  return bytes;
+  return structure == nullptr ? bytes : structure->AddTo(std::move(bytes), writer);
 }
 
 }  // namespace
@@ -149,15 +150,16 @@ PdfInProgress::PdfInProgress(const PdfLook& look, int codePage, const PdfTagPlan
 }
 
 std::string PdfInProgress::Finish(const Document& document, const PdfInfo& info) {
-  const bool hasAllGlyphs = pages_.Finish(document);
+  pages_.Finish(document);
   const PdfSheets sheets{look_, pages_.Sheets()};
-  if (tags_ != nullptr) AddStructure(pdf_, *tags_, sheets, pages_.Marks());
+  std::optional<PdfStructure> structure;
+  if (tags_ != nullptr) structure.emplace(pdf_, *tags_, sheets, pages_.Marks());
   AddOutline(pdf_, document, sheets);
   AddOpening(pdf_, sheets);
   MakeArchive(pdf_, document.CodePage);
   AttachData(pdf_, info.Data, info.Created);
-  AddMetadata(pdf_, info, hasAllGlyphs ? std::optional(ConformanceOf(info, tags_ != nullptr)) : std::nullopt);
-  return Written(pdf_);
+  AddMetadata(pdf_, info, ConformanceOf(info, tags_ != nullptr));
+  return Written(pdf_, structure ? &*structure : nullptr);
 }
 
 }  // namespace tarvis

@@ -52,13 +52,10 @@ QString DescriptionOfAccess() {
       "</rdf:li></rdf:Bag></pdfaExtension:schemas>\n</rdf:Description>\n");
 }
 
-QString Properties(const PdfInfo& info, std::optional<PdfConformance> conformance) {
-  QString xml;
-  if (conformance) {
-    xml += Element("pdfaid:part", QString::number(conformance->Part));
-    xml += Element("pdfaid:conformance", QString(QLatin1Char(conformance->Level)));
-    if (conformance->IsAccessible) xml += Element("pdfuaid:part", QStringLiteral("1"));
-  }
+QString Properties(const PdfInfo& info, const PdfConformance& conformance) {
+  QString xml = Element("pdfaid:part", QString::number(conformance.Part));
+  xml += Element("pdfaid:conformance", QString(QLatin1Char(conformance.Level)));
+  if (conformance.IsAccessible) xml += Element("pdfuaid:part", QStringLiteral("1"));
   if (!info.Title.isEmpty())
     xml += Element("dc:title", QStringLiteral("<rdf:Alt><rdf:li xml:lang=\"x-default\">%1</rdf:li></rdf:Alt>")
                                    .arg(info.Title.toHtmlEscaped()));
@@ -92,9 +89,9 @@ QString Packet(const QString& properties, bool isAccessible) {
 }
 
 // The writer of PDFs leaves this stream uncompressed, as archives ask for.
-void AddXmp(QPDF& pdf, const PdfInfo& info, std::optional<PdfConformance> conformance) {
-  const bool isAccessible = conformance && conformance->IsAccessible;
-  QPDFObjectHandle stream = pdf.newStream(Packet(Properties(info, conformance), isAccessible).toStdString());
+void AddXmp(QPDF& pdf, const PdfInfo& info, const PdfConformance& conformance) {
+  QPDFObjectHandle stream =
+      pdf.newStream(Packet(Properties(info, conformance), conformance.IsAccessible).toStdString());
   stream.getDict().replaceKey("/Type", QPDFObjectHandle::newName("/Metadata"));
   stream.getDict().replaceKey("/Subtype", QPDFObjectHandle::newName("/XML"));
   pdf.getRoot().replaceKey("/Metadata", stream);
@@ -106,7 +103,7 @@ QString PdfDate(const QDateTime& date) {
   return date.toUTC().toString(QStringLiteral("'D:'yyyyMMddHHmmss'Z'"));
 }
 
-void AddMetadata(QPDF& pdf, const PdfInfo& info, std::optional<PdfConformance> conformance) {
+void AddMetadata(QPDF& pdf, const PdfInfo& info, const PdfConformance& conformance) {
   const PdfInfo clean{XmlLine(info.Title), XmlLine(info.Author), info.Created, {}};
   AddDictionary(pdf, clean);
   AddXmp(pdf, clean, conformance);

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QString>
-#include <optional>
 #include <qpdf/QPDF.hh>
 
 #include "preview/output/pdf_info.h"
@@ -20,8 +19,7 @@ struct PdfConformance {
 // As the format writes dates.
 [[nodiscard]] QString PdfDate(const QDateTime& date);
 
-// Writes both forms that the format knows, the dictionary and XMP; they say the same. Without `conformance`
-// the document doesn't say that it is an archive.
-void AddMetadata(QPDF& pdf, const PdfInfo& info, std::optional<PdfConformance> conformance);
+// Writes both forms that the format knows, the dictionary and XMP; they say the same.
+void AddMetadata(QPDF& pdf, const PdfInfo& info, const PdfConformance& conformance);
 
 }  // namespace tarvis

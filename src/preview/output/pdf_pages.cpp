@@ -35,7 +35,7 @@ std::string PdfPages::ContentOf(const Document& document, std::size_t page, int 
   return content;
 }
 
-bool PdfPages::Finish(const Document& document) {
+void PdfPages::Finish(const Document& document) {
   std::vector<QPDFObjectHandle> contents;
   for (const int page : sheets_) contents.push_back(WholeContent(document, page));
   const Inks inks = look_.Greys ? Inks::Greys : Inks::AsTheyAre;
@@ -45,7 +45,6 @@ bool PdfPages::Finish(const Document& document) {
   QPDFPageDocumentHelper pages(pdf_);
   for (const QPDFObjectHandle& content : contents)
     pages.addPage(NewPage(content, resources.Dictionary), false);
-  return resources.HasAllGlyphs;
 }
 
 QPDFObjectHandle PdfPages::NewStream(std::string content) {

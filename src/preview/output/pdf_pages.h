@@ -34,8 +34,8 @@ class PdfPages {
   // but for the page total; further sheets with the same number share its content.
   void Add(const Document& document, std::size_t page, std::size_t number);
   // Completes the sheets, of whose pages `document` has at least the page totals, and puts them into the PDF.
-  // Returns whether it has a glyph for each character. To be called once, as the last one.
-  [[nodiscard]] bool Finish(const Document& document);
+  // To be called once, as the last one.
+  void Finish(const Document& document);
 
   // The page of each sheet.
   const std::vector<int>& Sheets() const { return sheets_; }

@@ -1,5 +1,6 @@
 #include "preview/output/pdf_resources.h"
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <qpdf/Buffer.hh>
@@ -38,28 +39,55 @@ std::string TextOf(QPDFObjectHandle stream) {
 
 // How the toolkit shows a character that no font has: it writes each glyph by itself, in a text in
 // hexadecimal digits.
-constexpr std::string_view BoxOfToolkit = "<0000>";
+constexpr std::string_view BoxOfToolkit = "<0000> Tj";
+constexpr std::string_view FontChoice = " Tf";
 
 struct TakenForm {
   QPDFObjectHandle Stream;
-  bool HasAllGlyphs = true;
   bool IsRounded = true;
 };
 
-// A helper page as a form, with no more digits than can be seen. Content that can't be rounded is taken as it
-// is compressed.
-TakenForm TakeForm(QPDF& pdf, QPDFPageObjectHelper& page, PdfContents& contents, Inks inks) {
-  QPDFObjectHandle content = page.getObjectHandle().getKey("/Contents");
-  const std::string text = TextOf(content);
+// The same content with boxes of the font /Box. The toolkit chooses a font at the begin of each text.
+std::string WithBoxes(std::string_view content) {
+  std::string changed;
+  std::string_view rest = content;
+  std::string_view font;  // with its size, as it was chosen
+  for (std::size_t box = rest.find(BoxOfToolkit); box != rest.npos; box = rest.find(BoxOfToolkit)) {
+    const std::string_view before = rest.substr(0, box);
+    const std::size_t choice = before.rfind(FontChoice);
+    if (choice != before.npos) {
+      const std::size_t name = before.rfind('/', choice);
+      font = before.substr(name, choice - name);
+    }
+    const std::string_view size = font.substr(std::min(font.find(' '), font.size()));
+    changed.append(before).append("/Box").append(size).append(" Tf <0001> Tj ");
+    changed.append(font).append(FontChoice);
+    rest.remove_prefix(box + BoxOfToolkit.size());
+  }
+  return changed.append(rest);
+}
+
+bool HasBoxes(std::string_view content) {
+  return content.find(BoxOfToolkit) != content.npos;
+}
+
+// A helper page as a form, with no more digits than can be seen.
+// `boxes` is the font /Box, if there are any.
+TakenForm TakeForm(QPDF& pdf, QPDFPageObjectHelper& page, const QPDFObjectHandle& boxes,
+                   PdfContents& contents, Inks inks) {
+  std::string text = WithBoxes(TextOf(page.getObjectHandle().getKey("/Contents")));
   std::optional<std::string> rounded = RoundedContent(text, inks);
-  QPDFObjectHandle form = rounded ? pdf.newStream() : pdf.copyForeignObject(content);
+  QPDFObjectHandle form = pdf.newStream();
   QPDFObjectHandle dictionary = form.getDict();
   dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/XObject"));
   dictionary.replaceKey("/Subtype", QPDFObjectHandle::newName("/Form"));
   dictionary.replaceKey("/BBox", page.getMediaBox().shallowCopy());
-  dictionary.replaceKey("/Resources", pdf.copyForeignObject(page.getAttribute("/Resources", false)));
-  if (rounded) contents.Add(form, std::move(*rounded));
-  return {form, text.find(BoxOfToolkit) == text.npos, rounded.has_value()};
+  QPDFObjectHandle resources = pdf.copyForeignObject(page.getAttribute("/Resources", false));
+  if (boxes.isInitialized()) resources.getKey("/Font").replaceKey("/Box", boxes);
+  dictionary.replaceKey("/Resources", resources);
+  const bool isRounded = rounded.has_value();
+  contents.Add(form, rounded ? std::move(*rounded) : std::move(text));
+  return {form, isRounded};
 }
 
 // How many glyphs the toolkit has put into a font: it writes a bit for each, the highest first.
@@ -91,21 +119,24 @@ void CompleteTexts(QPDFObjectHandle resources, std::set<QPDFObjGen>& done) {
 
 struct TakenForms {
   QPDFObjectHandle Dictionary;
-  bool HaveAllGlyphs = true;
   std::set<QPDFObjGen> Rounded;
 };
 
-TakenForms MakeForms(QPDF& pdf, const PdfPictures& pictures, PdfContents& contents, Inks inks) {
-  TakenForms forms{QPDFObjectHandle::newDictionary(), true, {}};
+TakenForms MakeForms(QPDF& pdf, const PdfPictures& pictures, ReportFont& font, PdfContents& contents,
+                     Inks inks) {
+  TakenForms forms{QPDFObjectHandle::newDictionary(), {}};
   if (pictures.All().empty()) return forms;
   HelperFile file(PaintHelperFile(
       [&](QPdfWriter& writer, QPainter& painter) { PaintPictures(pictures, writer, painter); }));
   std::vector<QPDFPageObjectHelper> pages = file.Pages();
   std::set<QPDFObjGen> completed;
+  QPDFObjectHandle boxes;  // made where it is needed first
   for (std::size_t number = 0; number < pictures.All().size(); ++number) {
-    TakenForm form = TakeForm(pdf, pages.at(number + 1), contents, inks);
+    QPDFPageObjectHelper& page = pages.at(number + 1);
+    const bool hasBoxes = HasBoxes(TextOf(page.getObjectHandle().getKey("/Contents")));
+    if (hasBoxes && !boxes.isInitialized()) boxes = MakeBoxFont(pdf, font);
+    TakenForm form = TakeForm(pdf, page, hasBoxes ? boxes : QPDFObjectHandle(), contents, inks);
     if (form.IsRounded) forms.Rounded.insert(form.Stream.getObjGen());
-    forms.HaveAllGlyphs = forms.HaveAllGlyphs && form.HasAllGlyphs;
     CompleteTexts(form.Stream.getDict().getKey("/Resources"), completed);
     forms.Dictionary.replaceKey("/P" + std::to_string(number), form.Stream);
   }
@@ -116,12 +147,11 @@ TakenForms MakeForms(QPDF& pdf, const PdfPictures& pictures, PdfContents& conten
 
 PdfResources MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPictures& pictures, ReportFont& font,
                            PdfContents& contents, Inks inks) {
-  const TakenForms forms = MakeForms(pdf, pictures, contents, inks);
-  const PdfFonts fonts = MakeFonts(pdf, glyphs, font);
+  const TakenForms forms = MakeForms(pdf, pictures, font, contents, inks);
   QPDFObjectHandle resources = QPDFObjectHandle::newDictionary();
-  resources.replaceKey("/Font", fonts.Dictionary);
+  resources.replaceKey("/Font", MakeFonts(pdf, glyphs, font));
   resources.replaceKey("/XObject", forms.Dictionary);
-  return {pdf.makeIndirectObject(resources), fonts.HaveAllGlyphs && forms.HaveAllGlyphs, forms.Rounded};
+  return {pdf.makeIndirectObject(resources), forms.Rounded};
 }
 
 }  // namespace tarvis

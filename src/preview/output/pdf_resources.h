@@ -15,12 +15,11 @@ namespace tarvis {
 // The resources of pages: fonts "F" and pictures "P" with their numbers.
 struct PdfResources {
   QPDFObjectHandle Dictionary;      // all pages of a document share it
-  bool HasAllGlyphs = true;         // of pages and pictures; see PdfFonts
   std::set<QPDFObjGen> InkedForms;  // pictures whose inks are as they were asked for
 };
 
 // The contents of pictures are added to `contents`, with these inks as far as their content is understood.
-PdfResources MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPictures& pictures, ReportFont& font,
-                           PdfContents& contents, Inks inks);
+[[nodiscard]] PdfResources MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPictures& pictures,
+                                         ReportFont& font, PdfContents& contents, Inks inks);
 
 }  // namespace tarvis

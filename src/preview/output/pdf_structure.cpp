@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <unordered_map>
 
-#include "preview/output/structure_elements.h"
 #include "preview/paint/page_items.h"
 
 namespace tarvis {
@@ -27,37 +27,30 @@ HeaderScope ScopeOf(PartRole role) {
   return role == PartRole::RowHeader ? HeaderScope::Row : HeaderScope::None;
 }
 
-// A sheet of the file.
-struct Sheet {
-  int Page = 0;  // of the document
-  QPDFObjectHandle Object;
-  QPDFObjectHandle Elements;  // an array: the element of each piece of its content
-};
-
 // The elements of one copy of the document.
 class CopyOfStructure {
  public:
   CopyOfStructure(StructureElements& elements, const PdfTagPlan& plan, const PdfSheets& sheets,
-                  StructureNode root)
+                  ElementId root)
       : elements_(elements),
         plan_(plan),
         document_(plan.Source()),
         structure_(document_.Structure),
         sheets_(sheets),
-        runs_(structure_.Runs.size()),
+        runs_(structure_.Runs.size(), NoElement),
         hasHeading_(structure_.Runs.size(), false),
-        tables_(structure_.Tables.size()) {
-    runs_.front() = std::move(root);
+        tables_(structure_.Tables.size(), NoElement) {
+    runs_.front() = root;
   }
 
   // Pages come in the order of the document.
-  void AddPage(Sheet& sheet, const std::vector<PdfMark>& marks) {
+  void AddPage(StructureSheet& sheet, const std::vector<PdfMark>& marks) {
     sheet_ = &sheet;
     marks_ = &marks;
     std::unordered_map<std::uint32_t, std::vector<int>> marksOfBands;
     for (std::size_t number = 0; number < marks.size(); ++number)
       marksOfBands[marks[number].Band].push_back(static_cast<int>(number));
-    found_.assign(marks.size(), QPDFObjectHandle());
+    sheet.Parents.assign(marks.size(), NoElement);
     std::unordered_map<std::uint32_t, BandElements> bands;
     std::uint32_t last = 0;
     for (const Item& item : ItemsOf(document_, static_cast<std::size_t>(sheet.Page))) {
@@ -66,12 +59,12 @@ class CopyOfStructure {
       AddBand(last, marksOfBands[last], bands[last]);
     }
     bands_ = std::move(bands);
-    for (const QPDFObjectHandle& element : found_) sheet.Elements.appendItem(element);
+    sheet.EndOfElements = elements_.Count();
   }
 
  private:
-  // The element of each part of a band; not initialized where it has none yet.
-  using BandElements = std::vector<QPDFObjectHandle>;
+  // The element of each part of a band; NoElement where it has none yet.
+  using BandElements = std::vector<ElementId>;
 
   // A band that was cut goes on where it was on the page before.
   void AddBand(std::uint32_t band, const std::vector<int>& marks, BandElements& elements) {
@@ -81,7 +74,7 @@ class CopyOfStructure {
     if (before != bands_.end()) {
       elements = before->second;
     } else {
-      elements.resize(parts.size());
+      elements.assign(parts.size(), NoElement);
       if (layout.Table != NoTable) AddRows(layout, elements);
     }
     for (std::size_t part = 0; part < parts.size(); ++part) {
@@ -95,10 +88,10 @@ class CopyOfStructure {
   void AddRows(const BandLayout& layout, BandElements& elements) {
     const std::span<const BandPart> parts = structure_.PartsOf(layout);
     for (const TableLine& line : LinesOf(layout)) {
-      StructureNode row = elements_.AddNode(TableOf(layout), "/TR");
+      const ElementId row = elements_.Add(TableOf(layout), "/TR");
       for (const TableCell& cell : line) {
         const HeaderScope scope = ScopeOf(cell.Part->Role);
-        QPDFObjectHandle element = elements_.AddLeaf(row, scope == HeaderScope::None ? "/TD" : "/TH");
+        const ElementId element = elements_.Add(row, scope == HeaderScope::None ? "/TD" : "/TH");
         elements_.DescribeCell(element, scope, cell.Columns, cell.Lines);
         elements[static_cast<std::size_t>(cell.Part - parts.data())] = element;
       }
@@ -116,45 +109,41 @@ class CopyOfStructure {
     const BandPart& shown = structure_.PartsOf(layout)[part];
     const bool isInside =
         layout.Table != NoTable && (shown.Role == PartRole::Picture || shown.Role == PartRole::Tick);
-    QPDFObjectHandle element;
+    ElementId element = NoElement;
     if (isInside) {
       element = AddInside(CellOf(layout, shown, elements), mark, shown.Role);
     } else {
-      if (!elements[part].isInitialized()) elements[part] = AddText(layout, mark, shown.Role);
+      if (elements[part] == NoElement) elements[part] = AddText(layout, mark, shown.Role);
       element = elements[part];
     }
-    StructureElements::AddContent(element, sheet_->Object, number);
-    found_[static_cast<std::size_t>(number)] = element;
+    elements_.AddContent(element, sheet_->Index, number);
+    sheet_->Parents[static_cast<std::size_t>(number)] = element;
   }
 
-  QPDFObjectHandle CellOf(const BandLayout& layout, const BandPart& shown,
-                          const BandElements& elements) const {
+  ElementId CellOf(const BandLayout& layout, const BandPart& shown, const BandElements& elements) const {
     const std::span<const BandPart> parts = structure_.PartsOf(layout);
     const auto cell = std::ranges::find(parts, shown.Within, &BandPart::Control);
     return elements[static_cast<std::size_t>(cell - parts.begin())];
   }
 
-  QPDFObjectHandle AddInside(const QPDFObjectHandle& cell, const PdfMark& mark, PartRole role) {
-    QPDFObjectHandle element = elements_.AddLeaf(cell, role == PartRole::Picture ? "/Figure" : "/Span");
+  ElementId AddInside(ElementId cell, const PdfMark& mark, PartRole role) {
+    const ElementId element = elements_.Add(cell, role == PartRole::Picture ? "/Figure" : "/Span");
     Describe(element, mark, role);
     return element;
   }
 
-  QPDFObjectHandle AddText(const BandLayout& layout, const PdfMark& mark, PartRole role) {
-    StructureNode& parent = RunOf(layout.Run);
-    if (role == PartRole::Tick) return AddInside(elements_.AddLeaf(parent, "/P"), mark, role);
-    QPDFObjectHandle element = elements_.AddLeaf(parent, TypeOf(layout.Run, role));
+  ElementId AddText(const BandLayout& layout, const PdfMark& mark, PartRole role) {
+    const ElementId parent = RunOf(layout.Run);
+    if (role == PartRole::Tick) return AddInside(elements_.Add(parent, "/P"), mark, role);
+    const ElementId element = elements_.Add(parent, TypeOf(layout.Run, role));
     Describe(element, mark, role);
     return element;
   }
 
-  void Describe(QPDFObjectHandle element, const PdfMark& mark, PartRole role) const {
-    if (role == PartRole::Tick)
-      element.replaceKey("/ActualText",
-                         QPDFObjectHandle::newUnicodeString(mark.IsTicked ? Ticked : NotTicked));
+  void Describe(ElementId element, const PdfMark& mark, PartRole role) {
+    if (role == PartRole::Tick) elements_.SayInstead(element, mark.IsTicked ? Ticked : NotTicked);
     if (role == PartRole::Picture)
-      StructureElements::DescribeFigure(element, *structure_.FigureTextOf(mark.Band, mark.Control),
-                                        AreaOf(mark.Box));
+      elements_.DescribeFigure(element, *structure_.FigureTextOf(mark.Band, mark.Control), AreaOf(mark.Box));
   }
 
   std::vector<double> AreaOf(const Rect& box) const {
@@ -182,17 +171,17 @@ class CopyOfStructure {
   }
 
   // The outermost report is the document, those in it are its parts.
-  StructureNode& RunOf(std::uint32_t run) {
-    StructureNode& node = runs_[run];
-    if (node.Object.isInitialized()) return node;
+  ElementId RunOf(std::uint32_t run) {
+    if (runs_[run] != NoElement) return runs_[run];
     const std::uint32_t parent = structure_.Runs[run].Parent;
-    node = elements_.AddNode(RunOf(parent), parent == 0 ? "/Part" : "/Sect");
-    return node;
+    const ElementId around = RunOf(parent);
+    runs_[run] = elements_.Add(around, parent == 0 ? "/Part" : "/Sect");
+    return runs_[run];
   }
 
-  StructureNode& TableOf(const BandLayout& layout) {
-    StructureNode& table = tables_[layout.Table];
-    if (!table.Object.isInitialized()) table = elements_.AddNode(RunOf(layout.Run), "/Table");
+  ElementId TableOf(const BandLayout& layout) {
+    ElementId& table = tables_[layout.Table];
+    if (table == NoElement) table = elements_.Add(RunOf(layout.Run), "/Table");
     return table;
   }
 
@@ -201,69 +190,89 @@ class CopyOfStructure {
   const Document& document_;
   const DocumentStructure& structure_;
   const PdfSheets& sheets_;
-  std::vector<StructureNode> runs_;
+  std::vector<ElementId> runs_;
   std::vector<bool> hasHeading_;  // by run
-  std::vector<StructureNode> tables_;
+  std::vector<ElementId> tables_;
   std::unordered_map<const BandLayout*, std::vector<TableLine>> lines_;
   std::unordered_map<std::uint32_t, BandElements> bands_;  // of the page before
-  Sheet* sheet_ = nullptr;
+  StructureSheet* sheet_ = nullptr;
   const std::vector<PdfMark>* marks_ = nullptr;
-  std::vector<QPDFObjectHandle> found_;  // of each mark
 };
 
 // The sheets of each copy of the document, by page: the second sheet of a page belongs to the second copy.
-std::vector<std::vector<Sheet*>> CopiesOf(std::vector<Sheet>& sheets) {
-  std::vector<std::vector<Sheet*>> copies;
+std::vector<std::vector<StructureSheet*>> CopiesOf(std::vector<StructureSheet>& sheets) {
+  std::vector<std::vector<StructureSheet*>> copies;
   std::map<int, std::size_t> counts;
-  for (Sheet& sheet : sheets) {
+  for (StructureSheet& sheet : sheets) {
     const std::size_t copy = counts[sheet.Page]++;
     if (copy == copies.size()) copies.emplace_back();
     copies[copy].push_back(&sheet);
   }
-  for (std::vector<Sheet*>& copy : copies) std::ranges::sort(copy, {}, &Sheet::Page);
+  for (std::vector<StructureSheet*>& copy : copies) std::ranges::sort(copy, {}, &StructureSheet::Page);
   return copies;
 }
 
-std::vector<Sheet> SheetsOf(QPDF& pdf, const PdfSheets& sheets) {
-  std::vector<Sheet> all;
-  for (const QPDFObjectHandle& page : pdf.getAllPages())
-    all.push_back({sheets.Pages[all.size()], page, QPDFObjectHandle::newArray()});
-  return all;
-}
-
-// From the content of each page to the elements that it belongs to.
-QPDFObjectHandle ParentTree(QPDF& pdf, std::vector<Sheet>& sheets) {
-  QPDFObjectHandle numbers = QPDFObjectHandle::newArray();
-  for (std::size_t index = 0; index < sheets.size(); ++index) {
-    const QPDFObjectHandle number = QPDFObjectHandle::newInteger(static_cast<long long>(index));
-    numbers.appendItem(number);
-    numbers.appendItem(pdf.makeIndirectObject(sheets[index].Elements));
-    sheets[index].Object.replaceKey("/StructParents", number);
-    sheets[index].Object.replaceKey("/Tabs", QPDFObjectHandle::newName("/S"));
-  }
-  QPDFObjectHandle tree = QPDFObjectHandle::newDictionary();
-  tree.replaceKey("/Nums", numbers);
-  return pdf.makeIndirectObject(tree);
+std::string Reference(int number) {
+  return std::to_string(number) + " 0 R";
 }
 
 }  // namespace
 
-void AddStructure(QPDF& pdf, const PdfTagPlan& plan, const PdfSheets& sheets, const PdfMarks& marks) {
-  std::vector<Sheet> all = SheetsOf(pdf, sheets);
-  StructureElements elements(pdf);
-  StructureNode tree{pdf.makeIndirectObject(QPDFObjectHandle::parse("<< /Type /StructTreeRoot >>")),
-                     QPDFObjectHandle::newArray()};
-  StructureNode root = elements.AddNode(tree, "/Document");
-  for (const std::vector<Sheet*>& copy : CopiesOf(all)) {
-    CopyOfStructure structure(elements, plan, sheets, root);
-    for (Sheet* sheet : copy) structure.AddPage(*sheet, marks.at(sheet->Page));
+PdfStructure::PdfStructure(QPDF& pdf, const PdfTagPlan& plan, const PdfSheets& sheets, const PdfMarks& marks)
+    : root_(pdf.makeIndirectObject(QPDFObjectHandle::parse("<< /Type /StructTreeRoot >>"))) {
+  for (QPDFObjectHandle page : pdf.getAllPages()) {
+    const auto index = static_cast<std::uint32_t>(sheets_.size());
+    sheets_.push_back({index, sheets.Pages[index], page.getObjGen()});
+    page.replaceKey("/StructParents", QPDFObjectHandle::newInteger(index));
+    page.replaceKey("/Tabs", QPDFObjectHandle::newName("/S"));
   }
-  tree.Object.replaceKey("/K", tree.Kids);
-  tree.Object.replaceKey("/ParentTree", ParentTree(pdf, all));
-  tree.Object.replaceKey("/ParentTreeNextKey",
-                         QPDFObjectHandle::newInteger(static_cast<long long>(all.size())));
-  pdf.getRoot().replaceKey("/StructTreeRoot", tree.Object);
+  const ElementId document = elements_.Add(NoElement, "/Document");
+  for (const std::vector<StructureSheet*>& copy : CopiesOf(sheets_)) {
+    CopyOfStructure structure(elements_, plan, sheets, document);
+    for (StructureSheet* sheet : copy) {
+      structure.AddPage(*sheet, marks.at(sheet->Page));
+      inOrder_.push_back(sheet->Index);
+    }
+  }
+  pdf.getRoot().replaceKey("/StructTreeRoot", root_);
   pdf.getRoot().replaceKey("/MarkInfo", QPDFObjectHandle::parse("<< /Marked true >>"));
+}
+
+// The elements of a page come together with the list of its content's parents, which names them again.
+std::string PdfStructure::AddTo(std::string pdf, QPDFWriter& writer) const {
+  AddedObjects objects(std::move(pdf), writer);
+  StructureNumbers numbers;
+  numbers.Root = writer.getRenumberedObjGen(root_.getObjGen()).getObj();
+  for (const StructureSheet& sheet : sheets_)
+    numbers.Pages.push_back(writer.getRenumberedObjGen(sheet.Object).getObj());
+  numbers.FirstElement = objects.Reserve(static_cast<int>(elements_.Count()));
+  const int firstList = objects.Reserve(static_cast<int>(sheets_.size()));
+  ElementId next = 0;
+  for (const std::uint32_t index : inOrder_) {
+    const StructureSheet& sheet = sheets_[index];
+    for (; next < sheet.EndOfElements; ++next)
+      elements_.Write(objects.Begin(numbers.FirstElement + static_cast<int>(next)), next, numbers);
+    std::string& list = objects.Begin(firstList + static_cast<int>(index));
+    list += '[';
+    for (const ElementId parent : sheet.Parents)
+      list += Reference(numbers.FirstElement + static_cast<int>(parent)) + ' ';
+    list += ']';
+  }
+  WriteRoot(objects, numbers, firstList);
+  return objects.Finish();
+}
+
+void PdfStructure::WriteRoot(AddedObjects& objects, const StructureNumbers& numbers, int firstList) const {
+  std::string lists;
+  for (const StructureSheet& sheet : sheets_) {
+    const int index = static_cast<int>(sheet.Index);
+    lists += std::to_string(index) + ' ' + Reference(firstList + index) + ' ';
+  }
+  const int tree = objects.Reserve(1);
+  objects.Begin(tree) += "<</Nums[" + lists + "]>>";
+  objects.Begin(numbers.Root) += "<</Type/StructTreeRoot/K " + Reference(numbers.FirstElement) +
+                                 "/ParentTree " + Reference(tree) + "/ParentTreeNextKey " +
+                                 std::to_string(sheets_.size()) + ">>";
 }
 
 }  // namespace tarvis

@@ -1,89 +1,108 @@
 #include "preview/output/structure_elements.h"
 
+#include <qpdf/QPDFObjectHandle.hh>
+
 namespace tarvis {
 namespace {
 
-void AppendKid(QPDFObjectHandle leaf, const QPDFObjectHandle& kid) {
-  QPDFObjectHandle kids = leaf.getKey("/K");
-  if (kids.isNull()) {
-    leaf.replaceKey("/K", kid);
-  } else if (kids.isArray()) {
-    kids.appendItem(kid);
-  } else {
-    leaf.replaceKey("/K", QPDFObjectHandle::newArray({kids, kid}));
-  }
+void AppendReference(std::string& out, int number) {
+  out += std::to_string(number);
+  out += " 0 R";
+}
+
+std::string TextString(const std::string& text) {
+  return QPDFObjectHandle::newUnicodeString(text).unparse();
 }
 
 }  // namespace
 
-QPDFObjectHandle StructureElements::Name(const char* name) {
-  QPDFObjectHandle& known = names_[name];
-  if (!known.isInitialized()) known = QPDFObjectHandle::newName(name);
-  return known;
+ElementId StructureElements::Add(ElementId parent, const char* type) {
+  const ElementId element = Count();
+  elements_.push_back({type, parent});
+  if (parent != NoElement) AddKid(parent, {element});
+  return element;
 }
 
-QPDFObjectHandle StructureElements::NewElement(const QPDFObjectHandle& parent, const char* type) {
-  QPDFObjectHandle element = QPDFObjectHandle::newDictionary();
-  element.replaceKey("/S", Name(type));
-  element.replaceKey("/P", parent);
-  return pdf_.makeIndirectObject(element);
+void StructureElements::AddKid(ElementId parent, const Kid& kid) {
+  const auto place = static_cast<std::uint32_t>(kids_.size());
+  kids_.push_back(kid);
+  Element& element = elements_[parent];
+  if (element.FirstKid == None) {
+    element.FirstKid = place;
+  } else {
+    kids_[element.LastKid].Next = place;
+  }
+  element.LastKid = place;
 }
 
-StructureNode StructureElements::AddNode(StructureNode& parent, const char* type) {
-  StructureNode node{NewElement(parent.Object, type), QPDFObjectHandle::newArray()};
-  node.Object.replaceKey("/K", node.Kids);
-  parent.Kids.appendItem(node.Object);
-  return node;
+void StructureElements::AddContent(ElementId element, std::uint32_t sheet, int number) {
+  if (elements_[element].Sheet == None) elements_[element].Sheet = sheet;
+  AddKid(element, {static_cast<std::uint32_t>(number), sheet});
 }
 
-QPDFObjectHandle StructureElements::AddLeaf(StructureNode& parent, const char* type) {
-  QPDFObjectHandle leaf = NewElement(parent.Object, type);
-  parent.Kids.appendItem(leaf);
-  return leaf;
+// Each element has at most one, but for cells, which have the same ones again and again.
+void StructureElements::AddEntry(ElementId element, const std::string& entry) {
+  const auto [known, isNew] = known_.try_emplace(entry, static_cast<std::uint32_t>(more_.size()));
+  if (isNew) more_.push_back(entry);
+  elements_[element].More = known->second;
 }
 
-QPDFObjectHandle StructureElements::AddLeaf(QPDFObjectHandle parent, const char* type) {
-  QPDFObjectHandle leaf = NewElement(parent, type);
-  AppendKid(parent, leaf);
-  return leaf;
-}
-
-void StructureElements::DescribeFigure(QPDFObjectHandle figure, const std::string& text,
+void StructureElements::DescribeFigure(ElementId figure, const std::string& text,
                                        const std::vector<double>& area) {
-  figure.replaceKey("/Alt", QPDFObjectHandle::newUnicodeString(text));
-  QPDFObjectHandle attributes = QPDFObjectHandle::parse("<< /O /Layout /Placement /Block >>");
-  QPDFObjectHandle box = QPDFObjectHandle::newArray();
-  for (const double edge : area) box.appendItem(QPDFObjectHandle::newReal(edge, 2));
-  attributes.replaceKey("/BBox", box);
-  figure.replaceKey("/A", attributes);
+  std::string entry = "/Alt" + TextString(text) + "/A<</O/Layout/Placement/Block/BBox[";
+  for (const double edge : area) entry += QPDFObjectHandle::newReal(edge, 2).unparse() + " ";
+  entry.back() = ']';
+  AddEntry(figure, entry + ">>");
 }
 
-void StructureElements::DescribeCell(QPDFObjectHandle cell, HeaderScope scope, int columns, int lines) {
+void StructureElements::DescribeCell(ElementId cell, HeaderScope scope, int columns, int lines) {
   if (scope == HeaderScope::None && columns == 1 && lines == 1) return;
-  QPDFObjectHandle& attributes = cellAttributes_[{scope, columns, lines}];
-  if (!attributes.isInitialized()) {
-    attributes = pdf_.makeIndirectObject(QPDFObjectHandle::parse("<< /O /Table >>"));
-    if (scope != HeaderScope::None)
-      attributes.replaceKey("/Scope", Name(scope == HeaderScope::Column ? "/Column" : "/Row"));
-    if (columns > 1) attributes.replaceKey("/ColSpan", QPDFObjectHandle::newInteger(columns));
-    if (lines > 1) attributes.replaceKey("/RowSpan", QPDFObjectHandle::newInteger(lines));
-  }
-  cell.replaceKey("/A", attributes);
+  std::string entry = "/A<</O/Table";
+  if (scope != HeaderScope::None) entry += scope == HeaderScope::Column ? "/Scope/Column" : "/Scope/Row";
+  if (columns > 1) entry += "/ColSpan " + std::to_string(columns);
+  if (lines > 1) entry += "/RowSpan " + std::to_string(lines);
+  AddEntry(cell, entry + ">>");
 }
 
-// The page of an element holds for content that names none of its own.
-void StructureElements::AddContent(QPDFObjectHandle leaf, const QPDFObjectHandle& page, int number) {
-  QPDFObjectHandle content = QPDFObjectHandle::newInteger(number);
-  QPDFObjectHandle first = leaf.getKey("/Pg");
-  if (first.isNull()) {
-    leaf.replaceKey("/Pg", page);
-  } else if (first.getObjGen() != page.getObjGen()) {
-    QPDFObjectHandle reference = QPDFObjectHandle::parse("<< /Type /MCR >>");
-    reference.replaceKey("/Pg", page);
-    reference.replaceKey("/MCID", content);
-    content = reference;
+void StructureElements::SayInstead(ElementId element, const char* text) {
+  AddEntry(element, "/ActualText" + TextString(text));
+}
+
+// What changes from element to element comes last: so they compress best.
+void StructureElements::Write(std::string& out, ElementId element, const StructureNumbers& numbers) const {
+  const Element& written = elements_[element];
+  out += "<</S";
+  out += written.Type;
+  if (written.More != None) out += more_[written.More];
+  if (written.Sheet != None) {
+    out += "/Pg ";
+    AppendReference(out, numbers.Pages[written.Sheet]);
   }
-  AppendKid(leaf, content);
+  out += "/P ";
+  AppendReference(out, written.Parent == NoElement ? numbers.Root
+                                                   : numbers.FirstElement + static_cast<int>(written.Parent));
+  if (written.FirstKid != None) {
+    const bool isList = written.FirstKid != written.LastKid;
+    out += isList ? "/K[" : "/K ";
+    for (std::uint32_t kid = written.FirstKid; kid != None; kid = kids_[kid].Next) {
+      WriteKid(out, written, kids_[kid], numbers);
+      if (kids_[kid].Next != None) out += ' ';
+    }
+    if (isList) out += ']';
+  }
+  out += ">>";
+}
+
+void StructureElements::WriteKid(std::string& out, const Element& element, const Kid& kid,
+                                 const StructureNumbers& numbers) const {
+  if (kid.Sheet == None) return AppendReference(out, numbers.FirstElement + static_cast<int>(kid.Number));
+  if (kid.Sheet == element.Sheet) {
+    out += std::to_string(kid.Number);
+    return;
+  }
+  out += "<</Type/MCR/Pg ";
+  AppendReference(out, numbers.Pages[kid.Sheet]);
+  out += "/MCID " + std::to_string(kid.Number) + ">>";
 }
 
 }  // namespace tarvis
