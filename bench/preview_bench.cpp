@@ -19,6 +19,7 @@
 #include "preview/paint/painter_canvas.h"
 #include "preview/text/text_search.h"
 #include "preview/window/preview_window.h"
+#include "thread_time.h"
 
 namespace tarvis {
 namespace {
@@ -60,12 +61,6 @@ void PaintPageAtZoom(benchmark::State& state) {
   }
 }
 BENCHMARK(PaintPageAtZoom)->Arg(100)->Arg(200)->Unit(benchmark::kMillisecond);
-
-double ThreadMilliseconds() {
-  timespec now{};
-  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-  return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
-}
 
 // Shows frame after frame of `step` and reports the slowest: by the clock, which other programs slow down,
 // and by the time that the window's thread worked.
