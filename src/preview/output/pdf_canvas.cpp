@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <algorithm>
 #include <array>
+#include <span>
 
 #include "preview/output/pdf_greys.h"
 #include "preview/output/pdf_numbers.h"
@@ -17,6 +18,21 @@ constexpr std::string_view EndOfActualText = "EMC\n";
 
 bool IsPrivate(char32_t character) {
   return (character >= 0xE000 && character <= 0xF8FF) || character >= 0xF0000;
+}
+
+void AppendRects(std::string& content, std::span<const Rect> boxes) {
+  for (const Rect& box : boxes) {
+    for (const float value : {box.Left, box.Top, box.Width, box.Height}) AppendNumber(content, value);
+    content += "re\n";
+  }
+}
+
+// Begins what is read as this text.
+void AppendActualText(std::string& content, const std::u32string& text) {
+  content += "/Span<</ActualText<FEFF";
+  for (const QChar unit : QString::fromUcs4(text.data(), static_cast<qsizetype>(text.size())))
+    AppendHex(content, unit.unicode());
+  content += ">>>BDC\n";
 }
 
 bool EndsWith(const std::vector<Rect>& boxes, const std::vector<Rect>& last) {
@@ -47,13 +63,6 @@ PdfCanvas::PdfCanvas(PdfGlyphs& glyphs, PdfPictures& pictures)
   ForgetTextState();
 }
 
-void PdfCanvas::AddRects(std::span<const Rect> boxes) {
-  for (const Rect& box : boxes) {
-    for (const float value : {box.Left, box.Top, box.Width, box.Height}) AppendNumber(content_, value);
-    Add("re\n");
-  }
-}
-
 void PdfCanvas::UseInk(Color color) {
   if (color == ink_) return;
   ink_ = color;
@@ -81,7 +90,7 @@ void PdfCanvas::EndFill(const char* paint) {
   if (filled_.empty()) return;
   OnPaths();
   UseInk(fill_);
-  AddRects(filled_);
+  AppendRects(content_, filled_);
   Add(paint);
   OnEndOfPaths();
   filled_.clear();
@@ -100,7 +109,7 @@ void PdfCanvas::Frame(const std::vector<Rect>& boxes, float width) {
   if (others.empty()) return;
   OnPaths();
   UseLineWidth(width);
-  AddRects(others);
+  AppendRects(content_, others);
   Add("S\n");
   OnEndOfPaths();
 }
@@ -130,7 +139,7 @@ void PdfCanvas::Text(const TextPiece& piece, const TextStyle& style, const Rect&
   if (clip) {
     EndText();
     Add("q ");
-    AddRects({&*clip, 1});
+    AppendRects(content_, {&*clip, 1});
     Add("W n\n");
   }
   UseInk(Black);
@@ -178,7 +187,9 @@ void PdfCanvas::ShowPlain(const TextPiece& piece, const TextStyle& style, double
     if (NamesPrivateCharacters() && IsPrivate(character)) {
       if (open) Add(EndOfShownText);
       open = false;
-      ShowPrivate(character, glyph, style, x, y);
+      AppendActualText(content_, std::u32string(1, character));
+      ShowGlyph(glyph, style, x, y);
+      Add(EndOfActualText);
       x += glyph.AdvanceEm * em;
       continue;
     }
@@ -193,13 +204,6 @@ void PdfCanvas::ShowPlain(const TextPiece& piece, const TextStyle& style, double
     x += glyph.AdvanceEm * em;
   }
   if (open) Add(EndOfShownText);
-}
-
-void PdfCanvas::ShowPrivate(char32_t character, const PdfGlyph& glyph, const TextStyle& style, double x,
-                            double y) {
-  StartActualText(std::u32string(1, character));
-  ShowGlyph(glyph, style, x, y);
-  Add(EndOfActualText);
 }
 
 // The blank at which the text was broken shows nothing where the line ends.
@@ -237,7 +241,7 @@ void PdfCanvas::ShowCluster(const TextCluster& cluster, const TextStyle& style, 
   const PdfCluster used = glyphs_.Use(cluster);
   const bool isNamed =
       used.NeedsText || (NamesPrivateCharacters() && std::ranges::any_of(cluster.Text, IsPrivate));
-  if (isNamed) StartActualText(cluster.Text);
+  if (isNamed) AppendActualText(content_, cluster.Text);
   for (const PdfPlacedGlyph& placed : used.Glyphs)
     ShowGlyph(placed.Glyph, style, x + placed.X * em * stretch, y + placed.Y * em);
   if (isNamed) Add(EndOfActualText);
@@ -249,13 +253,6 @@ void PdfCanvas::ShowGlyph(const PdfGlyph& glyph, const TextStyle& style, double 
   Add("(");
   AppendCode(content_, glyph.Code);
   Add(EndOfShownText);
-}
-
-void PdfCanvas::StartActualText(const std::u32string& text) {
-  Add("/Span<</ActualText<FEFF");
-  for (const QChar unit : QString::fromUcs4(text.data(), static_cast<qsizetype>(text.size())))
-    AppendHex(content_, unit.unicode());
-  Add(">>>BDC\n");
 }
 
 void PdfCanvas::UseFont(std::uint16_t font, float size) {
@@ -309,7 +306,7 @@ void PdfCanvas::Picture(const tarvis::Picture& picture, const Rect& box) {
   EndPart();
   const std::size_t number = pictures_.Number(picture, box.Width, box.Height);
   Add("q ");
-  AddRects({&box, 1});
+  AppendRects(content_, {&box, 1});
   Add("W n 20 0 0 -20 ");
   AppendNumber(content_, box.Left);
   // A form is placed by its lower edge; its height is rounded up to whole points.

@@ -7,7 +7,6 @@
 #include <cstdint>
 #include <map>
 #include <optional>
-#include <span>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -85,7 +84,6 @@ class PdfCanvas : public Canvas, protected ContentMarker {
   void EndPart();
 
  private:
-  void AddRects(std::span<const Rect> boxes);
   void UseInk(Color color);
   void UseLineWidth(float width);
   void BeginText();
@@ -95,11 +93,9 @@ class PdfCanvas : public Canvas, protected ContentMarker {
   void ShowText(const TextPiece& piece, const TextStyle& style, double x, double y, double stretch);
   void ShowPlain(const TextPiece& piece, const TextStyle& style, double x, double y, double stretch);
   void ShowShaped(const TextPiece& piece, const TextStyle& style, double x, double y, double stretch);
-  void ShowPrivate(char32_t character, const PdfGlyph& glyph, const TextStyle& style, double x, double y);
   void ShowBlank(const TextPiece& piece, const TextStyle& style, double x, double y, double stretch);
   void ShowCluster(const TextCluster& cluster, const TextStyle& style, double x, double y, double stretch);
   void ShowGlyph(const PdfGlyph& glyph, const TextStyle& style, double x, double y);
-  void StartActualText(const std::u32string& text);
   void MoveTo(double x, double y);
   void UseFont(std::uint16_t font, float size);
   void UseThickness(bool isThick, float size);
