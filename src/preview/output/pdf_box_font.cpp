@@ -10,19 +10,19 @@
 namespace tarvis {
 namespace {
 
-void Append16(std::string& bytes, int value) {
+void AppendShort(std::string& bytes, int value) {
   bytes += static_cast<char>((value >> 8) & 0xFF);
   bytes += static_cast<char>(value & 0xFF);
 }
 
-void Append32(std::string& bytes, std::uint32_t value) {
-  Append16(bytes, static_cast<int>(value >> 16U));
-  Append16(bytes, static_cast<int>(value & 0xFFFFU));
+void AppendLong(std::string& bytes, std::uint32_t value) {
+  AppendShort(bytes, static_cast<int>(value >> 16U));
+  AppendShort(bytes, static_cast<int>(value & 0xFFFFU));
 }
 
 std::string Shorts(std::initializer_list<int> values) {
   std::string bytes;
-  for (const int value : values) Append16(bytes, value);
+  for (const int value : values) AppendShort(bytes, value);
   return bytes;
 }
 
@@ -95,9 +95,9 @@ std::string GlyphData(const Outline& outline) {
   int points = 0;
   for (const Contour& contour : outline.Contours) {
     points += static_cast<int>(contour.size());
-    Append16(data, points - 1);
+    AppendShort(data, points - 1);
   }
-  Append16(data, 0);  // no instructions
+  AppendShort(data, 0);  // no instructions
   std::string flags;
   std::string x;
   std::string y;
@@ -105,8 +105,8 @@ std::string GlyphData(const Outline& outline) {
   for (const Contour& contour : outline.Contours) {
     for (const OutlinePoint& point : contour) {
       flags += point.IsOnCurve ? '\1' : '\0';
-      Append16(x, point.X - last.X);
-      Append16(y, point.Y - last.Y);
+      AppendShort(x, point.X - last.X);
+      AppendShort(y, point.Y - last.Y);
       last = point;
     }
   }
@@ -123,10 +123,10 @@ constexpr std::uint32_t Version1 = 0x00010000;
 
 std::string Head(const Outline& outline) {
   std::string table;
-  Append32(table, Version1);
-  Append32(table, Version1);    // of this font
-  Append32(table, 0);           // a sum over the whole font, which is filled in last
-  Append32(table, 0x5F0F3CF5);  // by which this table is recognized
+  AppendLong(table, Version1);
+  AppendLong(table, Version1);    // of this font
+  AppendLong(table, 0);           // a sum over the whole font, which is filled in last
+  AppendLong(table, 0x5F0F3CF5);  // by which this table is recognized
   table += Shorts({0, BoxFontUnits});
   table.append(16, '\0');  // no dates
   table += Shorts({outline.Left, outline.Bottom, outline.Right, outline.Top});
@@ -136,7 +136,7 @@ std::string Head(const Outline& outline) {
 
 std::string HorizontalHead(const Outline& outline, int widest, int glyphs) {
   std::string table;
-  Append32(table, Version1);
+  AppendLong(table, Version1);
   table += Shorts({outline.Top, outline.Bottom, 0, widest, 0, 0, outline.Right, 1, 0, 0});
   table += Shorts({0, 0, 0, 0, 0, glyphs});
   return table;
@@ -144,7 +144,7 @@ std::string HorizontalHead(const Outline& outline, int widest, int glyphs) {
 
 std::string Limits(const Outline& outline, int glyphs) {
   std::string table;
-  Append32(table, Version1);
+  AppendLong(table, Version1);
   table += Shorts({glyphs, outline.Points, static_cast<int>(outline.Contours.size())});
   table += Shorts({0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 0});
   return table;
@@ -165,7 +165,7 @@ struct Table {
 // The tables in the order of their tags, with a list of them before.
 std::string FontOf(std::span<const Table> tables) {
   std::string font;
-  Append32(font, Version1);
+  AppendLong(font, Version1);
   const int count = static_cast<int>(tables.size());
   const int power = static_cast<int>(std::bit_floor(static_cast<unsigned>(count)));
   font += Shorts({count, 16 * power, std::countr_zero(static_cast<unsigned>(power)), 16 * (count - power)});
@@ -173,9 +173,9 @@ std::string FontOf(std::span<const Table> tables) {
   std::string data;
   for (const Table& table : tables) {
     font += table.Tag;
-    Append32(font, SumOf(table.Data));
-    Append32(font, static_cast<std::uint32_t>(place + data.size()));
-    Append32(font, static_cast<std::uint32_t>(table.Data.size()));
+    AppendLong(font, SumOf(table.Data));
+    AppendLong(font, static_cast<std::uint32_t>(place + data.size()));
+    AppendLong(font, static_cast<std::uint32_t>(table.Data.size()));
     data += table.Data;
     Pad(data);
   }
@@ -186,7 +186,7 @@ std::string FontOf(std::span<const Table> tables) {
 void CompleteSum(std::string& font) {
   constexpr std::size_t PlaceInHead = 8;
   std::string sum;
-  Append32(sum, 0xB1B0AFBAU - SumOf(font));
+  AppendLong(sum, 0xB1B0AFBAU - SumOf(font));
   const std::size_t entry = font.find("head");
   std::size_t head = 0;
   for (std::size_t index = entry + 8; index < entry + 12; ++index)
@@ -203,11 +203,11 @@ std::string BoxFont(const QPainterPath& box, std::span<const float> advancesEm) 
   std::string places;
   std::string advances = Shorts({0, 0});
   int widest = 0;
-  Append32(places, 0);
-  Append32(places, 0);
+  AppendLong(places, 0);
+  AppendLong(places, 0);
   for (const float advance : advancesEm) {
     outlines += glyph;
-    Append32(places, static_cast<std::uint32_t>(outlines.size()));
+    AppendLong(places, static_cast<std::uint32_t>(outlines.size()));
     advances += Shorts({Units(advance), outline.Left});
     widest = std::max(widest, Units(advance));
   }

@@ -10,7 +10,7 @@ void AppendReference(std::string& out, int number) {
   out += " 0 R";
 }
 
-std::string TextString(const std::string& text) {
+std::string QuotedText(const std::string& text) {
   return QPDFObjectHandle::newUnicodeString(text).unparse();
 }
 
@@ -49,7 +49,7 @@ void StructureElements::AddEntry(ElementId element, const std::string& entry) {
 
 void StructureElements::DescribeFigure(ElementId figure, const std::string& text,
                                        const std::vector<double>& area) {
-  std::string entry = "/Alt" + TextString(text) + "/A<</O/Layout/Placement/Block/BBox[";
+  std::string entry = "/Alt" + QuotedText(text) + "/A<</O/Layout/Placement/Block/BBox[";
   for (const double edge : area) entry += QPDFObjectHandle::newReal(edge, 2).unparse() + " ";
   entry.back() = ']';
   AddEntry(figure, entry + ">>");
@@ -65,7 +65,7 @@ void StructureElements::DescribeCell(ElementId cell, HeaderScope scope, int colu
 }
 
 void StructureElements::SayInstead(ElementId element, const char* text) {
-  AddEntry(element, "/ActualText" + TextString(text));
+  AddEntry(element, "/ActualText" + QuotedText(text));
 }
 
 // What changes from element to element comes last: so they compress best.
