@@ -11,7 +11,7 @@ from leftovers import age_leftovers
 from pdf_ends import EVERY, OLDER, PdfEnds
 
 MOMENTS = 1000 if EVERY else 3
-OF_SAVING = ("openat", "copy_file_range", "write", "close", "fsync", "fchmodat", "rename")
+OF_SAVING = ("openat", "write", "close", "fsync", "fchmodat", "rename")
 WITHOUT_ERRORS = ("munmap", "exit_group")
 
 
