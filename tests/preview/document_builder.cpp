@@ -55,7 +55,8 @@ std::uint32_t DocumentBuilder::Piece(const std::string& text, float size, bool b
     const float advance = flow == TextFlow::Plain
                               ? CharacterEdges(text, size, bold, font).back()
                               : ShapedAdvance(text, bold, flow, font) * size * TwipsPerPoint;
-    document_->Texts.push_back({document_->Storage.back(), number, flow, advance});
+    document_->Texts.push_back(
+        {.Text = document_->Storage.back(), .Style = number, .Flow = flow, .Advance = advance});
   }
   return place->second;
 }

@@ -64,7 +64,7 @@ TEST(LineHeight, LeavesTheBaselineOfOtherScriptsWhereItIs) {
   const auto document = DocumentBuilder().Page().Text("x", 1440, 600).Build();
   const TextPiece& piece = document->Texts[0];
   for (const char* text : {"Pn100 – “µ” …", "Скорость", "שלום", "ที่"}) {
-    const TextPiece other{text, piece.Style, FlowOf(text), piece.Advance};
+    const TextPiece other{.Text = text, .Style = piece.Style, .Flow = FlowOf(text), .Advance = piece.Advance};
     EXPECT_DOUBLE_EQ(BaselineOf(other, document->Styles[0], {0, 600, 100, 190}), 600 + 0.905 * 170) << text;
   }
 }

@@ -109,7 +109,8 @@ TEST_F(PdfArchive, SaysSoTooIfACharacterOfAPictureHasNoGlyph) {
             .Picture(std::make_shared<WordsPicture>(QStringLiteral("A\uE000B")), {1440, 2000, 3000, 2000})
             .Build());
   EXPECT_EQ(Property("pdfaid:part"), QStringLiteral("2"));
-  QPDFObjectHandle form = pdf_.getAllPages().at(0).getKey("/Resources").getKey("/XObject").getKey("/P0");
+  QPDFObjectHandle form =
+      QPDFObjectHandle(pdf_.getAllPages().at(0)).getKey("/Resources").getKey("/XObject").getKey("/P0");
   EXPECT_TRUE(form.getDict().getKey("/Resources").getKey("/Font").hasKey("/Box"));
   const std::string content = BytesOf(form);
   EXPECT_EQ(content.find("<0000>"), std::string::npos) << content;
