@@ -52,7 +52,8 @@ class ProgramBench(unittest.TestCase):
     def test_prints_the_table_of_what_it_has(self):
         good, wrong = Measurements(wrong=()), Measurements(wrong=range(100))
         measures = {"measure_program": wrong, "measure_document": good, "measure_empty_dialog": wrong,
-                "measure_whole_process": lambda _: None, "open_held_queue": lambda: None,
+                "measure_whole_process": lambda _: None, "measure_wide_screen": lambda _: None,
+                "open_held_queue": lambda: None,
                 "part_benchmarks": lambda *_: [("a part [ms]", 1.0)]}
         with mock.patch.multiple(program_bench, **measures), mock.patch.object(sys, "argv", ["bench"]), \
                 contextlib.redirect_stderr(io.StringIO()), contextlib.redirect_stdout(io.StringIO()) as printed:
