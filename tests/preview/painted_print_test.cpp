@@ -5,9 +5,9 @@
 #include <QTemporaryDir>
 
 #include "preview/document_builder.h"
-#include "preview/never_cancelled.h"
 #include "preview/jobs/print_system.h"
 #include "preview/jobs/printing.h"
+#include "preview/never_cancelled.h"
 #include "preview/pdf_file.h"
 
 namespace tarvis {

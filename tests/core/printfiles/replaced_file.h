@@ -28,8 +28,8 @@ class ReplacedFile : public testing::Test {
   // A file that was last written so long ago that nobody writes it any more.
   void Leave(const std::string& name) {
     Folder.Write(name, "cut");
-    std::filesystem::last_write_time(Folder.Path() / name,
-                                     std::filesystem::file_time_type::clock::now() - std::chrono::seconds(61));
+    std::filesystem::last_write_time(
+        Folder.Path() / name, std::filesystem::file_time_type::clock::now() - std::chrono::seconds(61));
   }
   int FileCount() const {
     return static_cast<int>(std::distance(std::filesystem::directory_iterator(Folder.Path()),
