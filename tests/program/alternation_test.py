@@ -9,7 +9,7 @@ from print_file import PrintFile, write_parameters
 from saved_pdf import page_count, words_in_a_row
 
 ROUNDS = 10
-SETTLED = 2  # rounds after which fonts, icons and pictures are all there
+SETTLED = 4  # rounds after which fonts, icons and pictures are all there
 GROWTH = 1024  # kilobytes; a dialog or preview that stays in memory in each round takes ten times as much and more
 
 # Whoever frees memory gives it back at once, so that what the process holds is what the program holds.

@@ -62,10 +62,10 @@ class TaggedPdf:
     """`pages`, `pieces` and `texts` go by the object number of a page; texts by that of their piece, too."""
 
     def __init__(self, path):
-        pdf = pikepdf.open(path)
+        self._pdf = pikepdf.open(path)  # its objects live as long as it does
         self._fonts = {}
-        self.root = pdf.Root
-        self.pages = {page.obj.objgen: page.obj for page in pdf.pages}
+        self.root = self._pdf.Root
+        self.pages = {page.obj.objgen: page.obj for page in self._pdf.pages}
         self.pieces = {number: self._read_pieces(page) for number, page in self.pages.items()}
         self.texts = {(page, piece.number): piece.text
                       for page, pieces in self.pieces.items() for piece in pieces if piece.number is not None}
