@@ -41,44 +41,33 @@ TEST(EnginePages, MeasuresTheLastPieceOfARowOnItsPageOnly) {
               ElementsAre("1:row@0", "1:row@200", "2:row@0", "2:row@300", "3:row@0", "3:row@200"));
 }
 
-TEST(EnginePages, StartsEachRowThatPrintsSomethingOnANewPage) {
-  SampleReport outer;
+// Adds rows that each begin a page and hold a report of one block, but for the row `empty`, and composes all.
+Document ComposeRowsOnNewPages(SampleReport& outer, int count, int empty) {
   Section& detail = outer.Fixed(SectionKind::Detail, "d", 300);
   detail.NewPageBefore = true;
   SubReport& region = detail.AddSubReport("region", {0, 0, 1000, 10});
-  outer.Rows(3, [&](int pass) {
+  outer.Rows(count, [&](int pass) {
     auto inner = std::make_shared<SampleReport>();
     AddBlock(inner->Growing(SectionKind::Detail, "d"), "row", 100);
-    region.object = pass == 1 ? nullptr : inner;
+    region.object = pass == empty ? nullptr : inner;
   });
-  EXPECT_THAT(Places(ComposeSample(outer, 1000)), ElementsAre("1:row@0", "2:row@0"));
+  return ComposeSample(outer, 1000);
+}
+
+TEST(EnginePages, StartsEachRowThatPrintsSomethingOnANewPage) {
+  SampleReport outer;
+  EXPECT_THAT(Places(ComposeRowsOnNewPages(outer, 3, 1)), ElementsAre("1:row@0", "2:row@0"));
 }
 
 TEST(EnginePages, AnEmptyFirstRowOpensNoPage) {
   SampleReport outer;
-  Section& detail = outer.Fixed(SectionKind::Detail, "d", 300);
-  detail.NewPageBefore = true;
-  SubReport& region = detail.AddSubReport("region", {0, 0, 1000, 10});
-  outer.Rows(2, [&](int pass) {
-    auto inner = std::make_shared<SampleReport>();
-    AddBlock(inner->Growing(SectionKind::Detail, "d"), "row", 100);
-    region.object = pass == 0 ? nullptr : inner;
-  });
-  EXPECT_THAT(Places(ComposeSample(outer, 1000)), ElementsAre("1:row@0"));
+  EXPECT_THAT(Places(ComposeRowsOnNewPages(outer, 2, 0)), ElementsAre("1:row@0"));
 }
 
 TEST(EnginePages, AnEmptyRowLeavesNoRoomAboveTheRowThatBreaksThePage) {
   SampleReport outer;
   outer.Fixed(SectionKind::GroupHeader, "header without height", 0);
-  Section& detail = outer.Fixed(SectionKind::Detail, "d", 300);
-  detail.NewPageBefore = true;
-  SubReport& region = detail.AddSubReport("region", {0, 0, 1000, 10});
-  outer.Rows(2, [&](int pass) {
-    auto inner = std::make_shared<SampleReport>();
-    AddBlock(inner->Growing(SectionKind::Detail, "d"), "row", 100);
-    region.object = pass == 0 ? nullptr : inner;
-  });
-  EXPECT_THAT(Places(ComposeSample(outer, 1000)), ElementsAre("1:row@0"));
+  EXPECT_THAT(Places(ComposeRowsOnNewPages(outer, 2, 0)), ElementsAre("1:row@0"));
 }
 
 TEST(EnginePages, NestsThreeDeepOverFourPages) {

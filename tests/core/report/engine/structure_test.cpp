@@ -145,11 +145,16 @@ TEST(EngineStructure, KeepsRowsInTheTableOfTheirOwnReport) {
             "  cell 'sum'\n");
 }
 
-TEST(EngineStructure, ReadsLinesOfARowOneAfterTheOther) {
-  SampleReport report;
+// Below a guide with three titles.
+Section& AddRowsOfThreeColumns(SampleReport& report) {
   Section& guide = AddGuide(report);
   for (const char* name : {"title1", "title2", "title3"}) AddCell(guide, name, 0, name);
-  Section& rows = AddRows(report);
+  return AddRows(report);
+}
+
+TEST(EngineStructure, ReadsLinesOfARowOneAfterTheOther) {
+  SampleReport report;
+  Section& rows = AddRowsOfThreeColumns(report);
   AddCell(rows, "meaning", 0, "deep").Reads.Line = 2;
   AddCell(rows, "number", 0, "Pn000").Reads.SpansLines = true;
   AddCell(rows, "name", 0, "Gain").Reads.Columns = 2;
@@ -166,9 +171,7 @@ TEST(EngineStructure, ReadsLinesOfARowOneAfterTheOther) {
 
 TEST(EngineStructure, WidensNoCellThatIsBesideOtherLines) {
   SampleReport report;
-  Section& guide = AddGuide(report);
-  for (const char* name : {"title1", "title2", "title3"}) AddCell(guide, name, 0, name);
-  Section& rows = AddRows(report);
+  Section& rows = AddRowsOfThreeColumns(report);
   AddCell(rows, "name", 0, "Gain");
   AddCell(rows, "number", 0, "Pn000").Reads.SpansLines = true;
   AddCell(rows, "meaning", 0, "deep").Reads.Line = 1;
