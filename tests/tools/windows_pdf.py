@@ -6,36 +6,28 @@ import os
 import re
 import subprocess
 import sys
-import tempfile
 import unittest
 from pathlib import Path
 
-ROOT = Path(__file__).resolve().parents[2]
-sys.path.insert(0, str(ROOT / "tests/host"))
+sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "program"))
 
-from host import MODES, Host  # noqa: E402
+from pdf_case import DAY, PRINTING_MODES, PROGRAM, PdfCase, output_of  # noqa: E402
+from host import MODES  # noqa: E402
 
-NATIVE = [os.environ["TARVIS_PDF"]]
+NATIVE = [PROGRAM]
 WINDOWS = [os.environ["TARVIS_WINE"], os.environ["TARVIS_PDF_EXE"]]
-OPTIONS = ["--code-page", "1252", "--paper", "A4", "--date", "2026-03-05T17:04:09Z"]
+OPTIONS = ["--code-page", "1252", "--paper", "A4", "--date", DAY]
 FARTHEST = 0.05  # points
 WORD = re.compile(r'<word xMin="([\d.-]+)" yMin="([\d.-]+)" xMax="([\d.-]+)" yMax="([\d.-]+)">(.*?)</word>|<(page) ')
 
 
 def words_of(pdf):
     """Each word with its four edges; a new page is a word without edges."""
-    text = subprocess.run(["pdftotext", "-bbox", pdf, "-"], check=True, capture_output=True, text=True).stdout
-    return [(found[5] or found[4], [float(edge) for edge in found[:4] if edge]) for found in WORD.findall(text)]
+    return [(found[5] or found[4], [float(edge) for edge in found[:4] if edge])
+            for found in WORD.findall(output_of("pdftotext", "-bbox", pdf, "-"))]
 
 
-class WindowsPdf(unittest.TestCase):
-    def setUp(self):
-        folder = tempfile.TemporaryDirectory()
-        self.addCleanup(folder.cleanup)
-        self.folder = Path(folder.name)
-        self.host = Host(self.folder / "host")
-        self.host.prepare()
-
+class WindowsPdf(PdfCase):
     def make(self, program, mode, name):
         # Names of files in the data are full paths of this machine, which are paths of wine's current drive.
         done = subprocess.run([*program, *OPTIONS, "--data", str(self.host.temp_folder), mode, str(MODES[mode][0]), name],
@@ -44,7 +36,7 @@ class WindowsPdf(unittest.TestCase):
         return words_of(self.folder / name)
 
     def test_every_mode_has_the_same_words_at_the_same_places(self):
-        for mode in (mode for mode in MODES if mode != "PrnSetting"):
+        for mode in PRINTING_MODES:
             with self.subTest(mode=mode):
                 self.host.write_data(mode)
                 native = self.make(NATIVE, mode, "native.pdf")
