@@ -10,11 +10,15 @@
 
 namespace tarvis {
 
+// Level 1 makes pages of text 8 % larger than the usual level 6 does, in 40 % of its time. That is a third of
+// what painting them takes, so that one thread is enough.
+inline constexpr int LevelOfPages = 1;
+
 // Each content is compressed by itself, so the result does not depend on whether there is a thread for it.
 class ContentCompressor {
  public:
   // Starts a thread if there is a further processor; without one, `Finish` does the work.
-  ContentCompressor();
+  explicit ContentCompressor(int level = LevelOfPages);
   // Leaves out what is not compressed yet.
   ~ContentCompressor();
   ContentCompressor(const ContentCompressor&) = delete;
@@ -30,6 +34,7 @@ class ContentCompressor {
   std::string* TakeNext();
   void End();
 
+  const int level_;   // as libdeflate counts them
   std::mutex mutex_;  // guards all but the thread
   std::condition_variable changed_;
   std::deque<std::string> contents_;  // an element stays in its place while others are added

@@ -48,7 +48,9 @@ class AddedObjects {
   std::vector<ObjectStream> streams_;
   std::string head_;  // of the stream in progress
   std::string body_;
-  ContentCompressor compressor_;
+  // Numbers that count up compress badly on level 1.
+  static constexpr int LevelOfObjects = 9;
+  ContentCompressor compressor_{LevelOfObjects};
 };
 
 }  // namespace tarvis
