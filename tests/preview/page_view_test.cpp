@@ -1,6 +1,8 @@
 // What the view shows while pages are still being painted.
 #include "preview/pages/page_view.h"
 
+#include <QPaintEvent>
+
 #include "preview/sample_picture.h"
 #include "preview/window_fixture.h"
 
@@ -47,6 +49,39 @@ TEST_F(PaintedPages, TheNearestPictureIsShownWhileZooming) {
     EXPECT_EQ(Shown().lightness(), PictureGrey) << Percent();
   }
   picture->Release();
+}
+
+// Notes what is painted of a widget.
+class PaintNotes : public QObject {
+ public:
+  explicit PaintNotes(QWidget& widget) { widget.installEventFilter(this); }
+  QRegion Painted;
+
+ protected:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::Paint) Painted += static_cast<const QPaintEvent*>(event)->region();
+    return false;
+  }
+};
+
+TEST_F(PaintedPages, OnlyThePartThatIsReadyIsPaintedAgain) {
+  const auto document = DocumentBuilder().TablePages(3).Build();
+  Open(document);
+  View().SetZoom(4);
+  const int width = qRound(View().Layout().PageSize().width());
+  const int height = CutIntoStrips(width, PagePixelHeight(*document, width)).Height;
+  const int seen = static_cast<int>((View().viewport()->height() - PageLayout::Margin) / height);
+  ASSERT_TRUE(QTest::qWaitFor([&] {
+    return View().Pictures().Find({0, seen + 1, width}) != nullptr;
+  })) << "the last";
+  QCoreApplication::processEvents();
+  PaintNotes notes(*View().viewport());
+  emit View().Pictures().StripReady({0, 1, width});
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !notes.Painted.isEmpty(); }));
+  const QRect painted = notes.Painted.boundingRect();
+  EXPECT_NEAR(painted.top(), View().Layout().PageRect(0).top() + height - View().verticalScrollBar()->value(),
+              2);
+  EXPECT_NEAR(painted.height(), height, 3);
 }
 
 TEST_F(PaintedPages, PicturesOfPagesKeepToTheirBudget) {

@@ -115,11 +115,26 @@ TEST(RenderPolicy, ThereIsNoNeighbourBeforeTheFirstAndAfterTheLastPage) {
 
 TEST(RenderPolicy, LargePagesAreCutIntoStripsAndOnlyThoseThatShowAreWanted) {
   const StripCut cut = CutIntoStrips(6350, 8980);
-  EXPECT_LE(cut.Height * 6350, 4'000'000);
+  EXPECT_LE(cut.Height * 6350, 1'000'000);
   EXPECT_GE(cut.Height * cut.Count, 8980);
   const std::vector<ShownPart> shown{{2, 0, cut.Height - 1}};
   EXPECT_EQ(WantedStrips(shown, 6350, 8980, 5),
             (std::vector<Strip>{{2, 0, 6350}, {2, 1, 6350}, {1, cut.Count - 1, 6350}}));
+}
+
+TEST(RenderPolicy, APageAtFullSizeIsNotCut) {
+  EXPECT_EQ(CutIntoStrips(794, 1123).Count, 1);
+}
+
+// On a screen of 3840 by 2160, where a page is as wide as the window.
+TEST(RenderPolicy, WhatALargeScreenWantsKeepsToTheBudget) {
+  constexpr int Width = 3640, Height = 5148, Seen = 2070;
+  const StripCut cut = CutIntoStrips(Width, Height);
+  for (int top = 0; top + Seen < Height; top += 10) {
+    const std::vector<ShownPart> shown{{3, top, top + Seen}};
+    const auto count = static_cast<std::int64_t>(WantedStrips(shown, Width, Height, 9).size());
+    EXPECT_LE(count * cut.Height * Width * 4, 48 * 1024 * 1024) << top;
+  }
 }
 
 TEST(RenderPolicy, TheLongestUnusedStripGoesFirstUntilTheRestFits) {

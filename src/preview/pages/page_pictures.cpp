@@ -125,21 +125,21 @@ void PagePictures::Render(const Document& document, const Strip& strip) {
   QMetaObject::invokeMethod(
       this,
       [this] {
-        const std::optional<int> page = TakeRendered();
+        const std::optional<Strip> taken = TakeRendered();
         StartNext();
-        if (page) emit PageReady(*page);
+        if (taken) emit StripReady(*taken);
       },
       Qt::QueuedConnection);
 }
 
-std::optional<int> PagePictures::TakeRendered() {
+std::optional<Strip> PagePictures::TakeRendered() {
   std::unique_lock lock(mutex_);
   if (!rendered_) return {};  // taken by someone who waited for it
   const Rendered rendered = *std::exchange(rendered_, std::nullopt);
   lock.unlock();
   busy_ = false;
   Keep(rendered.Key, rendered.Picture);
-  return rendered.Key.Page;
+  return rendered.Key;
 }
 
 void PagePictures::Keep(const Strip& strip, QImage picture) {

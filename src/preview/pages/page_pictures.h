@@ -42,7 +42,7 @@ class PagePictures : public QObject {
   std::int64_t Bytes() const;
 
  signals:
-  void PageReady(int page);
+  void StripReady(const tarvis::Strip& strip);
 
  private:
   struct Entry {
@@ -57,8 +57,8 @@ class PagePictures : public QObject {
 
   void StartNext();
   void Render(const Document& document, const Strip& strip);
-  // Takes over what the worker has rendered; returns the page of it.
-  std::optional<int> TakeRendered();
+  // Takes over what the worker has rendered, and returns its key.
+  std::optional<Strip> TakeRendered();
   void Keep(const Strip& strip, QImage picture);
 
   std::shared_ptr<const Document> document_;

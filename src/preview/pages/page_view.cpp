@@ -42,9 +42,8 @@ PageView::PageView(std::shared_ptr<const Document> document, QWidget* parent)
   setFocusPolicy(Qt::StrongFocus);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
   layout_.SetPages(static_cast<int>(document_->Pages.size()), PaperSizeOf(*document_));
-  connect(&pictures_, &PagePictures::PageReady, this, [this](int page) {
-    viewport()->update(layout_.PageRect(page).translated(-Offset()).toAlignedRect());
-  });
+  connect(&pictures_, &PagePictures::StripReady, this,
+          [this](const Strip& strip) { viewport()->update(PlaceOf(strip)); });
 }
 
 void PageView::resizeEvent(QResizeEvent* event) {
@@ -178,6 +177,15 @@ void PageView::WantShown() {
   }
   const int width = DeviceWidth(layout_, ratio);
   pictures_.Want(WantedStrips(parts, width, PagePixelHeight(*document_, width), layout_.PageCount()));
+}
+
+QRect PageView::PlaceOf(const Strip& strip) const {
+  const QRectF page = layout_.PageRect(strip.Page).translated(-Offset());
+  const int pageHeight = PagePixelHeight(*document_, strip.Width);
+  const double row = page.height() / pageHeight;
+  const int height = CutIntoStrips(strip.Width, pageHeight).Height;
+  const QRectF place(page.left(), page.top() + strip.Index * height * row, page.width(), height * row);
+  return (place & page).toAlignedRect();
 }
 
 void PageView::paintEvent(QPaintEvent* event) {

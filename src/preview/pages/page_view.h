@@ -66,6 +66,8 @@ class PageView : public QAbstractScrollArea {
   void ChangeLayout(const std::function<void()>& change, QPointF anchor);
   void Changed();
   void WantShown();
+  // Where a strip is in the view.
+  QRect PlaceOf(const Strip& strip) const;
 
   std::shared_ptr<const Document> document_;
   PageLayout layout_;

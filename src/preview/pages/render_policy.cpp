@@ -5,7 +5,7 @@
 namespace tarvis {
 namespace {
 
-constexpr std::int64_t LargestPicture = 4'000'000;  // pixels
+constexpr std::int64_t LargestPicture = 1'000'000;  // pixels; a page at full size is not cut
 
 void AddOnce(std::vector<Strip>& strips, const Strip& strip) {
   if (std::find(strips.begin(), strips.end(), strip) == strips.end()) strips.push_back(strip);

@@ -26,8 +26,8 @@ Thumbnails::Thumbnails(std::shared_ptr<const Document> document, QWidget* parent
   setFrameShape(QFrame::NoFrame);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setFocusPolicy(Qt::StrongFocus);
-  connect(&pictures_, &PagePictures::PageReady, this,
-          [this](int page) { viewport()->update(PlaceOf(page)); });
+  connect(&pictures_, &PagePictures::StripReady, this,
+          [this](const Strip& strip) { viewport()->update(PlaceOf(strip.Page)); });
 }
 
 QSize Thumbnails::PictureSize() const {
