@@ -71,7 +71,6 @@ void rptUserPrm::PlaceNameColumns(float& x) {
   txtTitleValue.Left = x;
   txtValueVal.Left = x;
   x += Whole(txtTitleValue.Width);
-  txtValueNo.Height = txtTitleNo.Height;
   txtValueNoReal.Height = txtTitleNo.Height;
 }
 

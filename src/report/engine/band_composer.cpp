@@ -53,14 +53,8 @@ float InsetOf(const TextControl& text, float spare) {
 
 // The left edge of a line `advance` wide in a box `width` wide.
 float AlignedLeft(const TextControl& text, float width, float advance, float inset) {
-  switch (text.Style.Alignment) {
-    case Align::Centre:
-      return text.Left + (width - advance) / 2;
-    case Align::Right:
-      return text.Left + width - advance - inset;
-    case Align::Left:
-      break;
-  }
+  if (text.Style.Alignment == Align::Centre) return text.Left + (width - advance) / 2;
+  if (text.Style.Alignment == Align::Right) return text.Left + width - advance - inset;
   return text.Left + inset;
 }
 

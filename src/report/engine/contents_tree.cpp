@@ -10,7 +10,7 @@ namespace {
 
 struct Root {
   ContentsEntry Entry;
-  bool IsParent = false;
+  bool IsParent;
   std::vector<ContentsEntry> Children;
 };
 

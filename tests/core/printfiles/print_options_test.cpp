@@ -223,6 +223,13 @@ TEST_F(PrintOptionsFile, NamesThePlaceOfANumberThatNothingCanShow) {
             "PrintOption.ToT: SimOption: element 13: no such choice: '0'");
 }
 
+TEST_F(PrintOptionsFile, KnowsNoLineOfAnOptionThatOnlyAnEarlierFileHad) {
+  ASSERT_TRUE(Read({"File-Spec,4", "ColorType,2"}));
+  ASSERT_TRUE(Read({"File-Spec,4"}));
+  EXPECT_STREQ(RunTimeFailure("no such choice", OptionPlace(Run, Run.Options.ColorType)).what(),
+               "PrintOption.ToT: ColorType: no such choice: '2'");
+}
+
 TEST_F(PrintOptionsFile, HeaderWithFiveElementsHasAnEmptyTitle) {
   ASSERT_TRUE(Read({"MechaHeader,1,1,1,1,1"}));
   EXPECT_EQ(Run.Options.MechaHeader.Pages, 1);

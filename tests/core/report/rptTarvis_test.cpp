@@ -294,6 +294,12 @@ TEST_F(OverlappedTrace, HasTheNumberOfDataSetsThatItsFileGivesFirst) {
   EXPECT_EQ(numberOf("OverlapNum,3\r\nOverlapMode,1\r\nOverlapNum,5\r\n"), 3);
 }
 
+TEST_F(OverlappedTrace, StopsAtTheFirstLookAtANumberOfDataSetsThatIsNone) {
+  Folder.Write("Trace.tmp", "OverlapMode,1\r\nOverlapNum,three\r\n");
+  EXPECT_EQ(RunTimeFailureOf([this] { ScanOverlap(Report.Run, "Trace.tmp"); }),
+            "Trace.tmp:2: OverlapNum: not a number: 'three'");
+}
+
 TEST_F(OverlappedTrace, StopsAtANumberOfDataSetsThatCannotBeCounted) {
   const auto failureOf = [this](const std::string& number) {
     Folder.Write("Trace.tmp", "OverlapMode,1\r\nOverlapNum," + number + "\r\n");

@@ -198,6 +198,28 @@ TEST(EngineStructure, ReadsACellBesideLinesInTheFirstOfThem) {
             "  cell 'digit' cell '1'\n");
 }
 
+TEST(EngineStructure, CountsTheLinesOfACellFromItsOwnDown) {
+  SampleReport report;
+  Section& rows = AddRowsOfThreeColumns(report);
+  AddCell(rows, "name", 0, "Gain").Reads.Columns = 3;
+  const auto onLine = [&](const char* name, const char* text, std::uint8_t line) -> Field& {
+    Field& cell = AddCell(rows, name, 0, text);
+    cell.Reads.Line = line;
+    return cell;
+  };
+  onLine("number", "Pn000", 1).Reads.SpansLines = true;
+  onLine("heading", "digit", 1).Reads.Columns = 2;
+  onLine("meaning", "deep", 2);
+  onLine("value", "1", 2);
+  EXPECT_EQ(StructureOnOnePage(report),
+            "sample.guide in table 0\n"
+            "  column 'title1' column 'title2' column 'title3'\n"
+            "sample.rows in table 0\n"
+            "  cell of 3 columns 'Gain'\n"
+            "  cell of 2 rows 'Pn000' cell of 2 columns 'digit'\n"
+            "  cell 'deep' cell '1'\n");
+}
+
 TEST(EngineStructure, PutsTicksAndPicturesIntoTheirCells) {
   SampleReport report;
   Section& rows = AddRows(report);

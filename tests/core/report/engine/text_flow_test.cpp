@@ -18,6 +18,11 @@ TEST(TextFlow, IsPlainForScriptsOfOneGlyphACharacter) {
   }
 }
 
+TEST(TextFlow, IsPlainForTheFirstAndTheLastSyllableOfHangul) {
+  EXPECT_EQ(FlowOf("가"), TextFlow::Plain);
+  EXPECT_EQ(FlowOf("힣"), TextFlow::Plain);
+}
+
 TEST(TextFlow, IsToBeShapedWithMarksAndComplexScripts) {
   for (const char* text :
        {"ที่", "กำ", "q\xCC\x80", "e\xCC\xB2", "हिन्दी", "か\xE3\x82\x9A", "\xE1\x84\x92\xE1\x85\xA1"})
