@@ -122,14 +122,8 @@ bool MemoBox::event(QEvent* event) {
   return true;
 }
 
-void MemoBox::focusOutEvent(QFocusEvent* event) {
-  QPlainTextEdit::focusOutEvent(event);
-  update();
-}
-
 void MemoBox::focusInEvent(QFocusEvent* event) {
   QPlainTextEdit::focusInEvent(event);
-  update();
   const Qt::FocusReason reason = event->reason();
   if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason) selectAll();
 }

@@ -31,7 +31,6 @@ class MemoBox : public QPlainTextEdit, public InputBox {
   void insertFromMimeData(const QMimeData* source) override;
   bool event(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
-  void focusOutEvent(QFocusEvent* event) override;
 
  private:
   // How many characters the user may still add in place of the selection.
