@@ -26,6 +26,26 @@ TEST(WorkThread, DoesItsWorkInOrderInAnotherThread) {
   EXPECT_NE(worker, std::this_thread::get_id());
 }
 
+TEST(WorkThread, EndsWhatBelongsToItInItself) {
+  std::thread::id worker;
+  std::vector<std::thread::id> ended;
+  const auto note = [&] { ended.push_back(std::this_thread::get_id()); };
+  const auto work = [&] { worker = std::this_thread::get_id(); };
+  {
+    WorkThread finished(2, note);
+    finished.Add(work);
+    finished.Finish();
+    EXPECT_THAT(ended, testing::ElementsAre(worker));
+  }
+  EXPECT_EQ(ended.size(), 1U) << "once";
+  WorkThread(2, note);
+  EXPECT_EQ(ended.size(), 2U) << "without work";
+  WorkThread failing(2, note);
+  failing.Add([] { throw std::runtime_error("no"); });
+  EXPECT_THROW(failing.Finish(), std::runtime_error);
+  EXPECT_EQ(ended.size(), 3U) << "after work that failed";
+}
+
 TEST(WorkThread, LetsNoMoreThanItsLimitWait) {
   std::atomic<int> added = 0;
   std::atomic<int> most = 0;

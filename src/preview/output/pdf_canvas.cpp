@@ -41,12 +41,6 @@ bool EndsWith(const std::vector<Rect>& boxes, const std::vector<Rect>& last) {
 
 }  // namespace
 
-std::size_t PdfPictures::Number(const Picture& picture, float width, float height) {
-  const auto [place, isNew] = numbers_.try_emplace({&picture, width, height}, pictures_.size());
-  if (isNew) pictures_.push_back({&picture, width, height});
-  return place->second;
-}
-
 PdfCanvas::PdfCanvas(const PdfLook& look, PdfGlyphs& glyphs, PdfPictures& pictures)
     : glyphs_(glyphs), pictures_(pictures), greys_(look.Greys) {
   content_.reserve(std::size_t{20} * 1024);

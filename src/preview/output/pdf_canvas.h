@@ -5,41 +5,17 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
 #include <optional>
 #include <string>
-#include <tuple>
 #include <vector>
 
 #include "preview/output/pdf_glyphs.h"
+#include "preview/output/pdf_pictures.h"
 #include "preview/output/pdf_sheets.h"
 #include "preview/paint/page_painter.h"
 #include "report/engine/units.h"
 
 namespace tarvis {
-
-// A picture in one size; content draws it by the name "P" and its number.
-struct PdfPicture {
-  const Picture* Source = nullptr;
-  float Width = 0;  // twips
-  float Height = 0;
-};
-
-// Height in points of the form that holds a picture `height` twips high.
-inline int PdfPictureHeight(float height) {
-  return static_cast<int>(height / TwipsPerPoint) + 1;
-}
-
-// The pictures of a document, each size of each once.
-class PdfPictures {
- public:
-  std::size_t Number(const Picture& picture, float width, float height);
-  const std::vector<PdfPicture>& All() const { return pictures_; }
-
- private:
-  std::vector<PdfPicture> pictures_;
-  std::map<std::tuple<const Picture*, float, float>, std::size_t> numbers_;
-};
 
 // What a canvas calls where content is written, for those that mark it.
 class ContentMarker {

@@ -196,8 +196,9 @@ Program BoxProgram(QPDF& pdf, const PdfFont& used, ReportFont& font) {
 }  // namespace
 
 QPDFObjectHandle MakeFonts(QPDF& pdf, const PdfGlyphs& glyphs, ReportFont& font) {
-  HelperFile file(PaintHelperFile(
-      [&](QPdfWriter& writer, QPainter& painter) { DrawFonts(writer, painter, glyphs, font); }));
+  HelperFilePainter drawn;
+  DrawFonts(drawn.Writer(), drawn.Painter(), glyphs, font);
+  HelperFile file(drawn.Finish());
   const std::vector<QPDFPageObjectHelper> pages = file.Pages();
   QPDFObjectHandle fonts = QPDFObjectHandle::newDictionary();
   for (std::size_t number = 0; number < glyphs.Fonts().size(); ++number) {

@@ -13,21 +13,30 @@
 
 namespace tarvis {
 
-// Makes a file in memory: `paint` gets its writer and painter.
-template <typename Paint>
-QByteArray PaintHelperFile(Paint paint) {
-  QByteArray bytes;
-  QBuffer buffer(&bytes);
-  buffer.open(QIODevice::WriteOnly);
-  QPdfWriter writer(&buffer);
-  writer.setResolution(static_cast<int>(TwipsPerInch));
-  writer.setPageMargins({});
-  QPainter painter(&writer);
-  painter.setRenderHint(QPainter::LosslessImageRendering);
-  paint(writer, painter);
-  painter.end();
-  return bytes;
-}
+// Makes a file in memory, of which it begins the first page. Belongs to the thread that made it, as the
+// fonts of its painter do.
+class HelperFilePainter {
+ public:
+  HelperFilePainter() : writer_(&buffer_) {
+    buffer_.open(QIODevice::WriteOnly);
+    writer_.setResolution(static_cast<int>(TwipsPerInch));
+    writer_.setPageMargins({});
+    painter_.begin(&writer_);
+    painter_.setRenderHint(QPainter::LosslessImageRendering);
+  }
+  QPdfWriter& Writer() { return writer_; }
+  QPainter& Painter() { return painter_; }
+  // The bytes of the file. To be called once, as the last one.
+  QByteArray Finish() {
+    painter_.end();
+    return buffer_.data();
+  }
+
+ private:
+  QBuffer buffer_;
+  QPdfWriter writer_;
+  QPainter painter_;
+};
 
 class HelperFile {
  public:

@@ -39,7 +39,8 @@ class PdfPress : public PageTaker {
   // Of the thread that paints.
   std::optional<PdfInProgress> pdf_;
   bool isCancelled_ = false;
-  WorkThread painter_{MostWaiting};  // the last one, since it ends before all that it works on
+  // The last one, since it ends before all that it works on. The fonts of the PDF belong to its thread.
+  WorkThread painter_{MostWaiting, [this] { pdf_.reset(); }};
 };
 
 }  // namespace tarvis

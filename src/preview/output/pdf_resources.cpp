@@ -2,12 +2,10 @@
 
 #include <algorithm>
 #include <bit>
-#include <cmath>
 #include <qpdf/Buffer.hh>
 #include <set>
 #include <utility>
 
-#include "pictures/paintable_picture.h"
 #include "preview/output/pdf_fonts.h"
 #include "preview/output/pdf_helper_file.h"
 #include "preview/output/pdf_rounding.h"
@@ -15,22 +13,6 @@
 
 namespace tarvis {
 namespace {
-
-// A page for each picture, after an empty one. Text of pictures has fonts of its own in this file: the fonts
-// of the pages are recognized by glyphs and widths that pictures don't share.
-void PaintPictures(const PdfPictures& pictures, QPdfWriter& writer, QPainter& painter) {
-  for (const PdfPicture& picture : pictures.All()) {
-    const QRectF place(0, 0, picture.Width, picture.Height);
-    const QSizeF points(std::floor(place.width() / TwipsPerPoint) + 1, PdfPictureHeight(picture.Height));
-    writer.setPageSize(QPageSize(points, QPageSize::Point, {}, QPageSize::ExactMatch));
-    writer.newPage();
-    const auto* paintable = dynamic_cast<const PaintablePicture*>(picture.Source);
-    if (paintable == nullptr) continue;
-    painter.save();
-    paintable->Paint(painter, place);
-    painter.restore();
-  }
-}
 
 std::string TextOf(QPDFObjectHandle stream) {
   const std::shared_ptr<Buffer> bytes = stream.getStreamData();
@@ -122,16 +104,14 @@ struct TakenForms {
   std::set<QPDFObjGen> Rounded;
 };
 
-TakenForms MakeForms(QPDF& pdf, const PdfPictures& pictures, ReportFont& font, PdfContents& contents,
-                     Inks inks) {
+TakenForms MakeForms(QPDF& pdf, PdfPictures& pictures, ReportFont& font, PdfContents& contents, Inks inks) {
   TakenForms forms{QPDFObjectHandle::newDictionary(), {}};
-  if (pictures.All().empty()) return forms;
-  HelperFile file(PaintHelperFile(
-      [&](QPdfWriter& writer, QPainter& painter) { PaintPictures(pictures, writer, painter); }));
+  if (pictures.Count() == 0) return forms;
+  HelperFile file(pictures.Finish());
   std::vector<QPDFPageObjectHelper> pages = file.Pages();
   std::set<QPDFObjGen> completed;
   QPDFObjectHandle boxes;  // made where it is needed first
-  for (std::size_t number = 0; number < pictures.All().size(); ++number) {
+  for (std::size_t number = 0; number < pictures.Count(); ++number) {
     QPDFPageObjectHelper& page = pages.at(number + 1);
     const bool hasBoxes = HasBoxes(TextOf(page.getObjectHandle().getKey("/Contents")));
     if (hasBoxes && !boxes.isInitialized()) boxes = MakeBoxFont(pdf, font);
@@ -145,7 +125,7 @@ TakenForms MakeForms(QPDF& pdf, const PdfPictures& pictures, ReportFont& font, P
 
 }  // namespace
 
-PdfResources MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPictures& pictures, ReportFont& font,
+PdfResources MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, PdfPictures& pictures, ReportFont& font,
                            PdfContents& contents, Inks inks) {
   const TakenForms forms = MakeForms(pdf, pictures, font, contents, inks);
   QPDFObjectHandle resources = QPDFObjectHandle::newDictionary();

@@ -1,13 +1,13 @@
-// Fonts and pictures of a PDF. The toolkit's own PDF painter subsets the fonts and paints the pictures into a
-// helper file in memory; its objects are then taken over.
+// Fonts and pictures of a PDF. The toolkit's own PDF painter subsets the fonts and paints the pictures into
+// helper files in memory; their objects are then taken over.
 #pragma once
 
 #include <qpdf/QPDF.hh>
 #include <set>
 
-#include "preview/output/pdf_canvas.h"
 #include "preview/output/pdf_contents.h"
 #include "preview/output/pdf_glyphs.h"
+#include "preview/output/pdf_pictures.h"
 #include "preview/output/pdf_rounding.h"
 
 namespace tarvis {
@@ -19,7 +19,7 @@ struct PdfResources {
 };
 
 // The contents of pictures are added to `contents`, with these inks as far as their content is understood.
-[[nodiscard]] PdfResources MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, const PdfPictures& pictures,
+[[nodiscard]] PdfResources MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, PdfPictures& pictures,
                                          ReportFont& font, PdfContents& contents, Inks inks);
 
 }  // namespace tarvis

@@ -5,7 +5,8 @@
 
 namespace tarvis {
 
-WorkThread::WorkThread(std::size_t mostWaiting) : mostWaiting_(mostWaiting) {
+WorkThread::WorkThread(std::size_t mostWaiting, Work last)
+    : mostWaiting_(mostWaiting), last_(std::move(last)) {
   try {
     thread_ = std::thread([this] { Run(); });
   } catch (const std::system_error&) {
@@ -52,7 +53,12 @@ void WorkThread::End() {
     isComplete_ = true;
   }
   changed_.notify_all();
-  if (thread_.joinable()) thread_.join();
+  if (thread_.joinable()) return thread_.join();
+  DoLast();
+}
+
+void WorkThread::DoLast() {
+  std::exchange(last_, [] {})();
 }
 
 void WorkThread::Run() {
@@ -63,6 +69,7 @@ void WorkThread::Run() {
     failure_ = std::current_exception();
     changed_.notify_all();
   }
+  DoLast();
 }
 
 // Waits for the next piece of work; false when there will be none.

@@ -15,8 +15,10 @@ class WorkThread {
  public:
   using Work = std::function<void()>;
 
-  // At most so many pieces of work wait for the thread.
-  explicit WorkThread(std::size_t mostWaiting);
+  // At most so many pieces of work wait for the thread. `last` is done there at the end, whatever came
+  // before, and must not throw: what belongs to the thread ends in it.
+  explicit WorkThread(
+      std::size_t mostWaiting, Work last = [] {});
   // Leaves out what was not begun.
   ~WorkThread();
   WorkThread(const WorkThread&) = delete;
@@ -32,6 +34,7 @@ class WorkThread {
   void DoAtOnce(const Work& work);
   bool TakeNext(Work& work);
   void End();
+  void DoLast();
 
   const std::size_t mostWaiting_;
   std::mutex mutex_;  // guards all that follows but the thread
@@ -39,6 +42,7 @@ class WorkThread {
   std::deque<Work> waiting_;
   bool isComplete_ = false;
   std::exception_ptr failure_;
+  Work last_;  // of the thread, if there is one
   std::thread thread_;
 };
 
