@@ -258,9 +258,13 @@ TEST_F(SavePdf, ANameWithQuotesIsSavedAsItWasTyped) {
 
 TEST_F(SavePdf, ANameWithQuotesGetsItsMissingEnding) {
   OpenTable(1);
-  SaveTo(Path("axis \"1\""));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return !window_->IsBusy(); }));
-  EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files), QStringList(QStringLiteral("axis \"1\".pdf")));
+  for (const char* name : {"axis \"1\"", "disk 5\"", "\"\"", "\"\" ", "\""}) {
+    SaveTo(Path(name));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !window_->IsBusy(); }));
+    EXPECT_TRUE(QFile::exists(Path(name) + QStringLiteral(".pdf"))) << name;
+    Return();
+  }
+  EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files).size(), 5);
 }
 
 TEST_F(SavePdf, AFileWhoseNameHasQuotesIsAskedForBeforeItIsOverwritten) {

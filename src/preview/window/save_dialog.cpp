@@ -1,9 +1,7 @@
 #include "preview/window/save_dialog.h"
 
-#include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QLineEdit>
-#include <QPushButton>
 
 #include "preview/window/overwrite_question.h"
 
@@ -32,13 +30,6 @@ SaveDialog::SaveDialog(QWidget* parent, const QString& caption, const QString& p
   // MayWriteTo asks for all names in the same words.
   setOption(QFileDialog::DontConfirmOverwrite, NameBox() != nullptr);
   selectFile(QFileInfo(path).fileName());
-  const QLineEdit* name = NameBox();
-  if (name == nullptr) return;
-  // The toolkit takes the text between quotes for the name, and disables the button if there is none.
-  connect(name, &QLineEdit::textChanged, this, [this](const QString& text) {
-    if (!text.contains(Quote)) return;
-    findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->setEnabled(true);
-  });
 }
 
 // The toolkit takes quotes for marks around each of several names. One file is saved here, and quotes are
