@@ -102,16 +102,20 @@ TEST(EngineRows, GrowthLastsForOnePrintingOnly) {
 
 TEST(EngineRows, GeometrySetInBeforePrintLastsForOnePrintingOnly) {
   OneField one("x", {0, 0, 2000, 283}, Cell);
-  std::vector<float> seen;
+  std::vector<Rect> seen;
   one.Detail.BeforePrint = [&] {
-    seen.push_back(one.Text.Height);
-    one.Text.Height *= 2;
+    Field& text = one.Text;
+    seen.push_back({text.Left, text.Top, text.Width, text.Height});
+    text.Left += 100;
+    text.Top += 10;
+    text.Width /= 2;
+    text.Height *= 2;
   };
   one.Report.Rows(2);
   const Document document = one.Compose();
-  EXPECT_THAT(seen, ElementsAre(283, 283));
-  EXPECT_EQ(document.Items[2].Box.Height, 566);
-  EXPECT_EQ(document.Items[2].Box.Top, 566);
+  const Rect box{0, 0, 2000, 283};
+  EXPECT_THAT(seen, ElementsAre(box, box));
+  EXPECT_EQ(document.Items[2].Box, (Rect{100, 586, 1000, 566}));
 }
 
 TEST(EngineRows, GeometrySetInFetchOrFormatLasts) {
