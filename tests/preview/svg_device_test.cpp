@@ -102,6 +102,62 @@ TEST(SvgDevice, KeepsClipsInsideOneAnother) {
   EXPECT_EQ(groups[1]["clip-path"], QStringLiteral("url(#%1)").arg(clips[0]["id"]));
 }
 
+// The numbers of the clips under which boxes are painted, one after the other; empty for none.
+std::vector<QString> ClipsOf(const std::vector<Element>& elements) {
+  std::vector<QString> clips;
+  for (const Element& element : Named(elements, "g")) clips.push_back(element["clip-path"]);
+  return clips;
+}
+
+TEST(SvgDevice, AClipThatIsSwitchedOnAgainClipsAsBefore) {
+  const auto elements = Painted([](QPainter& painter) {
+    painter.setClipRect(QRectF(0, 0, 100.5, 100));
+    painter.fillRect(QRectF(0, 0, 10, 10), Qt::blue);
+    painter.setClipping(false);
+    painter.fillRect(QRectF(0, 0, 20, 20), Qt::green);
+    painter.setClipping(true);
+    painter.fillRect(QRectF(0, 0, 30, 30), Qt::red);
+  });
+  const std::vector<QString> clips = ClipsOf(elements);
+  ASSERT_EQ(clips.size(), 2U) << "of the first and the third box";
+  EXPECT_EQ(clips[0], clips[1]);
+  EXPECT_EQ(Named(elements, "clipPath").size(), 1U);
+}
+
+TEST(SvgDevice, WhatIsSwitchedOffIsAsBeforeAfterAnInnerClip) {
+  const auto elements = Painted([](QPainter& painter) {
+    painter.setClipRect(QRectF(0, 0, 100.5, 100));
+    painter.setClipping(false);
+    painter.save();
+    painter.setClipRect(QRectF(0, 0, 50.5, 50));
+    painter.fillRect(QRectF(0, 0, 10, 10), Qt::blue);
+    painter.restore();
+    painter.fillRect(QRectF(0, 0, 20, 20), Qt::green);
+    painter.setClipping(true);
+    painter.fillRect(QRectF(0, 0, 30, 30), Qt::red);
+  });
+  const std::vector<QString> clips = ClipsOf(elements);
+  ASSERT_EQ(clips.size(), 2U) << "of the first and the third box";
+  EXPECT_NE(clips[0], clips[1]);
+}
+
+TEST(SvgDevice, PatternsAndGradientsStartAtTheOriginOfTheBrush) {
+  const auto elements = Painted([](QPainter& painter) {
+    QLinearGradient gradient(0, 0, 100, 0);
+    painter.setBrushOrigin(30, 40);
+    painter.fillRect(QRectF(0, 0, 100, 10), gradient);
+    painter.fillRect(QRectF(0, 0, 100, 10), QBrush(Qt::red, Qt::DiagCrossPattern));
+    painter.setBrushOrigin(0, 0);
+    painter.fillRect(QRectF(0, 0, 100, 10), QBrush(Qt::red, Qt::DiagCrossPattern));
+  });
+  const auto patterns = Named(elements, "pattern");
+  ASSERT_EQ(patterns.size(), 2U);
+  EXPECT_EQ(patterns[0]["patternTransform"], QStringLiteral("matrix(1 0 0 1 30 40)"));
+  EXPECT_EQ(patterns[1]["patternTransform"], QString());
+  EXPECT_EQ(Named(elements, "linearGradient").at(0)["gradientTransform"],
+            QStringLiteral("matrix(1 0 0 1 30 40)"));
+}
+
 TEST(SvgDevice, PlacesImagesWholeOrInPart) {
   QImage image(4, 2, QImage::Format_RGB32);
   image.fill(Qt::red);

@@ -21,8 +21,9 @@ void SvgEngine::updateState(const QPaintEngineState& now) {
   if (changed.testFlag(DirtyTransform)) transform_ = now.transform();
   if (changed.testFlag(DirtyPen)) pen_ = now.pen();
   if (changed.testFlag(DirtyBrush)) brush_ = now.brush();
+  if (changed.testFlag(DirtyBrushOrigin)) brushOrigin_ = now.brushOrigin();
   if (changed.testFlag(DirtyOpacity)) opacity_ = now.opacity();
-  if (changed.testFlag(DirtyClipEnabled) && !now.isClipEnabled()) clip_ = 0;
+  if (changed.testFlag(DirtyClipEnabled)) isClipping_ = now.isClipEnabled();
   if (changed.testFlag(DirtyClipPath)) Clip(now.clipPath(), now.clipOperation());
   if (changed.testFlag(DirtyClipRegion)) {
     QPainterPath path;
@@ -50,14 +51,24 @@ void SvgEngine::Clip(const QPainterPath& path, Qt::ClipOperation operation) {
 }
 
 void SvgEngine::OpenClip() {
-  if (clip_ == shownClip_) return;
+  const int clip = isClipping_ ? clip_ : 0;
+  if (clip == shownClip_) return;
   if (shownClip_ != 0) content_ += "</g>\n";
-  if (clip_ != 0) content_ += "<g" + ClipAttribute(clip_) + ">\n";
-  shownClip_ = clip_;
+  if (clip != 0) content_ += "<g" + ClipAttribute(clip) + ">\n";
+  shownClip_ = clip;
 }
 
 std::string SvgEngine::Content() const {
   return shownClip_ == 0 ? content_ : content_ + "</g>\n";
+}
+
+// A brush starts at its origin, unlike that of a pen.
+QBrush SvgEngine::PlacedBrush() const {
+  if (brushOrigin_.isNull() || brush_.style() == Qt::SolidPattern || brush_.style() == Qt::NoBrush)
+    return brush_;
+  QBrush placed = brush_;
+  placed.setTransform(brush_.transform() * QTransform::fromTranslate(brushOrigin_.x(), brushOrigin_.y()));
+  return placed;
 }
 
 // A pen of a fixed width on the device paints a shape that is there already.
@@ -66,7 +77,7 @@ void SvgEngine::drawPath(const QPainterPath& path) {
   const bool isPlaced = pen_.style() == Qt::NoPen ? brush_.style() == Qt::SolidPattern : pen_.isCosmetic();
   content_ += "<path d=\"" + SvgPath(isPlaced ? transform_.map(path) : path) + '"';
   if (!isPlaced) content_ += SvgTransform("transform", transform_);
-  content_ += inks_.Fill(brush_, opacity_);
+  content_ += inks_.Fill(PlacedBrush(), opacity_);
   if (path.fillRule() == Qt::OddEvenFill && brush_.style() != Qt::NoBrush)
     content_ += " fill-rule=\"evenodd\"";
   content_ += inks_.Stroke(pen_, opacity_) + "/>\n";

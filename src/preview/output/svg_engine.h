@@ -33,16 +33,19 @@ class SvgEngine : public QPaintEngine {
  private:
   void Clip(const QPainterPath& path, Qt::ClipOperation operation);
   void OpenClip();
+  QBrush PlacedBrush() const;
 
   QTransform transform_;
   QPen pen_;
   QBrush brush_;
+  QPointF brushOrigin_;
   double opacity_ = 1;
   SvgInks inks_;
   // Numbers of clips, which are defined once each; 0 for none. `shownClip_` is that of the group which is
   // open in the content.
   int clip_ = 0;
   int shownClip_ = 0;
+  bool isClipping_ = true;                                 // `clip_` is kept while clipping is switched off
   std::map<std::pair<int, std::string>, int> knownClips_;  // by the clip around it and its shape
   std::string clips_;
   std::string content_;
