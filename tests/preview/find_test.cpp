@@ -111,6 +111,17 @@ std::size_t HitsOf(const char* wanted, const char* page, const SearchOptions& op
   return Search(text, QString::fromUtf8(wanted), options).size();
 }
 
+TEST(TextSearch, AWholeWordEndsWhereALetterBeyond16BitsDoesNotGoOn) {
+  const SearchOptions whole{.WholeWords = true};
+  for (const char* page : {"𠮷gain", "gain𠮷", "𠮷gain𠮷"})
+    EXPECT_EQ(HitsOf("gain", page, whole), 0U) << page;
+  EXPECT_EQ(HitsOf("𠮷", "a𠮷", whole), 0U);
+  EXPECT_EQ(HitsOf("𠮷", "𠮷a", whole), 0U);
+  EXPECT_EQ(HitsOf("𠮷", "𠮷𠮷", whole), 0U);
+  EXPECT_EQ(HitsOf("𠮷", "𠮷 𠮷", whole), 2U);
+  EXPECT_EQ(HitsOf("gain", "😀gain😀", whole), 1U) << "a sign is no letter";
+}
+
 TEST(SearchOfScripts, FullAndHalfWidthFindEachOther) {
   EXPECT_EQ(HitsOf("pn100", "設定 ＰＮ１００"), 1U);
   EXPECT_EQ(HitsOf("パラメータ", "ﾊﾟﾗﾒｰﾀ"), 1U);

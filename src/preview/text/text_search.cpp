@@ -25,9 +25,17 @@ QString ToString(const std::u16string& units) {
   return QString::fromUtf16(units.data(), static_cast<qsizetype>(units.size()));
 }
 
+// The character of which `text` has a unit at `index`: one beyond 16 bits has two.
+char32_t CharacterAround(const QString& text, qsizetype index) {
+  const qsizetype first = text[index].isLowSurrogate() && index > 0 ? index - 1 : index;
+  const bool isPair =
+      text[first].isHighSurrogate() && first + 1 < text.size() && text[first + 1].isLowSurrogate();
+  return isPair ? QChar::surrogateToUcs4(text[first], text[first + 1]) : text[index].unicode();
+}
+
 bool IsWholeWord(const QString& text, qsizetype start, qsizetype length) {
   const qsizetype end = start + length;
-  const auto isWord = [&text](qsizetype index) { return IsWordCharacter(text[index].unicode()); };
+  const auto isWord = [&text](qsizetype index) { return IsWordCharacter(CharacterAround(text, index)); };
   const bool startsInside = start > 0 && isWord(start - 1) && isWord(start);
   const bool endsInside = end < text.size() && isWord(end) && isWord(end - 1);
   return !startsInside && !endsInside;
