@@ -1,10 +1,20 @@
 #include "report/cursor_graph_report.h"
 
+#include <cmath>
 #include <utility>
 
 #include "text/numbers.h"
 
 namespace tarvis {
+namespace {
+
+// The same whole number as in the table of channels. What is no number ends the run there, and not here: the
+// graph itself doesn't depend on it.
+bool ShowsGraph(const std::string& display) {
+  return std::nearbyint(LenientReal(display)) != 0;
+}
+
+}  // namespace
 
 CursorGraphReport::CursorGraphReport(const char* name, ReportContext context, const char* caption,
                                      Entry entry, const CursorGraphLayout& layout, CursorGraphData data)
@@ -38,7 +48,7 @@ void CursorGraphReport::DescribePictures() {
   imgGraph.AlternateText = caption;
   const char* separator = ": ";
   for (const TraceItem* channel : data_.Channels) {
-    if (channel->Name.empty() || LenientReal(channel->Display) == 0) continue;
+    if (channel->Name.empty() || !ShowsGraph(channel->Display)) continue;
     imgGraph.AlternateText += separator + channel->Name;
     if (!channel->Unit.empty()) imgGraph.AlternateText += " [" + channel->Unit + "]";
     separator = ", ";

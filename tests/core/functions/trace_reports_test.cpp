@@ -196,6 +196,30 @@ TEST_F(TraceObject, ANamedChannelWhoseDisplayIsNoNumberIsARunTimeFailureThatName
   EXPECT_THAT(Report.Desktop.Messages, IsEmpty());
 }
 
+// What is read in place of the graph.
+std::string ReadGraph(ReportRun& report) {
+  return report.ComposeAlone("rptTraceGraph").Structure.Figures.at(0).Text;
+}
+
+TEST_F(TraceObject, ItsGraphIsReadWithTheChannelsThatAreDisplayed) {
+  Run.Trace.TraceGraph = Picture("graph.bmp");
+  for (const char* display : {"1", "-1", "1.5", "0", " 0 ", "0.5", "-0.5"}) {
+    Run.Trace.DataTrace1.Display = display;
+    const bool isShown = ColumnOf(Compose(), "txtValueVal").at(0) == "Display";
+    EXPECT_EQ(ReadGraph(Report),
+              isShown ? "Traced Graph: Feedback speed [min-1], Alarm [-]" : "Traced Graph: Alarm [-]")
+        << display;
+  }
+}
+
+TEST_F(TraceObject, ItsGraphDoesNotDependOnWhetherDisplayIsANumber) {
+  Run.Trace.TraceGraph = Picture("graph.bmp");
+  for (const char* display : {"", "x"}) {
+    Run.Trace.DataTrace1.Display = display;
+    EXPECT_EQ(ReadGraph(Report), "Traced Graph: Alarm [-]");
+  }
+}
+
 // Composes the table below `above` twips of other content on a page of A4.
 Document ComposeBelow(ReportRun& report, float above) {
   report.Run.Session.ModuleNames.Resize(1);
