@@ -11,6 +11,7 @@
 #include "printfiles/host_files.h"
 #include "printfiles/print_options_file.h"
 #include "run/print_run.h"
+#include "text/file_name.h"
 
 namespace tarvis {
 namespace {
@@ -41,8 +42,8 @@ struct FileName {
 };
 
 FileName NameOf(std::string_view path) {
-  const std::size_t start = path.find_last_of("\\/") + 1;
-  return {.Folder = path.substr(0, start), .Name = path.substr(start)};
+  const std::string_view name = FileNameOf(path);
+  return {.Folder = path.substr(0, path.size() - name.size()), .Name = name};
 }
 
 // Overlapped data sets are printed as the main file next to them says.

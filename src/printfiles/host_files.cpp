@@ -6,6 +6,7 @@
 #include <string>
 
 #include "run/print_run.h"
+#include "text/file_name.h"
 #include "text/native_path.h"
 
 namespace tarvis {
@@ -63,7 +64,7 @@ void FillLines(const CodePage& page, std::string bytes, TextLines& lines) {
 
 std::int32_t LoadBytes(PrintRun& run, std::string_view path, std::string bytes) {
   PrintSession& session = run.Session;
-  session.LinesFile = path.substr(path.find_last_of("\\/") + 1);
+  session.LinesFile = FileNameOf(path);
   session.Diagnosis.clear();
   FillLines(run.CodePage, std::move(bytes), session.Lines);
   session.LineCount = session.Lines.HighestIndex();

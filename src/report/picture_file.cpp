@@ -15,8 +15,4 @@ PicturePtr LoadPictureOrFail(ReportContext context, const char* report, const st
   return context.Pictures.Load(path);
 }
 
-std::string PictureFileName(const std::string& path) {
-  return path.substr(path.find_last_of("\\/") + 1);
-}
-
 }  // namespace tarvis

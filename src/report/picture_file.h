@@ -12,7 +12,4 @@ namespace tarvis {
 PicturePtr LoadPictureOrFail(ReportContext context, const char* report, const std::string& path,
                              Failure failure);
 
-// The name of a picture's file without its folder, which is separated as on the host's system or on this one.
-std::string PictureFileName(const std::string& path);
-
 }  // namespace tarvis

@@ -6,6 +6,7 @@
 #include "printfiles/print_options_file.h"
 #include "report/picture_file.h"
 #include "text/date_text.h"
+#include "text/file_name.h"
 #include "text/text.h"
 
 namespace tarvis {
@@ -116,7 +117,7 @@ void rptCover::LoadLogo() {
   const std::string& path = Run.Options.DrowLogo;
   if (path.empty()) return;
   imgLogo.Picture = LoadPictureOrFail({Run, Pictures}, Name, path, Failure::LogoNotFound);
-  imgLogo.AlternateText = "Logo: " + PictureFileName(path);
+  imgLogo.AlternateText = "Logo: " + std::string(FileNameOf(path));
 }
 
 // An overlong line goes on in the next row. What is left after the last row is not printed.

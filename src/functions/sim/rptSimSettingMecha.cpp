@@ -1,6 +1,7 @@
 #include "functions/sim/rptSimSettingMecha.h"
 
 #include "report/picture_file.h"
+#include "text/file_name.h"
 
 namespace tarvis {
 namespace {
@@ -30,7 +31,7 @@ void rptSimSettingMecha::ActiveReport_FetchData(bool& endOfData) {
 void rptSimSettingMecha::LoadModel() {
   const MechaModel& model = Run.Sim.MechaType;
   imgModel.Picture = LoadPictureOrFail(model.ModelFile, Failure::MechanicalModelNotFound);
-  imgModel.AlternateText = model.Name + ": " + PictureFileName(model.ModelFile);
+  imgModel.AlternateText = model.Name + ": " + std::string(FileNameOf(model.ModelFile));
 }
 
 // Row is already that of the next fetch. The heights last until the next row sets them.

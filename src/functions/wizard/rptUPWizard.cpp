@@ -2,6 +2,7 @@
 
 #include "report/picture_file.h"
 #include "report/reading_line.h"
+#include "text/file_name.h"
 
 namespace tarvis {
 namespace {
@@ -66,7 +67,7 @@ void rptUPWizard::FillRelays() {
   for (std::size_t index = 0; index < Relays; ++index) {
     if (relay(index).Picture.empty()) continue;
     LoadWizardPicture(*imgRy[index], relay(index).Picture);
-    imgRy[index]->AlternateText = PictureFileName(relay(index).Picture);
+    imgRy[index]->AlternateText = FileNameOf(relay(index).Picture);
   }
 }
 
@@ -101,7 +102,7 @@ void rptUPWizard::FillRatio() {
 // No path is a missing picture here, unlike for a relay.
 void rptUPWizard::FillBase() {
   LoadWizardPicture(imgBase, Run.UPWizard.Base);
-  imgBase.AlternateText = Label1.Caption() + ": " + PictureFileName(Run.UPWizard.Base);
+  imgBase.AlternateText = Label1.Caption() + ": " + std::string(FileNameOf(Run.UPWizard.Base));
 }
 
 void rptUPWizard::LoadWizardPicture(Image& image, const std::string& path) {
