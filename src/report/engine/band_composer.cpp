@@ -85,8 +85,8 @@ void CallEvent(const std::function<void()>& handler) {
 BandComposer::BandComposer(Document& document, const TextMeasurer& measurer)
     : document_(document), cache_(document, measurer), structure_(document.Structure, cache_) {}
 
-Printing BandComposer::Compose(ActiveReport& report, Section& section, float left, Band& band,
-                               const std::function<void()>& beforeAfterPrint) {
+Printing BandComposer::Compose(const BandOrigin& origin, ActiveReport& report, Section& section, float left,
+                               Band& band, const std::function<void()>& beforeAfterPrint) {
   report.LayoutAction = 0;
   CallEvent(section.Format);
   if (report.Unloaded()) return Printing::Dropped;
@@ -98,6 +98,7 @@ Printing BandComposer::Compose(ActiveReport& report, Section& section, float lef
   band.IsHeader = section.Kind == SectionKind::GroupHeader;
   band.Height = FinalHeight(section);
   EmitControls(section, left, band);
+  structure_.AddBand(section, shown_, origin);
   CallEvent(beforeAfterPrint);
   CallEvent(section.AfterPrint);
   return Printing::Done;
@@ -145,7 +146,6 @@ void BandComposer::EmitControls(const Section& section, float left, Band& band) 
     const Output output{section, left, model, band};
     std::visit([&](const auto* self) { Emit(*self, output); }, control->Self());
   }
-  structure_.AddBand(section, shown_, origin_);
 }
 
 void BandComposer::Emit(const Field& field, const Output& output) {

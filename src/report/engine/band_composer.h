@@ -25,17 +25,16 @@ class BandComposer {
  public:
   explicit BandComposer(Document& document, const TextMeasurer& measurer);
 
-  // Runs the section's events and composes `band`, its controls shifted by `left` twips. `beforeAfterPrint`
-  // runs between layout and AfterPrint: sections that hold a sub-report run it there.
-  Printing Compose(ActiveReport& report, Section& section, float left, Band& band,
+  // Runs the section's events and composes `band`, which comes from `origin`, its controls shifted by `left`
+  // twips. `beforeAfterPrint` runs between layout and AfterPrint: sections that hold a sub-report run it
+  // there.
+  Printing Compose(const BandOrigin& origin, ActiveReport& report, Section& section, float left, Band& band,
                    const std::function<void()>& beforeAfterPrint = {});
 
   // Bands belong to runs of reports: returns the number of a new one, `parent` is the one around it.
   std::uint32_t BeginRun(const ActiveReport& report, std::uint32_t parent) {
     return structure_.BeginRun(report.Name, parent);
   }
-  // Where the bands come from, from now on.
-  void SetOrigin(const BandOrigin& origin) { origin_ = origin; }
 
   // Writes the number into a summary item that was composed before.
   void PatchText(Item& item, const std::string& text);
@@ -75,7 +74,6 @@ class BandComposer {
   Document& document_;
   TextCache cache_;
   StructureRecorder structure_;
-  BandOrigin origin_;
   std::uint32_t bandNumber_ = 0;
   std::vector<std::uint16_t> shown_;  // controls of the band that is being composed
   std::string pageNumber_;

@@ -175,10 +175,9 @@ class Composing : private PageBands {
 
   Printing ComposeBand(const BandOrigin& origin, ActiveReport& report, Section& section, float left,
                        Band& band, const std::function<void()>& beforeAfterPrint = {}) {
-    bands_.SetOrigin(origin);
     int landing = std::exchange(nextLanding_, -1);
     int* const outer = std::exchange(current_, &landing);
-    const Printing printing = bands_.Compose(report, section, left, band, [&] {
+    const Printing printing = bands_.Compose(origin, report, section, left, band, [&] {
       band.Landing = landing;
       if (beforeAfterPrint) beforeAfterPrint();
     });
