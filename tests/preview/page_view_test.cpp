@@ -68,6 +68,7 @@ TEST_F(PaintedPages, OnlyThePartThatIsReadyIsPaintedAgain) {
   const auto document = DocumentBuilder().TablePages(3).Build();
   Open(document);
   View().SetZoom(4);
+  View().GoTo({0, 0});
   const int width = qRound(View().Layout().PageSize().width());
   const int height = CutIntoStrips(width, PagePixelHeight(*document, width)).Height;
   const int seen = static_cast<int>((View().viewport()->height() - PageLayout::Margin) / height);
