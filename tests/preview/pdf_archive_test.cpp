@@ -10,6 +10,7 @@
 #include "preview/document_builder.h"
 #include "preview/never_cancelled.h"
 #include "preview/output/pdf_export.h"
+#include "preview/output/pdf_picture_glyphs.h"
 #include "preview/output/pdf_to_unicode.h"
 #include "preview/output/srgb_profile.h"
 #include "preview/sample_picture.h"
@@ -238,6 +239,57 @@ TEST_F(PdfArchive, EveryGlyphHasATextThatArchivesTake) {
     for (const char* text : {"> <0000>", "> <FEFF>", "> <FFFE>", "> <>"})
       EXPECT_EQ(map.find(text), std::string::npos) << map;
   }
+}
+
+// The content of a picture whose text has two characters of private use that its font has.
+std::string PictureOfPrivateUse(bool isTagged) {
+  const auto words = std::make_shared<WordsPicture>(QStringLiteral("A\uF001B\uF001"));
+  const auto document = DocumentBuilder().Page().Picture(words, {1440, 2000, 3000, 2000}).Build();
+  PdfInfo info;
+  info.IsTagged = isTagged;
+  const std::string bytes = MakePdf(*document, PdfSheets::AllOf(*document), info, GoOn);
+  QPDF pdf;
+  pdf.processMemoryFile("test", bytes.data(), bytes.size());
+  QPDFObjectHandle page(pdf.getAllPages().at(0));
+  return BytesOf(page.getKey("/Resources").getKey("/XObject").getKey("/P0"));
+}
+
+TEST(PictureGlyphs, SayWhatTheyAreInATaggedPdfIfTheyAreOfPrivateUse) {
+  const std::string content = PictureOfPrivateUse(true);
+  EXPECT_EQ(CountOf(content, "Tj"), 4) << content;
+  EXPECT_EQ(CountOf(content, "/ActualText<FEFFF001>"), 2) << content;
+  EXPECT_EQ(CountOf(content, "EMC"), 2) << content;
+}
+
+TEST(PictureGlyphs, SayNothingMoreInAPdfThatIsNotTagged) {
+  const std::string content = PictureOfPrivateUse(false);
+  EXPECT_EQ(CountOf(content, "Tj"), 4) << content;
+  EXPECT_EQ(CountOf(content, "/ActualText"), 0) << content;
+}
+
+TEST(PictureGlyphs, OnlyThoseOfPrivateUseAreNamed) {
+  const std::vector<std::u32string> letters{U"", U"A", U"\uE000", U"B"}, signs{U"", U"\U00100001"};
+  const TextsByFont texts{{"/F5", letters}, {"/F6", signs}};
+  EXPECT_EQ(
+      WithPrivateNamed("BT\n/F5 12 Tf 1 0 0 1 0 0 Tm\n0 0 Td <0001> Tj\n5 0 Td <0002> Tj\n5 0 Td <0003> "
+                       "Tj\nET\n/F6 9 Tf\n<0001> Tj\n<0002> Tj\nET\n",
+                       texts),
+      "BT\n/F5 12 Tf 1 0 0 1 0 0 Tm\n0 0 Td <0001> Tj\n5 0 Td /Span<</ActualText<FEFFE000>>>BDC\n<0002> "
+      "Tj\nEMC\n\n5 0 Td <0003> Tj\nET\n/F6 9 Tf\n/Span<</ActualText<FEFFDBC0DC01>>>BDC\n<0001> "
+      "Tj\nEMC\n\n<0002> Tj\nET\n");
+}
+
+TEST(PictureGlyphs, WhatIsShownOnceMoreToLookBoldIsNamedOnce) {
+  const std::vector<std::u32string> letters{U"", U"\uE000"};
+  const TextsByFont texts{{"/F5", letters}};
+  const std::string again = "/Span << /ActualText <> >> BDC\n<0001> Tj\nEMC\n";
+  const std::string named = WithPrivateNamed("/F5 12 Tf\n<0001> Tj\n" + again + "<0001> Tj\n", texts);
+  EXPECT_EQ(CountOf(named, "<FEFFE000>"), 2) << named;
+  EXPECT_EQ(CountOf(named, again), 1) << named;
+}
+
+std::string CompletedMap(std::string_view map, std::size_t count) {
+  return ToUnicodeMap(0, CompletedTexts(map, count));
 }
 
 TEST(CompletedMap, GivesGlyphsWithoutATextTheReplacementCharacter) {

@@ -5,6 +5,7 @@
 #include <array>
 #include <span>
 
+#include "preview/output/pdf_actual_text.h"
 #include "preview/output/pdf_greys.h"
 #include "preview/output/pdf_numbers.h"
 #include "report/engine/text_measurer.h"
@@ -14,25 +15,12 @@ namespace tarvis {
 namespace {
 
 constexpr std::string_view EndOfShownText = ")Tj\n";
-constexpr std::string_view EndOfActualText = "EMC\n";
-
-bool IsPrivate(char32_t character) {
-  return (character >= 0xE000 && character <= 0xF8FF) || character >= 0xF0000;
-}
 
 void AppendRects(std::string& content, std::span<const Rect> boxes) {
   for (const Rect& box : boxes) {
     for (const float value : {box.Left, box.Top, box.Width, box.Height}) AppendNumber(content, value);
     content += "re\n";
   }
-}
-
-// Begins what is read as this text.
-void AppendActualText(std::string& content, const std::u32string& text) {
-  content += "/Span<</ActualText<FEFF";
-  for (const QChar unit : QString::fromUcs4(text.data(), static_cast<qsizetype>(text.size())))
-    AppendHex(content, unit.unicode());
-  content += ">>>BDC\n";
 }
 
 bool EndsWith(const std::vector<Rect>& boxes, const std::vector<Rect>& last) {
@@ -181,7 +169,7 @@ void PdfCanvas::ShowPlain(const TextPiece& piece, const TextStyle& style, double
     if (NamesPrivateCharacters() && IsPrivate(character)) {
       if (open) Add(EndOfShownText);
       open = false;
-      AppendActualText(content_, std::u32string(1, character));
+      AppendActualText(content_, {&character, 1});
       ShowGlyph(glyph, style, x, y);
       Add(EndOfActualText);
       x += glyph.AdvanceEm * em;
@@ -233,8 +221,7 @@ void PdfCanvas::ShowCluster(const TextCluster& cluster, const TextStyle& style, 
                             double stretch) {
   const double em = style.Size * TwipsPerPoint;
   const PdfCluster used = glyphs_.Use(cluster);
-  const bool isNamed =
-      used.NeedsText || (NamesPrivateCharacters() && std::ranges::any_of(cluster.Text, IsPrivate));
+  const bool isNamed = used.NeedsText || (NamesPrivateCharacters() && HasPrivate(cluster.Text));
   if (isNamed) AppendActualText(content_, cluster.Text);
   for (const PdfPlacedGlyph& placed : used.Glyphs)
     ShowGlyph(placed.Glyph, style, x + placed.X * em * stretch, y + placed.Y * em);

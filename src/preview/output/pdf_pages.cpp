@@ -38,8 +38,8 @@ std::string PdfPages::ContentOf(const Document& document, std::size_t page, int 
 void PdfPages::Finish(const Document& document) {
   std::vector<QPDFObjectHandle> contents;
   for (const int page : sheets_) contents.push_back(WholeContent(document, page));
-  const Inks inks = look_.Greys ? Inks::Greys : Inks::AsTheyAre;
-  const PdfResources resources = MakeResources(pdf_, glyphs_, pictures_, glyphs_.Font(), compressed_, inks);
+  const PictureContent wanted{look_.Greys ? Inks::Greys : Inks::AsTheyAre, tags_ != nullptr};
+  const PdfResources resources = MakeResources(pdf_, glyphs_, pictures_, glyphs_.Font(), compressed_, wanted);
   compressed_.Finish();
   if (look_.Greys) TurnIntoGreys(pdf_, resources.InkedForms);
   QPDFPageDocumentHelper pages(pdf_);

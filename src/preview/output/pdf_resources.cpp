@@ -1,13 +1,14 @@
 #include "preview/output/pdf_resources.h"
 
-#include <algorithm>
 #include <bit>
+#include <map>
 #include <qpdf/Buffer.hh>
 #include <set>
 #include <utility>
 
 #include "preview/output/pdf_fonts.h"
 #include "preview/output/pdf_helper_file.h"
+#include "preview/output/pdf_picture_glyphs.h"
 #include "preview/output/pdf_rounding.h"
 #include "preview/output/pdf_to_unicode.h"
 
@@ -17,59 +18,6 @@ namespace {
 std::string TextOf(QPDFObjectHandle stream) {
   const std::shared_ptr<Buffer> bytes = stream.getStreamData();
   return {reinterpret_cast<const char*>(bytes->getBuffer()), bytes->getSize()};
-}
-
-// How the toolkit shows a character that no font has: it writes each glyph by itself, in a text in
-// hexadecimal digits.
-constexpr std::string_view BoxOfToolkit = "<0000> Tj";
-constexpr std::string_view FontChoice = " Tf";
-
-struct TakenForm {
-  QPDFObjectHandle Stream;
-  bool IsRounded = true;
-};
-
-// The same content with boxes of the font /Box. The toolkit chooses a font at the begin of each text.
-std::string WithBoxes(std::string_view content) {
-  std::string changed;
-  std::string_view rest = content;
-  std::string_view font;  // with its size, as it was chosen
-  for (std::size_t box = rest.find(BoxOfToolkit); box != rest.npos; box = rest.find(BoxOfToolkit)) {
-    const std::string_view before = rest.substr(0, box);
-    const std::size_t choice = before.rfind(FontChoice);
-    if (choice != before.npos) {
-      const std::size_t name = before.rfind('/', choice);
-      font = before.substr(name, choice - name);
-    }
-    const std::string_view size = font.substr(std::min(font.find(' '), font.size()));
-    changed.append(before).append("/Box").append(size).append(" Tf <0001> Tj ");
-    changed.append(font).append(FontChoice);
-    rest.remove_prefix(box + BoxOfToolkit.size());
-  }
-  return changed.append(rest);
-}
-
-bool HasBoxes(std::string_view content) {
-  return content.find(BoxOfToolkit) != content.npos;
-}
-
-// A helper page as a form, with no more digits than can be seen.
-// `boxes` is the font /Box, if there are any.
-TakenForm TakeForm(QPDF& pdf, QPDFPageObjectHelper& page, const QPDFObjectHandle& boxes,
-                   PdfContents& contents, Inks inks) {
-  std::string text = WithBoxes(TextOf(page.getObjectHandle().getKey("/Contents")));
-  std::optional<std::string> rounded = RoundedContent(text, inks);
-  QPDFObjectHandle form = pdf.newStream();
-  QPDFObjectHandle dictionary = form.getDict();
-  dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/XObject"));
-  dictionary.replaceKey("/Subtype", QPDFObjectHandle::newName("/Form"));
-  dictionary.replaceKey("/BBox", page.getMediaBox().shallowCopy());
-  QPDFObjectHandle resources = pdf.copyForeignObject(page.getAttribute("/Resources", false));
-  if (boxes.isInitialized()) resources.getKey("/Font").replaceKey("/Box", boxes);
-  dictionary.replaceKey("/Resources", resources);
-  const bool isRounded = rounded.has_value();
-  contents.Add(form, rounded ? std::move(*rounded) : std::move(text));
-  return {form, isRounded};
 }
 
 // How many glyphs the toolkit has put into a font: it writes a bit for each, the highest first.
@@ -85,39 +33,100 @@ std::size_t GlyphCount(QPDFObjectHandle font) {
   return 0;
 }
 
-// Glyphs of a font that represent no single character get a text, too: archives ask for it.
-void CompleteTexts(QPDFObjectHandle font) {
-  QPDFObjectHandle map = font.getKey("/ToUnicode");
-  if (!map.isStream()) return;
-  map.replaceStreamData(CompletedMap(TextOf(map), GlyphCount(font)), QPDFObjectHandle::newNull(),
-                        QPDFObjectHandle::newNull());
-}
-
-void CompleteTexts(QPDFObjectHandle resources, std::set<QPDFObjGen>& done) {
-  for (const auto& [name, font] : resources.getKey("/Font").getDictAsMap()) {
-    if (done.insert(font.getObjGen()).second) CompleteTexts(font);
+// The fonts of pictures. Glyphs that represent no single character get a text, too: archives ask for it.
+class PictureFonts {
+ public:
+  TextsByFont Complete(QPDFObjectHandle resources) {
+    TextsByFont texts;
+    for (const auto& [name, font] : resources.getKey("/Font").getDictAsMap()) {
+      const auto [known, isNew] = texts_.try_emplace(font.getObjGen());
+      if (isNew) known->second = CompletedTextsOf(font);
+      texts[name] = known->second;
+    }
+    return texts;
   }
-}
+
+ private:
+  static std::vector<std::u32string> CompletedTextsOf(QPDFObjectHandle font) {
+    QPDFObjectHandle map = font.getKey("/ToUnicode");
+    if (!map.isStream()) return {};
+    std::vector<std::u32string> texts = CompletedTexts(TextOf(map), GlyphCount(font));
+    map.replaceStreamData(ToUnicodeMap(0, texts), QPDFObjectHandle::newNull(), QPDFObjectHandle::newNull());
+    return texts;
+  }
+
+  std::map<QPDFObjGen, std::vector<std::u32string>> texts_;
+};
+
+struct TakenForm {
+  QPDFObjectHandle Stream;
+  bool IsRounded = true;
+};
+
+class FormTaker {
+ public:
+  // All must outlive it.
+  FormTaker(QPDF& pdf, ReportFont& font, PdfContents& contents, const PictureContent& wanted)
+      : pdf_(pdf), font_(font), contents_(contents), wanted_(wanted) {}
+
+  // A helper page as a form, with no more digits than can be seen.
+  TakenForm Take(QPDFPageObjectHelper& page) {
+    std::string content = TextOf(page.getObjectHandle().getKey("/Contents"));
+    QPDFObjectHandle resources = pdf_.copyForeignObject(page.getAttribute("/Resources", false));
+    const TextsByFont texts = fonts_.Complete(resources);
+    if (HasBoxes(content)) {
+      content = WithBoxes(content);
+      resources.getKey("/Font").replaceKey("/Box", Boxes());
+    }
+    std::optional<std::string> rounded = RoundedContent(content, wanted_.Ink);
+    const bool isRounded = rounded.has_value();
+    if (isRounded) content = std::move(*rounded);
+    if (wanted_.NamesPrivateCharacters) content = WithPrivateNamed(content, texts);
+    QPDFObjectHandle form = NewForm(page.getMediaBox(), resources);
+    contents_.Add(form, std::move(content));
+    return {form, isRounded};
+  }
+
+ private:
+  // Made where it is needed first.
+  const QPDFObjectHandle& Boxes() {
+    if (!boxes_.isInitialized()) boxes_ = MakeBoxFont(pdf_, font_);
+    return boxes_;
+  }
+
+  QPDFObjectHandle NewForm(QPDFObjectHandle box, const QPDFObjectHandle& resources) {
+    QPDFObjectHandle form = pdf_.newStream();
+    QPDFObjectHandle dictionary = form.getDict();
+    dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/XObject"));
+    dictionary.replaceKey("/Subtype", QPDFObjectHandle::newName("/Form"));
+    dictionary.replaceKey("/BBox", box.shallowCopy());
+    dictionary.replaceKey("/Resources", resources);
+    return form;
+  }
+
+  QPDF& pdf_;
+  ReportFont& font_;
+  PdfContents& contents_;
+  const PictureContent& wanted_;
+  PictureFonts fonts_;
+  QPDFObjectHandle boxes_;
+};
 
 struct TakenForms {
   QPDFObjectHandle Dictionary;
   std::set<QPDFObjGen> Rounded;
 };
 
-TakenForms MakeForms(QPDF& pdf, PdfPictures& pictures, ReportFont& font, PdfContents& contents, Inks inks) {
+TakenForms MakeForms(QPDF& pdf, PdfPictures& pictures, ReportFont& font, PdfContents& contents,
+                     const PictureContent& wanted) {
   TakenForms forms{QPDFObjectHandle::newDictionary(), {}};
   if (pictures.Count() == 0) return forms;
   HelperFile file(pictures.Finish());
   std::vector<QPDFPageObjectHelper> pages = file.Pages();
-  std::set<QPDFObjGen> completed;
-  QPDFObjectHandle boxes;  // made where it is needed first
+  FormTaker taker(pdf, font, contents, wanted);
   for (std::size_t number = 0; number < pictures.Count(); ++number) {
-    QPDFPageObjectHelper& page = pages.at(number + 1);
-    const bool hasBoxes = HasBoxes(TextOf(page.getObjectHandle().getKey("/Contents")));
-    if (hasBoxes && !boxes.isInitialized()) boxes = MakeBoxFont(pdf, font);
-    TakenForm form = TakeForm(pdf, page, hasBoxes ? boxes : QPDFObjectHandle(), contents, inks);
+    const TakenForm form = taker.Take(pages.at(number + 1));
     if (form.IsRounded) forms.Rounded.insert(form.Stream.getObjGen());
-    CompleteTexts(form.Stream.getDict().getKey("/Resources"), completed);
     forms.Dictionary.replaceKey("/P" + std::to_string(number), form.Stream);
   }
   return forms;
@@ -126,8 +135,8 @@ TakenForms MakeForms(QPDF& pdf, PdfPictures& pictures, ReportFont& font, PdfCont
 }  // namespace
 
 PdfResources MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, PdfPictures& pictures, ReportFont& font,
-                           PdfContents& contents, Inks inks) {
-  const TakenForms forms = MakeForms(pdf, pictures, font, contents, inks);
+                           PdfContents& contents, const PictureContent& wanted) {
+  const TakenForms forms = MakeForms(pdf, pictures, font, contents, wanted);
   QPDFObjectHandle resources = QPDFObjectHandle::newDictionary();
   resources.replaceKey("/Font", MakeFonts(pdf, glyphs, font));
   resources.replaceKey("/XObject", forms.Dictionary);

@@ -18,8 +18,14 @@ struct PdfResources {
   std::set<QPDFObjGen> InkedForms;  // pictures whose inks are as they were asked for
 };
 
-// The contents of pictures are added to `contents`, with these inks as far as their content is understood.
+struct PictureContent {
+  Inks Ink = Inks::AsTheyAre;           // as far as the content is understood
+  bool NamesPrivateCharacters = false;  // as level A of archives asks
+};
+
+// The contents of pictures are added to `contents`, as they are wanted.
 [[nodiscard]] PdfResources MakeResources(QPDF& pdf, const PdfGlyphs& glyphs, PdfPictures& pictures,
-                                         ReportFont& font, PdfContents& contents, Inks inks);
+                                         ReportFont& font, PdfContents& contents,
+                                         const PictureContent& wanted);
 
 }  // namespace tarvis

@@ -77,11 +77,11 @@ std::string ToUnicodeMap(std::uint16_t firstCode, const std::vector<std::u32stri
   return map + "endcmap CMapName currentdict /CMap defineresource pop end end\n";
 }
 
-std::string CompletedMap(std::string_view map, std::size_t count) {
+std::vector<std::u32string> CompletedTexts(std::string_view map, std::size_t count) {
   std::vector<std::u32string> texts(count, std::u32string(1, Replacement));
   const QString source = QString::fromLatin1(map.data(), static_cast<qsizetype>(map.size()));
   for (auto range = RangePattern().globalMatch(source); range.hasNext();) ReadRange(range.next(), texts);
-  return ToUnicodeMap(0, texts);
+  return texts;
 }
 
 }  // namespace tarvis
