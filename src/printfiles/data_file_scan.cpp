@@ -4,6 +4,7 @@
 
 #include "printfiles/host_files.h"
 #include "run/print_run.h"
+#include "text/native_path.h"
 #include "text/numbers.h"
 #include "text/text.h"
 
@@ -23,9 +24,12 @@ void ScanLines(const PrintRun& run,
   }
 }
 
-void ScanOverlap(PrintRun& run, std::string_view fileName) {
-  if (LoadLines(run, run.Session.TempFolder + std::string(fileName)) < 1) return;
-  ScanOverlap(run);
+bool ScanOverlap(PrintRun& run, std::string_view fileName) {
+  const std::string path = run.Session.TempFolder + std::string(fileName);
+  const std::int32_t count = LoadLines(run, path);
+  if (count < 0) return !FileExists(path);
+  if (count > 0) ScanOverlap(run);
+  return true;
 }
 
 void ScanOverlap(PrintRun& run) {

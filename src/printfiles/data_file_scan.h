@@ -17,7 +17,8 @@ void ScanLines(const PrintRun& run,
 void ScanOverlap(PrintRun& run);
 
 // The same from the data file `fileName` in the temporary folder. Without such a file, or if it is empty,
-// both keep their values.
-void ScanOverlap(PrintRun& run, std::string_view fileName);
+// both keep their values. They do, too, if it is there and can't be read; then this returns false, with the
+// reason in `Diagnosis` of the session.
+bool ScanOverlap(PrintRun& run, std::string_view fileName);
 
 }  // namespace tarvis

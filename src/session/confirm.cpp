@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "run/failures.h"
 #include "run/print_run.h"
 #include "session/choices.h"
 #include "session/page_options.h"
@@ -31,7 +32,9 @@ void LoadHeader(PrintRun& run, HeaderOptions& header) {
 
 void LoadPage(PrintRun& run, PageId page) {
   LoadHeader(run, HeaderOf(run.Options, page));
-  LoadOverlap(run, page);
+  // Who prints without a dialog sees nowhere that only one data set is taken for all.
+  if (!LoadOverlap(run, page))
+    ReportFailure(run, page == PageId::InfTrace ? Failure::WrongTraceFile : Failure::WrongSimulationFile);
   if (page == PageId::InfIdxTbl) {
     LoadStepRange(run);
     ChooseStepRange(run, run.Options.IdxTblOption.Range);

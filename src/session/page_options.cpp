@@ -70,8 +70,9 @@ std::vector<const std::int16_t*> MarksOf(const PrintOptions& options, PageId pag
   return EntryOf(page).List(options);
 }
 
-void LoadOverlap(PrintRun& run, PageId page) {
-  if (const char* file = EntryOf(page).OverlapFile) ScanOverlap(run, file);
+bool LoadOverlap(PrintRun& run, PageId page) {
+  const char* file = EntryOf(page).OverlapFile;
+  return file == nullptr || ScanOverlap(run, file);
 }
 
 }  // namespace tarvis

@@ -22,7 +22,8 @@ std::array<const std::int16_t*, 5> MarksOf(const HeaderOptions& header);
 std::vector<const std::int16_t*> MarksOf(const PrintOptions& options, PageId page);
 
 // Looks into the data file of a page that offers overlapped data for how many data sets overlap, which sets
-// `OverlapMode` and `OverlapNum` of the session. Does nothing for any other page.
-void LoadOverlap(PrintRun& run, PageId page);
+// `OverlapMode` and `OverlapNum` of the session. Does nothing for any other page. False if the file is there
+// and can't be read: both keep their values, so that nobody knows what the data hold.
+bool LoadOverlap(PrintRun& run, PageId page);
 
 }  // namespace tarvis

@@ -66,6 +66,15 @@ class ChangingFile(PdfCase):
         self.assertEqual(self.goes_on(process), (2, "tarvis-pdf: failure 4: Tracing File is wrong. Trace2.tmp: can't be read\n"))
         self.assertFalse(self.pdf.exists())
 
+    def test_is_refused_if_it_can_not_be_read_for_a_moment(self):
+        """Also the first look into it, which finds how many data sets overlap."""
+        self.host.write_data("Trace", 3)
+        for name, number in (("Trace.tmp", 1), ("Trace.tmp", 3), ("Trace2.tmp", 1)):  # read 2 finds the end of the file
+            failing = tracing(f"--inject=read:error=EIO:when={number}", "-P", str(self.file(name)), call="read")
+            with self.subTest(name=name, number=number):
+                self.expect_refused(2, f"failure 4: Tracing File is wrong. {name}: can't be read", "Trace", "1", self.pdf,
+                                    through=failing)
+
     def test_is_refused_if_it_goes_between_two_data_sets(self):
         process = self.stopped_after("newfstatat", self.file("Trace2.tmp"))
         self.file("Trace2.tmp").unlink()

@@ -115,7 +115,8 @@ void ItemPage::Load() {
     if (plan.Element == &HeaderOptions::Title) txtTitle_->SetText(header_.TitleText);
   }
   Show(*chkFooter_, header_.Pages);
-  LoadOverlap(run_, page_);
+  // A file that can't be read is reported when it is printed; until then its boxes are grey.
+  static_cast<void>(LoadOverlap(run_, page_));
   LoadItems();
 }
 

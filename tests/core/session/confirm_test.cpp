@@ -4,6 +4,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
+#include "printfiles/host_files.h"
 #include "printfiles/print_options_file.h"
 #include "support/test_run.h"
 
@@ -38,6 +41,15 @@ TEST_F(Confirm, DatesTheOptions) {
   Run.Options.DateTime.clear();
   ConfirmKeptOptions(Run);
   EXPECT_EQ(Run.Options.DateTime, "2026/03/05 17:04:09");
+}
+
+TEST_F(Confirm, RefusesDataThatAreThereAndCannotBeReadForHowManySetsOverlap) {
+  for (const auto& [mode, file] : {std::pair("Trace", "Trace.tmp"), std::pair("SimEx", "Sim.tmp")}) {
+    Folder.Write(file, "OverlapMode,1\r\n");
+    std::filesystem::resize_file(Folder.Path() / file, LargestFile + 1);
+    EXPECT_THAT(FailureOf(mode, 4, "200"), testing::HasSubstr("File is wrong.")) << mode;
+    EXPECT_EQ(Run.Session.Diagnosis.find(std::string(file) + ": too large"), 0) << Run.Session.Diagnosis;
+  }
 }
 
 TEST_F(Confirm, RefusesWhatTheDialogRefuses) {
