@@ -1,12 +1,11 @@
 #include "text/code_page.h"
 
-#include <unicode/ucnv.h>
 #include <unicode/ustring.h>
 
 #include <algorithm>
 #include <charconv>
-#include <optional>
 
+#include "platform/base/code_page_conversion.h"
 #include "text/encodable_form.h"
 #include "text/excerpt.h"
 #include "text/run_time_failure.h"
@@ -49,36 +48,20 @@ std::string UnitsToUtf8(std::u16string_view units) {
   return text;
 }
 
-// Nothing if the code page doesn't have all of the characters.
-std::optional<std::string> Encode(UConverter& converter, std::u16string_view units) {
-  std::string bytes(
-      static_cast<std::size_t>(UCNV_GET_MAX_BYTES_FOR_STRING(units.size(), ucnv_getMaxCharSize(&converter))),
-      '\0');
-  UErrorCode error = U_ZERO_ERROR;
-  const std::int32_t length = ucnv_fromUChars(&converter, bytes.data(), Length(bytes.size()), units.data(),
-                                              Length(units.size()), &error);
-  if (error == U_INVALID_CHAR_FOUND) return {};
-  Expect(error);
-  bytes.resize(static_cast<std::size_t>(length));
-  return bytes;
-}
-
 [[noreturn]] void Refuse(const char* reason, std::string_view number) {
   throw RunTimeFailure(reason, {.File = {}, .Line = 0, .Key = "CodePage", .Text = Excerpt(number)});
 }
 
 // Whether each printable ASCII character and each line end is one byte of the same number, as the grammar of
 // the files needs it: not so in UTF-16, in UTF-7, and in the code pages of mainframes.
-bool KeepsAscii(UConverter& converter) {
+bool KeepsAscii(const CodePageConversion& conversion) {
   std::string ascii("\r\n");
   for (char c = ' '; c <= '~'; ++c) ascii += c;
-  std::u16string units(ascii.size() * 2, u'\0');
-  UErrorCode error = U_ZERO_ERROR;
-  const std::int32_t length = ucnv_toUChars(&converter, units.data(), Length(units.size()), ascii.data(),
-                                            Length(ascii.size()), &error);
-  if (U_FAILURE(error)) return false;
-  units.resize(static_cast<std::size_t>(length));
-  return units == std::u16string(ascii.begin(), ascii.end());
+  try {
+    return conversion.Decode(ascii) == std::u16string(ascii.begin(), ascii.end());
+  } catch (const std::runtime_error&) {
+    return false;
+  }
 }
 
 }  // namespace
@@ -96,20 +79,14 @@ int CodePageNumber(std::string_view text) {
 
 struct CodePage::Converter {
   int Number = 0;
-  std::unique_ptr<UConverter, decltype(&ucnv_close)> Handle{nullptr, ucnv_close};
+  std::unique_ptr<CodePageConversion> Conversion;
 };
 
-CodePage::CodePage(int number) : converter_(std::make_unique<Converter>()) {
-  converter_->Number = number;
-  UErrorCode error = U_ZERO_ERROR;
-  converter_->Handle.reset(ucnv_open(("windows-" + std::to_string(number)).c_str(), &error));
-  if (U_FAILURE(error)) Refuse("no such code page", std::to_string(number));
-  if (!KeepsAscii(*converter_->Handle)) Refuse("not a code page that holds ASCII", std::to_string(number));
-  // It also makes half a character the usual replacement, where some converters have a control character.
-  ucnv_setSubstChars(converter_->Handle.get(), "?", 1, &error);
-  ucnv_setFromUCallBack(converter_->Handle.get(), UCNV_FROM_U_CALLBACK_STOP, nullptr, nullptr, nullptr,
-                        &error);
-  Expect(error);
+CodePage::CodePage(int number)
+    : converter_(std::make_unique<Converter>(Converter{number, OpenCodePage(number)})) {
+  if (converter_->Conversion == nullptr) Refuse("no such code page", std::to_string(number));
+  if (!KeepsAscii(*converter_->Conversion))
+    Refuse("not a code page that holds ASCII", std::to_string(number));
 }
 
 CodePage::~CodePage() = default;
@@ -122,21 +99,17 @@ int CodePage::Number() const {
 
 std::string CodePage::ToUtf8(std::string_view bytes) const {
   if (IsAscii(bytes)) return std::string(bytes);
-  std::u16string units(bytes.size() * 2, u'\0');
-  UErrorCode error = U_ZERO_ERROR;
-  const std::int32_t length = ucnv_toUChars(converter_->Handle.get(), units.data(), Length(units.size()),
-                                            bytes.data(), Length(bytes.size()), &error);
-  Expect(error);
-  return UnitsToUtf8(std::u16string_view(units).substr(0, static_cast<std::size_t>(length)));
+  Length(bytes.size());
+  return UnitsToUtf8(converter_->Conversion->Decode(bytes));
 }
 
 std::string CodePage::FromUtf8(std::string_view text) const {
   if (IsAscii(text)) return std::string(text);
   const std::u16string units = Utf8ToUnits(text);
-  UConverter& converter = *converter_->Handle;
-  if (auto bytes = Encode(converter, units)) return *std::move(bytes);
-  const auto isEncodable = [&](std::u16string_view part) { return Encode(converter, part).has_value(); };
-  return Encode(converter, EncodableForm(units, isEncodable)).value_or(std::string());
+  const CodePageConversion& conversion = *converter_->Conversion;
+  if (auto bytes = conversion.Encode(units)) return *std::move(bytes);
+  const auto isEncodable = [&](std::u16string_view part) { return conversion.Encode(part).has_value(); };
+  return conversion.Encode(EncodableForm(units, isEncodable)).value_or(std::string());
 }
 
 std::size_t CodePage::ByteLength(std::string_view text) const {
