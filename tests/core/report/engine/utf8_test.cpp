@@ -28,7 +28,8 @@ TEST(Utf8, ShowsEachByteThatStartsNoCharacterAsTheSignForOne) {
   EXPECT_THAT(CharactersOf("\xC2x"), ElementsAre(0xFFFD, U'x')) << "the rest is another character";
   EXPECT_THAT(CharactersOf("\xE2\x82y"), ElementsAre(0xFFFD, 0xFFFD, U'y'));
   EXPECT_THAT(CharactersOf("\x80\xFFz"), ElementsAre(0xFFFD, 0xFFFD, U'z'));
-  EXPECT_THAT(CharactersOf("\xC1\x81z"), ElementsAre(0xFFFD, 0xFFFD, U'z')) << "two bytes for a letter of one";
+  EXPECT_THAT(CharactersOf("\xC1\x81z"), ElementsAre(0xFFFD, 0xFFFD, U'z'))
+      << "two bytes for a letter of one";
 }
 
 }  // namespace
