@@ -105,6 +105,14 @@ TEST_F(TallRow, WhatIsBelowAShrunkenPictureInOneFrameWithItKeepsItsDistance) {
   EXPECT_EQ(document.Pages.size(), 2U);
 }
 
+TEST_F(TallRow, AFrameThatEndsBesideAShrunkenPictureKeepsItsHeight) {
+  AddPicture({0, 0, 1000, 800});
+  Detail.AddShape("frame", {1100, 0, 300, 300});
+  const Document document = ComposeSample(Report, 500);
+  EXPECT_EQ(ItemsOf(document, "picture")[0].second.Box, (Rect{0, 0, 625, 500}));
+  EXPECT_EQ(ItemsOf(document, "frame")[0].second.Box, (Rect{1100, 0, 300, 300}));
+}
+
 TEST_F(TallRow, TheNextRowFollowsRightBelowTheLegendOfAShrunkenPicture) {
   Control& picture = AddPicture({0, 0, 1000, 800});
   Control& legend = Detail.AddField("legend", {0, 800, 1000, 190}, Plain, "legend");
