@@ -90,7 +90,7 @@ TEST_F(PaintedPages, PicturesOfPagesKeepToTheirBudget) {
   for (int page = 0; page < 60; ++page) {
     View().GoTo({page, 0});
     View().viewport()->grab();
-    EXPECT_LE(View().Pictures().Bytes(), 48 * 1024 * 1024) << page;
+    EXPECT_LE(View().Pictures().Bytes(), 44 * 1024 * 1024) << page;
   }
   EXPECT_GT(View().Pictures().Bytes(), 30 * 1024 * 1024) << "the budget is used";
 }

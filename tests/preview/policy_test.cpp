@@ -133,7 +133,7 @@ TEST(RenderPolicy, WhatALargeScreenWantsKeepsToTheBudget) {
   for (int top = 0; top + Seen < Height; top += 10) {
     const std::vector<ShownPart> shown{{3, top, top + Seen}};
     const auto count = static_cast<std::int64_t>(WantedStrips(shown, Width, Height, 9).size());
-    EXPECT_LE(count * cut.Height * Width * 4, 48 * 1024 * 1024) << top;
+    EXPECT_LE(count * cut.Height * Width * 4, 44 * 1024 * 1024) << top;
   }
 }
 

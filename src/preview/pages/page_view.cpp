@@ -11,7 +11,7 @@
 namespace tarvis {
 namespace {
 
-constexpr std::int64_t KeptPageBytes = 48LL * 1024 * 1024;
+constexpr std::int64_t KeptPageBytes = 44LL * 1024 * 1024;
 
 // The width of a page in device pixels, of which `ratio` make a logical one.
 int DeviceWidth(const PageLayout& layout, double ratio) {

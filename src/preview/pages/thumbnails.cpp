@@ -14,7 +14,7 @@ namespace {
 
 constexpr int Gap = 10;  // logical pixels
 constexpr int GreatestWidth = 140;
-constexpr std::int64_t KeptThumbnailBytes = std::int64_t{16} * 1024 * 1024;
+constexpr std::int64_t KeptThumbnailBytes = std::int64_t{8} * 1024 * 1024;
 
 }  // namespace
 
