@@ -4,6 +4,7 @@
 #include <string>
 #include <system_error>
 
+#include "platform/base/file_names.h"
 #include "printfiles/host_files.h"
 #include "printfiles/print_options_file.h"
 #include "run/failures.h"
@@ -26,7 +27,7 @@ void ClearProgress(PrintSession& session) {
 bool MayExist(const std::string& path) {
   if (path.find('\0') != std::string::npos) return false;
   std::error_code error;
-  const std::filesystem::file_type type = std::filesystem::status(NativePath(path), error).type();
+  const std::filesystem::file_type type = StatusOf(NativePath(path), error).type();
   return type == std::filesystem::file_type::regular || error == std::errc::io_error ||
          error == std::errc::not_enough_memory || error == std::errc::permission_denied ||
          error == std::errc::interrupted;

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "platform/files/file_in_use.h"
 #include "run/print_run.h"
 #include "text/file_name.h"
 #include "text/native_path.h"
@@ -18,6 +19,10 @@ constexpr std::int32_t LoadFailed = -1;
 std::optional<std::string> ReadBytes(std::string_view path, std::string& reason) {
   reason = "can't be read";
   if (!FileExists(path)) return std::nullopt;
+  if (!WaitUntilReadable(NativePath(path))) {
+    reason = "in use by another program";
+    return std::nullopt;
+  }
   std::ifstream file(NativePath(path), std::ios::binary | std::ios::ate);
   const std::streamoff size = file.tellg();
   if (!file || size < 0) return std::nullopt;

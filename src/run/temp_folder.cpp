@@ -3,9 +3,8 @@
 #include <algorithm>
 #include <filesystem>
 #include <string>
-#include <system_error>
-#include <vector>
 
+#include "platform/base/file_names.h"
 #include "text/native_path.h"
 
 namespace tarvis {
@@ -28,17 +27,8 @@ bool EndsIn(const std::filesystem::path& path, std::string_view ending) {
 void DeleteFiles(std::string_view folder, std::string_view ending) {
   if (folder.empty()) return;
   // Errors are dropped throughout: the process ends next, and nobody could act on them.
-  std::error_code error;
-  std::vector<std::filesystem::path> files;
-  std::filesystem::directory_iterator entry(NativePath(folder), error);
-  for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
-    std::error_code ignored;
-    const bool isFolder = std::filesystem::is_directory(entry->symlink_status(ignored));
-    if (!isFolder && EndsIn(entry->path(), ending)) files.push_back(entry->path());
-  }
-  for (const std::filesystem::path& file : files) {
-    std::error_code ignored;
-    std::filesystem::remove(file, ignored);
+  for (const std::filesystem::path& file : FilesIn(NativePath(folder))) {
+    if (EndsIn(file, ending)) RemoveFile(file);
   }
 }
 

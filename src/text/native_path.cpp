@@ -1,21 +1,19 @@
 #include "text/native_path.h"
 
-#include <algorithm>
-#include <string>
 #include <system_error>
+
+#include "platform/base/file_names.h"
 
 namespace tarvis {
 
 std::filesystem::path NativePath(std::string_view path) {
-  std::u8string text(path.begin(), path.end());
-  if constexpr (std::filesystem::path::preferred_separator == '/') std::ranges::replace(text, u8'\\', u8'/');
-  return {text};
+  return FormOfSystem(path);
 }
 
 bool FileExists(std::string_view path) {
   if (path.empty() || path.find('\0') != std::string_view::npos) return false;
   std::error_code ignored;  // what can't be looked at doesn't exist for this program
-  return std::filesystem::is_regular_file(NativePath(path), ignored);
+  return std::filesystem::is_regular_file(StatusOf(NativePath(path), ignored));
 }
 
 }  // namespace tarvis

@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "platform/files/settle_file.h"
+#include "platform/files/windows_file_use.h"
 
 namespace tarvis {
 namespace {
@@ -16,20 +17,28 @@ int LastReason() {
   return reason.category() == std::generic_category() ? reason.value() : EIO;
 }
 
-}  // namespace
-
-// A new file gets its owner and its rights from the folder.
-bool SettleFile(const std::filesystem::path& fresh, const std::filesystem::path& /*replaced*/) {
+// The bytes of a file go to the disk.
+bool Flush(const std::filesystem::path& fresh) {
   const HANDLE file = CreateFileW(fresh.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
                                   FILE_ATTRIBUTE_NORMAL, nullptr);
   if (file == INVALID_HANDLE_VALUE) {
     errno = LastReason();
     return false;
   }
-  const bool settled = FlushFileBuffers(file) != 0;
-  if (!settled) errno = LastReason();
+  const bool flushed = FlushFileBuffers(file) != 0;
+  if (!flushed) errno = LastReason();
   CloseHandle(file);
-  return settled;
+  return flushed;
+}
+
+}  // namespace
+
+// A new file gets its owner and its rights from the folder. A file that is open is not replaced.
+bool SettleFile(const std::filesystem::path& fresh, const std::filesystem::path& replaced) {
+  if (!Flush(fresh)) return false;
+  if (WaitUntilFree(replaced, DELETE)) return true;
+  errno = ETXTBSY;
+  return false;
 }
 
 }  // namespace tarvis

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include "platform/files/file_in_use.h"
 #include "platform/files/settle_file.h"
 #include "printfiles/replace_file.h"
 
@@ -33,7 +34,7 @@ QString WriteWholeFile(std::string_view bytes, const std::filesystem::path& path
     return Translated("\"%1\" is not an ordinary file and is not replaced.").arg(name);
   std::error_code error = std::make_error_code(std::errc::permission_denied);
   if (!IsProtected(path) && ReplaceFile(path, bytes, SettleFile, error)) return {};
-  return Translated("\"%1\" can't be written: %2").arg(name, QString::fromStdString(error.message()));
+  return Translated("\"%1\" can't be written: %2").arg(name, QString::fromStdString(ReasonOf(error)));
 }
 
 }  // namespace tarvis
