@@ -70,6 +70,27 @@ TEST(EnginePages, AnEmptyRowLeavesNoRoomAboveTheRowThatBreaksThePage) {
   EXPECT_THAT(Places(ComposeRowsOnNewPages(outer, 2, 0)), ElementsAre("1:row@0"));
 }
 
+TEST(EnginePages, BlankRoomIsAsGoodAsPrintAboveARowOnANewPage) {
+  SampleReport outer;
+  outer.Fixed(SectionKind::GroupHeader, "blank", 300);
+  EXPECT_THAT(Places(ComposeRowsOnNewPages(outer, 1, -1)), ElementsAre("2:row@0"));
+}
+
+TEST(EnginePages, BlankRoomAtTheHeadOfARowGoesToItsNewPage) {
+  SampleReport outer;
+  AddBlock(outer.Growing(SectionKind::GroupHeader, "header"), "header", 100);
+  Section& detail = outer.Fixed(SectionKind::Detail, "d", 300);
+  detail.NewPageBefore = true;
+  SubReport& region = detail.AddSubReport("region", {0, 0, 1000, 10});
+  outer.Rows(1, [&](int) {
+    auto inner = std::make_shared<SampleReport>();
+    inner->Fixed(SectionKind::GroupHeader, "blank", 200);
+    AddBlock(inner->Growing(SectionKind::Detail, "d"), "row", 100);
+    region.object = inner;
+  });
+  EXPECT_THAT(Places(ComposeSample(outer, 1000)), ElementsAre("1:header@0", "2:row@200"));
+}
+
 TEST(EnginePages, NestsThreeDeepOverFourPages) {
   SampleReport master;
   SubReport& module = master.Fixed(SectionKind::Detail, "d", 100).AddSubReport("module", {0, 0, 1000, 10});
