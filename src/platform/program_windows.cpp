@@ -1,6 +1,7 @@
 #include "platform/program_windows.h"
 
 #include <QApplication>
+#include <QPixmapCache>
 
 #include "dialogs/PrintSetting.h"
 #include "functions/catalog.h"
@@ -56,6 +57,8 @@ void QtProgramWindows::ShowPrintSetting() {
     help_.SetHelpFile(helpFile);
     help_.SetContext(helpContextId);
   };
+  // The toolkit keeps the icons of all windows that were there, and uses those of none again.
+  QPixmapCache::clear();
   // It shows and deletes itself.
   new PrintSetting(run_, {.ShowPrintPreview = [this] { ShowPrintPreview(); }, .SetHelp = setHelp});
 }
