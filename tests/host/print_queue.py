@@ -14,6 +14,7 @@ QUEUE = "DemoPDF"
 PPD = Path("/usr/share/ppd/cups-pdf/CUPS-PDF_noopt.ppd")
 ANONYMOUS = Path("/var/spool/cups-pdf/ANONYMOUS")  # where the PDF back end leaves what unknown users print
 UNKNOWN_USER = "demo-printer-user"
+ESTABLISHED = "01"  # as the system lists the states of connections
 
 FILES_CONF = """\
 ServerRoot {folder}/etc
@@ -92,10 +93,11 @@ def _attributes(request):
 class PrintQueue:
     """The PDF back end works for the system's own user only, so elsewhere the server is started through sudo."""
 
-    def __init__(self, more_options=""):
-        """`more_options` are options that the queue's printer has besides paper, as a printer description lists them."""
+    def __init__(self, more_options="", holds_jobs=False):
+        """`more_options` are options that the queue's printer has besides paper, as a printer description lists them. If it
+        holds jobs, they are taken and none is printed, and it needs to wait for no other queue."""
         self._as_root = [] if os.getuid() == 0 else ["sudo", "-n"]
-        self._turn = _take_turn()
+        self._turn = None if holds_jobs else _take_turn()
         self.folder = Path(tempfile.mkdtemp(prefix="print-queue-"))
         self.folder.chmod(0o755)
         for name in ("etc", "spool/tmp", "cache", "run"):
@@ -108,6 +110,8 @@ class PrintQueue:
         (self.folder / "printer.ppd").write_text(description, encoding="latin-1")
         self.start_server()
         self.add_queue()
+        if holds_jobs:
+            self.hold_jobs()
         self._started = time.time()
 
     def start_server(self):
@@ -118,6 +122,22 @@ class PrintQueue:
     def stop_server(self):
         subprocess.run([*self._as_root, "kill", str(self._server.pid)], check=False)
         self._server.wait()
+
+    def pause_server(self):
+        """It takes connections and answers none."""
+        subprocess.run([*self._as_root, "kill", "-STOP", str(self._server.pid)], check=True)
+
+    def resume_server(self):
+        subprocess.run([*self._as_root, "kill", "-CONT", str(self._server.pid)], check=True)
+
+    def has_request(self):
+        """Whether anything arrived that the server has not read yet."""
+        port = int(self.environment["CUPS_SERVER"].split(":")[1])
+        for line in Path("/proc/net/tcp").read_text(encoding="ascii").splitlines()[1:]:
+            _, local, _, state, queues, *_ = line.split()
+            if int(local.split(":")[1], 16) == port and state == ESTABLISHED and int(queues.split(":")[1], 16) > 0:
+                return True
+        return False
 
     def add_queue(self):
         self._run("lpadmin", "-p", QUEUE, "-E", "-v", "cups-pdf:/", "-P", self.folder / "printer.ppd")
@@ -146,6 +166,14 @@ class PrintQueue:
         """Numbers of the finished jobs, oldest first."""
         lines = self._run("lpstat", "-W", "completed", "-o", QUEUE).splitlines()
         return sorted(int(line.split()[0].rsplit("-", 1)[1]) for line in lines)
+
+    def jobs_waiting(self):
+        """How many jobs the queue has taken and not printed."""
+        return len(self._run("lpstat", "-W", "not-completed", "-o", QUEUE).splitlines())
+
+    def cancel_jobs(self):
+        """All of them, with what the server keeps about them."""
+        self._run("cancel", "-a", "-x", QUEUE)
 
     def wait_for_job(self, count=1, seconds=60):
         return wait_until(lambda: self.jobs_done()[count - 1:count], f"print job {count}", seconds)[0]
@@ -178,4 +206,5 @@ class PrintQueue:
     def close(self):
         self.stop_server()
         subprocess.run([*self._as_root, "rm", "-rf", str(self.folder)], check=False)
-        self._turn.close()
+        if self._turn:
+            self._turn.close()

@@ -9,6 +9,9 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <atomic>
+#include <chrono>
+#include <future>
+#include <memory>
 #include <thread>
 
 namespace tarvis {
@@ -18,6 +21,8 @@ TEST(BackgroundJob, ALongJobShowsItsProgressAndCanBeCancelled) {
   QWidget window;
   window.show();
   std::atomic<bool> stopped = false;
+  QElapsedTimer time;
+  time.start();
   BackgroundJob job(
       QStringLiteral("Saving"),
       [&](const Progress& progress) {
@@ -27,8 +32,6 @@ TEST(BackgroundJob, ALongJobShowsItsProgressAndCanBeCancelled) {
       },
       &window);
   const QSignalSpy finished(&job, &BackgroundJob::Finished);
-  QElapsedTimer time;
-  time.start();
   ASSERT_TRUE(QTest::qWaitFor([&] { return window.findChild<QProgressDialog*>() != nullptr; }));
   EXPECT_GE(time.elapsed(), 450);
   auto* dialog = window.findChild<QProgressDialog*>();
@@ -37,6 +40,26 @@ TEST(BackgroundJob, ALongJobShowsItsProgressAndCanBeCancelled) {
   ASSERT_TRUE(QTest::qWaitFor([&] { return finished.count() == 1; }));
   EXPECT_TRUE(stopped);
   EXPECT_EQ(window.findChild<QProgressDialog*>(), nullptr);
+}
+
+TEST(BackgroundJob, AStuckJobIsLeftToItselfOnceNobodyHasPatience) {
+  QWidget window;
+  std::promise<void> release;
+  const auto hasEnded = std::make_shared<std::atomic<bool>>(false);
+  {
+    BackgroundJob job(
+        QStringLiteral("Printing"),
+        [hasEnded, released = release.get_future().share()](const Progress&) {
+          released.wait();
+          *hasEnded = true;
+          return QStringLiteral("bad");
+        },
+        &window);
+    job.WaitAtMost(std::chrono::milliseconds(50));
+  }
+  EXPECT_FALSE(*hasEnded);
+  release.set_value();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return hasEnded->load(); }));
 }
 
 TEST(BackgroundJob, AShortJobShowsNoProgress) {

@@ -24,6 +24,11 @@ class PrintServer {
   bool RestoreQueue() { return Order("restore"); }
   bool StopServer() { return Order("stop"); }
   bool StartServer() { return Order("start"); }
+  // The server answers nobody, and goes on later; in between, waits until somebody has asked it for
+  // something.
+  bool PauseServer() { return Order("pause"); }
+  bool IsAwaited() { return Order("await"); }
+  bool ResumeServer() { return Order("resume"); }
 
  private:
   bool Order(const char* command);

@@ -6,6 +6,8 @@ line:
                         put in those two places, and what was asked for along with it is answered as JSON
   remove, restore       takes the queue away and sets it up again
   stop, start           the server
+  pause, resume         the server, which in between takes connections and answers none
+  await                 waits until somebody has asked a paused server for something
 """
 import json
 import sys
@@ -72,12 +74,22 @@ class Server:
     def start(self):
         self.queue.start_server()
 
+    def pause(self):
+        self.queue.pause_server()
 
+    def resume(self):
+        self.queue.resume_server()
+
+    def wait_for_request(self):
+        wait_until(self.queue.has_request, "a request")
+
+
+NAMES = {"await": "wait_for_request"}  # which is a word of the language
 server = Server()
 try:
     print(server.queue.environment["CUPS_SERVER"], server.queue.environment["CUPS_USER"], flush=True)
     for line in sys.stdin:
         command, *arguments = line.split()
-        print(getattr(server, command)(*arguments) or "done", flush=True)
+        print(getattr(server, NAMES.get(command, command))(*arguments) or "done", flush=True)
 finally:
     server.queue.close()

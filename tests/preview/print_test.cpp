@@ -1,4 +1,5 @@
 // Printing from the preview: paper, files, and print systems that fail.
+#include <QElapsedTimer>
 #include <thread>
 
 #include "preview/print_fixture.h"
@@ -54,6 +55,19 @@ TEST_F(Print, AServerThatStopsWhilePrintingIsReportedAndThePreviewCanPrintAgain)
                     "The print system doesn't answer");
   ASSERT_TRUE(PrintServer::Instance().StartServer());
   ExpectPrinting();
+}
+
+TEST_F(Print, AServerThatIsStuckKeepsNobodyFromClosingTheWindow) {
+  const auto picture = StartAndHold();
+  ASSERT_TRUE(PrintServer::Instance().PauseServer());
+  picture->Release();
+  ASSERT_TRUE(PrintServer::Instance().IsAwaited());
+  QElapsedTimer time;
+  time.start();
+  window_.reset();
+  EXPECT_LT(time.elapsed(), 10'000) << "milliseconds";
+  ASSERT_TRUE(PrintServer::Instance().ResumeServer());
+  TakeJob();  // it was on its way already
 }
 
 TEST_F(Print, NothingElseIsPrintedOrSavedWhileAPrintRuns) {

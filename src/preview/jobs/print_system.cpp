@@ -6,7 +6,7 @@
 #include <QPrintEngine>
 #include <QPrinter>
 #include <QStringList>
-#include <QTemporaryFile>
+#include <cstddef>
 #include <memory>
 #include <vector>
 
@@ -93,7 +93,41 @@ QStringList JobOptionsOf(const QPrinter& printer) {
   return options + printer.printEngine()->property(JobOptions).toStringList();
 }
 
-using PrintFile = int(const char* printer, const char* file, const char* title, int count, void* options);
+struct JobOption {
+  const char* Name;
+  const char* Value;
+};
+
+// What the client library needs to take a document piece by piece. Its default connection is a null pointer.
+struct StreamedJob {
+  int (*Create)(void* connection, const char* queue, const char* title, int count, void* options) =
+      ClientFunction<int(void*, const char*, const char*, int, void*)>("cupsCreateJob");
+  int (*Start)(void* connection, const char* queue, int job, const char* name, const char* format,
+               int isLast) =
+      ClientFunction<int(void*, const char*, int, const char*, const char*, int)>("cupsStartDocument");
+  int (*Write)(void* connection, const char* bytes, std::size_t count) =
+      ClientFunction<int(void*, const char*, std::size_t)>("cupsWriteRequestData");
+  int (*Finish)(void* connection,
+                const char* queue) = ClientFunction<int(void*, const char*)>("cupsFinishDocument");
+  int (*Cancel)(const char* queue, int job) = ClientFunction<int(const char*, int)>("cupsCancelJob");
+
+  bool IsThere() const { return Create && Start && Write && Finish && Cancel; }
+  // Whether the server has taken all of it.
+  bool Send(std::string_view document, const char* queue, int job, const char* title) const;
+};
+
+bool StreamedJob::Send(std::string_view document, const char* queue, int job, const char* title) const {
+  constexpr int GoOn = 100;             // of the protocol below
+  constexpr std::size_t Piece = 65536;  // bytes
+  constexpr auto KindIsSeen = "application/octet-stream";
+  int status = Start(nullptr, queue, job, title, KindIsSeen, 1);
+  for (std::size_t sent = 0; sent < document.size() && status == GoOn; sent += Piece) {
+    const std::string_view piece = document.substr(sent, Piece);
+    status = Write(nullptr, piece.data(), piece.size());
+  }
+  // What is below the errors is taken, also where an option was ignored or another one substituted.
+  return status == GoOn && Finish(nullptr, queue) < FirstErrorStatus;
+}
 
 }  // namespace
 
@@ -101,30 +135,26 @@ using PrintFile = int(const char* printer, const char* file, const char* title, 
 
 bool TakesPdf(const QPrinter& printer) {
   return printer.outputFormat() == QPrinter::NativeFormat && printer.outputFileName().isEmpty() &&
-         printer.printEngine()->property(JobOptions).isValid() &&
-         ClientFunction<PrintFile>("cupsPrintFile") != nullptr;
+         printer.printEngine()->property(JobOptions).isValid() && StreamedJob().IsThere();
 }
 
 QString HandOverPdf(std::string_view pdf, const QPrinter& printer) {
-  QTemporaryFile file;
-  const bool isThere =
-      file.open() && file.write(pdf.data(), static_cast<qint64>(pdf.size())) >= 0 && file.flush();
-  if (!isThere) return PrintSystemText("There is no room for the print job: %1").arg(file.errorString());
-  struct Option {
-    const char* Name;
-    const char* Value;
-  };
   std::vector<QByteArray> words;
   for (const QString& word : JobOptionsOf(printer)) words.push_back(word.toLocal8Bit());
-  std::vector<Option> options;
+  std::vector<JobOption> options;
   for (std::size_t index = 0; index + 1 < words.size(); index += 2)
     options.push_back({words[index].constData(), words[index + 1].constData()});
   // A queue can have several names, with its own one in front of a stroke.
   const QByteArray queue = printer.printerName().section(QLatin1Char('/'), 0, 0).toLocal8Bit();
-  ClientFunction<PrintFile>("cupsPrintFile")(queue.constData(), file.fileName().toLocal8Bit().constData(),
-                                             printer.docName().toLocal8Bit().constData(),
-                                             static_cast<int>(options.size()), options.data());
-  return {};
+  const QByteArray title = printer.docName().toLocal8Bit();
+  const StreamedJob stream;
+  const int job = stream.Create(nullptr, queue.constData(), title.constData(),
+                                static_cast<int>(options.size()), options.data());
+  if (job != 0 && stream.Send(pdf, queue.constData(), job, title.constData())) return {};
+  QString refusal = RefusalOfLastJob(printer.printerName());
+  if (refusal.isEmpty()) refusal = PrintSystemText("The print system doesn't answer.");
+  if (job != 0) stream.Cancel(queue.constData(), job);
+  return refusal;
 }
 
 QString RefusalOfLastJob(const QString& printer) {

@@ -20,9 +20,9 @@ void DropJobsOfThisThread();
 // Whether the print system of that printer takes PDFs as they are.
 [[nodiscard]] bool TakesPdf(const QPrinter& printer);
 
-// Hands a PDF to such a print system, with all that is set in `printer` but the choice of pages. Returns an
-// error text for the user if there is no place to leave it; for what the print system answers, see
-// RefusalOfLastJob.
+// Hands a PDF to such a print system, with all that is set in `printer` but the choice of pages; no file is
+// made of it on the way. Returns why the print system refused it, as RefusalOfLastJob does; empty if it took
+// it.
 [[nodiscard]] QString HandOverPdf(std::string_view pdf, const QPrinter& printer);
 
 // Makes the print system print all pages that it gets. The toolkit leaves part of the choice of pages and

@@ -45,12 +45,15 @@ QString Drop(QPrinter& printer) {
   return {};
 }
 
-QString RefusalBy(const QPrinter& printer) {
-  // No print system takes part in printing into a file.
-  const QString refusal =
-      printer.outputFileName().isEmpty() ? RefusalOfLastJob(printer.printerName()) : QString();
+QString NotTakenBy(const QPrinter& printer, const QString& refusal) {
   if (refusal.isEmpty()) return {};
   return PrintingText("The printer \"%1\" did not take the document: %2").arg(printer.printerName(), refusal);
+}
+
+QString RefusalBy(const QPrinter& printer) {
+  // No print system takes part in printing into a file.
+  if (!printer.outputFileName().isEmpty()) return {};
+  return NotTakenBy(printer, RefusalOfLastJob(printer.printerName()));
 }
 
 // The PDF that would be saved, which is made in a fraction of the time that the toolkit paints in.
@@ -58,8 +61,7 @@ QString PrintPdf(const Document& document, const PdfSheets& sheets, const QPrint
                  const Progress& progress) {
   const std::string pdf = MakePdf(document, sheets, {printer.docName(), {}, {}}, progress);
   if (pdf.empty()) return {};
-  const QString failure = HandOverPdf(pdf, printer);
-  return failure.isEmpty() ? RefusalBy(printer) : failure;
+  return NotTakenBy(printer, HandOverPdf(pdf, printer));
 }
 
 }  // namespace

@@ -21,6 +21,9 @@
 namespace tarvis {
 namespace {
 
+// How long a window that is closed waits for a print system that is stuck.
+constexpr std::chrono::seconds PatienceWithPrinters(3);
+
 // The host's name for its file without folder and ending; folders are separated as on the host's system.
 QString ShortName(const QString& dataFile) {
   const QString name = dataFile.section(QRegularExpression(QStringLiteral("[\\\\/]")), -1);
@@ -149,6 +152,7 @@ void DocumentOutput::Print() {
            [document = document_, pages, printer, scale](const Progress& progress) {
              return PrintDocument(*document, pages, *printer, scale, progress);
            });
+  job_->WaitAtMost(PatienceWithPrinters);
 }
 
 // False if the user cancels.
