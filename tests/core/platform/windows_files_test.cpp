@@ -68,7 +68,7 @@ class WindowsFiles : public testing::Test {
   TestRun Test;
 };
 
-TEST_F(WindowsFiles, OfFoldersDeeperThanOrdinaryNamesReachAreReadWrittenAndDeleted) {
+TEST_F(WindowsFiles, AreReadWrittenAndDeletedDeeperThanOrdinaryNamesReach) {
   const std::string folder = MakeLongFolder();
   ASSERT_GT(folder.size(), std::size_t{MAX_PATH});
   const std::string file = folder + "User.tmp";
@@ -90,19 +90,19 @@ TEST_F(WindowsFiles, HaveTheFormForLongNamesOnlyWhereTheyNeedIt) {
   EXPECT_EQ(NativePath("\\\\server\\share\\" + text).native(), L"\\\\?\\UNC\\server\\share\\" + name);
 }
 
-TEST_F(WindowsFiles, ThatAreDevicesAreNone) {
+TEST_F(WindowsFiles, AreNoneIfTheyAreDevices) {
   EXPECT_FALSE(FileExists("NUL"));
   EXPECT_FALSE(FileExists("CON"));
 }
 
-TEST_F(WindowsFiles, ThatAreReadOnlyAreRead) {
+TEST_F(WindowsFiles, AreReadIfTheyAreReadOnly) {
   Folder.Write("User.tmp", "one\r\n");
   SetFileAttributesW((Folder.Path() / "User.tmp").c_str(), FILE_ATTRIBUTE_READONLY);
   EXPECT_EQ(LoadLines(Test.Run, PathOf("User.tmp")), 1);
   SetFileAttributesW((Folder.Path() / "User.tmp").c_str(), FILE_ATTRIBUTE_NORMAL);
 }
 
-TEST_F(WindowsFiles, ThatTheHostStillHasOpenAreReadWhenItHasClosedThem) {
+TEST_F(WindowsFiles, AreReadWhenTheHostHasClosedThem) {
   Folder.Write("User.tmp", "one\r\n");
   OpenFile open(Folder.Path() / "User.tmp", 0);
   std::thread host([&] {
@@ -113,7 +113,7 @@ TEST_F(WindowsFiles, ThatTheHostStillHasOpenAreReadWhenItHasClosedThem) {
   host.join();
 }
 
-TEST_F(WindowsFiles, ThatStayOpenAreAFailureThatSaysSoAfterTwoSeconds) {
+TEST_F(WindowsFiles, AreAFailureThatSaysSoIfTheyStayOpenForTwoSeconds) {
   Folder.Write("User.tmp", "one\r\n");
   const OpenFile open(Folder.Path() / "User.tmp", 0);
   const auto start = std::chrono::steady_clock::now();
@@ -122,7 +122,7 @@ TEST_F(WindowsFiles, ThatStayOpenAreAFailureThatSaysSoAfterTwoSeconds) {
   EXPECT_EQ(Test.Run.Session.Diagnosis, "User.tmp: in use by another program");
 }
 
-TEST_F(WindowsFiles, ThatAViewerHasOpenAreKeptAndTheReasonIsClear) {
+TEST_F(WindowsFiles, AreKeptIfAViewerHasThemOpenAndTheReasonIsClear) {
   Folder.Write("print.pdf", "old");
   std::error_code error;
   {
