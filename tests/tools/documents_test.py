@@ -35,7 +35,8 @@ RUN_BY = {
     "tools/try_on testing ./bench.sh": ("tests/CMakeLists.txt", "tools/try_on ${release}"),
     "./lint.sh --changed": (".ci/run", "./lint.sh --changed"),
     **{f"tools/reliability {part}": ("tests/CMakeLists.txt", "/tools/reliability ${part}")
-       for part in ("calls", "calls JogTbl", "limits", "kills", "windows")},
+       for part in ("calls", "limits", "kills", "windows", "soak", "folders", "threads",
+                    "calls JogTbl --each", "soak --rounds 100 --seed 5")},
     "tools/check_walls": ("tests/CMakeLists.txt", "tools/check_${rule}"),
     "tools/check_sizes": ("tests/CMakeLists.txt", "tools/check_${rule}"),
     "tools/check_names": ("tests/CMakeLists.txt", "tools/check_${rule}"),

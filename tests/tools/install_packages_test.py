@@ -23,9 +23,9 @@ manual           file {folder}/manual
 """
 REAL = ("awk", "cat", "dirname", "echo", "grep", "sh", "sort", "tr")  # all that the script may take for granted
 STARTED = re.compile(r"""(?:run|Popen|output_of)\(\s*\[?"([a-z][\w-]*)\"""")
-BROUGHT_ALONG = {"cc", "convert", "cpack", "ctest", "cupsdisable", "fc-match", "identify", "locale", "lpstat", "pdfdetach",
-                 "pdffonts", "pdfinfo", "pdftoppm", "readelf"}  # by packages of other commands
-ON_EVERY_SYSTEM = {"bash", "dpkg-deb", "dpkg-query", "grep", "sh"}
+BROUGHT_ALONG = {"cancel", "cc", "convert", "cpack", "ctest", "cupsdisable", "fc-match", "identify", "locale", "lpstat",
+                 "pdfdetach", "pdffonts", "pdfinfo", "pdftoppm", "readelf"}  # by packages of other commands
+ON_EVERY_SYSTEM = {"bash", "dpkg-deb", "dpkg-query", "grep", "sh", "umount"}
 
 
 class InstallPackages(unittest.TestCase):
