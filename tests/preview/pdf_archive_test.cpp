@@ -21,14 +21,16 @@ namespace {
 // A few words painted as text.
 class WordsPicture : public SamplePicture {
  public:
-  explicit WordsPicture(QString words) : words_(std::move(words)) {}
+  explicit WordsPicture(QString words, const char* family = "Liberation Sans")
+      : words_(std::move(words)), family_(QString::fromLatin1(family)) {}
   void Paint(QPainter& painter, const QRectF& target) const override {
-    painter.setFont(QFont(QStringLiteral("Liberation Sans"), 12));
+    painter.setFont(QFont(family_, 12));
     painter.drawText(target, words_);
   }
 
  private:
   QString words_;
+  QString family_;
 };
 
 std::string BytesOf(QPDFObjectHandle stream) {
@@ -241,9 +243,9 @@ TEST_F(PdfArchive, EveryGlyphHasATextThatArchivesTake) {
   }
 }
 
-// The content of a picture whose text has two characters of private use that its font has.
+// The content of a picture whose text has two characters of private use that its font has on each release.
 std::string PictureOfPrivateUse(bool isTagged) {
-  const auto words = std::make_shared<WordsPicture>(QStringLiteral("A\uF001B\uF001"));
+  const auto words = std::make_shared<WordsPicture>(QStringLiteral("A\uF001B\uF001"), "DejaVu Sans");
   const auto document = DocumentBuilder().Page().Picture(words, {1440, 2000, 3000, 2000}).Build();
   PdfInfo info;
   info.IsTagged = isTagged;
