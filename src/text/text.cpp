@@ -91,7 +91,7 @@ int CountWrappedLines(const CodePage& page, std::string_view text, std::size_t w
   std::size_t count = 0;
   while (!text.empty()) {
     const std::size_t bytes = page.ByteLength(NextTextLine(text));
-    count += bytes <= width ? 1 : (bytes + width - 1) / width;
+    count += std::max<std::size_t>(1, (bytes + width - 1) / width);
   }
   return static_cast<int>(count);
 }

@@ -23,6 +23,10 @@ TEST(Utf8, HasCharactersOfOneToFourBytes) {
               ElementsAre(U'a', U'\u00E9', U'\u20AC', U'\U00020BB7'));
 }
 
+TEST(Utf8, HasTheFirstCharactersOfEachLength) {
+  EXPECT_THAT(CharactersOf("\xC2\x80\xE0\xA0\x80\xF0\x90\x80\x80"), ElementsAre(0x80, 0x800, 0x10000));
+}
+
 TEST(Utf8, ShowsEachByteThatStartsNoCharacterAsTheSignForOne) {
   EXPECT_THAT(CharactersOf("\xC2"), ElementsAre(0xFFFD)) << "the rest is missing";
   EXPECT_THAT(CharactersOf("\xC2x"), ElementsAre(0xFFFD, U'x')) << "the rest is another character";
