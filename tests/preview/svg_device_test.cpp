@@ -109,14 +109,18 @@ std::vector<QString> ClipsOf(const std::vector<Element>& elements) {
   return clips;
 }
 
+void PaintOutsideAndInsideTheClip(QPainter& painter) {
+  painter.fillRect(QRectF(0, 0, 20, 20), Qt::green);
+  painter.setClipping(true);
+  painter.fillRect(QRectF(0, 0, 30, 30), Qt::red);
+}
+
 TEST(SvgDevice, AClipThatIsSwitchedOnAgainClipsAsBefore) {
   const auto elements = Painted([](QPainter& painter) {
     painter.setClipRect(QRectF(0, 0, 100.5, 100));
     painter.fillRect(QRectF(0, 0, 10, 10), Qt::blue);
     painter.setClipping(false);
-    painter.fillRect(QRectF(0, 0, 20, 20), Qt::green);
-    painter.setClipping(true);
-    painter.fillRect(QRectF(0, 0, 30, 30), Qt::red);
+    PaintOutsideAndInsideTheClip(painter);
   });
   const std::vector<QString> clips = ClipsOf(elements);
   ASSERT_EQ(clips.size(), 2U) << "of the first and the third box";
@@ -132,9 +136,7 @@ TEST(SvgDevice, WhatIsSwitchedOffIsAsBeforeAfterAnInnerClip) {
     painter.setClipRect(QRectF(0, 0, 50.5, 50));
     painter.fillRect(QRectF(0, 0, 10, 10), Qt::blue);
     painter.restore();
-    painter.fillRect(QRectF(0, 0, 20, 20), Qt::green);
-    painter.setClipping(true);
-    painter.fillRect(QRectF(0, 0, 30, 30), Qt::red);
+    PaintOutsideAndInsideTheClip(painter);
   });
   const std::vector<QString> clips = ClipsOf(elements);
   ASSERT_EQ(clips.size(), 2U) << "of the first and the third box";

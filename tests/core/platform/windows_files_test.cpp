@@ -3,8 +3,8 @@
 #include <windows.h>
 
 #include <chrono>
+#include <future>
 #include <string>
-#include <thread>
 
 #undef ReplaceFile  // a macro of Windows
 
@@ -105,12 +105,10 @@ TEST_F(WindowsFiles, AreReadIfTheyAreReadOnly) {
 TEST_F(WindowsFiles, AreReadWhenTheHostHasClosedThem) {
   Folder.Write("User.tmp", "one\r\n");
   OpenFile open(Folder.Path() / "User.tmp", 0);
-  std::thread host([&] {
-    std::this_thread::sleep_for(milliseconds(200));  // that long it goes on writing
-    open.Close();
-  });
-  EXPECT_EQ(LoadLines(Test.Run, PathOf("User.tmp")), 1);
-  host.join();
+  auto loaded = std::async(std::launch::async, [&] { return LoadLines(Test.Run, PathOf("User.tmp")); });
+  EXPECT_EQ(loaded.wait_for(milliseconds(200)), std::future_status::timeout) << "the host still writes";
+  open.Close();
+  EXPECT_EQ(loaded.get(), 1);
 }
 
 TEST_F(WindowsFiles, AreAFailureThatSaysSoIfTheyStayOpenForTwoSeconds) {
